@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+/// A platform operation that failed: its number and the platform's own words for it.
+/// A handler catches it at one place near its end, or wraps each statement that may fail in Saute().
+class Erreur : public std::exception
+{
+public:
+    /// numero: the number by which the program knows the failure (see the constants below and MSComm.h).
+    /// description: what the platform says, shown where the program has no text of its own for the number.
+    Erreur(int numero, const QString &description);
+
+    int Numero() const { return m_numero; }
+    const QString &Description() const { return m_description; }
+    const char *what() const noexcept override { return m_octets.constData(); }
+
+    // Numbers of the operations on numbers, files and dialogs; those of the serial control are in MSComm.h.
+    static constexpr int Depassement = 6;         ///< a number that does not fit its field
+    static constexpr int MemoireInsuffisante = 7; ///< a text too large to hold
+    static constexpr int IndiceHorsPlage = 9;     ///< a position beyond the end of a table
+    static constexpr int TypeIncompatible = 13;   ///< a line that is not of its field's form
+    static constexpr int FichierIntrouvable = 53; ///< no such file or program
+    static constexpr int ErreurFichier = 57;      ///< reading or writing failed
+    static constexpr int DisqueSature = 61;       ///< no room left on the disk
+    static constexpr int FinDeFichier = 62;       ///< the file ended before the field
+    static constexpr int AccesRefuse = 70;        ///< no permission
+    static constexpr int FormatRefuse = 321;      ///< the text pane does not know the file's form
+    static constexpr int DialogueAnnule = 32755;  ///< the operator cancelled a common dialog
+
+private:
+    int m_numero;
+    QString m_description;
+    QByteArray m_octets;
+};
+
+/// Runs one step of a routine and goes on with the next when it fails, without a message.
+template <typename Etape>
+void Saute(Etape etape)
+{
+    try {
+        etape();
+    } catch (const Erreur &) {
+        // The routine's rule is that a failed step is passed over.
+    }
+}

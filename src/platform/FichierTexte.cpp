@@ -1,0 +1,65 @@
+#include "platform/FichierTexte.h"
+
+#include "platform/Erreur.h"
+#include "platform/PageCode1252.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+
+namespace {
+
+[[noreturn]] void Echoue(const QFile &fichier, int cause)
+{
+    const int numero = cause == ENOSPC || cause == EDQUOT                     ? Erreur::DisqueSature
+                       : cause == ENOENT || cause == ENOTDIR                  ? Erreur::FichierIntrouvable
+                       : cause == EACCES || cause == EPERM || cause == EROFS  ? Erreur::AccesRefuse
+                                                                              : Erreur::ErreurFichier;
+    throw Erreur(numero, fichier.errorString());
+}
+
+void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
+{
+    errno = 0;
+    if (!fichier.open(mode))
+        Echoue(fichier, errno);
+}
+
+} // namespace
+
+QByteArray LitOctets(const QString &chemin, qint64 tailleMax)
+{
+    QFile fichier(chemin);
+    // A device or a pipe under the name of a file would never end.
+    if (QFileInfo::exists(chemin) && !QFileInfo(chemin).isFile())
+        throw Erreur(Erreur::ErreurFichier, chemin);
+    Ouvre(fichier, QIODevice::ReadOnly);
+    if (fichier.size() > tailleMax)
+        throw Erreur(Erreur::MemoireInsuffisante, chemin);
+    errno = 0;
+    const QByteArray octets = fichier.readAll();
+    if (fichier.error() != QFileDevice::NoError)
+        Echoue(fichier, errno);
+    return octets;
+}
+
+QString LitFichierTexte(const QString &chemin, qint64 tailleMax)
+{
+    return TexteDe1252(LitOctets(chemin, tailleMax));
+}
+
+void EcritFichierTexte(const QString &chemin, const QString &texte)
+{
+    QFile fichier(chemin);
+    Ouvre(fichier, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    const QByteArray octets = OctetsEn1252(texte);
+    errno = 0;
+    if (fichier.write(octets) != octets.size())
+        Echoue(fichier, errno);
+}
+
+bool FichierExiste(const QString &chemin)
+{
+    return QFileInfo(chemin).isFile();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Largest file, in bytes, that is read whole: what the text pane can hold in its positions.
+constexpr qint64 TailleMaxOctets = 512 * 1024 * 1024;
+
+// Files read and written whole, in code page 1252. Nothing is converted but the characters: line ends stay as they are.
+
+/// The bytes of the file at chemin.
+/// tailleMax: largest size in bytes that the caller can use. Raises FichierIntrouvable, AccesRefuse, ErreurFichier,
+/// or MemoireInsuffisante for a larger file.
+QByteArray LitOctets(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
+
+/// Same, as text.
+QString LitFichierTexte(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
+
+/// Creates or empties the file at chemin and writes texte to it. What a failed write left stays on the disk.
+/// Raises FichierIntrouvable, AccesRefuse, DisqueSature, ErreurFichier.
+void EcritFichierTexte(const QString &chemin, const QString &texte);
+
+/// True when chemin names a plain file; any failure gives False.
+bool FichierExiste(const QString &chemin);

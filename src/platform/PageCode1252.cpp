@@ -1,0 +1,56 @@
+#include "platform/PageCode1252.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int DebutHauts = 0x80;
+
+// Characters of the bytes 0x80 to 0x9F, after the code page's published table; the rest of the page is Latin 1.
+constexpr std::array<char16_t, 32> Hauts{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D,
+    0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A,
+    0x0153, 0x009D, 0x017E, 0x0178};
+
+bool EstHaut(char16_t code)
+{
+    return code >= DebutHauts && code < DebutHauts + Hauts.size();
+}
+
+/// The byte of a character, or -1 when the code page lacks it.
+int Octet(char16_t code)
+{
+    if (code < DebutHauts || (code > 0x9F && code <= 0xFF))
+        return code;
+    const auto place = std::find(Hauts.begin(), Hauts.end(), code);
+    return place == Hauts.end() ? -1 : DebutHauts + static_cast<int>(place - Hauts.begin());
+}
+
+} // namespace
+
+QString TexteDe1252(const QByteArray &octets)
+{
+    QString texte = QString::fromLatin1(octets);
+    for (qsizetype i = 0; i < octets.size(); ++i) {
+        const auto octet = static_cast<unsigned char>(octets[i]);
+        if (EstHaut(octet))
+            texte[i] = QChar(Hauts[octet - DebutHauts]);
+    }
+    return texte;
+}
+
+QByteArray OctetsEn1252(const QString &texte)
+{
+    QByteArray octets(texte.size(), Qt::Uninitialized);
+    std::transform(texte.begin(), texte.end(), octets.begin(), [](QChar caractere) {
+        const int octet = Octet(caractere.unicode());
+        return static_cast<char>(octet < 0 ? '?' : octet);
+    });
+    return octets;
+}
+
+bool EstEn1252(QChar caractere)
+{
+    return Octet(caractere.unicode()) >= 0;
+}
