@@ -12,10 +12,10 @@ namespace {
 
 [[noreturn]] void Echoue(const QFile &fichier, int cause)
 {
-    const int numero = cause == ENOSPC || cause == EDQUOT                     ? Erreur::DisqueSature
-                       : cause == ENOENT || cause == ENOTDIR                  ? Erreur::FichierIntrouvable
-                       : cause == EACCES || cause == EPERM || cause == EROFS  ? Erreur::AccesRefuse
-                                                                              : Erreur::ErreurFichier;
+    const int numero = cause == ENOSPC || cause == EDQUOT                    ? Erreur::DisqueSature
+                       : cause == ENOENT || cause == ENOTDIR                 ? Erreur::FichierIntrouvable
+                       : cause == EACCES || cause == EPERM || cause == EROFS ? Erreur::AccesRefuse
+                                                                             : Erreur::ErreurFichier;
     throw Erreur(numero, fichier.errorString());
 }
 

@@ -1,0 +1,157 @@
+#include "comconfig/ParamCom.h"
+
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "platform/LecteurChamps.h"
+#include "platform/Nombres.h"
+#include "platform/PageCode1252.h"
+
+#include <algorithm>
+
+ConfigurationCom ParamCom;
+QString FicConf;
+QString NomConf;
+
+namespace {
+
+/// Three full chains take some 2 kB; a file beyond this size, in bytes, is no configuration.
+constexpr qint64 TailleMaxPar = 1024 * 1024;
+
+constexpr int CodeMax = 255; // of a character of code page 1252
+
+/// A field of the lines 1 to 29: the member that holds it, which is a number or a text.
+struct Champ
+{
+    int ConfigurationCom::*nombre;
+    QString ConfigurationCom::*texte;
+};
+
+constexpr Champ Nombre(int ConfigurationCom::*membre)
+{
+    return {membre, nullptr};
+}
+
+constexpr Champ Chaine(QString ConfigurationCom::*membre)
+{
+    return {nullptr, membre};
+}
+
+using C = ConfigurationCom;
+
+constexpr Champ Champs[] = {
+    Nombre(&C::NumPort),      Chaine(&C::NomPort),           Chaine(&C::Commentaire),      Chaine(&C::Vitesse),
+    Chaine(&C::Parite),       Chaine(&C::BitsDonnees),       Chaine(&C::BitsArret),        Nombre(&C::Echo),
+    Nombre(&C::ControleFlux), Nombre(&C::TypeFinTrans),      Nombre(&C::TypeFinLig),       Nombre(&C::NbCarLecture),
+    Chaine(&C::CarRemplace),  Nombre(&C::TailleTamponRecep), Nombre(&C::TailleTamponEmis), Nombre(&C::SeuilRecep),
+    Nombre(&C::SeuilEmis),    Nombre(&C::FiltreNul),         Nombre(&C::LigneRTS),         Nombre(&C::LigneDTR),
+    Chaine(&C::DosRecep),     Nombre(&C::TypeRecep),         Nombre(&C::TailleRecep),      Chaine(&C::LibDebProg),
+    Chaine(&C::LibFinLig),    Chaine(&C::LibFinTrans),       Nombre(&C::NbCarDebProg),     Nombre(&C::NbCarFinLig),
+    Nombre(&C::NbCarFinTrans)};
+
+/// A chain: its count and its codes.
+struct Suite
+{
+    int ConfigurationCom::*nombre;
+    ConfigurationCom::Codes ConfigurationCom::*codes;
+};
+
+constexpr Suite DebProg{&C::NbCarDebProg, &C::CarDebProg};
+constexpr Suite FinLig{&C::NbCarFinLig, &C::CarFinLig};
+constexpr Suite FinTrans{&C::NbCarFinTrans, &C::CarFinTrans};
+
+// In the order in which the file holds their codes.
+constexpr Suite Suites[] = {DebProg, FinLig, FinTrans};
+
+/// A file of which only the beginning could be read may have left a count beyond its chain.
+int NombreTenu(const Suite &suite)
+{
+    return std::min(ParamCom.*suite.nombre, ConfigurationCom::CapaciteChaine);
+}
+
+QString Caracteres(const Suite &suite)
+{
+    QByteArray octets;
+    for (int i = 1; i <= NombreTenu(suite); ++i)
+        octets += static_cast<char>((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);
+    return TexteDe1252(octets);
+}
+
+void LisSuite(LecteurChamps &champs, const Suite &suite)
+{
+    for (int i = 1; i <= ParamCom.*suite.nombre; ++i) {
+        if (i > ConfigurationCom::CapaciteChaine)
+            throw Erreur(Erreur::IndiceHorsPlage, QStringLiteral("Subscript out of range"));
+        const int code = champs.LigneEntier();
+        if (code < 0 || code > CodeMax)
+            throw Erreur(Erreur::Depassement, QString::number(code));
+        (ParamCom.*suite.codes)[static_cast<std::size_t>(i)] = code;
+    }
+}
+
+QString LigneNombre(int nombre)
+{
+    return QString::number(nombre) + QStringLiteral("\r\n");
+}
+
+} // namespace
+
+void LireFichierPar(const QString &chemin)
+{
+    LecteurChamps champs(LitFichierTexte(chemin, TailleMaxPar));
+    for (const Champ &champ : Champs) {
+        if (champ.texte != nullptr)
+            ParamCom.*champ.texte = champs.LigneChaine();
+        else
+            ParamCom.*champ.nombre = champ.nombre == &C::Echo ? champs.LigneOuiNon() : champs.LigneEntier();
+    }
+    for (const Suite &suite : Suites)
+        LisSuite(champs, suite);
+    ParamCom.FinLigRecep = champs.LigneEntier();
+    ParamCom.TypeEnvoi = champs.LigneEntier();
+}
+
+void EcrireFichierPar(const QString &chemin)
+{
+    QString texte;
+    for (const Champ &champ : Champs)
+        texte += champ.texte != nullptr ? u'"' + ParamCom.*champ.texte + QStringLiteral("\"\r\n")
+                                        : LigneNombre(ParamCom.*champ.nombre);
+    for (const Suite &suite : Suites) {
+        for (int i = 1; i <= NombreTenu(suite); ++i)
+            texte += LigneNombre((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);
+    }
+    for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
+        texte += TexteNombre(champ) + QStringLiteral(" \r\n");
+    EcritFichierTexte(chemin, texte);
+}
+
+void BatirChaines()
+{
+    constexpr char xoff = 19;
+    constexpr char eot = 4;
+    switch (ParamCom.TypeFinTrans) {
+    case 0:
+        ParamCom.ChaineFinTrans = QLatin1Char(xoff);
+        break;
+    case 1:
+        ParamCom.ChaineFinTrans = QLatin1Char(eot);
+        break;
+    case 2:
+        ParamCom.ChaineFinTrans = Caracteres(FinTrans);
+        break;
+    default:
+        break;
+    }
+    static const QString finsDeLigne[] = {QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\n\r"),
+                                          QStringLiteral("\r\n")};
+    constexpr int autre = 4;
+    if (ParamCom.TypeFinLig == autre)
+        ParamCom.ChaineFinLig = Caracteres(FinLig);
+    else if (ParamCom.TypeFinLig >= 0 && ParamCom.TypeFinLig < autre)
+        ParamCom.ChaineFinLig = finsDeLigne[ParamCom.TypeFinLig];
+}
+
+QString ChaineDebProg()
+{
+    return Caracteres(DebProg);
+}

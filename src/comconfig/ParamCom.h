@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+/// How the program talks to one machine. The fields stand in the order in which a .par file holds them; Integer fields
+/// are 16 bits there.
+struct ConfigurationCom
+{
+    static constexpr int CapaciteChaine = 100;
+
+    /// Character codes of a chain, code page 1252, first index 1. Places above the chain's count hold what was there.
+    using Codes = std::array<int, CapaciteChaine + 1>;
+
+    int NumPort = 0;           ///< serial port, 1 to 16; the number in NomPort
+    QString NomPort;           ///< "Com1" to "Com16"
+    QString Commentaire;       ///< free comment, shown beside the file name
+    QString Vitesse;           ///< speed in bits per second, decimal
+    QString Parite;            ///< "e", "o", "n", "m", "s"
+    QString BitsDonnees;       ///< "4" to "8"
+    QString BitsArret;         ///< "1", "1.5", "2"
+    int Echo = 0;              ///< 1: the transfer dialog shows the data as they pass
+    int ControleFlux = 0;      ///< 0 none, 1 XOn/XOff, 2 RTS/CTS, 3 both
+    int TypeFinTrans = 0;      ///< end of transfer: 0 XOFF (19), 1 EOT (4), 2 CarFinTrans
+    int TypeFinLig = 0;        ///< end of line: 0 LF, 1 CR, 2 LF CR, 3 CR LF, 4 CarFinLig
+    int NbCarLecture = 0;      ///< characters taken at each read, 0 (all that wait) to 9999
+    QString CarRemplace;       ///< stands for a character with a parity error; at most one character
+    int TailleTamponRecep = 0; ///< receive buffer, bytes, 0 to 9999
+    int TailleTamponEmis = 0;  ///< transmit buffer, characters; also the block of a whole-file sending
+    int SeuilRecep = 0;        ///< characters that raise a receive event; 0: none
+    int SeuilEmis = 0;         ///< characters left in the transmit buffer that raise a send event; 0: none
+    int FiltreNul = 0;         ///< 1: NUL characters received are dropped
+    int LigneRTS = 0;          ///< 1: RTS on while the port is open
+    int LigneDTR = 0;          ///< 1: DTR on while the port is open
+    QString DosRecep;          ///< reception folder of CN programs; start-up first takes it from "Dorvanel.CFG"
+    int TypeRecep = 0;         ///< reception: 0 by line, 1 by characters, 2 by file
+    int TailleRecep = 0;       ///< fixed size of a bench measure, characters; 0: none
+    QString LibDebProg;        ///< label of the beginning-of-program chain
+    QString LibFinLig;         ///< label of the end-of-line chain
+    QString LibFinTrans;       ///< label of the end-of-transfer chain
+    int NbCarDebProg = 0;      ///< codes in CarDebProg, 0 to 100
+    int NbCarFinLig = 0;       ///< codes in CarFinLig, 0 to 100
+    int NbCarFinTrans = 0;     ///< codes in CarFinTrans, 0 to 100
+    Codes CarDebProg{};        ///< beginning of program
+    Codes CarFinLig{};         ///< end of line when TypeFinLig is 4
+    Codes CarFinTrans{};       ///< end of transfer when TypeFinTrans is 2
+    int FinLigRecep = 0;       ///< line end added to received lines: 0 none, 1 LF, 2 CR, 3 CR + LF
+    int TypeEnvoi = 0;         ///< sending: 0 line by line, otherwise to the end of the file
+
+    // Derived by BatirChaines(), never stored.
+    QString ChaineFinTrans; ///< characters that end a transfer
+    QString ChaineFinLig;   ///< characters that end a line
+};
+
+extern ConfigurationCom ParamCom; ///< the one configuration in force
+extern QString FicConf;           ///< full path of its .par file; "" when there is none
+extern QString NomConf;           ///< that file's name without its folder
+
+/// Reads the .par file at chemin into ParamCom. Raises what the file system, LecteurChamps and a count above 100
+/// (IndiceHorsPlage) raise; the fields ahead of the failure then hold the file's values and the others their former
+/// ones.
+void LireFichierPar(const QString &chemin);
+
+/// Creates or replaces the .par file at chemin with ParamCom. Raises what EcritFichierTexte raises.
+void EcrireFichierPar(const QString &chemin);
+
+/// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.
+void BatirChaines();
+
+/// The characters CarDebProg(1) to CarDebProg(NbCarDebProg).
+QString ChaineDebProg();

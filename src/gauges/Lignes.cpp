@@ -1,0 +1,52 @@
+#include "gauges/Lignes.h"
+
+#include <algorithm>
+
+std::vector<QString> Lignes(CapaciteLignes + 1);
+int NbLignes = 0;
+int LigneMaxi = 0;
+
+namespace {
+
+bool EstBlanc(QChar caractere)
+{
+    return caractere == u' ';
+}
+
+} // namespace
+
+void VideLignes()
+{
+    std::fill(Lignes.begin() + 1, Lignes.end(), QString());
+}
+
+void CalculeLigne(const QString &texte)
+{
+    VideLignes();
+    qsizetype debut = 0;
+    for (std::size_t i = 1; i <= CapaciteLignes; ++i) {
+        const qsizetype paire = texte.indexOf(QLatin1String("\r\n"), debut);
+        if (paire < 0) {
+            Lignes[i] = SansBlancs(texte.mid(debut));
+            NbLignes = static_cast<int>(i);
+            return;
+        }
+        Lignes[i] = texte.mid(debut, paire + 1 - debut);
+        debut = paire + 1;
+    }
+}
+
+void CalculeMaxi()
+{
+    const auto derniere = std::find_if(Lignes.rbegin(), Lignes.rend() - 1, [](const QString &ligne) {
+        return !std::all_of(ligne.begin(), ligne.end(), EstBlanc);
+    });
+    LigneMaxi = static_cast<int>(Lignes.rend() - 1 - derniere);
+}
+
+QString SansBlancs(const QString &texte)
+{
+    const auto debut = std::find_if_not(texte.begin(), texte.end(), EstBlanc);
+    const auto fin = std::find_if_not(texte.rbegin(), std::make_reverse_iterator(debut), EstBlanc).base();
+    return QString(debut, fin - debut);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// The line table that transfers and gauge routines share: entries 0 to 25000, the first line at 1, entry 0 unused.
+constexpr int CapaciteLignes = 25000;
+extern std::vector<QString> Lignes;
+extern int NbLignes;  ///< last entry that CalculeLigne() filled
+extern int LigneMaxi; ///< last entry that CalculeMaxi() found in use
+
+/// Empties the entries 1 to 25000.
+void VideLignes();
+
+/// Cuts texte into Lignes at each CR LF. An entry cut so keeps its CR, and the LF stays at the head of the next: the
+/// first reads text CR, those between LF text CR, the last LF text without its blanks at both ends.
+/// A text of more than 25000 lines fills the table and leaves NbLignes as it was.
+void CalculeLigne(const QString &texte);
+
+/// Finds the last entry that holds more than blanks; LigneMaxi is 0 when there is none.
+void CalculeMaxi();
+
+/// texte without the blanks (character 32 alone) at both ends.
+QString SansBlancs(const QString &texte);

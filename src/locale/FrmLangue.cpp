@@ -1,0 +1,55 @@
+#include "locale/FrmLangue.h"
+
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/Erreur.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+namespace {
+
+/// French stands in the windows as they are made: only a new start brings it back to those already written over.
+void AvertitRelance()
+{
+    if (LangIndex == 0)
+        MsgBox(QStringLiteral("Relancer Dorvanel Pro pour prendre en compte les modifications de langue française."),
+               Boite::Information, QStringLiteral("Avertissement"));
+}
+
+} // namespace
+
+FrmLangue::FrmLangue(QWidget *parent)
+    : QDialog(parent)
+{
+    setupUi(this);
+    QRadioButton *const options[] = {Option1, Option2, Option3};
+    if (LangIndex >= 0 && LangIndex <= 2)
+        options[LangIndex]->setChecked(true);
+    connect(Command1, &QPushButton::clicked, this, &FrmLangue::Command1_Click);
+}
+
+void FrmLangue::Command1_Click()
+{
+    IniParDefaut();
+    LangIndex = Option3->isChecked() ? 2 : Option2->isChecked() ? 1 : 0;
+    OptExplorateur = 1;
+    Saute([] {
+        SauveIni();
+        AvertitRelance();
+        frmPrinc->MontreLangue();
+    });
+    AppliqueLangue();
+    accept();
+}
+
+void Mnu_Lang(int langue)
+{
+    LangIndex = langue;
+    frmPrinc->MontreLangue();
+    AppliqueLangue();
+    Saute([] {
+        SauveIni();
+        AvertitRelance();
+    });
+}

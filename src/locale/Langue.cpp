@@ -1,0 +1,27 @@
+#include "locale/Langue.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+int LangIndex = 0;
+
+QString Texte(const Texte3 &texte)
+{
+    const char16_t *const choisi = LangIndex == 0   ? texte.francais
+                                   : LangIndex == 1 ? texte.anglais
+                                   : LangIndex == 2 ? texte.espagnol
+                                                    : nullptr;
+    return choisi == nullptr ? QString() : QString::fromUtf16(choisi);
+}
+
+void AppliqueLangueSysteme()
+{
+    static QTranslator *const traducteur = new QTranslator(QCoreApplication::instance());
+    const QString fichier = Texte({u"qtbase_fr", u"qtbase_en", u"qtbase_es"});
+    if (fichier.isNull())
+        return;
+    QCoreApplication::removeTranslator(traducteur);
+    if (traducteur->load(fichier, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(traducteur);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLabel>
+
+struct Texte3;
+
+/// Writes the captions of LangIndex to every open window. In French it does nothing: the windows are made in French, so
+/// it only goes away from French, never back to it. It also turns the standard buttons to the language.
+void AppliqueLangue();
+
+/// Same for one window, which calls it as it is made. fenetre: a window whose objectName is a key of the table.
+void AppliqueLegendes(QWidget *fenetre);
+
+/// Shows a piece of data in a label, or in a window's title, in the place of its caption: from then on the captions of
+/// a language leave it alone.
+void MontreDonnee(QWidget *controle, const QString &donnee);
+
+/// Writes texte and then suite to a label; nothing when LangIndex chooses no text.
+void PoseTexte(QLabel *label, const Texte3 &texte, const QString &suite = QString());

@@ -1,0 +1,70 @@
+#include "platform/Boites.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QMessageBox>
+#include <QSpacerItem>
+
+namespace {
+
+constexpr int MasqueIcone = 0x70;
+
+QMessageBox::Icon Icone(int drapeaux)
+{
+    switch (drapeaux & MasqueIcone) {
+    case Boite::Critique:
+        return QMessageBox::Critical;
+    case Boite::Question:
+        return QMessageBox::Question;
+    case Boite::Exclamation:
+        return QMessageBox::Warning;
+    case Boite::Information:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+/// A box is as wide as its text; without this the titles that say what failed would be cut.
+void ElargitAuTitre(QMessageBox &boite)
+{
+    constexpr int boutonsDuCadre = 140;
+    const int largeur = boite.fontMetrics().horizontalAdvance(boite.windowTitle()) + boutonsDuCadre;
+    auto *grille = qobject_cast<QGridLayout *>(boite.layout());
+    grille->addItem(new QSpacerItem(largeur, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), grille->rowCount(), 0, 1,
+                    grille->columnCount());
+}
+
+} // namespace
+
+Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
+{
+    const bool ouiNon = (drapeaux & Boite::OuiNon) != 0;
+    QMessageBox boite(QApplication::activeWindow());
+    boite.setObjectName(QStringLiteral("MsgBox"));
+    boite.setWindowTitle(titre);
+    boite.setIcon(Icone(drapeaux));
+    boite.setTextFormat(Qt::PlainText);
+    boite.setText(PourAffichage(texte));
+    boite.setStandardButtons(ouiNon ? QMessageBox::Yes | QMessageBox::No
+                                    : QMessageBox::StandardButtons(QMessageBox::Ok));
+    if (ouiNon) {
+        boite.setDefaultButton((drapeaux & Boite::SecondBouton) != 0 ? QMessageBox::No : QMessageBox::Yes);
+        boite.setEscapeButton(QMessageBox::No);
+    }
+    ElargitAuTitre(boite);
+    const int choix = boite.exec();
+    return !ouiNon ? Reponse::Ok : choix == QMessageBox::Yes ? Reponse::Oui : Reponse::Non;
+}
+
+bool Confirme(const QString &texte, int drapeaux, const QString &titre)
+{
+    return MsgBox(texte, drapeaux | Boite::OuiNon, titre) == Reponse::Oui;
+}
+
+QString PourAffichage(const QString &texte)
+{
+    QString lignes = texte;
+    return lignes.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+}

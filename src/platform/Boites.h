@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+// Message and input boxes. A box is modal; while it is open the event loop runs. Its standard buttons stand in the
+// language of the translator that the program has installed.
+
+/// What a message box bears: buttons, icon and default button are added up.
+namespace Boite {
+constexpr int OuiNon = 4;         ///< Yes and No instead of OK
+constexpr int Critique = 16;      ///< critical icon
+constexpr int Question = 32;      ///< question icon
+constexpr int Exclamation = 48;   ///< exclamation icon
+constexpr int Information = 64;   ///< information icon
+constexpr int SecondBouton = 256; ///< the second button is the default one
+} // namespace Boite
+
+enum class Reponse { Ok, Oui, Non };
+
+/// Shows texte in a box named "MsgBox" and waits for the answer. drapeaux: constants of Boite, added up.
+/// A line end in texte is CR LF or a single CR. Closing the box by its close button answers No, or OK where there is no
+/// No.
+Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre);
+
+/// True when the operator answers Yes to a box with Yes and No. drapeaux: icon and default button.
+bool Confirme(const QString &texte, int drapeaux, const QString &titre);
+
+/// Text with the line ends of a label or box (CR LF or CR) made into those that a control shows.
+QString PourAffichage(const QString &texte);

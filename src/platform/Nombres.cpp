@@ -1,0 +1,54 @@
+#include "platform/Nombres.h"
+
+#include "platform/Erreur.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+#include <limits>
+
+double Val(const QString &texte)
+{
+    static const QRegularExpression nombre(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)([Ee][+-]?\\d+)?"));
+    QString sansBlancs = texte;
+    sansBlancs.remove(u' ').remove(u'\t');
+    return nombre.match(sansBlancs).captured().toDouble();
+}
+
+QString TexteNombre(qint64 nombre)
+{
+    const QString chiffres = QString::number(nombre);
+    return nombre < 0 ? chiffres : u' ' + chiffres;
+}
+
+QString TexteReel(float valeur)
+{
+    if (!std::isfinite(valeur))
+        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+    if (valeur == 0.0F)
+        return QStringLiteral("0");
+    constexpr int chiffres = 7;
+    const int ordre = static_cast<int>(std::floor(std::log10(std::fabs(valeur))));
+    // Rounded to 7 significant digits first, so that the fixed form below shows no digit beyond them.
+    const double arrondi = QString::number(static_cast<double>(valeur), 'e', chiffres - 1).toDouble();
+    QString texte = QString::number(arrondi, 'f', std::max(0, chiffres - 1 - ordre));
+    if (texte.contains(u'.')) {
+        while (texte.endsWith(u'0'))
+            texte.chop(1);
+        if (texte.endsWith(u'.'))
+            texte.chop(1);
+    }
+    if (texte.startsWith(QLatin1String("0.")))
+        texte.remove(0, 1);
+    else if (texte.startsWith(QLatin1String("-0.")))
+        texte.remove(1, 1);
+    return texte;
+}
+
+int EnEntier(double valeur)
+{
+    const double arrondi = std::nearbyint(valeur); // the default rounding mode takes a tie to the even number
+    if (!(arrondi >= std::numeric_limits<qint16>::min() && arrondi <= std::numeric_limits<qint16>::max()))
+        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+    return static_cast<int>(arrondi);
+}

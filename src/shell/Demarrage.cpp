@@ -1,0 +1,135 @@
+#include "shell/Demarrage.h"
+
+#include "comconfig/CommandesConf.h"
+#include "comconfig/ParamCom.h"
+#include "locale/FrmLangue.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "platform/MSComm.h"
+#include "shell/Chemins.h"
+#include "shell/Document.h"
+#include "shell/Explorateur.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+/// The question about a changed text, at the end of the program.
+struct QuestionFin
+{
+    Texte3 titre;
+    Texte3 question;
+};
+
+constexpr QuestionFin EnQuittant{{u"Quitter l'éditeur de programmes CN",
+                                  u"Leave the editor of program numerical control",
+                                  u"Dejar al editor de programa controla numérico"},
+                                 {u"            Enregistrer le fichier ? ", u"            Record the file ? ",
+                                  u"            Registrar el fichero ? "}};
+constexpr QuestionFin EnFermant{
+    {u"Fermer le programme CN", u"close the program", u"Cerrar el programa"},
+    {u"            Enregistrer le fichier ? ", u"            Save file ? ", u"            Registrar el fichero ? "}};
+constexpr Texte3 FichierAvant{u"Fichier ", u"Modified file ", u"Fichero  "};
+constexpr Texte3 FichierApres{u" modifié !", u" !", u" modificado !"};
+
+constexpr Texte3 ConfirmationTitre{u"Quitter le programme", u"Leave the program", u"Dejar el programa"};
+constexpr Texte3 ConfirmationTexte{u"Quitter Dorvanel\r   Confirmez  ?", u"Leave Dorvanel\r   Confirm  ?",
+                                   u"Dejar Dorvanel\r   Confirme  ?"};
+
+void LisReglages()
+{
+    if (FichierExiste(CheminIni())) {
+        LisIni();
+        return;
+    }
+    IniParDefaut();
+    FrmLangue().exec();
+    AppliqueLangue();
+}
+
+void DesactiveTransferts()
+{
+    frmPrinc->Mnu_Transfert->setEnabled(false);
+    for (QAction *action : {frmPrinc->Mnu_EmisProgCN, frmPrinc->Mnu_EmisJauge, frmPrinc->Mnu_RecepProg,
+                            frmPrinc->Mnu_RecepJauge, frmPrinc->Mnu_RecepBanc, frmPrinc->Mnu_EditProg})
+        action->setEnabled(false);
+}
+
+void LisDossiers()
+{
+    if (FichierExiste(CheminCfg()))
+        LisCfg(ParamCom.DosRecep);
+    else
+        CfgParDefaut(ParamCom.DosRecep);
+}
+
+bool TexteModifie()
+{
+    return !frmPrinc->Text1->EstVide() && FichierModifie == Vrai;
+}
+
+bool DemandeEnregistrement(const QuestionFin &question)
+{
+    return Confirme(Texte(FichierAvant) + NomFichier + Texte(FichierApres) + QStringLiteral("\r\n") +
+                        Texte(question.question),
+                    Boite::Exclamation, Texte(question.titre));
+}
+
+/// Saves under the document's own name; a text without one cannot be saved here.
+void Enregistre()
+{
+    if (!NomFichier.isEmpty())
+        Saute([] { SaveFile(NomFichier); });
+}
+
+} // namespace
+
+void Form_Load()
+{
+    try {
+        LisReglages();
+    } catch (const Erreur &) {
+        return;
+    }
+    DesactiveTransferts();
+    DosAppli = DossierApplication();
+    Saute(LisDossiers);
+    frmPrinc->MontreLangue();
+    if (DosConf.isEmpty())
+        DosConf = DossierApplication();
+    if (OptDosDefaut == 0)
+        DosDefaut = DossierApplication();
+    if (OptConfDefaut == 1)
+        Saute([] { ConfDefaut(FicConfDefaut); });
+    if (OptExplorateur == 1)
+        Saute(Mnu_AffichDOS);
+    AppliqueLangue();
+    Saute(SauveIni);
+}
+
+void Mnu_Quitter()
+{
+    AppliqueLangue();
+    if (TexteModifie() && DemandeEnregistrement(EnQuittant))
+        Enregistre();
+    if (!Confirme(Texte(ConfirmationTexte), Boite::Question | Boite::SecondBouton, Texte(ConfirmationTitre)))
+        return;
+    Saute([] { frmPrinc->MSComm1->setPortOpen(false); });
+    PortOuvert = false;
+    QCoreApplication::quit();
+}
+
+void Form_Unload()
+{
+    if (!TexteModifie())
+        return;
+    if (DemandeEnregistrement(EnFermant))
+        Enregistre();
+    else
+        FichierModifie = 0;
+}

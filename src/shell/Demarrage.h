@@ -1,0 +1,13 @@
+#pragma once
+
+// The start and the end of the program.
+
+/// The start-up: settings, language, default configuration, explorer, captions. The main window exists and is not shown
+/// yet. A settings file that cannot be read leaves the window in its design state, without a message.
+void Form_Load();
+
+/// The ordered end: offers to save a changed text, asks for confirmation and ends the process.
+void Mnu_Quitter();
+
+/// The main window is being closed: offers to save a changed text. The closing cannot be refused.
+void Form_Unload();

@@ -1,0 +1,240 @@
+#include "shell/Document.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/CommonDialog.h"
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "platform/Lanceur.h"
+#include "shell/Chemins.h"
+#include "shell/FiltresFichiers.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+QString NomFichier;
+QString TitreFichier;
+int FichierModifie = 0;
+QString TexteAnnuler;
+int IndexFiltre = 0;
+
+namespace {
+
+constexpr char16_t Version[] = u"Dorvanel Pro version 2.7.0 : ";
+
+constexpr Texte3 TitreOuvrir{u"Ouvrir", u"Open", u"Abrir"};
+constexpr Texte3 TitreEnregistrer{u"Enregistrer Sous", u"Save As...", u"Registrar Bajo..."};
+constexpr Texte3 NomNouveau{u"Nouveau.iso", u"New.iso", u"Nuevo.iso"};
+
+constexpr Texte3 ModifieTitre{u"Fichier en cours modifié", u"File in progress modified",
+                              u"Fichero en curso modificado"};
+constexpr Texte3 ModifieAvant{u"Fichier ", u"File ", u"Fichero "};
+constexpr Texte3 ModifieApres{u" modifié !", u" modified !", u" modificado !"};
+constexpr Texte3 ModifieQuestion{u"            Enregistrer le fichier ? ", u"            Save files ? ",
+                                 u"            Enregsi el fichero ? "};
+constexpr Texte3 NouveauTitre{u"Nouveau fichier ?", u"New file ?", u"Nuevo fichero ?"};
+constexpr Texte3 NouveauTexte{u"Nouveau fichier", u"New file", u"Nuevo fichero"};
+constexpr Texte3 NouveauQuestion{u"        Confirmez ? ", u"        Confirm ? ", u"        Confirme ? "};
+
+constexpr Texte3 ErreurTitre{u"Erreur", u"Error", u"Error"};
+constexpr Texte3 ErreurEnregistrement{u"Erreur lors de l'enregistrement du fichier",
+                                      u"Error at the time of the recording of the file",
+                                      u"Error en el registro del fichero"};
+
+constexpr Texte3 OuvertureTitre{u"Message", u"Message", u"Mensaje"};
+constexpr Texte3 OuvertureAvant{u"Erreur lors de l'ouverture du fichier : ",
+                                u"Error at the time of the opening of the file : ",
+                                u"Error en la apertura del fichero : "};
+constexpr Texte3 OuvertureSuite{u". \r Format non reconnu ou fichier déja ouvert par une autre application.\r"
+                                u" - Ouvrir le fichier avec Worpad.\r - Enregistrer le fichier au format TXT.\r"
+                                u"  Voulez-vous utiliser WordPad pour lire ce fichier ?",
+                                u". \r Format not recognized or file déja opened by another application.\r"
+                                u" - Open the file with Worpad.\r - Record the file with format TXT.\r"
+                                u"  Want you to use WordPad to read this file ?",
+                                u". \r Formato no reconocido o fichero déja abierto por otra aplicación.\r"
+                                u" - Abrir el fichero con Worpad.\r - Registrar el fichero al formato TXT.\r"
+                                u"  Quieren utilizar a WordPad para leer este fichero ?"};
+constexpr Texte3 EditeurIntrouvable{u"Erreur pendant l'ouverture du fichier ou\rEditeur non trouvé !",
+                                    u"Error during the opening of the file or\rEditor not found !",
+                                    u"Error durante la apertura del fichero o\rEditor no encontrado !"};
+
+/// The names of the document, to go back to when a file cannot be opened or saved.
+struct Noms
+{
+    QString nom = NomFichier;
+    QString titre = TitreFichier;
+
+    void Remet() const
+    {
+        NomFichier = nom;
+        TitreFichier = titre;
+    }
+};
+
+/// True when a listing of chemin with plain-file attributes gives something: a file, or a folder with a final separator
+/// that holds one.
+bool ListeUnFichier(const QString &chemin)
+{
+    if (!chemin.endsWith(QDir::separator()))
+        return FichierExiste(chemin);
+    return !QDir(chemin).entryList(QDir::Files).isEmpty();
+}
+
+/// Folder where the open dialog starts; a folder that lists nothing is given up for the application folder.
+void ChoisitDosDefaut()
+{
+    if (OptDosDefaut == 0)
+        DosDefaut = DossierApplication();
+    QDir::setCurrent(DosDefaut);
+    if (!ListeUnFichier(DosDefaut))
+        DosDefaut = DossierApplication();
+}
+
+void ProposeTraitementDeTexte()
+{
+    if (!Confirme(Texte(OuvertureAvant) + TitreFichier + Texte(OuvertureSuite), Boite::Information,
+                  Texte(OuvertureTitre)))
+        return;
+    try {
+        LanceProgramme(QStringLiteral("write.exe"), NomFichier);
+    } catch (const Erreur &) {
+        MsgBox(Texte(EditeurIntrouvable), Boite::Critique, Texte(ErreurTitre));
+    }
+}
+
+void ProposeEnregistrement()
+{
+    if (NomFichier.isEmpty())
+        NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
+    const QString question =
+        Texte(ModifieAvant) + NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") + Texte(ModifieQuestion);
+    if (Confirme(question, Boite::Exclamation, Texte(ModifieTitre)) && !NomFichier.isEmpty())
+        Saute([] { SaveFile(NomFichier); });
+}
+
+void Text1_Change()
+{
+    FichierModifie = Vrai;
+    frmPrinc->Mnu_EnregistrerSous->setEnabled(true);
+    frmPrinc->Bouton(2)->setEnabled(true);
+}
+
+} // namespace
+
+void BrancheDocument()
+{
+    QObject::connect(frmPrinc->Text1, &RichTextBox::Change, frmPrinc, Text1_Change);
+    QObject::connect(frmPrinc->Text1, &RichTextBox::KeyPress, frmPrinc, [] { FichierModifie = Vrai; });
+}
+
+void TitreFenetre(const QString &nom)
+{
+    MontreDonnee(frmPrinc, QString::fromUtf16(Version) + nom);
+}
+
+void Mnu_Nouveau()
+{
+    AppliqueLangue();
+    if (FichierModifie == Vrai)
+        ProposeEnregistrement();
+    if (!Confirme(Texte(NouveauTexte) + QStringLiteral("\r\n") + Texte(NouveauQuestion), Boite::Exclamation,
+                  Texte(NouveauTitre)))
+        return;
+    frmPrinc->Text1->setText(QString());
+    frmPrinc->Mnu_Annuler->setEnabled(false);
+    TitreFenetre(Texte(NomNouveau));
+    FichierModifie = 0;
+    NomFichier = Texte(NomNouveau);
+}
+
+void Mnu_Ouvrir()
+{
+    AppliqueLangue();
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.FileName.clear();
+    ChoisitDosDefaut();
+    dialogue.InitDir = DosDefaut;
+    try {
+        if (IndexFiltre == 0)
+            IndexFiltre = 1;
+        dialogue.DialogTitle = Texte(TitreOuvrir);
+        dialogue.Filter = Texte(FiltreOuvrir);
+        dialogue.FilterIndex = IndexFiltre;
+        dialogue.ShowOpen();
+        IndexFiltre = dialogue.FilterIndex;
+        if (!dialogue.FileName.isEmpty())
+            OuvreDocument(dialogue.FileName);
+    } catch (const Erreur &) {
+        dialogue.CancelError = false;
+    }
+}
+
+void OuvreDocument(const QString &chemin)
+{
+    const Noms anciens;
+    NomFichier = chemin;
+    TitreFichier = NomSeul(chemin);
+    try {
+        OpenFile(chemin);
+        FichierModifie = 0;
+    } catch (const Erreur &) {
+        ProposeTraitementDeTexte();
+        anciens.Remet();
+    }
+}
+
+void OpenFile(const QString &path)
+{
+    const bool texteEnrichi = path.right(3).toUpper() == QLatin1String("RTF");
+    frmPrinc->Text1->LoadFile(path, texteEnrichi ? RichTextBox::TexteRiche : RichTextBox::TexteSimple);
+    TitreFenetre(NomFichier);
+    frmPrinc->ActiveEmission(!FicConf.isEmpty() && !NomFichier.isEmpty());
+    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_EnregistrerSous, frmPrinc->Mnu_Imprim,
+                            frmPrinc->Bouton(2), frmPrinc->Bouton(4), frmPrinc->Bouton(5)})
+        action->setEnabled(true);
+    MontreDonnee(frmPrinc->Label2, TitreFichier);
+    frmPrinc->Text1->show();
+    FichierModifie = 0;
+}
+
+void Mnu_EnregistrerSous()
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    const Noms anciens;
+    try {
+        dialogue.FileName = NomFichier;
+        dialogue.CancelError = true;
+        dialogue.DialogTitle = Texte(TitreEnregistrer);
+        dialogue.Filter = Texte(FiltreEnregistrer);
+        dialogue.FilterIndex = IndexFiltre;
+        dialogue.Flags = CommonDialog::EcrasementDemande;
+        dialogue.ShowSave();
+        NomFichier = dialogue.FileName;
+        TitreFichier = dialogue.FileTitle;
+        if (NomFichier.isEmpty())
+            return;
+        SaveFile(NomFichier);
+        frmPrinc->Mnu_EditProg->setEnabled(true);
+    } catch (const Erreur &) {
+        // Cancelled, or told by SaveFile already: the document keeps the name of its former file.
+        anciens.Remet();
+    }
+}
+
+void SaveFile(const QString &path)
+{
+    try {
+        EcritFichierTexte(path, frmPrinc->Text1->Text() + QStringLiteral("\r\n"));
+    } catch (const Erreur &) {
+        MsgBox(Texte(ErreurEnregistrement), Boite::Critique, Texte(ErreurTitre));
+        throw;
+    }
+    TitreFenetre(NomFichier);
+    MontreDonnee(frmPrinc->Label2, TitreFichier);
+    FichierModifie = 0;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+// The one CN program that the main window holds: the text stands in Text1 and nowhere else; here stand the file it came
+// from, whether it has changed, and the commands that create, open and save it.
+
+constexpr int Vrai = -1; ///< True of a flag that is an Integer
+
+extern QString NomFichier;   ///< full path of the file; a bare name after Mnu_Nouveau; "" before the first file
+extern QString TitreFichier; ///< its name without the folder
+extern int FichierModifie;   ///< Vrai when the text has changed since it was loaded or saved, else 0
+extern QString TexteAnnuler; ///< the whole text before the last edit command: the one level of undo
+extern int IndexFiltre;      ///< filter last used in the open dialog, from 1; 0 before the first opening
+
+/// Ties the pane's events to the document. Once, when the main window exists.
+void BrancheDocument();
+
+/// Puts "Dorvanel Pro version 2.7.0 : " and nom in the title of the main window.
+void TitreFenetre(const QString &nom);
+
+/// Writes the text of the pane and one CR LF to path, then shows the document's names. When that fails it says so to
+/// the operator and raises the failure on; the document then stays as it was, while the file holds what was written of
+/// it.
+void SaveFile(const QString &path);
+
+/// Loads path into the pane, as rich text when it ends in "RTF", and enables what works on a file. NomFichier and
+/// TitreFichier name it already. Raises what the pane raises, with the pane as it was.
+void OpenFile(const QString &path);
+
+/// Makes chemin the document. When it cannot be read the operator is told and may open it with the word processor; the
+/// former document stays.
+void OuvreDocument(const QString &chemin);
+
+void Mnu_Nouveau();
+void Mnu_Ouvrir();
+void Mnu_EnregistrerSous();

@@ -1,0 +1,66 @@
+#include "shell/Edition.h"
+
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace {
+
+/// Keeps the text as it stands before a change, for Mnu_Annuler.
+void RetientTexte()
+{
+    TexteAnnuler = frmPrinc->Text1->Text();
+    frmPrinc->Mnu_Annuler->setEnabled(true);
+}
+
+} // namespace
+
+void BrancheEdition()
+{
+    QObject::connect(frmPrinc->Text1, &RichTextBox::MouseDown, frmPrinc, [](Qt::MouseButton bouton, const QPoint &ou) {
+        if (bouton != Qt::RightButton)
+            return;
+        Mnu_Edition();
+        frmPrinc->Mnu_Edition->popup(ou);
+    });
+}
+
+void Mnu_Edition()
+{
+    frmPrinc->Mnu_Coller->setEnabled(QGuiApplication::clipboard()->mimeData()->hasText());
+    for (QAction *action : {frmPrinc->Mnu_Couper, frmPrinc->Mnu_Copier, frmPrinc->Mnu_Supprimer})
+        action->setEnabled(frmPrinc->Text1->SelLength() > 0);
+}
+
+void Mnu_Annuler()
+{
+    frmPrinc->Text1->setText(TexteAnnuler);
+    frmPrinc->Mnu_Annuler->setEnabled(false);
+}
+
+void Mnu_Couper()
+{
+    Mnu_Copier();
+    Mnu_Supprimer();
+}
+
+void Mnu_Copier()
+{
+    frmPrinc->Text1->copy();
+    frmPrinc->Mnu_Coller->setEnabled(true);
+}
+
+void Mnu_Coller()
+{
+    RetientTexte();
+    frmPrinc->Text1->paste();
+}
+
+void Mnu_Supprimer()
+{
+    RetientTexte();
+    frmPrinc->Text1->setSelText(QString());
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Opens the explorer column, or closes it when it is open; the menu entry and button 15 follow.
+void Mnu_AffichDOS();

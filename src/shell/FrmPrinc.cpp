@@ -1,0 +1,161 @@
+#include "shell/FrmPrinc.h"
+
+#include "locale/Langue.h"
+#include "platform/CommonDialog.h"
+#include "platform/MSComm.h"
+
+#include <QCloseEvent>
+#include <QToolButton>
+
+FrmPrinc *frmPrinc = nullptr;
+bool PortOuvert = false;
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Texte3 PortOuvertTexte{u"Port Ouvert", u"Open Port", u"Port Abierto"};
+constexpr Texte3 PortFermeTexte{u"Port Fermé", u"Closed Port", u"Port Ferrado"};
+// What an entry of the language menu reads, by language and entry.
+constexpr Texte3 NomsLangues[] = {
+    {u"Français", u"French", u"Francés"}, {u"Anglais", u"English", u"Inglés"}, {u"Espagnol", u"Spanish", u"Español"}};
+
+constexpr Texte3 AllumeeTexte{u" : actif", u": on", u": activo"};
+constexpr Texte3 EteinteTexte{u" : inactif", u": off", u": inactivo"};
+
+int Couleur(bool active)
+{
+    return active ? Lampe::Verte : Lampe::Rouge;
+}
+
+} // namespace
+
+FrmPrinc::FrmPrinc()
+    : MSComm1(new MSComm(this))
+    , CommonDialog1(new CommonDialog(this))
+{
+    setupUi(this);
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is not for hiding
+    NommeControles();
+    QSizePolicy politique = Etat->sizePolicy();
+    politique.setRetainSizeWhenHidden(true);
+    Etat->setSizePolicy(politique);
+    connect(&UpdateTimer, &QTimer::timeout, this, &FrmPrinc::UpdateTimer_Timer);
+    connect(&Timer2, &QTimer::timeout, this, &FrmPrinc::Timer2_Timer);
+    UpdateTimer.start(1000ms);
+    Timer2.start(5000ms);
+    DitLampes();
+    frmPrinc = this;
+}
+
+FrmPrinc::~FrmPrinc()
+{
+    frmPrinc = nullptr;
+}
+
+void FrmPrinc::NommeControles()
+{
+    UpdateTimer.setObjectName(QStringLiteral("UpdateTimer"));
+    Timer2.setObjectName(QStringLiteral("Timer2"));
+    MSComm1->setObjectName(QStringLiteral("MSComm1"));
+    const auto actions = Toolbar1->actions();
+    for (QAction *action : actions) {
+        if (auto *const bouton = qobject_cast<QToolButton *>(Toolbar1->widgetForAction(action)))
+            bouton->setObjectName(action->objectName());
+    }
+}
+
+QAction *FrmPrinc::Bouton(int position) const
+{
+    QAction *const action = Toolbar1->actions().value(position - 1);
+    return action == nullptr || action->isSeparator() ? nullptr : action;
+}
+
+void FrmPrinc::ActiveEmission(bool active)
+{
+    for (QAction *action : {Mnu_EmisProgCN, Mnu_EmisJauge, Bouton(9), Bouton(11)})
+        action->setEnabled(active);
+}
+
+void FrmPrinc::ActiveReception()
+{
+    Mnu_Transfert->setEnabled(true);
+    for (QAction *action : {Mnu_RecepProg, Mnu_RecepJauge, Mnu_RecepBanc, Bouton(10), Bouton(12), Bouton(13)})
+        action->setEnabled(true);
+}
+
+void FrmPrinc::MontreExplorateur(bool montre)
+{
+    Frame1->setVisible(montre);
+    Mnu_AffichDOS->setChecked(montre);
+    Bouton(15)->setChecked(montre);
+}
+
+void FrmPrinc::MontreLangue()
+{
+    QAction *const entrees[] = {Mnu_Lang_0, Mnu_Lang_1, Mnu_Lang_2};
+    if (LangIndex < 0 || LangIndex > 2)
+        return;
+    for (int i = 0; i < 3; ++i) {
+        entrees[i]->setChecked(i == LangIndex);
+        entrees[i]->setText(Texte(NomsLangues[i]));
+    }
+}
+
+void FrmPrinc::MontreEtat(const QString &message)
+{
+    Etat->setText(QStringLiteral("État : ") + message);
+    Etat->show();
+    // Already running, the timer keeps the first message's time.
+    if (!Timer2.isActive())
+        Timer2.start();
+}
+
+void FrmPrinc::MontrePort(bool ouvert, const QString &texte)
+{
+    shpPortOpen->setFillColor(Couleur(ouvert));
+    if (!texte.isNull())
+        lblPortOpen->setText(texte);
+}
+
+void FrmPrinc::UpdateTimer_Timer()
+{
+    MontrePort(PortOuvert, Texte(PortOuvert ? PortOuvertTexte : PortFermeTexte));
+    if (!PortOuvert) {
+        shpReceive->setFillColor(Lampe::Rouge);
+        shpSend->setFillColor(Lampe::Rouge);
+    }
+    shpRTS->setFillColor(Couleur(PortOuvert && MSComm1->RTSEnable()));
+    shpCTS->setFillColor(Couleur(MSComm1->CTSHolding()));
+    const bool porteuse = MSComm1->CDHolding();
+    shpCD->setFillColor(Couleur(porteuse));
+    if (porteuse)
+        PortOuvert = true;
+    DitLampes();
+}
+
+void FrmPrinc::Timer2_Timer()
+{
+    Etat->setText(QStringLiteral("État : "));
+    Timer2.stop();
+    Etat->hide();
+}
+
+void FrmPrinc::DitLampes()
+{
+    const std::pair<Lampe *, QLabel *> paires[] = {{shpPortOpen, lblPortOpen}, {shpCD, lblCD},
+                                                   {shpRTS, lblRTS},           {shpCTS, lblCTS},
+                                                   {shpSend, lblSend},         {shpReceive, lblReceive}};
+    for (const auto &[lampe, nom] : paires) {
+        lampe->setAccessibleName(nom->text());
+        lampe->setTextes(nom->text() + Texte(AllumeeTexte), nom->text() + Texte(EteinteTexte));
+    }
+    // The words beside this lamp tell its state already.
+    shpPortOpen->setTextes(lblPortOpen->text(), lblPortOpen->text());
+}
+
+void FrmPrinc::closeEvent(QCloseEvent *evenement)
+{
+    Q_EMIT Form_Unload();
+    evenement->accept();
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "ui_FrmPrinc.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+class CommonDialog;
+class MSComm;
+
+/// What the lamps believe about the port: set where it is opened and closed, and by the timer.
+extern bool PortOuvert;
+
+/// The main window as a view: toolbar, program pane, explorer column, status panel with its lamps, and the two timers.
+/// Its commands are tied to it from above (Menus). Its controls are read by name from the whole program.
+///
+/// Label1, Label3, Label5 are the captions of Label2 (file), Label4 (configuration) and Label6 (its comment); Text1 is
+/// the program, Text2 what a reception by file has gathered; Picture11 is the status panel, Frame1 the explorer column.
+class FrmPrinc : public QMainWindow, public Ui::FrmPrinc
+{
+    Q_OBJECT
+
+public:
+    FrmPrinc();
+    ~FrmPrinc() override;
+
+    MSComm *const MSComm1;             ///< the one serial line
+    CommonDialog *const CommonDialog1; ///< the file dialog that all commands share
+    QTimer UpdateTimer;                ///< 1000 ms: the lamps follow the port
+    QTimer Timer2;                     ///< 5000 ms, once: clears Etat
+
+    /// Shows a state of the port in Etat; Timer2 clears it.
+    void MontreEtat(const QString &message);
+
+    /// Shows the port as open or closed in its lamp; texte: the words beside it.
+    void MontrePort(bool ouvert, const QString &texte);
+
+    /// Enables or disables the four commands that send: menu entries and buttons 9 and 11.
+    void ActiveEmission(bool active);
+
+    /// Enables the commands that receive, with their menu and the buttons 10, 12 and 13.
+    void ActiveReception();
+
+    /// The toolbar button at a position, 1 to 17 (7 and 14 are separators: nullptr).
+    QAction *Bouton(int position) const;
+
+    /// Opens or closes the explorer column, with the menu entry and button 15 that follow it.
+    void MontreExplorateur(bool montre);
+
+    /// Checks the entry of LangIndex in the language menu and names the three languages in that language.
+    void MontreLangue();
+
+Q_SIGNALS:
+    void Form_Unload(); ///< the operator closes the window; it closes when the handler returns
+
+protected:
+    void closeEvent(QCloseEvent *evenement) override;
+
+private:
+    void UpdateTimer_Timer();
+    void Timer2_Timer();
+    void NommeControles();
+    void DitLampes();
+};
+
+extern FrmPrinc *frmPrinc; ///< its one instance, alive as long as the program

@@ -1,0 +1,55 @@
+#include "shell/Menus.h"
+
+#include "comconfig/CommandesConf.h"
+#include "locale/FrmLangue.h"
+#include "shell/Demarrage.h"
+#include "shell/Document.h"
+#include "shell/Edition.h"
+#include "shell/Explorateur.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/CommandesTransfert.h"
+#include "transfer/PortCom.h"
+
+namespace {
+
+/// A command: the menu entry that gives it, the toolbar button that repeats it (0: none), the routine that serves it.
+struct Commande
+{
+    QAction *Ui_FrmPrinc::*entree;
+    int bouton;
+    void (*routine)();
+};
+
+constexpr Commande Commandes[] = {
+    {&Ui_FrmPrinc::Mnu_Nouveau, 0, Mnu_Nouveau},
+    {&Ui_FrmPrinc::Mnu_Ouvrir, 1, Mnu_Ouvrir},
+    {&Ui_FrmPrinc::Mnu_EnregistrerSous, 2, Mnu_EnregistrerSous},
+    {&Ui_FrmPrinc::Mnu_AffichDOS, 15, Mnu_AffichDOS},
+    {&Ui_FrmPrinc::Mnu_Quitter, 6, Mnu_Quitter},
+    {&Ui_FrmPrinc::Mnu_Annuler, 0, Mnu_Annuler},
+    {&Ui_FrmPrinc::Mnu_Couper, 0, Mnu_Couper},
+    {&Ui_FrmPrinc::Mnu_Copier, 0, Mnu_Copier},
+    {&Ui_FrmPrinc::Mnu_Coller, 0, Mnu_Coller},
+    {&Ui_FrmPrinc::Mnu_Supprimer, 0, Mnu_Supprimer},
+    {&Ui_FrmPrinc::Mnu_ChargeConf, 8, Mnu_ChargeConf},
+    {&Ui_FrmPrinc::Mnu_FermePortCom, 0, Mnu_FermePortCom},
+    {&Ui_FrmPrinc::Mnu_EmisProgCN, 9, Mnu_EmisProgCN},
+    {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
+    {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
+    {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
+    {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
+};
+
+} // namespace
+
+void BrancheMenus()
+{
+    for (const Commande &commande : Commandes) {
+        QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
+        if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))
+            QObject::connect(bouton, &QAction::triggered, frmPrinc, commande.routine);
+    }
+    QObject::connect(frmPrinc->Mnu_Edition, &QMenu::aboutToShow, frmPrinc, Mnu_Edition);
+    QObject::connect(frmPrinc->Mnu_Com, &QMenu::aboutToShow, frmPrinc, Mnu_Com);
+    QObject::connect(frmPrinc, &FrmPrinc::Form_Unload, frmPrinc, Form_Unload);
+}

@@ -1,0 +1,96 @@
+#include "shell/Reglages.h"
+
+#include "locale/Langue.h"
+#include "platform/FichierTexte.h"
+#include "platform/LecteurChamps.h"
+#include "platform/Nombres.h"
+#include "shell/Chemins.h"
+
+QString DosAppli;
+int OptDosDefaut = 0;
+QString DosDefaut;
+int OptConfDefaut = 0;
+QString FicConfDefaut;
+int OptExplorateur = 0;
+QString DosConf;
+QString DosJauge;
+QString EditeurCN;
+
+namespace {
+
+/// No settings file comes near this size, in bytes; a larger one is not read.
+constexpr qint64 TailleMaxReglages = 1024 * 1024;
+
+QString LigneNombre(int nombre)
+{
+    return TexteNombre(nombre) + QStringLiteral(" \r\n");
+}
+
+QString LigneCitee(const QString &texte)
+{
+    return u'"' + texte + QStringLiteral("\"\r\n");
+}
+
+/// The language is the one number that may be a text: a comma in the line before it pushes half a path into its place.
+int LangueLue(const QString &champ)
+{
+    bool estNombre = false;
+    const int langue = champ.trimmed().toInt(&estNombre);
+    return estNombre ? langue : LangAucune;
+}
+
+} // namespace
+
+QString CheminIni()
+{
+    return AjouteAntislash(DossierApplication()) + QStringLiteral("Dorvanel.ini");
+}
+
+QString CheminCfg()
+{
+    return AjouteAntislash(DossierApplication()) + QStringLiteral("Dorvanel.CFG");
+}
+
+void LisIni()
+{
+    LecteurChamps champs(LitFichierTexte(CheminIni(), TailleMaxReglages));
+    OptDosDefaut = champs.Entier();
+    DosDefaut = champs.Chaine();
+    OptConfDefaut = champs.Entier();
+    FicConfDefaut = champs.Chaine();
+    OptExplorateur = champs.Entier();
+    DosConf = champs.Chaine();
+    LangIndex = LangueLue(champs.Chaine());
+}
+
+void SauveIni()
+{
+    EcritFichierTexte(CheminIni(), LigneNombre(OptDosDefaut) + LigneCitee(DosDefaut) + LigneNombre(OptConfDefaut) +
+                                       LigneCitee(FicConfDefaut) + LigneNombre(OptExplorateur) + DosConf +
+                                       QStringLiteral("\r\n") + LigneNombre(LangIndex));
+}
+
+void IniParDefaut()
+{
+    OptDosDefaut = 0;
+    DosDefaut = DossierApplication();
+    OptConfDefaut = 0;
+    FicConfDefaut.clear();
+    OptExplorateur = 0;
+    DosConf = DossierApplication();
+    LangIndex = 0;
+}
+
+void LisCfg(QString &dosRecep)
+{
+    LecteurChamps champs(LitFichierTexte(CheminCfg(), TailleMaxReglages));
+    for (QString *variable : {&dosRecep, &DosJauge, &EditeurCN})
+        *variable = champs.Chaine();
+}
+
+void CfgParDefaut(QString &dosRecep)
+{
+    dosRecep = EnMajuscules(DosAppli);
+    DosJauge = dosRecep;
+    EditeurCN = QStringLiteral("C:\\WINDOWS\\NOTEPAD.EXE");
+}

@@ -1,0 +1,48 @@
+#include "transfer/Avancement.h"
+
+#include "locale/Langue.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 PasAffichage = 200;  // milliseconds between two repaints
+constexpr qint64 PremierTemps = 1000; // milliseconds before the pace tells anything
+constexpr int Pleine = 1000;
+
+constexpr Texte3 Reste{u"%1 %  -  reste %2", u"%1 %  -  %2 left", u"%1 %  -  faltan %2"};
+
+} // namespace
+
+Avancement::Avancement(QProgressBar &barre, qint64 total)
+    : m_barre(barre)
+    , m_total(total)
+{
+    m_barre.setRange(0, Pleine);
+    m_barre.setValue(0);
+    m_barre.setFormat(QStringLiteral("0 %"));
+    m_barre.setVisible(total > 0);
+    m_depuis.start();
+}
+
+void Avancement::Montre(qint64 faits)
+{
+    faits = std::clamp<qint64>(faits, 0, m_total);
+    const qint64 maintenant = m_depuis.elapsed();
+    const bool complet = faits == m_total;
+    if (m_total == 0 || (m_dernierAffichage >= 0 && maintenant - m_dernierAffichage < PasAffichage && !complet))
+        return;
+    m_dernierAffichage = maintenant;
+    m_barre.setValue(static_cast<int>(faits * Pleine / m_total));
+    const QString pourcent = QString::number(faits * 100 / m_total);
+    const QString format = Texte(Reste);
+    m_barre.setFormat(complet || faits == 0 || maintenant < PremierTemps || format.isNull()
+                          ? pourcent + QStringLiteral(" %")
+                          : format.arg(pourcent, TempsRestant(faits)));
+}
+
+QString Avancement::TempsRestant(qint64 faits) const
+{
+    const qint64 secondes = m_depuis.elapsed() * (m_total - faits) / faits / 1000 + 1;
+    return QStringLiteral("%1:%2").arg(secondes / 60).arg(secondes % 60, 2, 10, QLatin1Char('0'));
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProgressBar>
+
+/// Shows how far a transfer is, in a progress bar with the time that it will still take at its pace so far. It repaints
+/// a few times a second at most, so that the line never waits for the screen.
+class Avancement
+{
+public:
+    /// Shows the bar at 0. total: characters of the transfer; 0 hides the bar.
+    Avancement(QProgressBar &barre, qint64 total);
+
+    /// faits: characters that have gone. Nothing of total but 0 to total counts.
+    void Montre(qint64 faits);
+
+private:
+    QString TempsRestant(qint64 faits) const;
+
+    QProgressBar &m_barre;
+    qint64 m_total;
+    qint64 m_dernierAffichage = -1;
+    QElapsedTimer m_depuis;
+};

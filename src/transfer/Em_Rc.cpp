@@ -1,0 +1,159 @@
+#include "transfer/Em_Rc.h"
+
+#include "comconfig/CommandesConf.h"
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/Erreur.h"
+#include "shell/CentreFeuille.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+#include "transfer/Emission.h"
+#include "transfer/PortCom.h"
+#include "transfer/Transfert.h"
+
+#include <QShowEvent>
+
+namespace {
+
+constexpr Texte3 Annuler{u"&Annuler", u"&Cancel", u"&Cancelar"};
+constexpr Texte3 AnnulerBanc{u"&Annuler", u"&&Cancel", u"&Cancelar"};
+constexpr Texte3 LigneEcho{u"Ligne reçue / émise", u"Received / emitted line", u"Línea recibida / emitida"};
+constexpr Texte3 CaractereEcho{u"Caractère émis / reçu", u"Emitted / received character",
+                               u"Carácter emitido / recibido"};
+
+/// What a mode shows: title, instructions for the control of the machine, status, picture.
+struct Mode
+{
+    ModeTransfert type;
+    Texte3 titre;
+    Texte3 consignes;
+    Texte3 statut;
+    const char *image;
+};
+
+constexpr Texte3 PuisCliquez{u"Puis cliquez sur le bouton < Emission... >", u"Then click on the button < Emission... >",
+                             u"Luego presionan el botón < Emisión... >"};
+
+constexpr Mode Modes[] = {
+    {EmissionProgramme,
+     {u"Emission d'un programme CN", u"Sending of a program", u"Emisión de un programa"},
+     {u"\rSur CN faire une RàZ\r\rValider le mode Chargement Programme\r\rAppuyer sur Départ de Cycle",
+      u"\rOn machine to make Restoring\r\rValidate the Chargement mode Programs\r\rSupport on Departure of Cycle",
+      u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento Programa\r\r"
+      u"Apoyar en Salida de Ciclo"},
+     PuisCliquez,
+     ":/icones/Mode_1.svg"},
+    {EmissionJauges,
+     {u"Emission des jauges outils", u"Sending of the gauges tools", u"Emisión de las Cabidas instrumentos"},
+     {u"\rSur CN faire une RàZ\r\rValider le mode Chargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
+      u"\rOn machine to make Restoring\r\rValidate the Loading mode of the Gauges Tools\r\r"
+      u"Support on Departure of Cycle",
+      u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento de las Cabidas instrumentos\r"
+      u"Apoyar en Salida de Ciclo"},
+     PuisCliquez,
+     ":/icones/Mode_2.svg"},
+};
+
+constexpr int CoteImage = 64; // pixels
+
+} // namespace
+
+Em_Rc::Em_Rc(QWidget *parent)
+    : QDialog(parent)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    connect(Command1, &QPushButton::clicked, this, &Em_Rc::reject);
+    connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
+    connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
+}
+
+/// The activation that starts things comes once, when the dialog is on the screen: coming back from a message box or
+/// from another program is none.
+void Em_Rc::showEvent(QShowEvent *evenement)
+{
+    QDialog::showEvent(evenement);
+    if (evenement->spontaneous())
+        return;
+    CentreFeuille(this);
+    Form_Activate();
+}
+
+void Em_Rc::Form_Activate()
+{
+    if (FinTransfert == 1)
+        return;
+    Command1->setText(Texte(Annuler));
+    Command4->setText(Texte(AnnulerBanc));
+    PoseTexte(Label3, LigneEcho);
+    PoseTexte(Label4, CaractereEcho);
+    Label1->clear();
+    Label2->clear();
+    MontreConfigurationChoisie();
+    MontreMode();
+}
+
+void Em_Rc::MontreMode()
+{
+    for (const Mode &mode : Modes) {
+        if (mode.type != TypeTransfert)
+            continue;
+        setWindowTitle(Texte(mode.titre));
+        Label1->setText(PourAffichage(Texte(mode.consignes)));
+        PoseTexte(Label2, mode.statut);
+        Picture1->setPixmap(QIcon(QLatin1String(mode.image)).pixmap(CoteImage));
+        Command2->show();
+        Command7->hide();
+        Frame1->show();
+        Frame4->hide();
+        Frame2->show();
+    }
+}
+
+void Em_Rc::MontreConfigurationChoisie()
+{
+    Label5->setText(NomConf + QStringLiteral("  ") + ParamCom.Commentaire);
+}
+
+void Em_Rc::Command2_Click()
+{
+    // A second click would start a second sending inside the first.
+    Command2->setEnabled(false);
+    if (ParamCom.TypeEnvoi == 0)
+        EnvoiFich_Lig_Lig(*this);
+    else
+        EnvoiFich_FinFich(*this);
+    Command2->setEnabled(true);
+}
+
+void Em_Rc::Command3_Click()
+{
+    try {
+        DemandeFichierPar(DosAppli);
+        if (FicConf.isEmpty())
+            return;
+        LireFichierPar(FicConf);
+        MontreConfiguration();
+        MontreConfigurationChoisie();
+        BatirChaines();
+    } catch (const Erreur &erreur) {
+        if (erreur.Numero() != Erreur::DialogueAnnule)
+            MessageParErrone(true);
+    }
+}
+
+void Em_Rc::done(int resultat)
+{
+    Form_Unload();
+    QDialog::done(resultat);
+}
+
+void Em_Rc::Form_Unload()
+{
+    AnnuleRECEPT = 1;
+    frmPrinc->shpSend->setFillColor(Lampe::Rouge);
+    frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
+    CoupePortCOM(*this);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui_Em_Rc.h"
+
+#include <QDialog>
+
+/// The modal dialog in which every transfer runs: it tells the operator what to do at the machine, starts the transfer
+/// and shows it.
+///
+/// Label1: what to do at the machine; Label2: status; Label3: echo of the line, Label4: echo of the character; Label5:
+/// current configuration. Command1: cancel; Command2: start the sending; Command3: other configuration; Command4 to
+/// Command6: bench (cancel, next gauge, end); Command7: force the end of a reception.
+class Em_Rc : public QDialog, public Ui::Em_Rc
+{
+    Q_OBJECT
+
+public:
+    explicit Em_Rc(QWidget *parent);
+
+    /// Closing, by whatever way: never on an open port. A routine of the dialog that still runs meets the closed port;
+    /// the dialog lives, unseen, until that routine has returned.
+    void done(int resultat) override;
+
+protected:
+    void showEvent(QShowEvent *evenement) override;
+
+private:
+    void Form_Activate();
+    void Command2_Click();
+    void Command3_Click();
+    void Form_Unload();
+
+    void MontreMode();
+    void MontreConfigurationChoisie();
+};

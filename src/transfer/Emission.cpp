@@ -1,0 +1,203 @@
+#include "transfer/Emission.h"
+
+#include "comconfig/ParamCom.h"
+#include "gauges/Lignes.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/CedeLaMain.h"
+#include "platform/MSComm.h"
+#include "platform/Nombres.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/Avancement.h"
+#include "transfer/PortCom.h"
+#include "ui_Em_Rc.h"
+
+namespace {
+
+constexpr Texte3 DebutProgramme{u"Emission Début de programme", u"Sending Beginning of program",
+                                u"Emisión Principio de programa"};
+constexpr Texte3 EmissionBloc{u"Emission du fichier. Bloc : ", u"Sending of the file. Block : ",
+                              u"Emisión del fichero. Bloque : "};
+constexpr Texte3 EmissionLigne{u"Emission ligne ", u"Sending line ", u"Emisión línea "};
+constexpr Texte3 FinDeTransfert{u"Emission fin de transfert", u"Sending end of transfer",
+                                u"Emisión fino de transferencia"};
+constexpr Texte3 Succes{u"Transfert terminé avec succès !", u"Transfer finished successfully !",
+                        u"Transferencia terminada con éxito !"};
+
+constexpr int DebordementReception = 1008;
+constexpr int BlocParDefaut = 512; // for a configuration whose transmit buffer holds nothing
+
+/// One sending: the steps that both ways share, and the progress that the operator sees.
+class Emission
+{
+public:
+    /// total: characters that the body will send, for the progress bar.
+    Emission(Ui::Em_Rc &dialogue, qint64 total);
+
+    void Debut();
+    void Ecrit(const QString &texte);
+    void Attend();
+    void Fin();
+    void Echo(const QString &texte);
+
+    MSComm &Controle() { return *frmPrinc->MSComm1; }
+    Ui::Em_Rc &Dialogue() { return m_dialogue; }
+
+private:
+    Ui::Em_Rc &m_dialogue;
+    Avancement m_avancement;
+    qint64 m_ecrits = 0;
+};
+
+Emission::Emission(Ui::Em_Rc &dialogue, qint64 total)
+    : m_dialogue(dialogue)
+    , m_avancement(*dialogue.Progression, total)
+{
+    m_dialogue.Frame2->hide();
+    m_dialogue.Label3->setVisible(ParamCom.Echo == 1);
+    m_dialogue.Label4->hide();
+}
+
+void Emission::Debut()
+{
+    if (ParamCom.NbCarDebProg < 1)
+        return;
+    const QString debut = ChaineDebProg() + ParamCom.ChaineFinLig;
+    Echo(debut);
+    PoseTexte(m_dialogue.Label2, DebutProgramme);
+    if (!Controle().PortOpen())
+        return;
+    frmPrinc->shpSend->setFillColor(Lampe::Verte);
+    Controle().Output(debut);
+}
+
+void Emission::Ecrit(const QString &texte)
+{
+    Controle().Output(texte);
+    m_ecrits += texte.size();
+}
+
+/// Waits until the transmit buffer is empty, for as long as the machine holds the line.
+void Emission::Attend()
+{
+    int restent = 0;
+    do {
+        CedeLaMain();
+        restent = Controle().OutBufferCount();
+        m_avancement.Montre(m_ecrits - restent);
+    } while (restent != 0);
+}
+
+void Emission::Fin()
+{
+    if (!Controle().PortOpen())
+        return;
+    frmPrinc->shpSend->setFillColor(Lampe::Verte);
+    Controle().Output(ParamCom.ChaineFinTrans);
+    PoseTexte(m_dialogue.Label2, FinDeTransfert);
+    Echo(ParamCom.ChaineFinTrans);
+    Attend();
+    frmPrinc->shpSend->setFillColor(Lampe::Rouge);
+}
+
+void Emission::Echo(const QString &texte)
+{
+    if (ParamCom.Echo == 1)
+        m_dialogue.Label3->setText(texte);
+}
+
+int TailleBloc(const MSComm &controle)
+{
+    return controle.OutBufferSize() > 0 ? controle.OutBufferSize() : BlocParDefaut;
+}
+
+void EnvoieBlocs(Emission &emission, const QString &texte)
+{
+    const int bloc = TailleBloc(emission.Controle());
+    for (qint64 position = 1; position <= texte.size();) {
+        CedeLaMain();
+        emission.Ecrit(texte.mid(position - 1, bloc));
+        position += bloc;
+        PoseTexte(emission.Dialogue().Label2, EmissionBloc, TexteNombre(position));
+        emission.Echo(QString::number(position));
+        emission.Attend();
+    }
+}
+
+/// The entry as it goes out. Every entry but the first has at its head the LF that the cut before it left.
+void PrepareLigne(int numero)
+{
+    QString &ligne = Lignes[static_cast<std::size_t>(numero)];
+    ligne = SansBlancs(ligne);
+    if (numero != 1)
+        ligne = ligne.mid(1);
+}
+
+void EnvoieLignes(Emission &emission)
+{
+    for (int numero = 1; numero <= NbLignes; ++numero) {
+        PrepareLigne(numero);
+        const QString ligne = Lignes[static_cast<std::size_t>(numero)] + ParamCom.ChaineFinLig;
+        if (emission.Controle().PortOpen()) {
+            frmPrinc->shpSend->setFillColor(Lampe::Verte);
+            emission.Ecrit(ligne);
+        }
+        emission.Echo(ligne);
+        emission.Attend();
+        PoseTexte(emission.Dialogue().Label2, EmissionLigne, TexteNombre(numero));
+    }
+}
+
+/// Characters that the lines of the table will send, but for blanks at the ends of the text.
+qint64 TailleLignes()
+{
+    qint64 total = 0;
+    for (int numero = 1; numero <= NbLignes; ++numero)
+        total += Lignes[static_cast<std::size_t>(numero)].size() - (numero == 1 ? 0 : 1) + ParamCom.ChaineFinLig.size();
+    return total;
+}
+
+void Termine(Ui::Em_Rc &dialogue)
+{
+    FermePortCOM(dialogue);
+    PoseTexte(dialogue.Label2, Succes);
+}
+
+} // namespace
+
+void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
+{
+    try {
+        const QString texte = frmPrinc->Text1->Text();
+        Emission emission(dialogue, texte.size());
+        OuvrePortCOM();
+        emission.Debut();
+        if (emission.Controle().PortOpen())
+            frmPrinc->shpSend->setFillColor(Lampe::Verte);
+        EnvoieBlocs(emission, texte);
+        emission.Fin();
+        Termine(dialogue);
+    } catch (const Erreur &erreur) {
+        // This road alone writes the word with a capital.
+        constexpr char16_t debordement[] = u"Capacity overshooting of the buffer zone of Receiving.";
+        if (erreur.Numero() == DebordementReception && LangIndex == 1)
+            ErreurPortCOM(erreur, QString::fromUtf16(debordement), dialogue);
+        else
+            ErreurPortCOM(erreur, dialogue);
+    }
+}
+
+void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue)
+{
+    try {
+        CalculeLigne(frmPrinc->Text1->Text());
+        Emission emission(dialogue, TailleLignes());
+        OuvrePortCOM();
+        emission.Debut();
+        EnvoieLignes(emission);
+        emission.Fin();
+        Termine(dialogue);
+    } catch (const Erreur &erreur) {
+        ErreurPortCOM(erreur, dialogue);
+    }
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Erreur.h"
+
+#include <QString>
+
+namespace Ui {
+class Em_Rc;
+}
+
+// The session on the serial port: a transfer opens it with the settings of ParamCom, runs, and closes it.
+
+/// Gives the control the settings of ParamCom and opens the port if it is closed. A failure is told to the operator and
+/// leaves the steps behind it undone; the routine that follows meets the closed port at its first operation.
+void OuvrePortCOM();
+
+/// Closes the port if it is open. A failure is told to the operator and turns Command1 of the dialog into "Close".
+void FermePortCOM(Ui::Em_Rc &dialogue);
+
+/// The end of a transfer routine that failed: tells the operator and closes the port.
+void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue);
+
+/// Same, with another text than the number's own.
+void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialogue);
+
+/// The operator's cancel: if the port is open, closes it and says so in Label2 of the dialog. Nothing is told of a
+/// failure.
+void CoupePortCOM(Ui::Em_Rc &dialogue);
+
+/// What the operator reads for an error of the serial control: our text, or the platform's for a number without one.
+QString TexteErreurPort(const Erreur &erreur);
+
+void Mnu_Com();          ///< the communication menu opens: its closing entry follows the port
+void Mnu_FermePortCom(); ///< closes a port that stayed open
