@@ -89,6 +89,8 @@ void Em_Rc::Form_Activate()
     Command4->setText(Texte(AnnulerBanc));
     PoseTexte(Label3, LigneEcho);
     PoseTexte(Label4, CaractereEcho);
+    Label3->setVisible(ParamCom.Echo == 1);
+    Label4->setVisible(ParamCom.Echo == 1);
     Label1->clear();
     Label2->clear();
     MontreConfigurationChoisie();
@@ -105,6 +107,7 @@ void Em_Rc::MontreMode()
         PoseTexte(Label2, mode.statut);
         Picture1->setPixmap(QIcon(QLatin1String(mode.image)).pixmap(CoteImage));
         Command2->show();
+        Command2->setFocus();
         Command7->hide();
         Frame1->show();
         Frame4->hide();
