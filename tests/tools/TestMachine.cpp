@@ -134,34 +134,34 @@ void TestMachine::RetientEtDeborde()
 {
     ReglageMachine reglage;
     reglage.Ligne = SansDelai;
-    reglage.Tampon = {8, 6, 2, 0, {}};
+    reglage.Tampon = {8, 6, 2, 0, {{5, -1}}};
     MachineSimulee machine(reglage);
     const Pc pc(machine.Chemin());
-    machine.Retient();
-    QCOMPARE(machine.Etat().XoffDits, 1);
     QVERIFY(pc.Ecrit("123456789abcdef"));
     QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Recus == 15; }));
     machine.Reprend();
     QVERIFY(pc.Ecrit("z\4"));
     QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
     const ProgrammeRecu programme = machine.Programmes()[0];
-    QCOMPARE(programme.Texte, "12345678z");
+    QCOMPARE(programme.Texte, "123456789abcz");
     QCOMPARE(programme.Caracteres, 17);
-    QCOMPARE(programme.Perdus, 7);
-    QCOMPARE(machine.Etat().SuiteXoff, 15);
+    QCOMPARE(programme.Perdus, 3);
+    QCOMPARE(machine.Etat().SuiteXoff, 10); // said at the fifth character, though all were written at once
     QCOMPARE(pc.Lit(2), "\x13\x11");
 }
 
-// The system's own flow control on the PC's side listens to the XOFF that the buffer brings about.
+// The system's own flow control on the PC's side listens to the machine.
 void TestMachine::TientLePc()
 {
     ReglageMachine reglage;
-    reglage.Tampon = {512, 400, 10, 0, {{200, -1}}};
+    reglage.Tampon = {512, 400, 10, 0, {}};
     reglage.Ligne = SansDelai;
     MachineSimulee machine(reglage);
     const Pc pc(machine.Chemin(), true);
     QVERIFY(pc.Ecrit(QByteArray(200, 'x')));
-    QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Retenu && etat.Recus == 200; }));
+    QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Recus == 200; }));
+    machine.Retient();
+    QCOMPARE(machine.Etat().XoffDits, 1);
     QTRY_VERIFY(!pc.PeutEcrire());
     machine.Reprend();
     QVERIFY(pc.Ecrit(QByteArray(100, 'y') + '\4'));
@@ -282,7 +282,7 @@ void TestMachine::LienPoseEtOte()
              QStringList());
     QFile fichier(chemin);
     QVERIFY(fichier.open(QIODevice::WriteOnly));
-    QVERIFY_EXCEPTION_THROWN(Lien(chemin, QStringLiteral("/dev/null")), std::filesystem::filesystem_error);
+    QVERIFY_THROWS_EXCEPTION(std::filesystem::filesystem_error, Lien(chemin, QStringLiteral("/dev/null")));
     QVERIFY(fichier.exists());
 }
 

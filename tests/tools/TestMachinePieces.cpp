@@ -241,7 +241,7 @@ void TestMachinePieces::OptionsEnsemble()
     QVERIFY(!options.Machine.XonXoff);
     for (const char *faux : {"--fin 256", "--fin 4,", "--vitesse -1", "--bits 0", "--reglage 9600", "--retient 0",
                              "--retient 5,x", "--tampon 10 --haut 11", "--bas 800", "--coupe x"})
-        QVERIFY_EXCEPTION_THROWN(lit(faux), OptionFausse);
+        QVERIFY_THROWS_EXCEPTION(OptionFausse, lit(faux));
 }
 
 QTEST_GUILESS_MAIN(TestMachinePieces)
