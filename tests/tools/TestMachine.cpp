@@ -76,7 +76,6 @@ QByteArray TousLesOctets()
         octets += char(code);
     return octets;
 }
-
 } // namespace
 
 class TestMachine : public QObject
