@@ -47,6 +47,27 @@ constexpr MessagePar MessageB{
      u"File of configuration of former version !\rModify to record some again.",
      u"Fichero de configuración de versión previa !\rModificarse registrar de nuevo."}};
 
+/// Asks for a .par file, first in dossier; FicConf and NomConf then name the choice. Raises DialogueAnnule.
+void DemandeFichierPar(const QString &dossier)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.FileName.clear();
+    dialogue.InitDir = dossier;
+    dialogue.DialogTitle = Texte(TitreChoix);
+    dialogue.Filter = Texte(FiltrePar);
+    dialogue.FilterIndex = 1;
+    dialogue.ShowOpen();
+    FicConf = dialogue.FileName;
+    NomConf = dialogue.FileTitle;
+}
+
+void MontreConfiguration()
+{
+    MontreDonnee(frmPrinc->Label4, NomConf);
+    MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
+}
+
 /// Reads FicConf and makes it the configuration in force, with all that follows from it on the main window.
 void MetEnService()
 {
@@ -55,6 +76,13 @@ void MetEnService()
     frmPrinc->ActiveEmission(!NomFichier.isEmpty() && !FicConf.isEmpty());
     MontreConfiguration();
     BatirChaines();
+}
+
+/// A cancelled choice is no failure.
+void MontreEchec(const Erreur &erreur, const MessagePar &message)
+{
+    if (erreur.Numero() != Erreur::DialogueAnnule)
+        MsgBox(Texte(message.texte), Boite::Exclamation, Texte(message.titre));
 }
 
 } // namespace
@@ -81,33 +109,21 @@ void Mnu_ChargeConf()
         if (!FicConf.isEmpty())
             MetEnService();
     } catch (const Erreur &erreur) {
-        if (erreur.Numero() != Erreur::DialogueAnnule)
-            MessageParErrone(false);
+        MontreEchec(erreur, MessageA);
     }
 }
 
-void DemandeFichierPar(const QString &dossier)
+void ChargeAutreConfiguration(const std::function<void()> &montre)
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.CancelError = true;
-    dialogue.FileName.clear();
-    dialogue.InitDir = dossier;
-    dialogue.DialogTitle = Texte(TitreChoix);
-    dialogue.Filter = Texte(FiltrePar);
-    dialogue.FilterIndex = 1;
-    dialogue.ShowOpen();
-    FicConf = dialogue.FileName;
-    NomConf = dialogue.FileTitle;
-}
-
-void MontreConfiguration()
-{
-    MontreDonnee(frmPrinc->Label4, NomConf);
-    MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
-}
-
-void MessageParErrone(bool transfert)
-{
-    const MessagePar &message = transfert ? MessageB : MessageA;
-    MsgBox(Texte(message.texte), Boite::Exclamation, Texte(message.titre));
+    try {
+        DemandeFichierPar(DosAppli);
+        if (FicConf.isEmpty())
+            return;
+        LireFichierPar(FicConf);
+        MontreConfiguration();
+        BatirChaines();
+        montre();
+    } catch (const Erreur &erreur) {
+        MontreEchec(erreur, MessageB);
+    }
 }

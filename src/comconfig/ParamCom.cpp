@@ -155,3 +155,8 @@ QString ChaineDebProg()
 {
     return Caracteres(DebProg);
 }
+
+QString ChaineCarFinLig()
+{
+    return Caracteres(FinLig);
+}

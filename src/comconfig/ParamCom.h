@@ -68,5 +68,6 @@ void EcrireFichierPar(const QString &chemin);
 /// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.
 void BatirChaines();
 
-/// The characters CarDebProg(1) to CarDebProg(NbCarDebProg).
+/// The characters CarDebProg(1) to CarDebProg(NbCarDebProg), CarFinLig(1) to CarFinLig(NbCarFinLig).
 QString ChaineDebProg();
+QString ChaineCarFinLig();

@@ -2,12 +2,14 @@
 
 #include "comconfig/CommandesConf.h"
 #include "locale/FrmLangue.h"
+#include "platform/MSComm.h"
 #include "shell/Demarrage.h"
 #include "shell/Document.h"
 #include "shell/Edition.h"
 #include "shell/Explorateur.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/CommandesTransfert.h"
+#include "transfer/EvenementsCom.h"
 #include "transfer/PortCom.h"
 
 namespace {
@@ -35,6 +37,8 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_FermePortCom, 0, Mnu_FermePortCom},
     {&Ui_FrmPrinc::Mnu_EmisProgCN, 9, Mnu_EmisProgCN},
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
+    {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
+    {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
     {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
     {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
@@ -51,5 +55,6 @@ void BrancheMenus()
     }
     QObject::connect(frmPrinc->Mnu_Edition, &QMenu::aboutToShow, frmPrinc, Mnu_Edition);
     QObject::connect(frmPrinc->Mnu_Com, &QMenu::aboutToShow, frmPrinc, Mnu_Com);
+    QObject::connect(frmPrinc->MSComm1, &MSComm::OnComm, frmPrinc, MSComm1_OnComm);
     QObject::connect(frmPrinc, &FrmPrinc::Form_Unload, frmPrinc, Form_Unload);
 }

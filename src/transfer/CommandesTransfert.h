@@ -1,6 +1,9 @@
 #pragma once
 
-// The menu commands that transfer. Each asks for confirmation and opens the transfer dialog.
+// The menu commands that transfer. A sending asks for confirmation and opens the transfer dialog; a reception first
+// asks for the file, the folder and the line ending.
 
 void Mnu_EmisProgCN(); ///< sends the program in the pane
 void Mnu_EmisJauge();  ///< sends the gauge file in the pane
+void Mnu_RecepProg();  ///< receives a program
+void Mnu_RecepJauge(); ///< receives a gauge file

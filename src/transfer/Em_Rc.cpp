@@ -5,15 +5,18 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
 #include "shell/CentreFeuille.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
+#include "transfer/Confirmation.h"
 #include "transfer/Emission.h"
+#include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
+#include "transfer/Reception.h"
 #include "transfer/Transfert.h"
 
 #include <QShowEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,10 +34,13 @@ struct Mode
     Texte3 consignes;
     Texte3 statut;
     const char *image;
+    bool emission; ///< the operator starts it by Command2; a reception starts by itself
 };
 
 constexpr Texte3 PuisCliquez{u"Puis cliquez sur le bouton < Emission... >", u"Then click on the button < Emission... >",
                              u"Luego presionan el botón < Emisión... >"};
+
+constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receive", u"En espera de recepción"};
 
 constexpr Mode Modes[] = {
     {EmissionProgramme,
@@ -44,7 +50,8 @@ constexpr Mode Modes[] = {
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento Programa\r\r"
       u"Apoyar en Salida de Ciclo"},
      PuisCliquez,
-     ":/icones/Mode_1.svg"},
+     ":/icones/Mode_1.svg",
+     true},
     {EmissionJauges,
      {u"Emission des jauges outils", u"Sending of the gauges tools", u"Emisión de las Cabidas instrumentos"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Chargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
@@ -53,10 +60,38 @@ constexpr Mode Modes[] = {
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento de las Cabidas instrumentos\r"
       u"Apoyar en Salida de Ciclo"},
      PuisCliquez,
-     ":/icones/Mode_2.svg"},
+     ":/icones/Mode_2.svg",
+     true},
+    {ReceptionProgramme,
+     {u"Réception d'un programme CN", u"Receiving of a program", u"Recepción de un programa"},
+     {u"\rSur CN faire une RàZ\r\rValider le mode Déchargement Programme\r\rAppuyer sur Départ de Cycle",
+      u"\rOn machine to make Restoring\r\rValidate the Déchargement mode Programs\r\rSupport on Departure of Cycle",
+      u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga Programa\r\r"
+      u"Apoyar en Salida de Ciclo"},
+     EnAttente,
+     ":/icones/Mode_3.svg",
+     false},
+    {ReceptionJauges,
+     {u"Réception des jauges outils", u"Receiving of the gauges tools", u"Recepción de las Cabidas instrumentos"},
+     {u"\rSur CN faire une RàZ\r\rValider le mode Déchargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
+      u"\rOn machine to make Restoring\r\rValidate the Unloading mode of the Gauges Tools\r\r"
+      u"Support on Departure of Cycle",
+      u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga de las Cabidas instrumentos\r\r"
+      u"Apoyar en Salida de Ciclo"},
+     EnAttente,
+     ":/icones/Mode_4.svg",
+     false},
 };
 
-constexpr int CoteImage = 64; // pixels
+constexpr Texte3 ForcerTitre{u"Forcer la fin de réception", u"Force the end of receiving",
+                             u"Forzar el final de recepción"};
+constexpr Texte3 ForcerTexte{
+    u"Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
+    u"Close the receiving and record the received lines !\rConfirm the end of receiving ?",
+    u"Cerrar la recepción y registrar las líneas recibidas !\rConfirme el final de recepción ?"};
+
+constexpr int RecepParFichier = 2; // of TypeRecep
+constexpr int CoteImage = 64;      // pixels
 
 } // namespace
 
@@ -72,13 +107,14 @@ Em_Rc::Em_Rc(QWidget *parent)
         politique.setRetainSizeWhenHidden(true);
         passager->setSizePolicy(politique);
     }
-    connect(Command1, &QPushButton::clicked, this, &Em_Rc::reject);
+    connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
+    connect(Command7, &QPushButton::clicked, this, &Em_Rc::Command7_Click);
 }
 
 /// The activation that starts things comes once, when the dialog is on the screen: coming back from a message box or
-/// from another program is none.
+/// from another program is none. What it starts runs from the event loop, with the dialog shown.
 void Em_Rc::showEvent(QShowEvent *evenement)
 {
     QDialog::showEvent(evenement);
@@ -102,29 +138,50 @@ void Em_Rc::Form_Activate()
     Label2->clear();
     MontreConfigurationChoisie();
     MontreMode();
+    if (TypeTransfert == ReceptionProgramme || TypeTransfert == ReceptionJauges)
+        QMetaObject::invokeMethod(this, &Em_Rc::Recoit, Qt::QueuedConnection);
 }
 
 void Em_Rc::MontreMode()
 {
-    for (const Mode &mode : Modes) {
-        if (mode.type != TypeTransfert)
-            continue;
-        setWindowTitle(Texte(mode.titre));
-        Label1->setText(PourAffichage(Texte(mode.consignes)));
-        PoseTexte(Label2, mode.statut);
-        Picture1->setPixmap(QIcon(QLatin1String(mode.image)).pixmap(CoteImage));
-        Command2->show();
+    const auto *const mode =
+        std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
+    if (mode == std::end(Modes))
+        return;
+    setWindowTitle(Texte(mode->titre));
+    Label1->setText(PourAffichage(Texte(mode->consignes)));
+    PoseTexte(Label2, mode->statut);
+    Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
+    Command2->setVisible(mode->emission);
+    Command7->setVisible(!mode->emission);
+    Frame1->show();
+    Frame4->hide();
+    Frame2->setVisible(mode->emission);
+    if (mode->emission)
         Command2->setFocus();
-        Command7->hide();
-        Frame1->show();
-        Frame4->hide();
-        Frame2->show();
+}
+
+void Em_Rc::Recoit()
+{
+    if (!ConfirmeTransfert()) {
+        reject();
+        return;
     }
+    constexpr void (*receptions[])(Ui::Em_Rc &) = {ReceptionLigne, ReceptionCar, ReceptionFichier};
+    if (ParamCom.TypeRecep >= 0 && ParamCom.TypeRecep < static_cast<int>(std::size(receptions)))
+        receptions[ParamCom.TypeRecep](*this);
 }
 
 void Em_Rc::MontreConfigurationChoisie()
 {
     Label5->setText(NomConf + QStringLiteral("  ") + ParamCom.Commentaire);
+}
+
+void Em_Rc::Command1_Click()
+{
+    if (FinTransfert == 1 && ParamCom.TypeRecep != RecepParFichier)
+        OuvreFichierRecu();
+    reject();
 }
 
 void Em_Rc::Command2_Click()
@@ -140,18 +197,16 @@ void Em_Rc::Command2_Click()
 
 void Em_Rc::Command3_Click()
 {
-    try {
-        DemandeFichierPar(DosAppli);
-        if (FicConf.isEmpty())
-            return;
-        LireFichierPar(FicConf);
-        MontreConfiguration();
+    ChargeAutreConfiguration([this] {
         MontreConfigurationChoisie();
-        BatirChaines();
-    } catch (const Erreur &erreur) {
-        if (erreur.Numero() != Erreur::DialogueAnnule)
-            MessageParErrone(true);
-    }
+        ChoisitFinLigneRecep();
+    });
+}
+
+void Em_Rc::Command7_Click()
+{
+    if (Confirme(Texte(ForcerTexte), Boite::Question | Boite::SecondBouton, Texte(ForcerTitre)))
+        ForceRECEPT = 1;
 }
 
 void Em_Rc::done(int resultat)
@@ -166,4 +221,6 @@ void Em_Rc::Form_Unload()
     frmPrinc->shpSend->setFillColor(Lampe::Rouge);
     frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
     CoupePortCOM(*this);
+    if (ParamCom.TypeRecep == RecepParFichier)
+        frmPrinc->Text2->hide();
 }

@@ -26,10 +26,13 @@ protected:
 
 private:
     void Form_Activate();
+    void Command1_Click();
     void Command2_Click();
     void Command3_Click();
+    void Command7_Click();
     void Form_Unload();
 
     void MontreMode();
+    void Recoit();
     void MontreConfigurationChoisie();
 };

@@ -1,5 +1,23 @@
 #include "transfer/Transfert.h"
 
+#include "comconfig/ParamCom.h"
+#include "shell/Chemins.h"
+
 int TypeTransfert = 0;
 int FinTransfert = 0;
 int AnnuleRECEPT = 0;
+int ForceRECEPT = 0;
+QString NomFicRecep;
+QString DossierRecep;
+int OptionFinLig = 0;
+QString ChaineFinLigRecep;
+
+void ChoisitFinLigneRecep()
+{
+    OptionFinLig = ParamCom.FinLigRecep >= 0 && ParamCom.FinLigRecep <= 3 ? ParamCom.FinLigRecep : 0;
+}
+
+QString CheminRecep()
+{
+    return AjouteAntislash(DossierRecep) + NomFicRecep;
+}

@@ -1,0 +1,17 @@
+#include "platform/FiltreTouches.h"
+
+#include <algorithm>
+
+FiltreTouches::FiltreTouches(const QString &interdits, QObject *parent)
+    : QValidator(parent)
+    , m_interdits(interdits)
+{
+}
+
+QValidator::State FiltreTouches::validate(QString &texte, int &curseur) const
+{
+    const auto interdit = [this](QChar caractere) { return m_interdits.contains(caractere); };
+    curseur -= static_cast<int>(std::count_if(texte.begin(), texte.begin() + curseur, interdit));
+    texte.removeIf(interdit);
+    return Acceptable;
+}

@@ -1,0 +1,54 @@
+#include "transfer/Confirmation.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "platform/Boites.h"
+#include "shell/Document.h"
+#include "transfer/Transfert.h"
+
+namespace {
+
+struct Question
+{
+    ModeTransfert type;
+    Texte3 titre;
+    Texte3 texte;
+};
+
+constexpr Question Questions[] = {
+    {EmissionProgramme,
+     {u"Emission d'un programme CN", u"Sending of a program numerical control",
+      u"Emisión de un programa pedido numérico"},
+     {u"Confirmez l'émission du programme ", u"Confirm the sending of the program ",
+      u"Confirme la emisión del programa "}},
+    {EmissionJauges,
+     {u"Emission d'un fichier Jauges Outils", u"Sending of a file Gauges Tools",
+      u"Emisión de un fichero Cabidas instrumentos"},
+     {u"Confirmez l'émission du fichier jauge ", u"Confirm the sending of a file Gauges Tools ",
+      u"Confirme la emisión del fichero mide "}},
+    {ReceptionProgramme,
+     {u"Réception d'un programme CN", u"Receiving of a program NC", u"Recepción de un programa"},
+     {u"Confirmez la réception du programme ", u"Confirm the reception of the program ",
+      u"Confirme la recepción del programa "}},
+    {ReceptionJauges,
+     {u"Réception d'un fichier jauge", u"Receiving of a file measures", u"Recepción de un fichero mide"},
+     {u"Confirmez la réception du fichier jauge ", u"Confirm the receiving of the file measures ",
+      u"Confirme la recepción del fichero mide "}},
+};
+constexpr Texte3 SurLePort{u" sur le port ", u" on the port ", u" sobre el puerto "};
+
+} // namespace
+
+bool ConfirmeTransfert()
+{
+    for (const Question &question : Questions) {
+        if (question.type != TypeTransfert)
+            continue;
+        const bool emission = question.type == EmissionProgramme || question.type == EmissionJauges;
+        const QString titre = Texte(question.titre);
+        return Confirme(titre + u'\r' + Texte(question.texte) + (emission ? TitreFichier : NomFicRecep) +
+                            Texte(SurLePort) + ParamCom.NomPort + QStringLiteral(" ?"),
+                        Boite::Question | Boite::SecondBouton, titre);
+    }
+    return false;
+}

@@ -1,0 +1,106 @@
+#include "transfer/FichierRecu.h"
+
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/CommonDialog.h"
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "platform/Lanceur.h"
+#include "shell/Document.h"
+#include "shell/FiltresFichiers.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/Transfert.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr Texte3 ResteTitre{u"Enregistrer les lignes reçues", u"Save the received lines",
+                            u"Guardar las líneas recibidas"};
+constexpr Texte3 ResteTexte{
+    u"La réception n'a pas abouti, les lignes déjà reçues ne sont pas enregistrées.\rLes enregistrer dans un fichier ?",
+    u"The reception has failed, the lines already received are not saved.\rSave them to a file ?",
+    u"La recepción no ha terminado, las líneas ya recibidas no están guardadas.\r¿Guardarlas en un fichero?"};
+
+/// A file of this many bytes or more is not shown after a reception.
+constexpr qint64 TailleTropGrande = 65536;
+
+void VidePane()
+{
+    NomFichier.clear();
+    TitreFichier.clear();
+    MontreDonnee(frmPrinc->Label2, QString());
+    frmPrinc->Text1->setText(QString());
+    frmPrinc->Text1->hide();
+    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_EnregistrerSous, frmPrinc->Mnu_Imprim,
+                            frmPrinc->Bouton(2), frmPrinc->Bouton(4), frmPrinc->Bouton(5)})
+        action->setEnabled(false);
+}
+
+void ProposeTraitementDeTexte(const QString &path)
+{
+    const QString question = QStringLiteral("Le fichier ") + NomFicRecep +
+                             QStringLiteral(" est trop volumineux pour être ouvert par Brovane.\r"
+                                            "           Voulez-vous utiliser WordPad pour lire ce fichier ?");
+    if (Confirme(question, Boite::Information, QStringLiteral("Message")))
+        LanceProgramme(QStringLiteral("write"), path);
+}
+
+void MontreFichier(const QString &path)
+{
+    frmPrinc->Text1->setText(LitFichierTexte(path));
+    TitreFenetre(CheminRecep());
+    MontreDonnee(frmPrinc->Label2, NomFicRecep);
+    frmPrinc->Text1->show();
+    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_EnregistrerSous, frmPrinc->Mnu_Imprim,
+                            frmPrinc->Bouton(2), frmPrinc->Bouton(4), frmPrinc->Bouton(5)})
+        action->setEnabled(true);
+    frmPrinc->ActiveEmission(true);
+}
+
+/// Loads a received file into the pane, or offers the word processor for one that is too large. A failure leaves the
+/// pane as it was.
+void OpenFileRecu(const QString &path)
+{
+    Saute([&] {
+        if (QFileInfo(path).size() >= TailleTropGrande) {
+            VidePane();
+            ProposeTraitementDeTexte(path);
+        } else {
+            MontreFichier(path);
+        }
+    });
+}
+
+} // namespace
+
+void OuvreFichierRecu()
+{
+    OpenFileRecu(CheminRecep());
+    NomFichier = CheminRecep();
+    TitreFichier = NomFicRecep;
+    FichierModifie = 0;
+}
+
+void SauveAilleurs(const QString &texte)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    while (!texte.isEmpty() && Confirme(Texte(ResteTexte), Boite::Exclamation, Texte(ResteTitre))) {
+        try {
+            dialogue.CancelError = true;
+            dialogue.FileName = CheminRecep();
+            dialogue.InitDir.clear();
+            dialogue.DialogTitle = Texte(ResteTitre);
+            dialogue.Filter = Texte(FiltreEnregistrer);
+            dialogue.FilterIndex = 0;
+            dialogue.Flags = CommonDialog::EcrasementDemande;
+            dialogue.ShowSave();
+            EcritFichierTexte(dialogue.FileName, texte);
+            return;
+        } catch (const Erreur &erreur) {
+            if (erreur.Numero() != Erreur::DialogueAnnule)
+                MsgBox(erreur.Description(), Boite::Critique, Texte(ResteTitre));
+        }
+    }
+}

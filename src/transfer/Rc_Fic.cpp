@@ -1,0 +1,127 @@
+#include "transfer/Rc_Fic.h"
+
+#include "comconfig/CommandesConf.h"
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/FichierTexte.h"
+#include "platform/FiltreTouches.h"
+#include "shell/Reglages.h"
+#include "transfer/Em_Rc.h"
+#include "transfer/Transfert.h"
+
+#include <algorithm>
+
+namespace {
+
+/// What a mode shows: extension, folder, picture, title.
+struct Mode
+{
+    ModeTransfert type;
+    const char16_t *extension;
+    const char *image;
+    Texte3 titre;
+};
+
+constexpr Mode Modes[] = {
+    {ReceptionProgramme,
+     u"iso",
+     ":/icones/Mode_3.svg",
+     {u"Réception d'un programme CN", u"Receiving of a NC program", u"Recepción de un programa CN"}},
+    {ReceptionJauges,
+     u"jau",
+     ":/icones/Mode_4.svg",
+     {u"Réception d'un fichier jauges outils", u"Receiving of a file gauges tools",
+      u"Recepción de un fichero Cabidas instrumentos"}},
+};
+
+constexpr Texte3 ExisteTitre{u"Fichier existant !", u"Existing file !", u"Fichero existente !"};
+constexpr Texte3 ExisteFichier{u"Remplacer le fichier ", u"Replace the file ", u"Sustituir al fichero "};
+constexpr Texte3 ExisteDossier{u"Dans le dossier ", u"In the directory ", u"En el directorio "};
+constexpr Texte3 ExisteQuestion{u"Confirmez  ?", u"Confirm  ?", u"Confirme  ?"};
+
+/// Characters that must not enter a file name.
+constexpr char16_t Interdits[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
+
+constexpr int RecepParFichier = 2; // of TypeRecep
+constexpr int CoteImage = 64;      // pixels
+
+} // namespace
+
+Rc_Fic::Rc_Fic(QWidget *parent)
+    : QDialog(parent)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    Text1->setValidator(new FiltreTouches(QString::fromUtf16(Interdits), Text1));
+    connect(Text1, &QLineEdit::textChanged, this, [this](const QString &nom) { Command2->setEnabled(!nom.isEmpty()); });
+    QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};
+    for (int i = 0; i < 4; ++i)
+        connect(options[i], &QRadioButton::toggled, this,
+                [i](bool choisi) { OptionFinLig = choisi ? i : OptionFinLig; });
+    connect(Command1, &QPushButton::clicked, this, &Rc_Fic::reject);
+    connect(Command2, &QPushButton::clicked, this, &Rc_Fic::Command2_Click);
+    connect(Command4, &QPushButton::clicked, this, &Rc_Fic::Command4_Click);
+    Form_Load();
+    Form_Activate();
+}
+
+void Rc_Fic::Form_Load()
+{
+    MontreFinLigne();
+    Label3->setText(TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : DosJauge);
+}
+
+void Rc_Fic::MontreFinLigne()
+{
+    ChoisitFinLigneRecep();
+    QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};
+    options[OptionFinLig]->setChecked(true);
+}
+
+void Rc_Fic::Form_Activate()
+{
+    MontreConfigurationChoisie();
+    const auto *const mode =
+        std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
+    if (mode == std::end(Modes))
+        return;
+    setWindowTitle(Texte(mode->titre));
+    Combo1->setCurrentText(QString::fromUtf16(mode->extension));
+    Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
+    Frame5->setVisible(TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepParFichier);
+}
+
+void Rc_Fic::MontreConfigurationChoisie()
+{
+    Label4->setText(NomConf + QStringLiteral("  ") + ParamCom.Commentaire);
+}
+
+void Rc_Fic::Command2_Click()
+{
+    NomFicRecep = (Text1->text().trimmed() + u'.' + Combo1->currentText()).toUpper();
+    DossierRecep = Label3->text().trimmed();
+    if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
+        return;
+    Em_Rc(this).exec();
+    if (FinTransfert == 1)
+        accept();
+    else
+        Form_Activate();
+}
+
+bool Rc_Fic::ConfirmeRemplacement() const
+{
+    return Confirme(Texte(ExisteFichier) + NomFicRecep + u'\r' + Texte(ExisteDossier) + DossierRecep + u'\r' +
+                        Texte(ExisteQuestion),
+                    Boite::Question | Boite::SecondBouton, Texte(ExisteTitre));
+}
+
+void Rc_Fic::Command4_Click()
+{
+    ChargeAutreConfiguration([this] {
+        MontreConfigurationChoisie();
+        MontreFinLigne();
+    });
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui_Rc_Fic.h"
+
+#include <QDialog>
+
+/// The modal dialog that stands before every reception: name, extension and folder of the file, configuration, line
+/// ending.
+///
+/// Label1 and Label2 name Text1 (file name) and Combo1 (extension); Label3: folder; Label4: current configuration;
+/// Option1_0 to Option1_3: line ending; Command1: give up; Command2: receive; Command3: other folder; Command4: other
+/// configuration.
+class Rc_Fic : public QDialog, public Ui::Rc_Fic
+{
+    Q_OBJECT
+
+public:
+    explicit Rc_Fic(QWidget *parent);
+
+private:
+    void Form_Load();
+    void Form_Activate();
+    void Command2_Click();
+    void Command4_Click();
+
+    void MontreConfigurationChoisie();
+    void MontreFinLigne();
+    bool ConfirmeRemplacement() const;
+};

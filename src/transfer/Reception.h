@@ -1,0 +1,23 @@
+#pragma once
+
+namespace Ui {
+class Em_Rc;
+}
+
+// The three ways of receiving. Each opens the port, takes what the machine sends until the end-of-transfer string or
+// the operator's forced end, sends that string back, closes the port, and writes the file CheminRecep(), which then
+// stands in the program pane. A cancelled reception stores and sends nothing. They run inside the dialog's activation;
+// in their yields its buttons run. A failure ends in ErreurPortCOM; when it is the file that could not be written, what
+// was received stands in the pane as a changed text without a name, to be saved elsewhere.
+//
+// dialogue: the controls that show the transfer; they have to live until the routine returns.
+
+/// Character by character: lines end by TypeFinLig. What has arrived behind a line end is dropped.
+void ReceptionCar(Ui::Em_Rc &dialogue);
+
+/// By line: a line is all that was read when it ends with ChaineFinLig; ChaineFinLigRecep is put behind it. What the
+/// port holds beyond it is dropped.
+void ReceptionLigne(Ui::Em_Rc &dialogue);
+
+/// Of a file until its end: the receive events gather the text in Text2 (EvenementsCom), without lines or limit.
+void ReceptionFichier(Ui::Em_Rc &dialogue);
