@@ -55,7 +55,8 @@ Rc_Fic::Rc_Fic(QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     Text1->setValidator(new FiltreTouches(QString::fromUtf16(Interdits), Text1));
-    connect(Text1, &QLineEdit::textChanged, this, [this](const QString &nom) { Command2->setEnabled(!nom.isEmpty()); });
+    connect(Text1, &QLineEdit::textChanged, this,
+            [this](const QString &texte) { Command2->setEnabled(!texte.isEmpty()); });
     QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};
     for (int i = 0; i < 4; ++i)
         connect(options[i], &QRadioButton::toggled, this,
