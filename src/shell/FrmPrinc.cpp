@@ -30,10 +30,17 @@ int Couleur(bool active)
 
 } // namespace
 
+/// The icons lie in a library, and the linker would leave them there.
+static void PrendIcones()
+{
+    Q_INIT_RESOURCE(icones);
+}
+
 FrmPrinc::FrmPrinc()
     : MSComm1(new MSComm(this))
     , CommonDialog1(new CommonDialog(this))
 {
+    PrendIcones();
     setupUi(this);
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is not for hiding
     NommeControles();

@@ -65,6 +65,13 @@ Em_Rc::Em_Rc(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
+    // The buttons stay where they are while lines of the dialog come and go above them.
+    for (QWidget *passager : {static_cast<QWidget *>(Progression), static_cast<QWidget *>(Label3),
+                              static_cast<QWidget *>(Label4), static_cast<QWidget *>(Frame2)}) {
+        QSizePolicy politique = passager->sizePolicy();
+        politique.setRetainSizeWhenHidden(true);
+        passager->setSizePolicy(politique);
+    }
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::reject);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
@@ -89,6 +96,8 @@ void Em_Rc::Form_Activate()
     Command4->setText(Texte(AnnulerBanc));
     PoseTexte(Label3, LigneEcho);
     PoseTexte(Label4, CaractereEcho);
+    Label3->setVisible(ParamCom.Echo == 1);
+    Label4->setVisible(ParamCom.Echo == 1);
     Label1->clear();
     Label2->clear();
     MontreConfigurationChoisie();
@@ -105,6 +114,7 @@ void Em_Rc::MontreMode()
         PoseTexte(Label2, mode.statut);
         Picture1->setPixmap(QIcon(QLatin1String(mode.image)).pixmap(CoteImage));
         Command2->show();
+        Command2->setFocus();
         Command7->hide();
         Frame1->show();
         Frame4->hide();
