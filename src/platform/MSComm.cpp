@@ -1,0 +1,428 @@
+#include "platform/MSComm.h"
+
+#include "platform/CedeLaMain.h"
+#include "platform/LignePosix.h"
+#include "platform/PageCode1252.h"
+
+#include <QAbstractEventDispatcher>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+using namespace std::chrono_literals;
+using Duree = CadenceEmission::Duree;
+using Horloge = std::chrono::steady_clock;
+
+constexpr int PortMax = 16;
+constexpr int TailleTamponUsuelle = 1024;
+constexpr int ChaineMax = 100; // longest end-of-transfer chain
+constexpr auto PeriodeSurveillance = 50ms;
+constexpr Duree Jeu = 20ms; // what drivers and adapters add to a line time
+
+constexpr int EvtEmission = 1;
+constexpr int EvtReception = 2;
+
+constexpr int EvtAnneau = 6;
+
+constexpr std::array<std::pair<unsigned CompteursLigne::*, int>, 8> EvtCompteurs = {{
+    {&CompteursLigne::cts, 3},
+    {&CompteursLigne::dsr, 4},
+    {&CompteursLigne::cd, 5},
+    {&CompteursLigne::pauses, 1001},
+    {&CompteursLigne::trame, 1004},
+    {&CompteursLigne::cadence, 1006},
+    {&CompteursLigne::debordements, 1008},
+    {&CompteursLigne::parite, 1009},
+}};
+
+constexpr std::array<std::pair<bool EtatsLigne::*, int>, 3> EvtEtats = {{
+    {&EtatsLigne::cts, 3},
+    {&EtatsLigne::dsr, 4},
+    {&EtatsLigne::cd, 5},
+}};
+
+} // namespace
+
+MSComm::MSComm(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_emission, &EmissionPort::SousSeuil, this, [this] { m_evenements.Annonce(EvtEmission); });
+    connect(&m_emission, &EmissionPort::AttendCts, this, &MSComm::Surveille);
+    connect(&m_emission, &EmissionPort::Panne, this, &MSComm::Panne);
+    m_surveillance.setInterval(PeriodeSurveillance);
+    connect(&m_surveillance, &QTimer::timeout, this, &MSComm::Surveille);
+    connect(&m_evenements, &EvenementsPort::Evenement, this, &MSComm::Delivre);
+}
+
+MSComm::~MSComm()
+{
+    // Nothing may run any more, so a line still open is not waited for.
+    if (m_ligne)
+        m_ligne->JetteEmission();
+}
+
+// ---- Opening and closing
+
+QString MSComm::CheminPort(int numPort) const
+{
+    QStringList chemins;
+    if (!m_dossierPorts.isEmpty())
+        chemins << QDir(m_dossierPorts).filePath(QStringLiteral("Com%1").arg(numPort));
+    chemins << QStringLiteral("/dev/com%1").arg(numPort) << QStringLiteral("/dev/ttyS%1").arg(numPort - 1);
+    const auto trouve =
+        std::find_if(chemins.cbegin(), chemins.cend(), [](const QString &c) { return QFileInfo::exists(c); });
+    return trouve == chemins.cend() ? QString() : *trouve;
+}
+
+void MSComm::setCommPort(int numPort)
+{
+    if (numPort < 1 || numPort > PortMax)
+        throw Erreur(ErreurPort::Inconnu, QStringLiteral("Com%1").arg(numPort));
+    if (m_ligne && numPort != m_commPort)
+        throw Erreur(ErreurPort::DejaOuvert, QStringLiteral("CommPort"));
+    m_commPort = numPort;
+}
+
+void MSComm::setPortOpen(bool ouvert)
+{
+    if (!ouvert) {
+        if (m_ligne)
+            Ferme();
+        return;
+    }
+    if (m_ligne)
+        throw Erreur(ErreurPort::Occupe, QStringLiteral("PortOpen"));
+    Ouvre();
+}
+
+std::unique_ptr<LigneSerie> MSComm::OuvreLigne() const
+{
+    if (m_fabrique)
+        return m_fabrique(m_commPort);
+    const QString chemin = CheminPort(m_commPort);
+    if (chemin.isEmpty())
+        throw Erreur(ErreurPort::Inconnu, QStringLiteral("Com%1").arg(m_commPort));
+    return std::make_unique<LignePosix>(chemin);
+}
+
+void MSComm::Ouvre()
+{
+    std::unique_ptr<LigneSerie> ligne = OuvreLigne();
+    // Linux raises both lines as it opens the device; a machine that must not see them gets them lowered at once.
+    ligne->PoseDTR(m_dtr);
+    ligne->PoseRTS(m_rts || m_reglage.ARtsCts());
+    ligne->Regle(m_reglage);
+    ligne->JetteReception(); // a closed port receives nothing
+
+    m_ligne = std::move(ligne);
+    m_emission.Ouvre(*m_ligne, m_reglage);
+    m_etats = m_ligne->Etats();
+    m_compteurs = m_ligne->Compteurs();
+    SuitCts();
+    m_lecture = std::make_unique<QSocketNotifier>(m_ligne->Descripteur(), QSocketNotifier::Read);
+    connect(m_lecture.get(), &QSocketNotifier::activated, this, &MSComm::Recolte);
+    m_surveillance.start();
+}
+
+void MSComm::Ferme()
+{
+    const bool vivante = !m_panne;
+    const bool abandon = vivante && (m_emission.Nombre() > 0 || m_emission.Retenue());
+    const CadenceEmission cadence = m_emission.Cadence();
+    // From here on the port is closed for everyone who runs while the line empties.
+    const std::unique_ptr<LigneSerie> ligne = std::move(m_ligne);
+    m_emission.Ferme();
+    m_lecture.reset();
+    m_surveillance.stop();
+    m_evenements.Oublie();
+    m_panne.reset();
+    m_recus.clear();
+    m_etats.reset();
+    if (!vivante)
+        return;
+
+    const auto partie = [&] { return cadence.Reste(Horloge::now()) == Duree(0) && ligne->NonEmis() == 0; };
+    if (!abandon)
+        Attend(cadence.Reste(Horloge::now()) + Jeu, partie);
+    // A system that still holds characters would make the closing wait for a machine that may never take them.
+    if (abandon || ligne->NonEmis() > 0)
+        ligne->JetteEmission();
+}
+
+/// Keeps the event loop turning until fini holds, no longer than limite. The operator's input and OnComm wait.
+void MSComm::Attend(Duree limite, const std::function<bool()> &fini)
+{
+    QAbstractEventDispatcher *repartiteur = QAbstractEventDispatcher::instance();
+    if (repartiteur == nullptr || fini())
+        return;
+    const QDeadlineTimer echeance(limite, Qt::PreciseTimer);
+    QTimer battement;
+    battement.setTimerType(Qt::PreciseTimer);
+    battement.start(1ms);
+    m_evenements.Retient();
+    while (!fini() && !echeance.hasExpired())
+        repartiteur->processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    m_evenements.Relache();
+}
+
+void MSComm::ExigeOuvert() const
+{
+    if (!m_ligne)
+        throw Erreur(ErreurPort::Ferme, QStringLiteral("PortOpen"));
+}
+
+void MSComm::ExigeVivant() const
+{
+    ExigeOuvert();
+    if (m_panne)
+        throw Erreur(*m_panne);
+}
+
+/// The device has gone. Its descriptor would wake the notifiers without end.
+void MSComm::Panne(const Erreur &erreur)
+{
+    m_panne = erreur;
+    m_lecture->setEnabled(false);
+    m_emission.Arrete();
+    m_surveillance.stop();
+    m_etats.reset();
+    SignaleMouvement();
+}
+
+// ---- Settings
+
+void MSComm::PoseReglage(const ReglagePort &reglage)
+{
+    if (m_ligne) {
+        m_ligne->Regle(reglage);
+        if (!reglage.ARtsCts() || !m_reglage.ARtsCts())
+            m_ligne->PoseRTS(m_rts || reglage.ARtsCts());
+        m_emission.Regle(reglage);
+    }
+    m_reglage = reglage;
+    SuitCts();
+}
+
+void MSComm::setSettings(const QString &settings)
+{
+    ReglagePort reglage = LitReglagePort(settings);
+    reglage.flux = m_reglage.flux;
+    PoseReglage(reglage);
+    m_settings = settings;
+}
+
+void MSComm::setHandshaking(int flux)
+{
+    if (flux < 0 || flux > 3)
+        throw Erreur(ErreurPort::Reglage, QStringLiteral("Handshaking %1").arg(flux));
+    ReglagePort reglage = m_reglage;
+    reglage.flux = static_cast<ControleFlux>(flux);
+    PoseReglage(reglage);
+}
+
+void MSComm::setRTSEnable(bool actif)
+{
+    m_rts = actif;
+    if (m_ligne && !m_reglage.ARtsCts())
+        m_ligne->PoseRTS(actif);
+}
+
+void MSComm::setDTREnable(bool actif)
+{
+    m_dtr = actif;
+    if (m_ligne)
+        m_ligne->PoseDTR(actif);
+}
+
+void MSComm::setInBufferSize(int taille)
+{
+    if (m_ligne && taille != m_inBufferSize)
+        throw Erreur(ErreurPort::DejaOuvert, QStringLiteral("InBufferSize"));
+    m_inBufferSize = taille;
+}
+
+void MSComm::setOutBufferSize(int taille)
+{
+    if (m_ligne && taille != m_outBufferSize)
+        throw Erreur(ErreurPort::DejaOuvert, QStringLiteral("OutBufferSize"));
+    m_outBufferSize = taille;
+}
+
+void MSComm::setRThreshold(int seuil)
+{
+    if (seuil == m_rThreshold)
+        return;
+    m_rThreshold = seuil;
+    ControleSeuilReception();
+}
+
+// ---- Receiving
+
+int MSComm::PlaceReception() const
+{
+    const int taille = m_inBufferSize > 0 ? m_inBufferSize : TailleTamponUsuelle;
+    return taille - static_cast<int>(m_recus.size());
+}
+
+void MSComm::Recolte()
+{
+    if (PlaceReception() <= 0) {
+        m_lecture->setEnabled(false);
+        return;
+    }
+    try {
+        const LectureLigne lecture = m_ligne->Lit(PlaceReception());
+        Range(lecture);
+        m_lecture->setEnabled(PlaceReception() > 0);
+        if (lecture.erreur)
+            Surveille();
+    } catch (const Erreur &erreur) {
+        Panne(erreur);
+    }
+}
+
+void MSComm::Range(const LectureLigne &lecture)
+{
+    QByteArray octets = lecture.octets;
+    const QByteArray remplacant = OctetsEn1252(m_parityReplace.left(1));
+    if (!remplacant.isEmpty()) {
+        for (const qsizetype position : lecture.fausses)
+            octets[position] = remplacant.at(0);
+    }
+    if (m_nullDiscard)
+        octets.removeIf([](char octet) { return octet == '\0'; });
+    if (octets.isEmpty())
+        return;
+    m_recus += octets;
+    SignaleMouvement();
+    ControleSeuilReception();
+}
+
+/// Room was made in the receive buffer.
+void MSComm::ReprendRecolte()
+{
+    if (!m_panne)
+        m_lecture->setEnabled(true);
+}
+
+/// A full buffer counts as the threshold reached: no more can come before something is read.
+bool MSComm::SeuilReceptionAtteint() const
+{
+    return m_rThreshold > 0 && !m_recus.isEmpty() && (m_recus.size() >= m_rThreshold || PlaceReception() <= 0);
+}
+
+void MSComm::ControleSeuilReception()
+{
+    if (SeuilReceptionAtteint())
+        m_evenements.Annonce(EvtReception);
+}
+
+QString MSComm::Input()
+{
+    ExigeOuvert();
+    if (m_recus.isEmpty()) {
+        ExigeVivant();
+        return {};
+    }
+    const qsizetype nombre = m_inputLen > 0 ? std::min<qsizetype>(m_inputLen, m_recus.size()) : m_recus.size();
+    const QString texte = TexteDe1252(m_recus.left(nombre));
+    m_recus.remove(0, nombre);
+    ReprendRecolte();
+    // A loop that reads piece by piece comes back for the next one.
+    if (!m_recus.isEmpty())
+        SignaleMouvement();
+    return texte;
+}
+
+int MSComm::InBufferCount() const
+{
+    ExigeOuvert();
+    if (m_recus.isEmpty())
+        ExigeVivant();
+    return static_cast<int>(m_recus.size());
+}
+
+void MSComm::ViderReception()
+{
+    ExigeVivant();
+    m_recus.clear();
+    m_ligne->JetteReception();
+    ReprendRecolte();
+}
+
+// ---- Sending
+
+void MSComm::setSThreshold(int seuil)
+{
+    m_sThreshold = seuil;
+    m_emission.setSeuil(seuil);
+}
+
+void MSComm::Output(const QString &texte)
+{
+    ExigeVivant();
+    m_emission.Ajoute(OctetsEn1252(texte));
+}
+
+int MSComm::OutBufferCount() const
+{
+    ExigeVivant();
+    return m_emission.Nombre();
+}
+
+void MSComm::ViderEmission()
+{
+    ExigeVivant();
+    const auto termine = [this] { return !m_ligne || m_panne || m_emission.Nombre() == 0 || m_emission.Retenue(); };
+    const CadenceEmission &cadence = m_emission.Cadence();
+    const int nombre = std::min(m_emission.Nombre(), ChaineMax) + cadence.Avance();
+    Attend(cadence.Temps(nombre) + Jeu, termine);
+    if (m_ligne && !m_panne && m_emission.Nombre() > 0)
+        m_emission.Jette();
+}
+
+// ---- Line states and errors
+
+void MSComm::Surveille()
+{
+    const std::optional<EtatsLigne> etats = m_ligne->Etats();
+    const EtatsLigne avant = m_etats.value_or(EtatsLigne());
+    const EtatsLigne apres = etats.value_or(EtatsLigne());
+    const CompteursLigne compteurs = m_ligne->Compteurs();
+
+    for (const auto &[champ, code] : EvtEtats) {
+        if (apres.*champ != avant.*champ)
+            m_evenements.Annonce(code);
+    }
+    for (const auto &[champ, code] : EvtCompteurs) {
+        if (compteurs.*champ != m_compteurs.*champ)
+            m_evenements.Annonce(code);
+    }
+    // A ring is one event, though the driver counts its end.
+    if (!avant.anneau && (apres.anneau || compteurs.anneau != m_compteurs.anneau))
+        m_evenements.Annonce(EvtAnneau);
+
+    m_etats = etats;
+    m_compteurs = compteurs;
+    SuitCts();
+}
+
+void MSComm::SuitCts()
+{
+    m_emission.RetientCts(m_reglage.ARtsCts() && m_etats && !m_etats->cts);
+}
+
+void MSComm::Delivre()
+{
+    // What was announced may have been read or thrown away meanwhile.
+    if (CommEvent() == EvtReception && !SeuilReceptionAtteint())
+        return;
+    Q_EMIT OnComm();
+}
