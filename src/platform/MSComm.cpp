@@ -284,7 +284,6 @@ void MSComm::Recolte()
     try {
         const LectureLigne lecture = m_ligne->Lit(PlaceReception());
         Range(lecture);
-        m_lecture->setEnabled(PlaceReception() > 0);
         if (lecture.erreur)
             Surveille();
     } catch (const Erreur &erreur) {
