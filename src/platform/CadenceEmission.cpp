@@ -5,7 +5,8 @@
 namespace {
 
 constexpr int AvanceMin = 16; // what the FIFO of a common serial chip takes anyway
-constexpr CadenceEmission::Duree AvanceTemps = std::chrono::milliseconds(15);
+// At 115200 more would be too much to come after an XOFF, and less too little for a PC that is busy elsewhere.
+constexpr CadenceEmission::Duree AvanceTemps = std::chrono::milliseconds(12);
 
 } // namespace
 
@@ -36,8 +37,8 @@ CadenceEmission::Duree CadenceEmission::Reste(Instant maintenant) const
 
 CadenceEmission::Duree CadenceEmission::AvantRemise(Instant maintenant) const
 {
-    const int quart = m_avance / 4;
-    return std::max(Duree(0), Reste(maintenant) - Temps(m_avance - quart));
+    const int part = m_avance / 8;
+    return std::max(Duree(0), Reste(maintenant) - Temps(m_avance - part));
 }
 
 void CadenceEmission::Suspend(Instant maintenant)

@@ -23,7 +23,7 @@ public:
 
     /// Line time of that many characters.
     Duree Temps(qint64 nombre) const { return nombre * m_caractere; }
-    /// The lead in characters: 16, or 15 ms of line time where that is more.
+    /// The lead in characters: 16, or 12 ms of line time where that is more.
     int Avance() const { return m_avance; }
 
     /// How many characters may be handed over now.
@@ -33,8 +33,8 @@ public:
     void Remet(int nombre, Instant maintenant);
     /// Line time of what is on its way; grows to no more than that of the lead.
     Duree Reste(Instant maintenant) const;
-    /// Time until a quarter of the lead is free again. Handing over that early leaves three quarters of the lead for
-    /// the delays of a busy PC.
+    /// Time until an eighth of the lead is free again. Handing over that early leaves nearly the whole lead for the
+    /// delays of a busy PC.
     Duree AvantRemise(Instant maintenant) const;
 
     /// The machine holds the line: nothing moves until Reprend. Both may be called twice.

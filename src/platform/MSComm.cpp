@@ -24,11 +24,11 @@ constexpr int PortMax = 16;
 constexpr int TailleTamponUsuelle = 1024;
 constexpr int ChaineMax = 100; // longest end-of-transfer chain
 constexpr auto PeriodeSurveillance = 50ms;
-constexpr Duree Jeu = 20ms; // what drivers and adapters add to a line time
+constexpr Duree Transit = 2ms; // what an adapter adds to a line time
+constexpr Duree Jeu = 20ms;    // after that a line is taken to stand still
 
 constexpr int EvtEmission = 1;
 constexpr int EvtReception = 2;
-
 constexpr int EvtAnneau = 6;
 
 constexpr std::array<std::pair<unsigned CompteursLigne::*, int>, 8> EvtCompteurs = {{
@@ -131,6 +131,8 @@ void MSComm::Ouvre()
     m_surveillance.start();
 }
 
+/// What has left the queue gets its line time. Characters still in the queue say that the sending was cancelled: then,
+/// and on a line that is held, nothing is waited for.
 void MSComm::Ferme()
 {
     const bool vivante = !m_panne;
@@ -148,9 +150,10 @@ void MSComm::Ferme()
     if (!vivante)
         return;
 
-    const auto partie = [&] { return cadence.Reste(Horloge::now()) == Duree(0) && ligne->NonEmis() == 0; };
+    const Duree tempsLigne = cadence.Reste(Horloge::now()) + cadence.Temps(2) + Transit;
+    const auto fin = Horloge::now() + tempsLigne;
     if (!abandon)
-        Attend(cadence.Reste(Horloge::now()) + Jeu, partie);
+        Attend(tempsLigne + Jeu, [&] { return Horloge::now() >= fin && ligne->NonEmis() == 0; });
     // A system that still holds characters would make the closing wait for a machine that may never take them.
     if (abandon || ligne->NonEmis() > 0)
         ligne->JetteEmission();
@@ -201,6 +204,7 @@ void MSComm::Panne(const Erreur &erreur)
 void MSComm::PoseReglage(const ReglagePort &reglage)
 {
     if (m_ligne) {
+        ExigeVivant();
         m_ligne->Regle(reglage);
         if (!reglage.ARtsCts() || !m_reglage.ARtsCts())
             m_ligne->PoseRTS(m_rts || reglage.ARtsCts());
@@ -280,7 +284,6 @@ void MSComm::Recolte()
     try {
         const LectureLigne lecture = m_ligne->Lit(PlaceReception());
         Range(lecture);
-        m_lecture->setEnabled(PlaceReception() > 0);
         if (lecture.erreur)
             Surveille();
     } catch (const Erreur &erreur) {
@@ -332,7 +335,7 @@ QString MSComm::Input()
         return {};
     }
     const qsizetype nombre = m_inputLen > 0 ? std::min<qsizetype>(m_inputLen, m_recus.size()) : m_recus.size();
-    const QString texte = TexteDe1252(m_recus.left(nombre));
+    QString texte = TexteDe1252(m_recus.left(nombre));
     m_recus.remove(0, nombre);
     ReprendRecolte();
     // A loop that reads piece by piece comes back for the next one.

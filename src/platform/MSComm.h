@@ -81,7 +81,7 @@ public:
     void setPortOpen(bool ouvert);
 
     /// Speed, parity, data bits and stop bits, as LitReglagePort() reads them. A refused text changes nothing; while
-    /// the port is open it raises also what the device refuses.
+    /// the port is open it raises also what the device refuses, or Lecture once it has gone.
     QString Settings() const { return m_settings; }
     void setSettings(const QString &settings);
     /// What the line carries with these Settings.

@@ -84,11 +84,8 @@ int PrepareTerminal(int fd)
         return errno;
     RendBrut(terminal);
     terminal.c_cflag |= CREAD | CLOCAL;
-    // Taking IXON away is what starts a stopped terminal, so it has to stand first: a pseudo-terminal keeps its XOFF
+    // Taking IXON away, which RendBrut does, is also what starts a stopped terminal: a pseudo-terminal keeps its XOFF
     // from one use to the next as long as its other end is open.
-    terminal.c_iflag = IXON;
-    Reprise([&] { return ioctl(fd, TCSETS2, &terminal); });
-    terminal.c_iflag = 0;
     return Reprise([&] { return ioctl(fd, TCSETS2, &terminal); }) < 0 ? errno : 0;
 }
 

@@ -10,6 +10,9 @@ using Duree = CadenceEmission::Duree;
 class TestCadenceEmission : public QObject
 {
     Q_OBJECT
+
+    static constexpr CadenceEmission::Instant m_t{1h};
+
 private Q_SLOTS:
     void avance_data();
     void avance();
@@ -18,9 +21,6 @@ private Q_SLOTS:
     void retardSansRafale();
     void systemeRetenu();
     void suspension();
-
-private:
-    CadenceEmission::Instant m_t{1h};
 };
 
 void TestCadenceEmission::avance_data()
@@ -30,8 +30,8 @@ void TestCadenceEmission::avance_data()
     QTest::addColumn<int>("avance");
     QTest::newRow("slow") << 110 << 11.0 << 16;
     QTest::newRow("usual") << 9600 << 10.0 << 16;
-    QTest::newRow("fast") << 115200 << 10.0 << 172;
-    QTest::newRow("half bits") << 115200 << 8.5 << 203;
+    QTest::newRow("fast") << 115200 << 10.0 << 138;
+    QTest::newRow("half bits") << 115200 << 8.5 << 162;
 }
 
 void TestCadenceEmission::avance()

@@ -8,18 +8,18 @@
 class TestCedeLaMain : public QObject
 {
     Q_OBJECT
-private Q_SLOTS:
-    void repartitTout();
-    void dortSansMouvement();
-    void gestionnaireQuiCede();
-    void avalancheBornee();
 
-private:
     template <typename Action>
     void Poste(Action action)
     {
         QMetaObject::invokeMethod(this, action, Qt::QueuedConnection);
     }
+
+private Q_SLOTS:
+    void repartitTout();
+    void dortSansMouvement();
+    void gestionnaireQuiCede();
+    void avalancheBornee();
 };
 
 void TestCedeLaMain::repartitTout()
