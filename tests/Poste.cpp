@@ -37,11 +37,13 @@ Poste::~Poste()
 void Poste::RemetEnregistrements()
 {
     ParamCom = {};
-    for (QString *texte : {&FicConf, &NomConf, &NomFichier, &TitreFichier, &TexteAnnuler, &DosAppli, &DosDefaut,
-                           &FicConfDefaut, &DosConf, &DosJauge, &EditeurCN})
+    for (QString *texte :
+         {&FicConf, &NomConf, &NomFichier, &TitreFichier, &TexteAnnuler, &DosAppli, &DosDefaut, &FicConfDefaut,
+          &DosConf, &DosJauge, &EditeurCN, &NomFicRecep, &DossierRecep, &ChaineFinLigRecep})
         texte->clear();
-    for (int *nombre : {&LangIndex, &FichierModifie, &IndexFiltre, &OptDosDefaut, &OptConfDefaut, &OptExplorateur,
-                        &NbLignes, &LigneMaxi, &TypeTransfert, &FinTransfert, &AnnuleRECEPT})
+    for (int *nombre :
+         {&LangIndex, &FichierModifie, &IndexFiltre, &OptDosDefaut, &OptConfDefaut, &OptExplorateur, &NbLignes,
+          &LigneMaxi, &TypeTransfert, &FinTransfert, &AnnuleRECEPT, &ForceRECEPT, &OptionFinLig})
         *nombre = 0;
     PortOuvert = false;
     VideLignes();
