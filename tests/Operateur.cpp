@@ -63,20 +63,20 @@ Operateur::Operateur()
 
 Operateur::~Operateur()
 {
-    for (const Attente &attente : m_attentes)
-        if (!m_abandon)
-            Echec(QStringLiteral("never came: ") + attente.fenetre, attente.ou);
+    for (const Attente &attente : m_abandon ? std::deque<Attente>() : m_attentes)
+        Echec(QStringLiteral("never came: ") + attente.fenetre, attente.ou);
 }
 
-void Operateur::Repond(const QString &titre, const QString &texte, int drapeaux, QMessageBox::StandardButton bouton,
+void Operateur::Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
                        Lieu ou)
 {
     Fait(
-        QStringLiteral("MsgBox"),
-        [=, this](QWidget &fenetre) {
+        "MsgBox",
+        [this, titre = titre.toString(), texte = PourAffichage(texte.toString()), drapeaux, bouton,
+         ou](QWidget &fenetre) {
             auto &boite = dynamic_cast<QMessageBox &>(fenetre);
             Egal(boite.windowTitle(), titre, "title", ou);
-            Egal(boite.text(), PourAffichage(texte), "text", ou);
+            Egal(boite.text(), texte, "text", ou);
             QTest::qCompare(Drapeaux(boite), drapeaux, "icon and buttons", "foretold", ou.file_name(), int(ou.line()));
             if (QAbstractButton *const presse = boite.button(bouton))
                 presse->click();
@@ -86,11 +86,11 @@ void Operateur::Repond(const QString &titre, const QString &texte, int drapeaux,
         {}, ou);
 }
 
-void Operateur::Choisit(const QString &chemin, Lieu ou)
+void Operateur::Choisit(QAnyStringView chemin, Lieu ou)
 {
     Fait(
-        QStringLiteral("CommonDialog"),
-        [chemin](QWidget &fenetre) {
+        "CommonDialog",
+        [chemin = chemin.toString()](QWidget &fenetre) {
             fenetre.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(chemin);
             QMetaObject::invokeMethod(&fenetre, "accept");
         },
@@ -100,15 +100,14 @@ void Operateur::Choisit(const QString &chemin, Lieu ou)
 void Operateur::AnnuleChoix(Lieu ou)
 {
     Fait(
-        QStringLiteral("CommonDialog"), [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "reject"); }, {},
-        ou);
+        "CommonDialog", [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "reject"); }, {}, ou);
 }
 
-void Operateur::Presse(const QString &fenetre, const QString &bouton, Condition quand, Lieu ou)
+void Operateur::Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand, Lieu ou)
 {
     Fait(
         fenetre,
-        [bouton, ou](QWidget &ouverte) {
+        [bouton = bouton.toString(), ou](QWidget &ouverte) {
             auto *const presse = ouverte.findChild<QAbstractButton *>(bouton);
             if (presse == nullptr || !presse->isVisible() || !presse->isEnabled())
                 Echec(QStringLiteral("cannot be pressed: ") + bouton, ou);
@@ -118,28 +117,28 @@ void Operateur::Presse(const QString &fenetre, const QString &bouton, Condition 
         std::move(quand), ou);
 }
 
-void Operateur::Ferme(const QString &fenetre, Condition quand, Lieu ou)
+void Operateur::Ferme(QAnyStringView fenetre, Condition quand, Lieu ou)
 {
     Fait(
         fenetre, [](QWidget &ouverte) { ouverte.close(); }, std::move(quand), ou);
 }
 
-void Operateur::Fait(const QString &fenetre, Geste geste, Condition quand, Lieu ou)
+void Operateur::Fait(QAnyStringView fenetre, Geste geste, Condition quand, Lieu ou)
 {
-    m_attentes.push_back({fenetre, std::move(quand), std::move(geste), ou});
+    m_attentes.push_back({fenetre.toString(), std::move(quand), std::move(geste), ou});
 }
 
-void Operateur::Menu(const QString &entree, Lieu ou)
+void Operateur::Menu(QAnyStringView entree, Lieu ou)
 {
     if (Offre(entree))
-        frmPrinc->findChild<QAction *>(entree)->trigger();
+        frmPrinc->findChild<QAction *>(entree.toString())->trigger();
     else
-        Echec(QStringLiteral("not offered: ") + entree, ou);
+        Echec(QStringLiteral("not offered: ") + entree.toString(), ou);
 }
 
-bool Operateur::Offre(const QString &entree)
+bool Operateur::Offre(QAnyStringView entree)
 {
-    const QAction *etape = frmPrinc->findChild<QAction *>(entree);
+    const QAction *etape = frmPrinc->findChild<QAction *>(entree.toString());
     for (QMenu *menu = MenuDe(etape); menu != nullptr; menu = MenuDe(etape)) {
         Q_EMIT menu->aboutToShow();
         if (!etape->isEnabled())
@@ -158,10 +157,10 @@ void Operateur::Barre(int position, Lieu ou)
         Echec(QStringLiteral("disabled: ") + bouton->objectName(), ou);
 }
 
-QString Operateur::Lu(const QString &controle)
+QString Operateur::Lu(QAnyStringView controle)
 {
     const QWidget *const fenetre = QApplication::activeModalWidget();
-    const QWidget *const lu = fenetre == nullptr ? nullptr : fenetre->findChild<QWidget *>(controle);
+    const QWidget *const lu = fenetre == nullptr ? nullptr : fenetre->findChild<QWidget *>(controle.toString());
     return lu == nullptr ? QString() : lu->property("text").toString();
 }
 

@@ -26,25 +26,25 @@ public:
     Q_DISABLE_COPY_MOVE(Operateur)
 
     /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/Boites.h) is answered.
-    void Repond(const QString &titre, const QString &texte, int drapeaux, QMessageBox::StandardButton bouton,
+    void Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
                 Lieu ou = Lieu::current());
     /// A file dialog: the name is typed and taken, or the dialog is cancelled.
-    void Choisit(const QString &chemin, Lieu ou = Lieu::current());
+    void Choisit(QAnyStringView chemin, Lieu ou = Lieu::current());
     void AnnuleChoix(Lieu ou = Lieu::current());
     /// The window of that objectName: a button is pressed, the close box is pressed, or anything is done, once the
     /// condition holds. The window may stay open.
-    void Presse(const QString &fenetre, const QString &bouton, Condition quand = {}, Lieu ou = Lieu::current());
-    void Ferme(const QString &fenetre, Condition quand = {}, Lieu ou = Lieu::current());
-    void Fait(const QString &fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::current());
+    void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::current());
+    void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::current());
+    void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::current());
 
     /// Opens the menus down to the entry and chooses it; the test fails when it is disabled.
-    static void Menu(const QString &entree, Lieu ou = Lieu::current());
+    static void Menu(QAnyStringView entree, Lieu ou = Lieu::current());
     /// True when the operator can choose the entry: it and all menus above it are enabled when they open.
-    static bool Offre(const QString &entree);
+    static bool Offre(QAnyStringView entree);
     /// Clicks a toolbar button, by its position.
     static void Barre(int position, Lieu ou = Lieu::current());
     /// What a label, button or box bears in the window that waits for the operator.
-    static QString Lu(const QString &controle);
+    static QString Lu(QAnyStringView controle);
 
 private:
     struct Attente

@@ -54,7 +54,7 @@ void Poste::RemetEnregistrements()
 void Poste::Demarre()
 {
     m_fenetre = std::make_unique<FrmPrinc>();
-    m_fenetre->MSComm1->setDossierPorts(Chemin(QStringLiteral("Ports")));
+    m_fenetre->MSComm1->setDossierPorts(Chemin("Ports"));
     BrancheDocument();
     BrancheEdition();
     BrancheMenus();
@@ -64,12 +64,11 @@ void Poste::Demarre()
 
 void Poste::Demarre(int langue)
 {
-    Ecrit(QStringLiteral("Dorvanel.ini"),
-          " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + QByteArray::number(langue) + " \r\n");
+    Ecrit("Dorvanel.ini", " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + QByteArray::number(langue) + " \r\n");
     Demarre();
 }
 
-QString Poste::Ecrit(const QString &nom, const QByteArray &octets) const
+QString Poste::Ecrit(QAnyStringView nom, const QByteArray &octets) const
 {
     QFile fichier(Chemin(nom));
     if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size())
@@ -77,7 +76,7 @@ QString Poste::Ecrit(const QString &nom, const QByteArray &octets) const
     return fichier.fileName();
 }
 
-QByteArray Poste::Lit(const QString &nom) const
+QByteArray Poste::Lit(QAnyStringView nom) const
 {
     QFile fichier(Chemin(nom));
     return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
@@ -93,7 +92,7 @@ void Poste::Relie(int port, const QString &peripherique) const
 
 void Poste::Charge(const QByteArray &programme) const
 {
-    const QString configuration = Chemin(QStringLiteral("Machine.par"));
+    const QString configuration = Chemin("Machine.par");
     ParamCom.NumPort = 2;
     ParamCom.NomPort = QStringLiteral("Com2");
     ParamCom.Commentaire = QStringLiteral("Tour");
@@ -107,5 +106,5 @@ void Poste::Charge(const QByteArray &programme) const
     ParamCom.TailleTamponEmis = 512;
     EcrireFichierPar(configuration);
     ConfDefaut(configuration);
-    OuvreDocument(Ecrit(QStringLiteral("PIECE.iso"), programme));
+    OuvreDocument(Ecrit("PIECE.iso", programme));
 }

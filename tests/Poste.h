@@ -23,10 +23,10 @@ public:
 
     QString Dossier() const { return m_dossier.path(); }
     /// Path of a file in the application folder.
-    QString Chemin(const QString &nom) const { return m_dossier.filePath(nom); }
+    QString Chemin(QAnyStringView nom) const { return m_dossier.filePath(nom.toString()); }
     /// Writes a file there and gives its path.
-    QString Ecrit(const QString &nom, const QByteArray &octets) const;
-    QByteArray Lit(const QString &nom) const;
+    QString Ecrit(QAnyStringView nom, const QByteArray &octets) const;
+    QByteArray Lit(QAnyStringView nom) const;
     /// Ties a port to a device, as an operator does who gives an adapter its number.
     void Relie(int port, const QString &peripherique) const;
     /// Writes a text and a configuration that talks to the simulated machine, and loads both. ParamCom may be changed

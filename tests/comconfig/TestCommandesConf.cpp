@@ -14,18 +14,18 @@
 
 namespace {
 
-const QString ChargeConf = QStringLiteral("Mnu_ChargeConf");
+constexpr char ChargeConf[] = "Mnu_ChargeConf";
 
 /// The commands that a configuration enables: receiving, sending.
 QList<bool> Actives()
 {
-    return {Operateur::Offre(QStringLiteral("Mnu_RecepProg")), frmPrinc->Bouton(10)->isEnabled(),
-            Operateur::Offre(QStringLiteral("Mnu_EmisProgCN")), frmPrinc->Bouton(11)->isEnabled()};
+    return {Operateur::Offre("Mnu_RecepProg"), frmPrinc->Bouton(10)->isEnabled(), Operateur::Offre("Mnu_EmisProgCN"),
+            frmPrinc->Bouton(11)->isEnabled()};
 }
 
 QString Complet(const Poste &poste)
 {
-    const QString chemin = poste.Chemin(QStringLiteral("Tour.par"));
+    const QString chemin = poste.Chemin("Tour.par");
     QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), chemin);
     return chemin;
 }
@@ -38,9 +38,7 @@ class TestCommandesConf : public QObject
 
 private Q_SLOTS:
     void Charge();
-    void Dialogue_data();
     void Dialogue();
-    void Erronee_data();
     void Erronee();
 };
 
@@ -52,7 +50,7 @@ void TestCommandesConf::Charge()
         poste.Demarre(0);
         Operateur operateur;
         QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
-        const QString programme = poste.Ecrit(QStringLiteral("P.iso"), "G0");
+        const QString programme = poste.Ecrit("P.iso", "G0");
         if (fichierDAbord)
             OuvreDocument(programme);
         QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
@@ -62,7 +60,7 @@ void TestCommandesConf::Charge()
         OuvreDocument(programme);
         QCOMPARE(Actives(), QList<bool>({true, true, true, true}));
 
-        QCOMPARE(FicConf + NomConf, poste.Chemin(QStringLiteral("Tour.par")) + QStringLiteral("Tour.par"));
+        QCOMPARE(FicConf + NomConf, poste.Chemin("Tour.par") + QStringLiteral("Tour.par"));
         QCOMPARE(frmPrinc->Label4->text(), QStringLiteral("Tour.par"));
         QCOMPARE(frmPrinc->Label6->text(), QStringLiteral("Tour 2 axes, été €"));
         QCOMPARE(ParamCom.ChaineFinLig, QStringLiteral("\r\r\n"));
@@ -70,32 +68,18 @@ void TestCommandesConf::Charge()
 }
 
 // The dialog opens on the folder of configurations, in the language; cancelling it changes nothing.
-void TestCommandesConf::Dialogue_data()
-{
-    QTest::addColumn<int>("langue");
-    QTest::addColumn<QString>("titre");
-    QTest::addColumn<QString>("filtre");
-    QTest::newRow("French") << 0 << "Sélectionner une configuration de communication"
-                            << "Fichiers paramètres (*.par)";
-    QTest::newRow("English") << 1 << "Select a configuration of communication"
-                             << "Files parameters (*.par)";
-    QTest::newRow("Spanish") << 2 << "Seleccionar una configuración de comunicación"
-                             << "Ficheros parámetros (*.par)";
-}
-
 void TestCommandesConf::Dialogue()
 {
-    QFETCH(int, langue);
     Poste poste;
-    poste.Demarre(langue);
+    poste.Demarre(2);
     QDir(poste.Dossier()).mkdir(QStringLiteral("Conf"));
-    DosConf = poste.Chemin(QStringLiteral("Conf"));
+    DosConf = poste.Chemin("Conf");
     QDir::setCurrent(QStringLiteral("/"));
     Operateur operateur;
-    operateur.Fait(QStringLiteral("CommonDialog"), [](QWidget &fenetre) {
+    operateur.Fait("CommonDialog", [](QWidget &fenetre) {
         auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
-        QTEST(dialogue.windowTitle(), "titre");
-        QTEST(dialogue.selectedNameFilter(), "filtre");
+        QCOMPARE(dialogue.windowTitle(), QStringLiteral("Seleccionar una configuración de comunicación"));
+        QCOMPARE(dialogue.selectedNameFilter(), QStringLiteral("Ficheros parámetros (*.par)"));
         QCOMPARE(dialogue.directory(), QDir(DosConf));
         dialogue.reject();
     });
@@ -106,33 +90,19 @@ void TestCommandesConf::Dialogue()
 }
 
 // A file that breaks off: the record holds what was read, while menus, labels and derived strings stay as they were.
-void TestCommandesConf::Erronee_data()
-{
-    QTest::addColumn<int>("langue");
-    QTest::addColumn<QString>("titre");
-    QTest::addColumn<QString>("texte");
-    QTest::newRow("French") << 0 << "Fichier de configuration erroné ou de version antérieure !"
-                            << "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.";
-    QTest::newRow("English") << 1 << "Erroneous file of configuration or former version !"
-                             << "File of configuration of former version !\rModify and record again.";
-    QTest::newRow("Spanish") << 2 << "Fichero de configuración erróneo o versión previa !"
-                             << "Fichero de configuración de versión previa !\rModificarse de nuevo y registrar.";
-}
-
 void TestCommandesConf::Erronee()
 {
-    QFETCH(int, langue);
-    QFETCH(QString, titre);
-    QFETCH(QString, texte);
     Poste poste;
-    poste.Demarre(langue);
+    poste.Demarre(0);
     Operateur operateur;
     QFile complet(Complet(poste));
     QVERIFY(complet.open(QIODevice::ReadOnly));
-    const QString courte = poste.Ecrit(QStringLiteral("Courte.par"), complet.readAll().chopped(5)); // no last line
+    const QString courte = poste.Ecrit("Courte.par", complet.readAll().chopped(5)); // no last line
     const auto charge = [&] {
         operateur.Choisit(courte);
-        operateur.Repond(titre, texte, Boite::Exclamation, QMessageBox::Ok);
+        operateur.Repond("Fichier de configuration erroné ou de version antérieure !",
+                         "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
+                         Boite::Exclamation, QMessageBox::Ok);
         Operateur::Menu(ChargeConf);
     };
     charge();

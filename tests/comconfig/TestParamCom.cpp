@@ -31,14 +31,12 @@ class TestParamCom : public QObject
 private Q_SLOTS:
     void init() { ParamCom = {}; }
     void Champs();
-    void EcritCommeLu_data();
     void EcritCommeLu();
     void Guillemets();
     void LignesChangees_data();
     void LignesChangees();
     void LectureInterrompue();
     void PasDeFichier();
-    void Chaines_data();
     void Chaines();
 
 private:
@@ -76,20 +74,14 @@ void TestParamCom::Champs()
     QCOMPARE(OctetsEn1252(ParamCom.ChaineFinTrans), QByteArray("\xE9\xFF"));
 }
 
-void TestParamCom::EcritCommeLu_data()
-{
-    QTest::addColumn<QString>("chemin");
-    QTest::newRow("full") << Complet;
-    QTest::newRow("shortest") << Court;
-}
-
 void TestParamCom::EcritCommeLu()
 {
-    QFETCH(QString, chemin);
-    QCOMPARE(Lit(chemin), 0);
-    const QString copie = m_dossier.filePath(QStringLiteral("copie.par"));
-    EcrireFichierPar(copie);
-    QCOMPARE(LitOctets(copie), LitOctets(chemin));
+    for (const QString &chemin : {Complet, Court}) {
+        QCOMPARE(Lit(chemin), 0);
+        const QString copie = m_dossier.filePath(QStringLiteral("copie.par"));
+        EcrireFichierPar(copie);
+        QCOMPARE(LitOctets(copie), LitOctets(chemin));
+    }
 }
 
 // The format has no way to hold one inside a text: it would end the text and shift all fields behind it.
@@ -182,41 +174,22 @@ void TestParamCom::PasDeFichier()
     QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(QStringLiteral("parti/x.par"))), Erreur);
 }
 
-void TestParamCom::Chaines_data()
-{
-    QTest::addColumn<int>("finTrans");
-    QTest::addColumn<int>("finLig");
-    QTest::addColumn<int>("nombre");
-    QTest::addColumn<QString>("chaineTrans");
-    QTest::addColumn<QString>("chaineLig");
-    const auto ligne = [](int trans, int lig, int nombre, const char *chaineTrans, const char *chaineLig) {
-        QTest::addRow("%d %d %d", trans, lig, nombre)
-            << trans << lig << nombre << QString::fromLatin1(chaineTrans) << QString::fromLatin1(chaineLig);
-    };
-    ligne(0, 0, 0, "\x13", "\n");
-    ligne(1, 1, 0, "\x04", "\r");
-    ligne(2, 2, 2, "AB", "\n\r");
-    ligne(0, 3, 2, "\x13", "\r\n");
-    ligne(1, 4, 2, "\x04", "ab");
-    ligne(2, 4, 0, "", "");
-    ligne(3, 5, 2, "before", "before");
-    ligne(-1, -1, 2, "before", "before");
-}
-
+// Types of end of transfer and end of line, and how many codes the chains of the operator's own hold.
 void TestParamCom::Chaines()
 {
-    QFETCH(int, finTrans);
-    QFETCH(int, finLig);
-    QFETCH(int, nombre);
-    ParamCom.TypeFinTrans = finTrans;
-    ParamCom.TypeFinLig = finLig;
-    ParamCom.NbCarFinTrans = ParamCom.NbCarFinLig = nombre;
     ParamCom.CarFinTrans = {0, 'A', 'B', 'C'};
     ParamCom.CarFinLig = {0, 'a', 'b', 'c'};
-    ParamCom.ChaineFinTrans = ParamCom.ChaineFinLig = QStringLiteral("before");
-    BatirChaines();
-    QTEST(ParamCom.ChaineFinTrans, "chaineTrans");
-    QTEST(ParamCom.ChaineFinLig, "chaineLig");
+    QStringList chaines;
+    for (const auto &[trans, ligne, nombre] :
+         {std::tuple{0, 0, 0}, {1, 1, 0}, {2, 2, 2}, {0, 3, 2}, {1, 4, 2}, {2, 4, 0}, {3, 5, 2}, {-1, -1, 2}}) {
+        ParamCom.TypeFinTrans = trans;
+        ParamCom.TypeFinLig = ligne;
+        ParamCom.NbCarFinTrans = ParamCom.NbCarFinLig = nombre;
+        ParamCom.ChaineFinTrans = ParamCom.ChaineFinLig = QStringLiteral("?");
+        BatirChaines();
+        chaines << ParamCom.ChaineFinTrans + u'/' + ParamCom.ChaineFinLig;
+    }
+    QCOMPARE(chaines.join(u' '), QStringLiteral("\x13/\n \x04/\r AB/\n\r \x13/\r\n \x04/ab / ?/? ?/?"));
 }
 
 QTEST_GUILESS_MAIN(TestParamCom)

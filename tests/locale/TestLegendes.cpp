@@ -33,57 +33,37 @@ class TestLegendes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Traduites_data();
     void Traduites();
     void DialogueOuvert();
     void Donnees();
     void LangueInconnue();
 };
 
-// A few captions of each kind and window, in the three languages.
-void TestLegendes::Traduites_data()
-{
-    QTest::addColumn<QString>("controle");
-    QTest::addColumn<QString>("francais");
-    QTest::addColumn<QString>("anglais");
-    QTest::addColumn<QString>("espagnol");
-    const char *const lignes[][4] = {
-        {"frmPrinc.windowTitle", "Dorvanel Pro version 2.7.0", "Dorvanel Pro version 1.7.0",
-         "Dorvanel Pro versión 1.7.0"},
-        {"Mnu_Fichier.title", "&Fichier", "File", "Ficheros"},
-        {"Mnu_Language.title", "Langue", "Language", "Lengua"},
-        {"Mnu_EnregistrerSous.text", "Enregistrer &Sous...", "Save_As...", "Registrar bajo..."},
-        {"Mn_CreeConfMac.text", "Créer une configuration machine", "Create a configuration hatches",
-         "Crear una configuración máquina"},
-        {"Toolbar1_17.toolTip", "A propos", "Author", "A propósito"},
-        {"Frame1.title", "Explorateur de fichiers ", "File exploreur", "Explorador de ficheros"},
-        {"lblPortOpen.text", "Port Fermé", "Closed port", "Puerto cerrado"},
-        {"Label2.text", "Aucun", "None", "Ningún"},
-        {"Em_Rc.windowTitle", "Transfert", "Transfer", "Transferencia"},
-        {"Em_Rc/Frame2.title", "Configuration de communication sélectionnée ",
-         "Configuration of selected communication ", "Configuración de comunicación seleccionada"},
-        {"Em_Rc/Command3.text", "Sélectionner une autre &Configuration...", "Select another Configuration...",
-         "Seleccionar otra &Configuración..."},
-        {"Em_Rc/Command7.toolTip", "Force la fin de réception - Enregistre les lignes reçues",
-         "Force the end of receiving - Records the received lines",
-         "Fuerza el final de recepción - Registre las líneas recibidas"}};
-    for (const auto &ligne : lignes)
-        QTest::newRow(ligne[0]) << QString::fromUtf8(ligne[0]) << QString::fromUtf8(ligne[1])
-                                << QString::fromUtf8(ligne[2]) << QString::fromUtf8(ligne[3]);
-}
-
+// A caption of each kind: window, menu, entry, tool tip, frame, label, button; in the three languages.
 void TestLegendes::Traduites()
 {
-    QFETCH(QString, controle);
+    const QStringList attendus[] = {
+        {QStringLiteral(
+             "Dorvanel Pro version 2.7.0|&Fichier|Enregistrer &Sous...|A propos|Explorateur de fichiers |Aucun"),
+         QStringLiteral("Transfert|Configuration de communication sélectionnée |Emission...|Annule le transfert")},
+        {QStringLiteral("Dorvanel Pro version 1.7.0|File|Save_As...|Author|File exploreur|None"),
+         QStringLiteral("Transfer|Configuration of selected communication |Sending...|Cancel the transfer")},
+        {QStringLiteral(
+             "Dorvanel Pro versión 1.7.0|Ficheros|Registrar bajo...|A propósito|Explorador de ficheros|Ningún"),
+         QStringLiteral(
+             "Transferencia|Configuración de comunicación seleccionada|Emisión...|Cancela la transferencia")}};
     for (int langue = 0; langue < 3; ++langue) {
         Poste poste;
         poste.Demarre(langue);
-        Em_Rc dialogue(nullptr);
-        QTEST(Lu(controle.startsWith(QLatin1String("Em_Rc")) ? static_cast<QWidget &>(dialogue) : *frmPrinc)
-                  .value(controle.section(u'/', -1)),
-              langue == 0   ? "francais"
-              : langue == 1 ? "anglais"
-                            : "espagnol");
+        Em_Rc d(nullptr);
+        const FrmPrinc &f = *frmPrinc;
+        QCOMPARE((QStringList{f.windowTitle(), f.Mnu_Fichier->title(), f.Mnu_EnregistrerSous->text(),
+                              f.Bouton(17)->toolTip(), f.Frame1->title(), f.Label2->text()}
+                      .join(u'|')),
+                 attendus[langue][0]);
+        QCOMPARE(
+            (QStringList{d.windowTitle(), d.Frame2->title(), d.Command2->text(), d.Command1->toolTip()}.join(u'|')),
+            attendus[langue][1]);
     }
 }
 

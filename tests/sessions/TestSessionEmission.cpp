@@ -14,7 +14,7 @@
 
 namespace {
 
-const QString Dialogue = QStringLiteral("Em_Rc");
+constexpr char Dialogue[] = "Em_Rc";
 const QString Succes = QStringLiteral("Transfer finished successfully !");
 
 } // namespace
@@ -54,9 +54,8 @@ void TestSessionEmission::Emet(Operateur &operateur, bool jauges, const QString 
                          (jauges ? QStringLiteral("Confirm the sending of a file Gauges Tools ") : question + u' ') +
                          fichier + QStringLiteral(" on the port Com2 ?"),
                      Boite::Question | Boite::OuiNon | Boite::SecondBouton, QMessageBox::Yes);
-    operateur.Presse(Dialogue, QStringLiteral("Command2"));
-    operateur.Presse(Dialogue, QStringLiteral("Command1"),
-                     [] { return Operateur::Lu(QStringLiteral("Label2")) == Succes; });
+    operateur.Presse(Dialogue, "Command2");
+    operateur.Presse(Dialogue, "Command1", [] { return Operateur::Lu("Label2") == Succes; });
     Operateur::Barre(jauges ? 11 : 9);
 }
 
@@ -73,14 +72,14 @@ void TestSessionEmission::Journee()
     QByteArray piece;
     for (int bloc = 10; bloc < 400; bloc += 10)
         piece += "N" + QByteArray::number(bloc) + " G1 X" + QByteArray::number(bloc * 7 % 300) + "\r\n";
-    const QString fraisage = poste.Ecrit(QStringLiteral("FRAISAGE.iso"), piece);
+    const QString fraisage = poste.Ecrit("FRAISAGE.iso", piece);
 
     // The first start, in English; a configuration, a program, and off it goes.
     Operateur operateur;
-    operateur.Presse(QStringLiteral("FrmLangue"), QStringLiteral("Option2"));
-    operateur.Presse(QStringLiteral("FrmLangue"), QStringLiteral("Command1"));
+    operateur.Presse("FrmLangue", "Option2");
+    operateur.Presse("FrmLangue", "Command1");
     poste.Demarre();
-    operateur.Choisit(poste.Chemin(QStringLiteral("Fraiseuse.par")));
+    operateur.Choisit(poste.Chemin("Fraiseuse.par"));
     Operateur::Barre(8);
     operateur.Choisit(fraisage);
     Operateur::Barre(1);
@@ -93,34 +92,34 @@ void TestSessionEmission::Journee()
     // He corrects it, saves it under another name, and sends it line by line to the lathe as a gauge file.
     frmPrinc->Text1->setSelStart(0);
     frmPrinc->Text1->setSelLength(int(piece.size()));
-    Operateur::Menu(QStringLiteral("Mnu_Supprimer"));
+    Operateur::Menu("Mnu_Supprimer");
     QTest::keyClicks(frmPrinc->Text1, QStringLiteral("D1 X12.5"));
     QTest::keyClick(frmPrinc->Text1, Qt::Key_Return);
     QTest::keyClicks(frmPrinc->Text1, QStringLiteral("M30"));
-    operateur.Choisit(poste.Chemin(QStringLiteral("JAUGES.jau")));
+    operateur.Choisit(poste.Chemin("JAUGES.jau"));
     Operateur::Barre(2);
-    QCOMPARE(poste.Lit(QStringLiteral("JAUGES.jau")), QByteArray("D1 X12.5\r\nM30\r\n"));
-    QCOMPARE(poste.Lit(QStringLiteral("FRAISAGE.iso")), piece);
-    operateur.Choisit(poste.Chemin(QStringLiteral("Tour.par")));
-    Operateur::Menu(QStringLiteral("Mnu_ChargeConf"));
+    QCOMPARE(poste.Lit("JAUGES.jau"), QByteArray("D1 X12.5\r\nM30\r\n"));
+    QCOMPARE(poste.Lit("FRAISAGE.iso"), piece);
+    operateur.Choisit(poste.Chemin("Tour.par"));
+    Operateur::Menu("Mnu_ChargeConf");
     Emet(operateur, true, QStringLiteral("JAUGES.jau"));
     QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 2; }));
     QCOMPARE(machine.Programmes()[1].Brut, QByteArray("%\nD1 X12.5\r\nM30\n\x04"));
 
     // A new program, begun and given up; home.
-    operateur.Repond(QStringLiteral("New file ?"), QStringLiteral("New file\r\n        Confirm ? "),
-                     Boite::Exclamation | Boite::OuiNon, QMessageBox::Yes);
-    Operateur::Menu(QStringLiteral("Mnu_Nouveau"));
+    operateur.Repond("New file ?", "New file\r\n        Confirm ? ", Boite::Exclamation | Boite::OuiNon,
+                     QMessageBox::Yes);
+    Operateur::Menu("Mnu_Nouveau");
     QDir::setCurrent(poste.Dossier());
     QTest::keyClicks(frmPrinc->Text1, QStringLiteral("%O1"));
-    operateur.Repond(QStringLiteral("Leave the editor of program numerical control"),
-                     QStringLiteral("Modified file New.iso !\r\n            Record the file ? "),
-                     Boite::Exclamation | Boite::OuiNon, QMessageBox::Yes);
-    operateur.Repond(QStringLiteral("Leave the program"), QStringLiteral("Leave Dorvanel\r   Confirm  ?"),
+    operateur.Repond("Leave the editor of program numerical control",
+                     "Modified file New.iso !\r\n            Record the file ? ", Boite::Exclamation | Boite::OuiNon,
+                     QMessageBox::Yes);
+    operateur.Repond("Leave the program", "Leave Dorvanel\r   Confirm  ?",
                      Boite::Question | Boite::OuiNon | Boite::SecondBouton, QMessageBox::Yes);
     QTimer::singleShot(0, frmPrinc, [] { Operateur::Barre(6); });
     QCOMPARE(QApplication::exec(), 0);
-    QCOMPARE(poste.Lit(QStringLiteral("New.iso")), QByteArray("%O1\r\n"));
+    QCOMPARE(poste.Lit("New.iso"), QByteArray("%O1\r\n"));
 }
 
 QTEST_MAIN(TestSessionEmission)

@@ -15,7 +15,9 @@
 namespace {
 
 const QString Ini = QStringLiteral("Dorvanel.ini");
-const QString Cfg = QStringLiteral("Dorvanel.CFG");
+constexpr char Cfg[] = "Dorvanel.CFG";
+enum { Inchange, SansNom, Refuse, Accepte }; // the text at the end, and the operator's answer
+
 const QString TitreRelance = QStringLiteral("Avertissement");
 const QString TexteRelance =
     QStringLiteral("Relancer Dorvanel Pro pour prendre en compte les modifications de langue française.");
@@ -36,7 +38,6 @@ private Q_SLOTS:
     void IniIllisible();
     void Dossiers_data();
     void Dossiers();
-    void ConfigurationParDefaut_data();
     void ConfigurationParDefaut();
     void MenuLangue();
     void Fin_data();
@@ -61,10 +62,10 @@ void TestDemarrage::PremierDemarrage()
     QFETCH(int, langue);
     Poste poste;
     Operateur operateur;
-    const QString fenetre = QStringLiteral("FrmLangue");
+    constexpr char fenetre[] = "FrmLangue";
     if (!option.isEmpty())
         operateur.Presse(fenetre, option);
-    operateur.Presse(fenetre, QStringLiteral("Command1"));
+    operateur.Presse(fenetre, "Command1");
     if (langue == 0)
         operateur.Repond(TitreRelance, TexteRelance, Boite::Information, QMessageBox::Ok);
     poste.Demarre();
@@ -76,7 +77,7 @@ void TestDemarrage::PremierDemarrage()
     QVERIFY(frmPrinc->Frame1->isVisible());
     QVERIFY(frmPrinc->Mnu_AffichDOS->isChecked() && frmPrinc->Bouton(15)->isChecked());
     QTEST(frmPrinc->Mnu_Fichier->title(), "fichier");
-    QVERIFY(!Operateur::Offre(QStringLiteral("Mnu_RecepProg")) && !frmPrinc->Mnu_EditProg->isEnabled());
+    QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Mnu_EditProg->isEnabled());
 }
 
 // A folder of that name stands in the way: the choice holds for this run, without a message.
@@ -85,12 +86,12 @@ void TestDemarrage::IniNonInscriptible()
     Poste poste;
     QVERIFY(QDir(poste.Dossier()).mkdir(Ini));
     Operateur operateur;
-    operateur.Presse(QStringLiteral("FrmLangue"), QStringLiteral("Command1"));
+    operateur.Presse("FrmLangue", "Command1");
     poste.Demarre();
     QVERIFY(frmPrinc->Frame1->isVisible());
     QCOMPARE(DosAppli, poste.Dossier());
-    Operateur::Menu(QStringLiteral("Mnu_Lang_0")); // no box: the writing failed before it
-    Operateur::Menu(QStringLiteral("Mnu_Lang_2"));
+    Operateur::Menu("Mnu_Lang_0"); // no box: the writing failed before it
+    Operateur::Menu("Mnu_Lang_2");
     QCOMPARE(LangIndex, 2);
     QVERIFY(frmPrinc->Mnu_Lang_2->isChecked() && !frmPrinc->Mnu_Lang_0->isChecked());
     QCOMPARE(frmPrinc->Mnu_Lang_0->text(), QStringLiteral("Francés"));
@@ -156,7 +157,7 @@ void TestDemarrage::IniIllisible()
     poste.Demarre();
     QCOMPARE(poste.Lit(Ini), contenu);
     QCOMPARE(DosAppli + ParamCom.DosRecep + DosJauge + EditeurCN, QString());
-    QVERIFY(Operateur::Offre(QStringLiteral("Mnu_RecepProg")) && frmPrinc->isVisible());
+    QVERIFY(Operateur::Offre("Mnu_RecepProg") && frmPrinc->isVisible());
     QCOMPARE(frmPrinc->windowTitle(), QStringLiteral("Dorvanel Pro version 2.7.0"));
 }
 
@@ -186,49 +187,31 @@ void TestDemarrage::Dossiers()
     QCOMPARE(poste.Lit(Cfg), contenu.toLatin1());
 }
 
-void TestDemarrage::ConfigurationParDefaut_data()
-{
-    QTest::addColumn<int>("langue");
-    QTest::addColumn<QString>("titre");
-    QTest::addColumn<QString>("texte"); // no box for a file that is there; "@" is its path
-    QTest::addColumn<bool>("lisible");
-    QTest::newRow("good") << 0 << ""
-                          << "" << true;
-    QTest::newRow("damaged") << 0 << ""
-                             << "" << false;
-    QTest::newRow("missing, French") << 0 << "Erreur de chargement de fichier de configuration à défaut"
-                                     << "Le fichier @ n'existe pas !" << false;
-    QTest::newRow("missing, English") << 1 << "Error of loading of file of configuration failing this"
-                                      << "The file does not exist @ !" << false;
-    QTest::newRow("missing, Spanish") << 2 << "Error de cargamento de fichero de configuración a defecto"
-                                      << "El fichero  @ no existe !" << false;
-}
-
+// The configuration of the settings, good, damaged (passed over in silence) and missing.
 void TestDemarrage::ConfigurationParDefaut()
 {
-    QFETCH(int, langue);
-    QFETCH(QString, titre);
-    QFETCH(QString, texte);
-    QFETCH(bool, lisible);
-    Poste poste;
-    Operateur operateur;
-    const QString chemin = poste.Chemin(QStringLiteral("Tour.par"));
-    if (!titre.isEmpty())
-        operateur.Repond(titre, texte.replace(u'@', chemin), Boite::Exclamation, QMessageBox::Ok);
-    else if (lisible)
-        QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), chemin);
-    else
-        poste.Ecrit(QStringLiteral("Tour.par"), "3\r\n\"Com3\"\r\n");
-    poste.Ecrit(Ini, " 0 \r\n\"\"\r\n 1 \r\n\"" + chemin.toLatin1() + "\"\r\n 0 \r\n\r\n " +
-                         QByteArray::number(langue) + " \r\n");
-    poste.Demarre();
-    QCOMPARE(FicConf, chemin);
-    QCOMPARE(Operateur::Offre(QStringLiteral("Mnu_RecepProg")), lisible);
-    QCOMPARE(frmPrinc->Bouton(13)->isEnabled(), lisible);
-    QVERIFY(!Operateur::Offre(QStringLiteral("Mnu_EmisProgCN")));
-    if (lisible) {
-        QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), QStringLiteral("Tour.parTour 2 axes, été €"));
-        QCOMPARE(ParamCom.ChaineFinLig, QStringLiteral("\r\r\n"));
+    for (const QLatin1String cas : {QLatin1String("good"), QLatin1String("damaged"), QLatin1String("missing")}) {
+        const bool lisible = cas == QLatin1String("good");
+        Poste poste;
+        Operateur operateur;
+        const QString chemin = poste.Chemin("Tour.par");
+        if (lisible)
+            QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), chemin);
+        else if (cas == QLatin1String("damaged"))
+            poste.Ecrit("Tour.par", "3\r\n\"Com3\"\r\n");
+        else
+            operateur.Repond("Error of loading of file of configuration failing this",
+                             QStringLiteral("The file does not exist %1 !").arg(chemin), Boite::Exclamation,
+                             QMessageBox::Ok);
+        poste.Ecrit(Ini, " 0 \r\n\"\"\r\n 1 \r\n\"" + chemin.toLatin1() + "\"\r\n 0 \r\n\r\n 1 \r\n");
+        poste.Demarre();
+        QCOMPARE(FicConf, chemin);
+        QCOMPARE(Operateur::Offre("Mnu_RecepProg"), lisible);
+        QCOMPARE(frmPrinc->Bouton(13)->isEnabled(), lisible);
+        QVERIFY(!Operateur::Offre("Mnu_EmisProgCN"));
+        QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(),
+                 lisible ? QStringLiteral("Tour.parTour 2 axes, été €") : QStringLiteral("NoneNone"));
+        QCOMPARE(ParamCom.ChaineFinLig, lisible ? QStringLiteral("\r\r\n") : QString());
     }
 }
 
@@ -238,84 +221,65 @@ void TestDemarrage::MenuLangue()
     Poste poste;
     poste.Demarre(0);
     Operateur operateur;
-    Operateur::Menu(QStringLiteral("Mnu_Lang_2"));
+    Operateur::Menu("Mnu_Lang_2");
     QCOMPARE(frmPrinc->Mnu_Quitter->text(), QStringLiteral("Dejar"));
     QVERIFY(poste.Lit(Ini).endsWith(" 2 \r\n"));
-    Operateur::Menu(QStringLiteral("Mnu_Lang_1"));
+    Operateur::Menu("Mnu_Lang_1");
     QCOMPARE(frmPrinc->Mnu_Quitter->text(), QStringLiteral("Exit"));
     QCOMPARE(frmPrinc->Mnu_Lang_2->text(), QStringLiteral("Spanish"));
     for (int fois = 0; fois < 2; ++fois) {
         operateur.Repond(TitreRelance, TexteRelance, Boite::Information, QMessageBox::Ok);
-        Operateur::Menu(QStringLiteral("Mnu_Lang_0"));
+        Operateur::Menu("Mnu_Lang_0");
     }
     QCOMPARE(frmPrinc->Mnu_Quitter->text(), QStringLiteral("Exit"));
     QCOMPARE(frmPrinc->Mnu_Lang_2->text(), QStringLiteral("Espagnol"));
     QVERIFY(frmPrinc->Mnu_Lang_0->isChecked() && poste.Lit(Ini).endsWith(" 0 \r\n"));
 }
 
-// The end by the menu and by the window's close box. "@" in the text is the document's path.
+// The end by the button and by the window's close box: whether to save a changed text, and, of the button alone,
+// whether to go.
 void TestDemarrage::Fin_data()
 {
-    QTest::addColumn<int>("langue");
     QTest::addColumn<bool>("ferme");
-    QTest::addColumn<QString>("titre");
-    QTest::addColumn<QString>("texte");
-    QTest::addColumn<QString>("titreConfirmation");
-    QTest::addColumn<QString>("texteConfirmation");
-    const auto quitte = [](const char *nom, int langue, const char *t, const char *q, const char *tc, const char *qc) {
-        QTest::newRow(nom) << langue << false << QString::fromUtf8(t) << QString::fromUtf8(q) << QString::fromUtf8(tc)
-                           << QString::fromUtf8(qc);
-    };
-    const auto ferme = [](const char *nom, int langue, const char *t, const char *q) {
-        QTest::newRow(nom) << langue << true << QString::fromUtf8(t) << QString::fromUtf8(q) << QString() << QString();
-    };
-    quitte("quit, French", 0, "Quitter l'éditeur de programmes CN",
-           "Fichier @ modifié !\r\n            Enregistrer le fichier ? ", "Quitter le programme",
-           "Quitter Dorvanel\r   Confirmez  ?");
-    quitte("quit, English", 1, "Leave the editor of program numerical control",
-           "Modified file @ !\r\n            Record the file ? ", "Leave the program", "Leave Dorvanel\r   Confirm  ?");
-    quitte("quit, Spanish", 2, "Dejar al editor de programa controla numérico",
-           "Fichero  @ modificado !\r\n            Registrar el fichero ? ", "Dejar el programa",
-           "Dejar Dorvanel\r   Confirme  ?");
-    ferme("close, French", 0, "Fermer le programme CN", "Fichier @ modifié !\r\n            Enregistrer le fichier ? ");
-    ferme("close, English", 1, "close the program", "Modified file @ !\r\n            Save file ? ");
-    ferme("close, Spanish", 2, "Cerrar el programa", "Fichero  @ modificado !\r\n            Registrar el fichero ? ");
+    QTest::addColumn<int>("cas");
+    for (const bool ferme : {false, true}) {
+        const char *const fin = ferme ? "close" : "quit";
+        QTest::addRow("%s: unchanged", fin) << ferme << int(Inchange);
+        QTest::addRow("%s: changed, without a name", fin) << ferme << int(SansNom);
+        QTest::addRow("%s: changed, not saved", fin) << ferme << int(Refuse);
+        QTest::addRow("%s: changed, saved", fin) << ferme << int(Accepte);
+    }
 }
 
 void TestDemarrage::Fin()
 {
-    QFETCH(int, langue);
     QFETCH(bool, ferme);
-    QFETCH(QString, titre);
-    QFETCH(QString, texte);
-    QFETCH(QString, titreConfirmation);
-    QFETCH(QString, texteConfirmation);
-    const QString nom = QStringLiteral("P.iso");
-    enum { Inchange, SansNom, Refuse, Accepte };
-    for (const int cas : {Inchange, SansNom, Refuse, Accepte}) {
-        Poste poste;
-        poste.Demarre(langue);
-        Operateur operateur;
-        const QString chemin = cas == SansNom ? QString() : poste.Ecrit(nom, "G0");
-        if (cas != SansNom)
-            OuvreDocument(chemin);
-        if (cas != Inchange) {
-            frmPrinc->Text1->setText(QStringLiteral("G1"));
-            operateur.Repond(titre, QString(texte).replace(u'@', chemin), Boite::Exclamation | Boite::OuiNon,
-                             cas == Refuse ? QMessageBox::No : QMessageBox::Yes);
-        }
-        if (ferme) {
-            QVERIFY(frmPrinc->close());
-            QCOMPARE(FichierModifie, cas == SansNom ? Vrai : 0);
-        } else {
-            operateur.Repond(titreConfirmation, texteConfirmation,
-                             Boite::Question | Boite::OuiNon | Boite::SecondBouton, QMessageBox::No);
-            Operateur::Barre(6);
-            QVERIFY(frmPrinc->isVisible());
-            QCOMPARE(FichierModifie, cas == Refuse || cas == SansNom ? Vrai : 0);
-        }
-        QCOMPARE(poste.Lit(nom), cas == SansNom ? "" : cas == Accepte ? "G1\r\n" : "G0");
+    QFETCH(int, cas);
+    constexpr char nom[] = "P.iso";
+    Poste poste;
+    poste.Demarre(0);
+    Operateur operateur;
+    const QString chemin = cas == SansNom ? QString() : poste.Ecrit(nom, "G0");
+    if (cas != SansNom)
+        OuvreDocument(chemin);
+    if (cas != Inchange) {
+        frmPrinc->Text1->setText(QStringLiteral("G1"));
+        operateur.Repond(ferme ? QStringLiteral("Fermer le programme CN")
+                               : QStringLiteral("Quitter l'éditeur de programmes CN"),
+                         QStringLiteral("Fichier %1 modifié !\r\n            Enregistrer le fichier ? ").arg(chemin),
+                         Boite::Exclamation | Boite::OuiNon, cas == Refuse ? QMessageBox::No : QMessageBox::Yes);
     }
+    if (ferme) {
+        QVERIFY(frmPrinc->close());
+        QCOMPARE(FichierModifie, cas == SansNom ? Vrai : 0);
+    } else {
+        operateur.Repond("Quitter le programme", "Quitter Dorvanel\r   Confirmez  ?",
+                         Boite::Question | Boite::OuiNon | Boite::SecondBouton, QMessageBox::No);
+        Operateur::Barre(6);
+        QVERIFY(frmPrinc->isVisible());
+        QCOMPARE(FichierModifie, cas == Refuse || cas == SansNom ? Vrai : 0);
+    }
+    QCOMPARE(poste.Lit(nom), cas == SansNom ? "" : cas == Accepte ? "G1\r\n" : "G0");
 }
 
 // Confirmed once, the end asks nothing more, closes the port and ends the process, whatever the text.
@@ -325,13 +289,13 @@ void TestDemarrage::QuitteAvecTexteRefuse()
     poste.Demarre(1);
     Operateur operateur;
     frmPrinc->Text1->setText(QStringLiteral("G1"));
-    operateur.Repond(QStringLiteral("Leave the editor of program numerical control"),
-                     QStringLiteral("Modified file  !\r\n            Record the file ? "),
-                     Boite::Exclamation | Boite::OuiNon, QMessageBox::No);
-    operateur.Repond(QStringLiteral("Leave the program"), QStringLiteral("Leave Dorvanel\r   Confirm  ?"),
+    operateur.Repond("Leave the editor of program numerical control",
+                     "Modified file  !\r\n            Record the file ? ", Boite::Exclamation | Boite::OuiNon,
+                     QMessageBox::No);
+    operateur.Repond("Leave the program", "Leave Dorvanel\r   Confirm  ?",
                      Boite::Question | Boite::OuiNon | Boite::SecondBouton, QMessageBox::Yes);
     PortOuvert = true;
-    QTimer::singleShot(0, frmPrinc, [] { Operateur::Menu(QStringLiteral("Mnu_Quitter")); });
+    QTimer::singleShot(0, frmPrinc, [] { Operateur::Menu("Mnu_Quitter"); });
     QCOMPARE(QApplication::exec(), 0);
     QVERIFY(!PortOuvert);
 }

@@ -15,8 +15,8 @@
 namespace {
 
 const QString Iso = QStringLiteral("P.iso");
-const QString Ouvrir = QStringLiteral("Mnu_Ouvrir");
-const QString EnregistrerSous = QStringLiteral("Mnu_EnregistrerSous");
+constexpr char Ouvrir[] = "Mnu_Ouvrir";
+constexpr char EnregistrerSous[] = "Mnu_EnregistrerSous";
 const QString Version = QStringLiteral("Dorvanel Pro version 2.7.0 : ");
 
 QByteArray TousLesOctets()
@@ -58,12 +58,10 @@ private Q_SLOTS:
     void TexteRiche();
     void DialogueOuvrir();
     void DossierPropose();
-    void OuvertureRatee_data();
     void OuvertureRatee();
     void EnregistrementRate_data();
     void EnregistrementRate();
     void Ecrase();
-    void Nouveau_data();
     void Nouveau();
     void NouveauSansNom();
 };
@@ -94,7 +92,7 @@ void TestDocument::AllerRetour()
     Poste poste;
     poste.Demarre(0);
     Operateur operateur;
-    const QString chemin = poste.Ecrit(QStringLiteral("Pièce n° 1.iso"), octets);
+    const QString chemin = poste.Ecrit("Pièce n° 1.iso", octets);
     Ouvre(operateur, chemin);
     QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
     QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
@@ -104,10 +102,10 @@ void TestDocument::AllerRetour()
     for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
         QVERIFY(Operateur::Offre(QLatin1String(entree)));
 
-    Enregistre(operateur, poste.Chemin(QStringLiteral("copie.iso")));
-    QCOMPARE(poste.Lit(QStringLiteral("copie.iso")), octets + "\r\n");
-    QCOMPARE(poste.Lit(QStringLiteral("Pièce n° 1.iso")), octets);
-    QCOMPARE(frmPrinc->windowTitle(), Version + poste.Chemin(QStringLiteral("copie.iso")));
+    Enregistre(operateur, poste.Chemin("copie.iso"));
+    QCOMPARE(poste.Lit("copie.iso"), octets + "\r\n");
+    QCOMPARE(poste.Lit("Pièce n° 1.iso"), octets);
+    QCOMPARE(frmPrinc->windowTitle(), Version + poste.Chemin("copie.iso"));
     QCOMPARE(frmPrinc->Label2->text() + TitreFichier, QStringLiteral("copie.isocopie.iso"));
 }
 
@@ -120,8 +118,8 @@ void TestDocument::GrosProgramme()
     poste.Demarre(0);
     Operateur operateur;
     Ouvre(operateur, poste.Ecrit(Iso, octets));
-    Enregistre(operateur, poste.Chemin(QStringLiteral("copie.iso")));
-    QVERIFY(poste.Lit(QStringLiteral("copie.iso")) == octets + "\r\n");
+    Enregistre(operateur, poste.Chemin("copie.iso"));
+    QVERIFY(poste.Lit("copie.iso") == octets + "\r\n");
 }
 
 // Rich text loses its looks when it is saved, and keeps its name.
@@ -131,7 +129,7 @@ void TestDocument::TexteRiche()
     poste.Demarre(0);
     Operateur operateur;
     const QByteArray riche = "{\\rtf1\\ansi {\\b G0} X1\\par M30\\par}";
-    Ouvre(operateur, poste.Ecrit(QStringLiteral("P.RTF"), riche));
+    Ouvre(operateur, poste.Ecrit("P.RTF", riche));
     QVERIFY(frmPrinc->Text1->Text().startsWith(QStringLiteral("G0 X1\r\nM30")));
     Ouvre(operateur, poste.Ecrit(Iso, riche));
     QCOMPARE(frmPrinc->Text1->Text(), QString::fromLatin1(riche));
@@ -153,7 +151,7 @@ void TestDocument::DialogueOuvrir()
             dialogue.reject();
         };
     };
-    const QString dialogue = QStringLiteral("CommonDialog");
+    constexpr char dialogue[] = "CommonDialog";
     operateur.Fait(dialogue, choisit(16, QStringLiteral("Ouvrir"), QStringLiteral("*.iso"), QStringLiteral("*.h")));
     Operateur::Menu(Ouvrir);
     QCOMPARE(IndexFiltre, 1);
@@ -164,7 +162,7 @@ void TestDocument::DialogueOuvrir()
         auto &ouverte = dynamic_cast<QFileDialog &>(fenetre);
         ouverte.selectNameFilter(ouverte.nameFilters().filter(QStringLiteral("*.xcn")).value(0));
     });
-    operateur.Choisit(poste.Ecrit(QStringLiteral("P.xcn"), "G0"));
+    operateur.Choisit(poste.Ecrit("P.xcn", "G0"));
     Operateur::Barre(1);
     QCOMPARE(IndexFiltre, 3);
     operateur.Fait(dialogue, choisit(14, QStringLiteral("Enregistrer Sous"), QStringLiteral("*.xcn"), QString()));
@@ -181,16 +179,16 @@ void TestDocument::DossierPropose()
     poste.Demarre(0);
     Operateur operateur;
     QDir(poste.Dossier()).mkdir(QStringLiteral("pieces"));
-    const QString avec = poste.Chemin(QStringLiteral("pieces/"));
-    poste.Ecrit(QStringLiteral("pieces/P.iso"), "G0");
+    const QString avec = poste.Chemin("pieces/");
+    poste.Ecrit("pieces/P.iso", "G0");
     const std::tuple<int, QString, QString> cas[] = {{1, avec, avec},
                                                      {0, avec, poste.Dossier()},
                                                      {1, avec.chopped(1), poste.Dossier()},
-                                                     {1, poste.Chemin(QStringLiteral("parti/")), poste.Dossier()}};
+                                                     {1, poste.Chemin("parti/"), poste.Dossier()}};
     for (const auto &[option, dossier, propose] : cas) {
         OptDosDefaut = option;
         DosDefaut = dossier;
-        operateur.Fait(QStringLiteral("CommonDialog"), [](QWidget &fenetre) {
+        operateur.Fait("CommonDialog", [](QWidget &fenetre) {
             DosDefaut = dynamic_cast<QFileDialog &>(fenetre).directory().path();
             dynamic_cast<QFileDialog &>(fenetre).reject();
         });
@@ -200,54 +198,36 @@ void TestDocument::DossierPropose()
 }
 
 // A file that the pane refuses: the former document stays, by its name, its text and its changes.
-void TestDocument::OuvertureRatee_data()
-{
-    QTest::addColumn<int>("langue");
-    QTest::addColumn<QString>("titre");
-    QTest::addColumn<QString>("texte");
-    QTest::newRow("French")
-        << 0 << "Message"
-        << "Erreur lors de l'ouverture du fichier : Faux.rtf. \r Format non reconnu ou fichier déja ouvert par une "
-           "autre application.\r - Ouvrir le fichier avec Worpad.\r - Enregistrer le fichier au format TXT.\r"
-           "  Voulez-vous utiliser WordPad pour lire ce fichier ?";
-    QTest::newRow("English") << 1 << "Message"
-                             << "Error at the time of the opening of the file : Faux.rtf. \r Format not recognized or "
-                                "file déja opened by another application.\r - Open the file with Worpad.\r - Record "
-                                "the file with format TXT.\r  Want you to use WordPad to read this file ?";
-    QTest::newRow("Spanish") << 2 << "Mensaje"
-                             << "Error en la apertura del fichero : Faux.rtf. \r Formato no reconocido o fichero déja "
-                                "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
-                                "fichero al formato TXT.\r  Quieren utilizar a WordPad para leer este fichero ?";
-}
-
 void TestDocument::OuvertureRatee()
 {
-    QFETCH(int, langue);
-    QFETCH(QString, titre);
-    QFETCH(QString, texte);
     Poste poste;
-    poste.Demarre(langue);
+    poste.Demarre(2);
     Operateur operateur;
     const QString chemin = poste.Ecrit(Iso, "G0");
     Ouvre(operateur, chemin);
     frmPrinc->Text1->setText(QStringLiteral("G1"));
-    const QString faux = poste.Ecrit(QStringLiteral("Faux.rtf"), "G0 X1\r\n");
+    const QString faux = poste.Ecrit("Faux.rtf", "G0 X1\r\n");
     const auto refuse = [&](const QString &nom) {
-        operateur.Repond(titre, QString(texte).replace(QStringLiteral("Faux.rtf"), nom),
-                         Boite::Information | Boite::OuiNon, QMessageBox::No);
+        operateur.Repond(
+            "Mensaje",
+            QStringLiteral("Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
+                           "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
+                           "fichero al formato TXT.\r  Quieren utilizar a WordPad para leer este fichero ?")
+                .arg(nom),
+            Boite::Information | Boite::OuiNon, QMessageBox::No);
     };
     operateur.Choisit(faux);
     refuse(QStringLiteral("Faux.rtf"));
     Operateur::Menu(Ouvrir);
     refuse(QStringLiteral("x.iso"));
-    OuvreDocument(poste.Chemin(QStringLiteral("parti/x.iso"))); // from a list that shows a folder gone meanwhile
+    OuvreDocument(poste.Chemin("parti/x.iso")); // from a list that shows a folder gone meanwhile
     refuse(QStringLiteral("Ports"));
     OuvreDocument(QStringLiteral("/dev/null/Ports"));
 
     QCOMPARE(frmPrinc->Text1->Text() + NomFichier + TitreFichier, QStringLiteral("G1") + chemin + Iso);
     QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + chemin + Iso);
     QCOMPARE(FichierModifie, Vrai);
-    QCOMPARE(poste.Lit(QStringLiteral("Faux.rtf")), QByteArray("G0 X1\r\n"));
+    QCOMPARE(poste.Lit("Faux.rtf"), QByteArray("G0 X1\r\n"));
 }
 
 // A full disk, a place under a file, a folder that goes while the dialog is open: told once, and nothing of the
@@ -281,7 +261,7 @@ void TestDocument::EnregistrementRate()
     const QString chemin = poste.Ecrit(Iso, "G0");
     Ouvre(operateur, chemin);
     frmPrinc->Text1->setText(QStringLiteral("G1"));
-    QFile::link(QStringLiteral("/dev/full"), poste.Chemin(QStringLiteral("plein.iso")));
+    QFile::link(QStringLiteral("/dev/full"), poste.Chemin("plein.iso"));
     operateur.Choisit(poste.Chemin(ou));
     if (ou == QLatin1String("plein.iso"))
         operateur.Fait(QString(), Clique(QMessageBox::Yes)); // replace the file of that name
@@ -299,55 +279,24 @@ void TestDocument::Ecrase()
     Poste poste;
     poste.Demarre(0);
     Operateur operateur;
-    poste.Ecrit(QStringLiteral("autre.iso"), "M30 and a longer text than the new one");
+    poste.Ecrit("autre.iso", "M30 and a longer text than the new one");
     Ouvre(operateur, poste.Ecrit(Iso, "G0"));
-    operateur.Choisit(poste.Chemin(QStringLiteral("autre.iso")));
+    operateur.Choisit(poste.Chemin("autre.iso"));
     operateur.Fait(QString(), Clique(QMessageBox::No));
     operateur.AnnuleChoix();
     Operateur::Menu(EnregistrerSous);
-    QVERIFY(poste.Lit(QStringLiteral("autre.iso")).startsWith("M30") && TitreFichier == Iso);
-    operateur.Choisit(poste.Chemin(QStringLiteral("autre.iso")));
+    QVERIFY(poste.Lit("autre.iso").startsWith("M30") && TitreFichier == Iso);
+    operateur.Choisit(poste.Chemin("autre.iso"));
     operateur.Fait(QString(), Clique(QMessageBox::Yes));
     Operateur::Menu(EnregistrerSous);
-    QCOMPARE(poste.Lit(QStringLiteral("autre.iso")), QByteArray("G0\r\n"));
+    QCOMPARE(poste.Lit("autre.iso"), QByteArray("G0\r\n"));
 }
 
-// A changed text with a name: whether to save it, then whether to go on. "@" is its path.
-void TestDocument::Nouveau_data()
-{
-    QTest::addColumn<int>("langue");
-    QTest::addColumn<QString>("titre");
-    QTest::addColumn<QString>("texte");
-    QTest::addColumn<QString>("titreNouveau");
-    QTest::addColumn<QString>("texteNouveau");
-    QTest::addColumn<QString>("nom");
-    QTest::newRow("French") << 0 << "Fichier en cours modifié"
-                            << "Fichier @ modifié !\r\n            Enregistrer le fichier ? "
-                            << "Nouveau fichier ?"
-                            << "Nouveau fichier\r\n        Confirmez ? "
-                            << "Nouveau.iso";
-    QTest::newRow("English") << 1 << "File in progress modified"
-                             << "File @ modified !\r\n            Save files ? "
-                             << "New file ?"
-                             << "New file\r\n        Confirm ? "
-                             << "New.iso";
-    QTest::newRow("Spanish") << 2 << "Fichero en curso modificado"
-                             << "Fichero @ modificado !\r\n            Enregsi el fichero ? "
-                             << "Nuevo fichero ?"
-                             << "Nuevo fichero\r\n        Confirme ? "
-                             << "Nuevo.iso";
-}
-
+// A changed text with a name: whether to save it, then whether to go on.
 void TestDocument::Nouveau()
 {
-    QFETCH(int, langue);
-    QFETCH(QString, titre);
-    QFETCH(QString, texte);
-    QFETCH(QString, titreNouveau);
-    QFETCH(QString, texteNouveau);
-    QFETCH(QString, nom);
     Poste poste;
-    poste.Demarre(langue);
+    poste.Demarre(2);
     Operateur operateur;
     const int drapeaux = Boite::Exclamation | Boite::OuiNon;
     const QString chemin = poste.Ecrit(Iso, "G0");
@@ -355,10 +304,12 @@ void TestDocument::Nouveau()
                              QMessageBox::StandardButton va) {
         if (!tape.isEmpty()) {
             frmPrinc->Text1->setText(tape);
-            operateur.Repond(titre, QString(texte).replace(u'@', chemin), drapeaux, enregistre);
+            operateur.Repond("Fichero en curso modificado",
+                             QStringLiteral("Fichero %1 modificado !\r\n            Enregsi el fichero ? ").arg(chemin),
+                             drapeaux, enregistre);
         }
-        operateur.Repond(titreNouveau, texteNouveau, drapeaux, va);
-        Operateur::Menu(QStringLiteral("Mnu_Nouveau"));
+        operateur.Repond("Nuevo fichero ?", "Nuevo fichero\r\n        Confirme ? ", drapeaux, va);
+        Operateur::Menu("Mnu_Nouveau");
     };
     Ouvre(operateur, chemin);
     nouveau(QString(), QMessageBox::NoButton, QMessageBox::No);
@@ -371,6 +322,7 @@ void TestDocument::Nouveau()
     nouveau(QStringLiteral("G3"), QMessageBox::No, QMessageBox::Yes);
     QCOMPARE(poste.Lit(Iso), QByteArray("G2\r\n"));
     QCOMPARE(frmPrinc->Text1->Text(), QString());
+    const QString nom = QStringLiteral("Nuevo.iso");
     QCOMPARE(NomFichier, nom);
     QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
     QCOMPARE(frmPrinc->windowTitle(), Version + nom);
@@ -387,15 +339,15 @@ void TestDocument::NouveauSansNom()
     QDir::setCurrent(poste.Dossier());
     QTest::keyClicks(frmPrinc->Text1, QStringLiteral("G0"));
     QVERIFY(FichierModifie == Vrai && frmPrinc->Bouton(2)->isEnabled());
-    const QString chemin = poste.Chemin(QStringLiteral("Nouveau.iso"));
-    operateur.Repond(QStringLiteral("Fichier en cours modifié"),
+    const QString chemin = poste.Chemin("Nouveau.iso");
+    operateur.Repond("Fichier en cours modifié",
                      QStringLiteral("Fichier %1 modifié !\r\n            Enregistrer le fichier ? ").arg(chemin),
                      Boite::Exclamation | Boite::OuiNon, QMessageBox::Yes);
-    operateur.Repond(QStringLiteral("Nouveau fichier ?"), QStringLiteral("Nouveau fichier\r\n        Confirmez ? "),
-                     Boite::Exclamation | Boite::OuiNon, QMessageBox::No);
-    Operateur::Menu(QStringLiteral("Mnu_Nouveau"));
+    operateur.Repond("Nouveau fichier ?", "Nouveau fichier\r\n        Confirmez ? ", Boite::Exclamation | Boite::OuiNon,
+                     QMessageBox::No);
+    Operateur::Menu("Mnu_Nouveau");
     QCOMPARE(NomFichier, chemin);
-    QCOMPARE(poste.Lit(QStringLiteral("Nouveau.iso")), QByteArray("G0\r\n"));
+    QCOMPARE(poste.Lit("Nouveau.iso"), QByteArray("G0\r\n"));
 }
 
 QTEST_MAIN(TestDocument)

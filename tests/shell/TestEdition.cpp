@@ -33,7 +33,7 @@ void Selectionne(int debut, int longueur)
 
 void Ouvre(const Poste &poste)
 {
-    OuvreDocument(poste.Ecrit(QStringLiteral("P.iso"), "N10\nN20\r\nN30"));
+    OuvreDocument(poste.Ecrit("P.iso", "N10\nN20\r\nN30"));
 }
 
 } // namespace
@@ -110,7 +110,7 @@ void TestEdition::Commandes()
     QCOMPARE(FichierModifie, copie ? 0 : Vrai);
     if (copie)
         return;
-    Operateur::Menu(QStringLiteral("Mnu_Annuler"));
+    Operateur::Menu("Mnu_Annuler");
     QCOMPARE(frmPrinc->Text1->Text(), avant);
     QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
 }
@@ -120,16 +120,16 @@ void TestEdition::CopieVersAilleurs()
 {
     Poste poste;
     poste.Demarre(0);
-    OuvreDocument(poste.Ecrit(QStringLiteral("P.iso"), "%\f\t\r\xE9\x80\x81\nFIN"));
+    OuvreDocument(poste.Ecrit("P.iso", "%\f\t\r\xE9\x80\x81\nFIN"));
     const QString texte = frmPrinc->Text1->Text();
     Selectionne(0, int(texte.size()));
-    Operateur::Menu(QStringLiteral("Mnu_Couper"));
+    Operateur::Menu("Mnu_Couper");
     QVERIFY(frmPrinc->Text1->EstVide());
-    Operateur::Menu(QStringLiteral("Mnu_Coller"));
+    Operateur::Menu("Mnu_Coller");
     QCOMPARE(frmPrinc->Text1->Text(), texte);
     QTest::keyClicks(frmPrinc->Text1, QStringLiteral("abc"));
     QCOMPARE(TexteAnnuler, QString());
-    Operateur::Menu(QStringLiteral("Mnu_Annuler"));
+    Operateur::Menu("Mnu_Annuler");
     QVERIFY(frmPrinc->Text1->EstVide());
 }
 
@@ -144,7 +144,7 @@ void TestEdition::Raccourcis()
     QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
     Selectionne(0, 3);
     Operateur operateur;
-    operateur.Fait(QStringLiteral("CommonDialog"), [](QWidget &fenetre) {
+    operateur.Fait("CommonDialog", [](QWidget &fenetre) {
         QCOMPARE(fenetre.windowTitle(), QStringLiteral("Sélectionner une configuration de communication"));
         fenetre.close();
     });

@@ -18,10 +18,10 @@
 
 namespace {
 
-const QString Dialogue = QStringLiteral("Em_Rc");
+constexpr char Dialogue[] = "Em_Rc";
 const QString Demarre = QStringLiteral("Command2");
-const QString Annule = QStringLiteral("Command1");
-const QString Statut = QStringLiteral("Label2");
+constexpr char Annule[] = "Command1";
+constexpr char Statut[] = "Label2";
 const QString Succes = QStringLiteral("Transfert terminé avec succès !");
 const QString PortFerme = QStringLiteral("Opération valide uniquement quand le port est ouvert");
 
@@ -70,9 +70,9 @@ private Q_SLOTS:
 private:
     void Confirme()
     {
-        m_operateur->Repond(QStringLiteral("Emission d'un programme CN"),
-                            QStringLiteral("Emission d'un programme CN\rConfirmez l'émission du programme PIECE.iso "
-                                           "sur le port Com2 ?"),
+        m_operateur->Repond("Emission d'un programme CN",
+                            "Emission d'un programme CN\rConfirmez l'émission du programme PIECE.iso "
+                            "sur le port Com2 ?",
                             Boite::Question | Boite::OuiNon | Boite::SecondBouton, QMessageBox::Yes);
     }
     void AnnonceErreur(int numero, const QString &texte)
@@ -80,7 +80,7 @@ private:
         m_operateur->Repond(QStringLiteral("Erreur N°:  %1Fermeture du port de communication").arg(numero), texte,
                             Boite::Critique, QMessageBox::Ok);
     }
-    static void Emet() { Operateur::Menu(QStringLiteral("Mnu_EmisProgCN")); }
+    static void Emet() { Operateur::Menu("Mnu_EmisProgCN"); }
     /// One sending from confirmation to close, that must succeed.
     void EmetToutEntier(const Operateur::Geste &regarde)
     {
@@ -233,7 +233,7 @@ void TestEmission::Affichage()
             QCOMPARE(Operateur::Lu(Statut), statut);
             QCOMPARE(echoVisible(fenetre), echo == 1);
             if (echo == 1)
-                QCOMPARE(Operateur::Lu(QStringLiteral("Label3")).right(3), echoLu.right(3));
+                QCOMPARE(Operateur::Lu("Label3").right(3), echoLu.right(3));
             QVERIFY(!fenetre.findChild<QWidget *>(QStringLiteral("Label4"))->isVisible());
             QVERIFY(!fenetre.findChild<QWidget *>(QStringLiteral("Frame2"))->isVisible());
             QVERIFY(!fenetre.findChild<QWidget *>(Demarre)->isEnabled());
@@ -246,7 +246,7 @@ void TestEmission::Affichage()
         [&](QWidget &fenetre) {
             QCOMPARE(echoVisible(fenetre), echo == 1);
             if (echo == 1)
-                QCOMPARE(Operateur::Lu(QStringLiteral("Label3")), QStringLiteral("␄"));
+                QCOMPARE(Operateur::Lu("Label3"), QStringLiteral("␄"));
             QCOMPARE(Operateur::Lu(Annule), QStringLiteral("&Annuler"));
             QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
         },
@@ -307,21 +307,16 @@ void TestEmission::Coupure()
     QTRY_COMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Rouge);
     QVERIFY(machine.Programmes().empty() && Recu(machine).size() < 33000);
 
-    if (geste == QLatin1String("machine off")) {
-        MachineSimulee autre(Rapide());
-        m_poste->Relie(2, autre.Chemin());
-        OuvreDocument(m_poste->Ecrit(QStringLiteral("PIECE.iso"), "G0"));
-        EmetToutEntier([](QWidget &) {});
-        QVERIFY(autre.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
-        QCOMPARE(Recu(autre), typeEnvoi == 0 ? QByteArray("G0\n\x04") : QByteArray("G0\x04"));
-        return;
-    }
-    machine.Reprend();
-    machine.RemiseAZero();
-    OuvreDocument(m_poste->Ecrit(QStringLiteral("PIECE.iso"), "G0"));
+    std::optional<MachineSimulee> autre;
+    if (geste == QLatin1String("machine off"))
+        m_poste->Relie(2, autre.emplace(Rapide()).Chemin());
+    MachineSimulee &suivante = autre ? *autre : machine;
+    suivante.Reprend();
+    suivante.RemiseAZero();
+    OuvreDocument(m_poste->Ecrit("PIECE.iso", "G0"));
     EmetToutEntier([](QWidget &) {});
-    QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
-    QCOMPARE(Recu(machine), typeEnvoi == 0 ? QByteArray("G0\n\x04") : QByteArray("G0\x04"));
+    QVERIFY(suivante.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
+    QCOMPARE(Recu(suivante), typeEnvoi == 0 ? QByteArray("G0\n\x04") : QByteArray("G0\x04"));
 }
 
 // What stands behind the port's name is no line that can be used: told at the opening, then at the first operation. An
@@ -349,9 +344,9 @@ void TestEmission::PortInutilisable()
         autreProgramme = open(qPrintable(machine.Chemin()), O_RDWR | O_NOCTTY | O_CLOEXEC);
         QCOMPARE(flock(autreProgramme, LOCK_EX | LOCK_NB), 0);
     } else if (cas == QLatin1String("fichier")) {
-        m_poste->Relie(2, m_poste->Ecrit(QStringLiteral("fichier"), "x"));
+        m_poste->Relie(2, m_poste->Ecrit("fichier", "x"));
     } else {
-        m_poste->Relie(2, m_poste->Chemin(QStringLiteral("absent")));
+        m_poste->Relie(2, m_poste->Chemin("absent"));
     }
     for (const int type : {0, 1}) {
         ParamCom.TypeEnvoi = type;

@@ -22,11 +22,9 @@ private Q_SLOTS:
     void cleanup();
     void Ouvre();
     void OuvreOuvert();
-    void OuvreRate_data();
     void OuvreRate();
     void FermeFerme();
     void MenuFermeture();
-    void Textes_data();
     void Textes();
 
 private:
@@ -121,48 +119,31 @@ void TestPortCom::OuvreOuvert()
 }
 
 // The first step that fails is told once, and the steps behind it do not run.
-void TestPortCom::OuvreRate_data()
-{
-    QTest::addColumn<int>("flux");
-    QTest::addColumn<QString>("vitesse");
-    QTest::addColumn<QString>("bits");
-    QTest::addColumn<int>("port");
-    QTest::addColumn<int>("refus");
-    QTest::addColumn<int>("numero");
-    QTest::addColumn<QString>("texte");
-    const QString reglage = QStringLiteral("Impossible de définir l'état de communication");
-    QTest::newRow("flow control before speed") << 9 << "x"
-                                               << "8" << 2 << 0 << 8015 << reglage;
-    QTest::newRow("speed that is none") << 1 << "x"
-                                        << "8" << 99 << 0 << 8007
-                                        << "Le débit en bauds du périphérique n'est pas pris en charge";
-    QTest::newRow("4 data bits") << 1 << "9600"
-                                 << "4" << 2 << 0 << 8008 << "La taille d'octet spécifiée n'est pas valide";
-    QTest::newRow("port number") << 1 << "9600"
-                                 << "8" << 17 << 0 << 8002 << "Numéro de port non valide";
-    QTest::newRow("refused by the device") << 1 << "9600"
-                                           << "8" << 2 << 8015 << 8015 << reglage;
-}
-
 void TestPortCom::OuvreRate()
 {
-    QFETCH(int, refus);
-    QFETCH(int, numero);
-    QFETCH(QString, texte);
-    QFETCH(QString, vitesse);
-    QFETCH(QString, bits);
-    QFETCH(int, flux);
-    QFETCH(int, port);
-    ParamCom.ControleFlux = flux;
-    ParamCom.Vitesse = vitesse;
-    ParamCom.BitsDonnees = bits;
-    ParamCom.NumPort = port;
-    m_ligne->refusReglage = refus;
-    AnnonceErreur(numero, texte);
-    OuvrePortCOM();
-    QVERIFY(!Controle().PortOpen() && !PortOuvert);
-    QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Rouge);
-    QCOMPARE(frmPrinc->lblPortOpen->text(), QStringLiteral("Port Fermé"));
+    const struct
+    {
+        int flux;
+        const char *vitesse, *bits;
+        int port, refus, numero;
+        const char *texte;
+    } cas[] = {{9, "x", "8", 2, 0, 8015, "Impossible de définir l'état de communication"},
+               {1, "x", "4", 99, 0, 8007, "Le débit en bauds du périphérique n'est pas pris en charge"},
+               {1, "9600", "4", 99, 0, 8008, "La taille d'octet spécifiée n'est pas valide"},
+               {1, "9600", "8", 17, 8015, 8002, "Numéro de port non valide"},
+               {1, "9600", "8", 2, 8015, 8015, "Impossible de définir l'état de communication"}};
+    for (const auto &[flux, vitesse, bits, port, refus, numero, texte] : cas) {
+        ParamCom.ControleFlux = flux;
+        ParamCom.Vitesse = QString::fromLatin1(vitesse);
+        ParamCom.BitsDonnees = QString::fromLatin1(bits);
+        ParamCom.NumPort = port;
+        m_ligne->refusReglage = refus;
+        AnnonceErreur(numero, QString::fromUtf8(texte));
+        OuvrePortCOM();
+        QVERIFY(!Controle().PortOpen() && !PortOuvert);
+        QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Rouge);
+        QCOMPARE(frmPrinc->lblPortOpen->text(), QStringLiteral("Port Fermé"));
+    }
 }
 
 void TestPortCom::FermeFerme()
@@ -177,7 +158,7 @@ void TestPortCom::FermeFerme()
 // A port that stayed open can be closed from the menu; the lamp follows by itself.
 void TestPortCom::MenuFermeture()
 {
-    const QString entree = QStringLiteral("Mnu_FermePortCom");
+    constexpr char entree[] = "Mnu_FermePortCom";
     PortOuvert = true;
     QVERIFY(!Operateur::Offre(entree));
     QVERIFY(!PortOuvert);
@@ -190,47 +171,29 @@ void TestPortCom::MenuFermeture()
 }
 
 // What the operator reads: our text in his language, or the platform's for a number without one.
-void TestPortCom::Textes_data()
-{
-    QTest::addColumn<int>("numero");
-    QTest::addColumn<QString>("francais");
-    QTest::addColumn<QString>("anglais");
-    QTest::addColumn<QString>("espagnol");
-    QTest::newRow("1001") << 1001 << "Réception d'un signal d'interruption."
-                          << "Receiving of a signal of interruption."
-                          << "Recepción de una señal de interrupción.";
-    QTest::newRow("8013") << 8013 << "Le périphérique est déjà ouvert"
-                          << "The peripheral is already open"
-                          << "El periférico está ya abierto ";
-    QTest::newRow("8020") << 8020 << "Erreur de lecture du périphérique de communication"
-                          << "Misreading of the peripheral of communication"
-                          << "Error de lectura del periférico de comunicación";
-    QTest::newRow("8086") << 8086 << "Numéro de Port de communication invalide."
-                          << "Number of invalid port of communication."
-                          << "Número del Puerto de comunicación inválida.";
-    for (const int inconnu : {0, 1005, 8017, 70})
-        QTest::addRow("%d", inconnu) << inconnu << "Permission denied"
-                                     << "Permission denied"
-                                     << "Permission denied";
-}
-
 void TestPortCom::Textes()
 {
-    QFETCH(int, numero);
-    QFETCH(QString, francais);
-    QFETCH(QString, anglais);
-    QFETCH(QString, espagnol);
-    const Erreur erreur(numero, QStringLiteral("Permission denied"));
-    const QString titres[] = {QStringLiteral("Erreur N°:  %1Fermeture du port de communication"),
-                              QStringLiteral("Error N°:  %1Closing of the port of communication"),
-                              QStringLiteral("Error N°:  %1Cierre del puerto de comunicación")};
-    const QString textes[] = {francais, anglais, espagnol};
+    const char *const titres[] = {"Erreur N°:  %1Fermeture du port de communication",
+                                  "Error N°:  %1Closing of the port of communication",
+                                  "Error N°:  %1Cierre del puerto de comunicación"};
+    const std::pair<int, std::array<const char *, 3>> erreurs[] = {
+        {1001,
+         {"Réception d'un signal d'interruption.", "Receiving of a signal of interruption.",
+          "Recepción de una señal de interrupción."}},
+        {8086,
+         {"Numéro de Port de communication invalide.", "Number of invalid port of communication.",
+          "Número del Puerto de comunicación inválida."}},
+        {1005, {"Permission denied", "Permission denied", "Permission denied"}},
+        {70, {"Permission denied", "Permission denied", "Permission denied"}}};
     Em_Rc dialogue(frmPrinc);
-    for (LangIndex = 0; LangIndex < 3; ++LangIndex) {
-        OuvrePortCOM();
-        m_operateur->Repond(titres[LangIndex].arg(numero), textes[LangIndex], Boite::Critique, QMessageBox::Ok);
-        ErreurPortCOM(erreur, dialogue);
-        QVERIFY(!Controle().PortOpen() && !PortOuvert);
+    for (const auto &[numero, textes] : erreurs) {
+        for (LangIndex = 0; LangIndex < 3; ++LangIndex) {
+            OuvrePortCOM();
+            m_operateur->Repond(QString::fromUtf8(titres[LangIndex]).arg(numero), textes[std::size_t(LangIndex)],
+                                Boite::Critique, QMessageBox::Ok);
+            ErreurPortCOM(Erreur(numero, QStringLiteral("Permission denied")), dialogue);
+            QVERIFY(!Controle().PortOpen() && !PortOuvert);
+        }
     }
 }
 
