@@ -2,6 +2,7 @@
 
 #include "locale/Langue.h"
 #include "platform/CommonDialog.h"
+#include "platform/Icone.h"
 #include "platform/MSComm.h"
 
 #include <QCloseEvent>
@@ -22,6 +23,22 @@ constexpr Texte3 NomsLangues[] = {
 
 constexpr Texte3 AllumeeTexte{u" : actif", u": on", u": activo"};
 constexpr Texte3 EteinteTexte{u" : inactif", u": off", u": inactivo"};
+
+// The pictures of the toolbar buttons, from the first position on: each bears that of the menu entry that it repeats.
+constexpr const char *IconesBoutons[] = {"Mnu_Ouvrir",     "Mnu_EnregistrerSous",
+                                         "Mnu_Police",     "Mnu_EditProg",
+                                         "Mnu_Imprim",     "Mnu_Quitter",
+                                         nullptr,          "Mnu_ChargeConf",
+                                         "Mnu_EmisProgCN", "Mnu_RecepProg",
+                                         "Mnu_EmisJauge",  "Mnu_RecepJauge",
+                                         "Mnu_RecepBanc",  nullptr,
+                                         "Mnu_AffichDOS",  "Mnu_Aide",
+                                         "Mnu_Apropos"};
+
+QIcon IconeProgramme(const char *nom)
+{
+    return Icone(QStringLiteral(":/icones/%1.svg").arg(QLatin1String(nom)));
+}
 
 int Couleur(bool active)
 {
@@ -44,6 +61,7 @@ FrmPrinc::FrmPrinc()
     setupUi(this);
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is not for hiding
     NommeControles();
+    PoseIcones();
     QSizePolicy politique = Etat->sizePolicy();
     politique.setRetainSizeWhenHidden(true);
     Etat->setSizePolicy(politique);
@@ -69,6 +87,16 @@ void FrmPrinc::NommeControles()
     for (QAction *action : actions) {
         if (auto *const bouton = qobject_cast<QToolButton *>(Toolbar1->widgetForAction(action)))
             bouton->setObjectName(action->objectName());
+    }
+}
+
+void FrmPrinc::PoseIcones()
+{
+    setWindowIcon(IconeProgramme("Dorvanel"));
+    int position = 0;
+    for (const char *const icone : IconesBoutons) {
+        if (QAction *const bouton = Bouton(++position))
+            bouton->setIcon(IconeProgramme(icone));
     }
 }
 

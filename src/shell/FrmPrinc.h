@@ -60,6 +60,7 @@ private:
     void UpdateTimer_Timer();
     void Timer2_Timer();
     void NommeControles();
+    void PoseIcones();
     void DitLampes();
 };
 
