@@ -1,0 +1,47 @@
+#include "platform/CedeLaMain.h"
+
+#include <QAbstractEventDispatcher>
+#include <QTimer>
+
+namespace {
+
+constexpr int SommeilMax = 5; // ms
+// An event that always begets the next must not keep the caller from its turn.
+constexpr int ToursMax = 16;
+
+bool mouvement = false;
+
+bool TraiteEvenements(QAbstractEventDispatcher &repartiteur)
+{
+    int tours = 0;
+    while (tours < ToursMax && repartiteur.processEvents(QEventLoop::AllEvents))
+        ++tours;
+    return tours > 0;
+}
+
+void Dort(QAbstractEventDispatcher &repartiteur)
+{
+    QTimer reveil;
+    reveil.setTimerType(Qt::PreciseTimer);
+    reveil.setSingleShot(true);
+    reveil.start(SommeilMax);
+    repartiteur.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+} // namespace
+
+void CedeLaMain()
+{
+    QAbstractEventDispatcher *repartiteur = QAbstractEventDispatcher::instance();
+    if (repartiteur == nullptr)
+        return;
+    const bool traite = TraiteEvenements(*repartiteur);
+    if (!traite && !mouvement)
+        Dort(*repartiteur);
+    mouvement = false;
+}
+
+void SignaleMouvement()
+{
+    mouvement = true;
+}

@@ -1,0 +1,213 @@
+#include "platform/LignePosix.h"
+
+#include "platform/Erreur.h"
+#include "platform/ErreurPort.h"
+#include "platform/Reprise.h"
+#include "platform/TerminalPosix.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <linux/serial.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+namespace {
+
+// Major device numbers of the ends of pseudo-terminals that a program opens.
+constexpr unsigned PseudoPremier = 136;
+constexpr unsigned PseudoDernier = 143;
+
+int NumeroOuverture(int erreur)
+{
+    switch (erreur) {
+    case ENOENT:
+    case ENXIO:
+    case ENODEV:
+    case EIO: // a port number that the kernel keeps ready without a chip behind it
+        return ErreurPort::Inconnu;
+    case EBUSY:
+    case EWOULDBLOCK:
+        return ErreurPort::Occupe;
+    case EISDIR:
+    case ENOTTY:
+    case ENOTDIR:
+        return ErreurPort::PasUneLigne;
+    case EACCES:
+    case EPERM:
+        return Erreur::AccesRefuse;
+    default:
+        return ErreurPort::Indisponible;
+    }
+}
+
+[[noreturn]] void EchecOuverture(const QString &chemin, int erreur)
+{
+    throw Erreur(NumeroOuverture(erreur), chemin + QLatin1String(": ") + TexteSysteme(erreur));
+}
+
+[[noreturn]] void LigneDisparue(int erreur)
+{
+    throw Erreur(ErreurPort::Lecture, TexteSysteme(erreur));
+}
+
+bool EstPseudoTerminal(int fd)
+{
+    struct stat infos
+    {
+    };
+    if (fstat(fd, &infos) != 0)
+        return false;
+    const unsigned majeur = major(infos.st_rdev);
+    return majeur >= PseudoPremier && majeur <= PseudoDernier;
+}
+
+} // namespace
+
+LignePosix::LignePosix(const QString &chemin)
+{
+    const QByteArray nom = QFile::encodeName(chemin);
+    m_fd = Reprise([&] { return open(nom.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); });
+    if (m_fd < 0)
+        EchecOuverture(chemin, errno);
+    try {
+        Reserve(chemin);
+        if (const int erreur = PrepareTerminal(m_fd))
+            EchecOuverture(chemin, erreur);
+    } catch (...) {
+        close(m_fd);
+        throw;
+    }
+    m_pseudoTerminal = EstPseudoTerminal(m_fd);
+    CompteursPilote(m_comptesMarques);
+}
+
+LignePosix::~LignePosix()
+{
+    // Where someone else keeps the device open, as a simulated machine does, the exclusive use would outlast us.
+    ioctl(m_fd, TIOCNXCL);
+    close(m_fd);
+}
+
+/// The lock comes first: exclusive use alone does not stop a program that runs with all rights.
+void LignePosix::Reserve(const QString &chemin)
+{
+    if (Reprise([&] { return flock(m_fd, LOCK_EX | LOCK_NB); }) < 0)
+        EchecOuverture(chemin, errno);
+    if (Reprise([&] { return ioctl(m_fd, TIOCEXCL); }) < 0)
+        EchecOuverture(chemin, errno);
+}
+
+void LignePosix::Regle(const ReglagePort &reglage)
+{
+    RegleTerminal(m_fd, reglage, !m_pseudoTerminal);
+    m_avecParite = reglage.parite != Parite::Aucune;
+}
+
+void LignePosix::PoseRTS(bool actif)
+{
+    PoseSortie(TIOCM_RTS, actif);
+}
+
+void LignePosix::PoseDTR(bool actif)
+{
+    PoseSortie(TIOCM_DTR, actif);
+}
+
+void LignePosix::PoseSortie(int ligne, bool actif)
+{
+    Reprise([&] { return ioctl(m_fd, actif ? TIOCMBIS : TIOCMBIC, &ligne); });
+}
+
+LectureLigne LignePosix::Lit(int tailleMax)
+{
+    QByteArray lus(tailleMax, Qt::Uninitialized);
+    const ssize_t nombre = Reprise([&] { return read(m_fd, lus.data(), static_cast<size_t>(tailleMax)); });
+    if (nombre < 0 && (errno == EAGAIN || errno == EWOULDBLOCK))
+        return {};
+    if (nombre <= 0)
+        LigneDisparue(nombre < 0 ? errno : EIO);
+    lus.truncate(nombre);
+
+    const DecodeurMarques::Resultat resultat = m_decodeur.Decode(lus);
+    return QualifieMarques(resultat, resultat.marques.isEmpty() ? SensMarques() : Sens(), m_compteurs);
+}
+
+/// A mark says that a character is wrong, not how. The driver's counters tell; without them a marked NUL is taken for a
+/// break, since that is by far the commoner, and any other for the error that the settings allow.
+SensMarques LignePosix::Sens()
+{
+    const CompteursLigne avant = m_comptesMarques;
+    if (!CompteursPilote(m_comptesMarques))
+        return {true, m_avecParite};
+    return {m_comptesMarques.pauses != avant.pauses, m_comptesMarques.parite != avant.parite};
+}
+
+int LignePosix::Ecrit(const char *octets, int nombre)
+{
+    const ssize_t pris = Reprise([&] { return write(m_fd, octets, static_cast<size_t>(nombre)); });
+    if (pris >= 0)
+        return static_cast<int>(pris);
+    if (errno == EAGAIN || errno == EWOULDBLOCK)
+        return 0;
+    LigneDisparue(errno);
+}
+
+int LignePosix::NonEmis()
+{
+    int nombre = 0;
+    return Reprise([&] { return ioctl(m_fd, TIOCOUTQ, &nombre); }) < 0 ? 0 : nombre;
+}
+
+void LignePosix::JetteReception()
+{
+    JetteEntree(m_fd);
+    m_decodeur.Oublie();
+}
+
+void LignePosix::JetteEmission()
+{
+    JetteSortie(m_fd);
+}
+
+std::optional<EtatsLigne> LignePosix::Etats()
+{
+    int lignes = 0;
+    if (Reprise([&] { return ioctl(m_fd, TIOCMGET, &lignes); }) < 0)
+        return {};
+    EtatsLigne etats;
+    etats.cts = lignes & TIOCM_CTS;
+    etats.dsr = lignes & TIOCM_DSR;
+    etats.cd = lignes & TIOCM_CD;
+    etats.anneau = lignes & TIOCM_RI;
+    return etats;
+}
+
+CompteursLigne LignePosix::Compteurs()
+{
+    CompteursLigne compteurs = m_compteurs;
+    CompteursPilote(compteurs);
+    return compteurs;
+}
+
+/// False, and compteurs untouched, for a driver that does not count.
+bool LignePosix::CompteursPilote(CompteursLigne &compteurs) const
+{
+    serial_icounter_struct pilote{};
+    if (Reprise([&] { return ioctl(m_fd, TIOCGICOUNT, &pilote); }) < 0)
+        return false;
+    const auto compte = [](int nombre) { return static_cast<unsigned>(nombre); };
+    compteurs.cts = compte(pilote.cts);
+    compteurs.dsr = compte(pilote.dsr);
+    compteurs.cd = compte(pilote.dcd);
+    compteurs.anneau = compte(pilote.rng);
+    compteurs.pauses = compte(pilote.brk);
+    compteurs.trame = compte(pilote.frame);
+    compteurs.cadence = compte(pilote.overrun);
+    compteurs.debordements = compte(pilote.buf_overrun);
+    compteurs.parite = compte(pilote.parity);
+    return true;
+}

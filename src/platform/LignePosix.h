@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/DecodeurMarques.h"
+#include "platform/LigneSerie.h"
+
+/// The serial line of a POSIX system with Linux's terminal driver.
+///
+/// The driver drops what a pseudo-terminal does not have (framing, speed) without a word; there that is no failure.
+/// Its surprises are told where they are dealt with, in LignePosix.cpp.
+class LignePosix : public LigneSerie
+{
+public:
+    /// Opens the device at chemin and holds it against every other program until the destruction. The line is then raw,
+    /// without flow control, and no XOFF of an earlier use stands.
+    /// Raises ErreurPort::Inconnu, Occupe, PasUneLigne, Indisponible, or Erreur::AccesRefuse.
+    explicit LignePosix(const QString &chemin);
+    ~LignePosix() override;
+
+    void Regle(const ReglagePort &reglage) override;
+    void PoseRTS(bool actif) override;
+    void PoseDTR(bool actif) override;
+    int Descripteur() const override { return m_fd; }
+    LectureLigne Lit(int tailleMax) override;
+    int Ecrit(const char *octets, int nombre) override;
+    int NonEmis() override;
+    void JetteReception() override;
+    void JetteEmission() override;
+    std::optional<EtatsLigne> Etats() override;
+    CompteursLigne Compteurs() override;
+
+private:
+    void Reserve(const QString &chemin);
+    void PoseSortie(int ligne, bool actif);
+    SensMarques Sens();
+    bool CompteursPilote(CompteursLigne &compteurs) const;
+
+    int m_fd = -1;
+    bool m_pseudoTerminal = false;
+    bool m_avecParite = false;
+    DecodeurMarques m_decodeur;
+    CompteursLigne m_compteurs;      // by marks where the driver does not count
+    CompteursLigne m_comptesMarques; // what the driver had counted at the last mark
+};

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "platform/ReglagePort.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <optional>
+
+/// State of the lines that the machine drives.
+struct EtatsLigne
+{
+    bool cts = false;
+    bool dsr = false;
+    bool cd = false;
+    bool anneau = false;
+};
+
+/// How often something happened on the line. Only the differences count; what the device does not count stays 0.
+struct CompteursLigne
+{
+    unsigned cts = 0;
+    unsigned dsr = 0;
+    unsigned cd = 0;
+    unsigned anneau = 0;
+    unsigned pauses = 0;       ///< breaks
+    unsigned trame = 0;        ///< framing errors
+    unsigned cadence = 0;      ///< characters that the serial chip lost
+    unsigned debordements = 0; ///< characters that the system lost
+    unsigned parite = 0;
+};
+
+/// What one reading gave.
+struct LectureLigne
+{
+    QByteArray octets;
+    QList<qsizetype> fausses; ///< positions in octets of the characters that came with a parity error
+    bool erreur = false;      ///< the counters have moved: a parity or framing error, or a break
+};
+
+/// An open serial line, closed by its destruction. No operation waits.
+/// Any of them raises Erreur with ErreurPort::Lecture once the device has gone, unless told otherwise.
+class LigneSerie
+{
+public:
+    LigneSerie() = default;
+    virtual ~LigneSerie() = default;
+    Q_DISABLE_COPY_MOVE(LigneSerie)
+
+    /// Raises ErreurPort::Vitesse, BitsDonnees or Reglage for what the device cannot do; the line then keeps what it
+    /// had.
+    virtual void Regle(const ReglagePort &reglage) = 0;
+    virtual void PoseRTS(bool actif) = 0;
+    virtual void PoseDTR(bool actif) = 0;
+
+    /// Descriptor that is readable when characters have come or the device has gone, and writable when Ecrit takes
+    /// some.
+    virtual int Descripteur() const = 0;
+    /// At most tailleMax characters, above 0; none when nothing has come.
+    virtual LectureLigne Lit(int tailleMax) = 0;
+    /// Hands the first characters over and gives their number; 0 when the line takes none for now.
+    virtual int Ecrit(const char *octets, int nombre) = 0;
+    /// Characters handed over that the system still holds, as far as it knows.
+    virtual int NonEmis() = 0;
+    /// Throws away what has come and was not read, or what the system has not sent.
+    virtual void JetteReception() = 0;
+    virtual void JetteEmission() = 0;
+
+    /// Nothing where the device has no such lines. Never fails.
+    virtual std::optional<EtatsLigne> Etats() = 0;
+    /// Never fails.
+    virtual CompteursLigne Compteurs() = 0;
+};

@@ -1,0 +1,210 @@
+#pragma once
+
+#include "platform/CadenceEmission.h"
+#include "platform/Erreur.h"
+#include "platform/ErreurPort.h"
+#include "platform/EvenementsPort.h"
+#include "platform/LigneSerie.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QSocketNotifier;
+
+/// The serial control: one port of the PC, its properties, its two buffers and its event.
+///
+/// Principles of operation
+///
+/// Text. One character of text is one byte of code page 1252 on the line, in both directions; all 256 values travel.
+///
+/// Threads and waiting. Everything happens on the program's one thread. Bytes move while the event loop runs, or inside
+/// a yield, or when Output is called. No operation waits for the machine; two give it a bounded time, see Sending.
+///
+/// Receiving. The control takes from the system no more than InBufferSize has room for. The rest stays with the system,
+/// whose buffer of a few thousand characters fills, whereupon the system's flow control (XOFF, RTS) holds the machine
+/// back. So a program that is slow to read loses nothing, unless there is no flow control, and then event 1008 says so.
+///
+/// Sending. Output only queues. From the queue the system gets at most what the line carries in the next moment
+/// (CadenceEmission), since what it holds cannot be called back: USB adapters and pseudo-terminals buffer hundreds of
+/// characters. So an XOFF or a cancel takes effect within a few characters, OutBufferCount tells what the machine has
+/// still to get, and it falls to 0 a few characters before the line falls idle, in time for the next line of text.
+/// OutBufferCount = 0 (ViderEmission) first gives what was just written, up to 100 characters, its line time, unless
+/// the machine holds the line. Closing the port gives its line time to what has left the queue; what still waits there
+/// is thrown away, since then the sending was cancelled. Both keep the event loop turning meanwhile, with the
+/// operator's keys and clicks and this control's event held back until they return.
+///
+/// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy; with them on, the
+/// characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
+/// then waits until the handshake is off again. A line counts as held when the system refuses characters, when CTS is
+/// low under that handshake, or when the system's own backlog stands still for clearly longer than its line time.
+///
+/// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent: 1 sending (the queue has
+/// fallen below SThreshold), 2 reception (RThreshold characters wait, and new ones have come), 3 CTS, 4 DSR, 5 CD, 6
+/// ring, 1001 break, 1004 framing, 1006 overrun, 1008 lost by the system, 1009 parity. A handler may yield; the event
+/// that it is handling is not delivered again before it returns, see EvenementsPort. Line changes are seen within 50
+/// ms, also those that came and went in between where the driver counts them.
+///
+/// Failures. They are raised as Erreur with a number of ErreurPort. A device that goes away while the port is open
+/// raises ErreurPort::Lecture at the next operation on the buffers, once the characters that had come are read; the
+/// port stays open until it is closed.
+///
+/// Pseudo-terminals. They have no speed, framing or modem lines: settings without a meaning are no failure, the lines
+/// read False, and the sending is paced all the same.
+class MSComm : public QObject
+{
+    Q_OBJECT
+public:
+    /// Opens the port of that number; raises what LignePosix raises.
+    using Fabrique = std::function<std::unique_ptr<LigneSerie>(int numPort)>;
+
+    explicit MSComm(QObject *parent = nullptr);
+    ~MSComm() override;
+
+    /// Where the lines come from; by default LignePosix on CheminPort().
+    void setFabrique(Fabrique fabrique) { m_fabrique = std::move(fabrique); }
+    /// Folder of links ComN to devices, so that an adapter keeps its number.
+    void setDossierPorts(const QString &dossier) { m_dossierPorts = dossier; }
+    /// The device that a port number stands for: the first that exists of ComN in the folder of links, /dev/comN,
+    /// /dev/ttyS(N-1). Empty when none does.
+    QString CheminPort(int numPort) const;
+
+    /// Port number, 1 to 16. Raises ErreurPort::Inconnu, or DejaOuvert for another number while the port is open.
+    int CommPort() const { return m_commPort; }
+    void setCommPort(int numPort);
+
+    /// Opens or closes the port. Opening raises ErreurPort::Occupe when it is open already, what the factory raises,
+    /// and what the device refuses of Settings; it throws away what came before. Closing a closed port does nothing.
+    bool PortOpen() const { return m_ligne != nullptr; }
+    void setPortOpen(bool ouvert);
+
+    /// Speed, parity, data bits and stop bits, as LitReglagePort() reads them. A refused text changes nothing; while
+    /// the port is open it raises also what the device refuses.
+    QString Settings() const { return m_settings; }
+    void setSettings(const QString &settings);
+    /// What the line carries with these Settings.
+    double CaracteresParSeconde() const { return m_reglage.vitesse / m_reglage.BitsParCaractere(); }
+
+    /// 0 none, 1 XON/XOFF, 2 RTS/CTS, 3 both. Raises ErreurPort::Reglage.
+    int Handshaking() const { return static_cast<int>(m_reglage.flux); }
+    void setHandshaking(int flux);
+
+    /// State of the two lines that the PC drives, while the port is open.
+    bool RTSEnable() const { return m_rts; }
+    void setRTSEnable(bool actif);
+    bool DTREnable() const { return m_dtr; }
+    void setDTREnable(bool actif);
+    /// State of the machine's lines; False while the port is closed.
+    bool CTSHolding() const { return m_etats && m_etats->cts; }
+    bool DSRHolding() const { return m_etats && m_etats->dsr; }
+    bool CDHolding() const { return m_etats && m_etats->cd; }
+
+    /// Size of the receive buffer in characters; the usual 1024 stands in for 0 and below.
+    /// Raises ErreurPort::DejaOuvert for another size while the port is open.
+    int InBufferSize() const { return m_inBufferSize; }
+    void setInBufferSize(int taille);
+    /// What the program takes for the size of a block. The queue itself takes what Output is given.
+    int OutBufferSize() const { return m_outBufferSize; }
+    void setOutBufferSize(int taille);
+
+    /// Largest number of characters that Input gives; 0 and below: all.
+    int InputLen() const { return m_inputLen; }
+    void setInputLen(int nombre) { m_inputLen = nombre; }
+    /// Whether received NULs are dropped.
+    bool NullDiscard() const { return m_nullDiscard; }
+    void setNullDiscard(bool jette) { m_nullDiscard = jette; }
+    /// Its first character takes the place of each one that came with a parity error; empty: it stays as it came.
+    QString ParityReplace() const { return m_parityReplace; }
+    void setParityReplace(const QString &remplacant) { m_parityReplace = remplacant; }
+    /// Received characters that raise event 2, and level of the queue below which event 1 comes; 0: no event.
+    int RThreshold() const { return m_rThreshold; }
+    void setRThreshold(int seuil);
+    int SThreshold() const { return m_sThreshold; }
+    void setSThreshold(int seuil) { m_sThreshold = seuil; }
+
+    // The following raise ErreurPort::Ferme on a closed port, and Lecture once the device has gone.
+
+    /// Takes the characters that wait out of the receive buffer, at most InputLen.
+    QString Input();
+    int InBufferCount() const;
+    /// Throws away what the control and the system have received.
+    void ViderReception();
+    /// Queues texte for sending, whatever its length.
+    void Output(const QString &texte);
+    /// Characters that have not gone to the line yet.
+    int OutBufferCount() const;
+    /// Throws away what waits for sending, after its line time: see Sending above.
+    void ViderEmission();
+
+    /// Code of the event that is being delivered.
+    int CommEvent() const { return m_evenements.Code(); }
+
+Q_SIGNALS:
+    void OnComm();
+
+private:
+    std::unique_ptr<LigneSerie> OuvreLigne() const;
+    void Ouvre();
+    void Ferme();
+    void Attend(CadenceEmission::Duree limite, const std::function<bool()> &fini);
+    void PoseReglage(const ReglagePort &reglage);
+    void ExigeOuvert() const;
+    void ExigeVivant() const;
+    void Panne(const Erreur &erreur);
+
+    int PlaceReception() const;
+    void Recolte();
+    void Range(const LectureLigne &lecture);
+    void ReprendRecolte();
+    bool SeuilReceptionAtteint() const;
+    void ControleSeuilReception();
+
+    void Pompe();
+    int Remet();
+    void ProgrammePompe(int remis);
+    bool Retenue();
+    void ObserveSysteme(CadenceEmission::Instant maintenant);
+
+    void Surveille();
+    void SuitCts();
+    void Delivre();
+
+    Fabrique m_fabrique;
+    QString m_dossierPorts;
+    int m_commPort = 1;
+    QString m_settings = QStringLiteral("9600,n,8,1");
+    ReglagePort m_reglage;
+    bool m_rts = false;
+    bool m_dtr = false;
+    int m_inBufferSize = 1024;
+    int m_outBufferSize = 512;
+    int m_inputLen = 0;
+    bool m_nullDiscard = false;
+    QString m_parityReplace;
+    int m_rThreshold = 0;
+    int m_sThreshold = 0;
+
+    std::unique_ptr<LigneSerie> m_ligne;
+    std::optional<Erreur> m_panne; // the device has gone
+    std::unique_ptr<QSocketNotifier> m_lecture;
+    std::unique_ptr<QSocketNotifier> m_ecriture;
+    std::optional<EtatsLigne> m_etats;
+    CompteursLigne m_compteurs;
+    QTimer m_surveillance;
+    EvenementsPort m_evenements;
+
+    QByteArray m_recus;
+
+    QByteArray m_aEmettre;
+    CadenceEmission m_cadence;
+    QTimer m_minuteurPompe;
+    bool m_seuilEmissionArme = false;
+    bool m_refus = false;               // the system takes nothing
+    bool m_reveilVain = false;          // it said that it would, and did not
+    int m_systeme = 0;                  // characters that it held when last looked at
+    CadenceEmission::Instant m_progres; // when that number last fell
+};
