@@ -17,6 +17,7 @@ int main(int nombre, char *arguments[])
     AppliqueLangueSysteme();
 
     FrmPrinc fenetre;
+    QApplication::setWindowIcon(fenetre.windowIcon());
     fenetre.MSComm1->setDossierPorts(AjouteAntislash(DossierApplication()) + QStringLiteral("Ports"));
     BrancheDocument();
     BrancheEdition();

@@ -93,6 +93,12 @@ QString LigneNombre(int nombre)
     return QString::number(nombre) + QStringLiteral("\r\n");
 }
 
+/// A double quote inside a text would end it for the reader and shift every field behind it; an apostrophe stands in.
+QString LigneChaine(QString texte)
+{
+    return u'"' + texte.replace(u'"', u'\'') + QStringLiteral("\"\r\n");
+}
+
 } // namespace
 
 void LireFichierPar(const QString &chemin)
@@ -114,8 +120,7 @@ void EcrireFichierPar(const QString &chemin)
 {
     QString texte;
     for (const Champ &champ : Champs)
-        texte += champ.texte != nullptr ? u'"' + ParamCom.*champ.texte + QStringLiteral("\"\r\n")
-                                        : LigneNombre(ParamCom.*champ.nombre);
+        texte += champ.texte != nullptr ? LigneChaine(ParamCom.*champ.texte) : LigneNombre(ParamCom.*champ.nombre);
     for (const Suite &suite : Suites) {
         for (int i = 1; i <= NombreTenu(suite); ++i)
             texte += LigneNombre((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);

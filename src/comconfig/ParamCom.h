@@ -62,7 +62,8 @@ extern QString NomConf;           ///< that file's name without its folder
 /// ones.
 void LireFichierPar(const QString &chemin);
 
-/// Creates or replaces the .par file at chemin with ParamCom. Raises what EcritFichierTexte raises.
+/// Creates or replaces the .par file at chemin with ParamCom; a double quote in a text goes out as an apostrophe, since
+/// the format cannot hold one. Raises what EcritFichierTexte raises.
 void EcrireFichierPar(const QString &chemin);
 
 /// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.

@@ -54,3 +54,15 @@ bool EstEn1252(QChar caractere)
 {
     return Octet(caractere.unicode()) >= 0;
 }
+
+QString ControlesVisibles(const QString &texte)
+{
+    constexpr char16_t premierImprimable = 0x20;
+    constexpr char16_t imageDuNul = 0x2400;
+    QString visible = texte;
+    for (QChar &caractere : visible) {
+        if (caractere.unicode() < premierImprimable)
+            caractere = QChar(imageDuNul + caractere.unicode());
+    }
+    return visible;
+}

@@ -15,3 +15,7 @@ QByteArray OctetsEn1252(const QString &texte);
 
 /// True when the code page has the character.
 bool EstEn1252(QChar caractere);
+
+/// texte with its control characters (codes below 32) as the pictures that stand for them, so that the eyes see a CR or
+/// an EOT that a label would show as nothing.
+QString ControlesVisibles(const QString &texte);

@@ -65,6 +65,13 @@ Em_Rc::Em_Rc(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
+    // The buttons stay where they are while lines of the dialog come and go above them.
+    for (QWidget *passager : {static_cast<QWidget *>(Progression), static_cast<QWidget *>(Label3),
+                              static_cast<QWidget *>(Label4), static_cast<QWidget *>(Frame2)}) {
+        QSizePolicy politique = passager->sizePolicy();
+        politique.setRetainSizeWhenHidden(true);
+        passager->setSizePolicy(politique);
+    }
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::reject);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);

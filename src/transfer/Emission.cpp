@@ -7,6 +7,7 @@
 #include "platform/CedeLaMain.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
+#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Avancement.h"
 #include "transfer/PortCom.h"
@@ -103,7 +104,7 @@ void Emission::Fin()
 void Emission::Echo(const QString &texte)
 {
     if (ParamCom.Echo == 1)
-        m_dialogue.Label3->setText(texte);
+        m_dialogue.Label3->setText(ControlesVisibles(texte));
 }
 
 int TailleBloc(const MSComm &controle)

@@ -1,0 +1,211 @@
+#include "Operateur.h"
+
+#include "platform/Boites.h"
+#include "shell/FrmPrinc.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+constexpr int Patience = 30000; // milliseconds without a gesture before a test counts as hung
+
+void Echec(const QString &message, const Operateur::Lieu &ou)
+{
+    QTest::qFail(qPrintable(message), ou.file_name(), int(ou.line()));
+}
+
+bool Egal(const QString &lu, const QString &attendu, const char *quoi, const Operateur::Lieu &ou)
+{
+    return QTest::qCompare(lu, attendu, quoi, "foretold", ou.file_name(), int(ou.line()));
+}
+
+QString Decrit(const QWidget *fenetre)
+{
+    const auto *const boite = qobject_cast<const QMessageBox *>(fenetre);
+    return QStringLiteral("%1 \"%2\" %3")
+        .arg(fenetre->objectName(), fenetre->windowTitle(), boite ? boite->text() : QString());
+}
+
+int Drapeaux(const QMessageBox &boite)
+{
+    const int icones[] = {0, Boite::Information, Boite::Exclamation, Boite::Critique, Boite::Question};
+    const int boutons = boite.standardButtons() == (QMessageBox::Yes | QMessageBox::No) ? Boite::OuiNon : 0;
+    const bool second = boite.defaultButton() != nullptr && boite.defaultButton() == boite.button(QMessageBox::No);
+    return icones[boite.icon()] + boutons + (second ? Boite::SecondBouton : 0);
+}
+
+/// The menu that holds an entry or a submenu; none for the menus of the bar.
+QMenu *MenuDe(const QAction *entree)
+{
+    const auto menus = frmPrinc->findChildren<QMenu *>();
+    for (QMenu *menu : menus) {
+        if (menu->actions().contains(entree))
+            return menu;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Operateur::Operateur()
+{
+    constexpr int pas = 2; // milliseconds
+    QObject::connect(&m_yeux, &QTimer::timeout, &m_yeux, [this] { Regarde(); });
+    m_yeux.start(pas);
+    m_dernierGeste.start();
+}
+
+Operateur::~Operateur()
+{
+    for (const Attente &attente : m_attentes)
+        Echec(QStringLiteral("never came: ") + attente.fenetre, attente.ou);
+}
+
+void Operateur::Repond(const QString &titre, const QString &texte, int drapeaux, QMessageBox::StandardButton bouton,
+                       Lieu ou)
+{
+    Fait(
+        QStringLiteral("MsgBox"),
+        [=, this](QWidget &fenetre) {
+            auto &boite = dynamic_cast<QMessageBox &>(fenetre);
+            Egal(boite.windowTitle(), titre, "title", ou);
+            Egal(boite.text(), PourAffichage(texte), "text", ou);
+            QTest::qCompare(Drapeaux(boite), drapeaux, "icon and buttons", "foretold", ou.file_name(), int(ou.line()));
+            if (QAbstractButton *const presse = boite.button(bouton))
+                presse->click();
+            else
+                Etonne(&boite);
+        },
+        {}, ou);
+}
+
+void Operateur::Choisit(const QString &chemin, Lieu ou)
+{
+    Fait(
+        QStringLiteral("CommonDialog"),
+        [chemin](QWidget &fenetre) {
+            fenetre.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(chemin);
+            QMetaObject::invokeMethod(&fenetre, "accept");
+        },
+        {}, ou);
+}
+
+void Operateur::AnnuleChoix(Lieu ou)
+{
+    Fait(
+        QStringLiteral("CommonDialog"), [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "reject"); }, {},
+        ou);
+}
+
+void Operateur::Presse(const QString &fenetre, const QString &bouton, Condition quand, Lieu ou)
+{
+    Fait(
+        fenetre,
+        [bouton, ou](QWidget &ouverte) {
+            auto *const presse = ouverte.findChild<QAbstractButton *>(bouton);
+            if (presse == nullptr || !presse->isVisible() || !presse->isEnabled())
+                Echec(QStringLiteral("cannot be pressed: ") + bouton, ou);
+            else
+                presse->click();
+        },
+        std::move(quand), ou);
+}
+
+void Operateur::Ferme(const QString &fenetre, Condition quand, Lieu ou)
+{
+    Fait(
+        fenetre, [](QWidget &ouverte) { ouverte.close(); }, std::move(quand), ou);
+}
+
+void Operateur::Fait(const QString &fenetre, Geste geste, Condition quand, Lieu ou)
+{
+    m_attentes.push_back({fenetre, std::move(quand), std::move(geste), ou});
+}
+
+void Operateur::Menu(const QString &entree, Lieu ou)
+{
+    if (Offre(entree))
+        frmPrinc->findChild<QAction *>(entree)->trigger();
+    else
+        Echec(QStringLiteral("not offered: ") + entree, ou);
+}
+
+bool Operateur::Offre(const QString &entree)
+{
+    const QAction *etape = frmPrinc->findChild<QAction *>(entree);
+    for (QMenu *menu = MenuDe(etape); menu != nullptr; menu = MenuDe(etape)) {
+        Q_EMIT menu->aboutToShow();
+        if (!etape->isEnabled())
+            return false;
+        etape = menu->menuAction();
+    }
+    return etape->isEnabled();
+}
+
+void Operateur::Barre(int position, Lieu ou)
+{
+    auto *const bouton = qobject_cast<QToolButton *>(frmPrinc->Toolbar1->widgetForAction(frmPrinc->Bouton(position)));
+    if (bouton->isEnabled())
+        bouton->click();
+    else
+        Echec(QStringLiteral("disabled: ") + bouton->objectName(), ou);
+}
+
+QString Operateur::Lu(const QString &controle)
+{
+    const QWidget *const fenetre = QApplication::activeModalWidget();
+    const QWidget *const lu = fenetre == nullptr ? nullptr : fenetre->findChild<QWidget *>(controle);
+    return lu == nullptr ? QString() : lu->property("text").toString();
+}
+
+void Operateur::Regarde()
+{
+    QWidget *const fenetre = QApplication::activeModalWidget();
+    if (fenetre == nullptr || m_gesteEnRoute)
+        return;
+    if (!m_abandon && m_dernierGeste.hasExpired(Patience)) {
+        m_abandon = true;
+        Etonne(fenetre);
+    } else if (m_abandon) {
+        QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
+    } else if (!m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName()) {
+        Agit(fenetre);
+    } else if (!m_connues.contains(fenetre)) {
+        Etonne(fenetre);
+    }
+}
+
+/// The gesture runs from the event loop and not from the eyes' timer: it may open the next window, and the eyes must
+/// see it.
+void Operateur::Agit(QWidget *fenetre)
+{
+    m_connues.removeAll(nullptr);
+    m_connues << fenetre;
+    if (const Condition &quand = m_attentes.front().quand; quand && !quand())
+        return;
+    m_gesteEnRoute = true;
+    const Geste geste = m_attentes.front().geste;
+    m_attentes.pop_front();
+    QMetaObject::invokeMethod(
+        fenetre,
+        [this, geste, fenetre] {
+            m_gesteEnRoute = false;
+            m_dernierGeste.restart();
+            geste(*fenetre);
+        },
+        Qt::QueuedConnection);
+}
+
+void Operateur::Etonne(QWidget *fenetre)
+{
+    const QString attendue = m_attentes.empty() ? QStringLiteral("nothing") : m_attentes.front().fenetre;
+    Echec(QStringLiteral("unexpected: %1; foretold: %2").arg(Decrit(fenetre), attendue),
+          m_attentes.empty() ? Lieu::current() : m_attentes.front().ou);
+    QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
+}

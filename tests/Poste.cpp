@@ -1,0 +1,109 @@
+#include "Poste.h"
+
+#include "comconfig/CommandesConf.h"
+#include "comconfig/ParamCom.h"
+#include "gauges/Lignes.h"
+#include "locale/Langue.h"
+#include "platform/MSComm.h"
+#include "shell/Chemins.h"
+#include "shell/Demarrage.h"
+#include "shell/Document.h"
+#include "shell/Edition.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Menus.h"
+#include "shell/Reglages.h"
+#include "transfer/Transfert.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+
+Poste::Poste()
+    : m_dossierDepart(QDir::currentPath())
+{
+    FixeDossierApplication(m_dossier.path());
+    RemetEnregistrements();
+}
+
+Poste::~Poste()
+{
+    m_fenetre.reset();
+    RemetEnregistrements();
+    FixeDossierApplication(QString());
+    QDir::setCurrent(m_dossierDepart);
+}
+
+void Poste::RemetEnregistrements()
+{
+    ParamCom = {};
+    for (QString *texte : {&FicConf, &NomConf, &NomFichier, &TitreFichier, &TexteAnnuler, &DosAppli, &DosDefaut,
+                           &FicConfDefaut, &DosConf, &DosJauge, &EditeurCN})
+        texte->clear();
+    for (int *nombre : {&LangIndex, &FichierModifie, &IndexFiltre, &OptDosDefaut, &OptConfDefaut, &OptExplorateur,
+                        &NbLignes, &LigneMaxi, &TypeTransfert, &FinTransfert, &AnnuleRECEPT})
+        *nombre = 0;
+    PortOuvert = false;
+    VideLignes();
+    QGuiApplication::clipboard()->clear();
+    AppliqueLangueSysteme();
+}
+
+void Poste::Demarre()
+{
+    m_fenetre = std::make_unique<FrmPrinc>();
+    m_fenetre->MSComm1->setDossierPorts(Chemin(QStringLiteral("Ports")));
+    BrancheDocument();
+    BrancheEdition();
+    BrancheMenus();
+    Form_Load();
+    m_fenetre->show();
+}
+
+void Poste::Demarre(int langue)
+{
+    Ecrit(QStringLiteral("Dorvanel.ini"),
+          " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + QByteArray::number(langue) + " \r\n");
+    Demarre();
+}
+
+QString Poste::Ecrit(const QString &nom, const QByteArray &octets) const
+{
+    QFile fichier(Chemin(nom));
+    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size())
+        qFatal("the test's own folder cannot be written");
+    return fichier.fileName();
+}
+
+QByteArray Poste::Lit(const QString &nom) const
+{
+    QFile fichier(Chemin(nom));
+    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+}
+
+void Poste::Relie(int port, const QString &peripherique) const
+{
+    QDir(Dossier()).mkpath(QStringLiteral("Ports"));
+    const QString lien = Chemin(QStringLiteral("Ports/Com%1").arg(port));
+    QFile::remove(lien);
+    QFile::link(peripherique, lien);
+}
+
+void Poste::Charge(const QByteArray &programme) const
+{
+    const QString configuration = Chemin(QStringLiteral("Machine.par"));
+    ParamCom.NumPort = 2;
+    ParamCom.NomPort = QStringLiteral("Com2");
+    ParamCom.Commentaire = QStringLiteral("Tour");
+    ParamCom.Vitesse = QStringLiteral("115200");
+    ParamCom.Parite = QStringLiteral("n");
+    ParamCom.BitsDonnees = QStringLiteral("8");
+    ParamCom.BitsArret = QStringLiteral("1");
+    ParamCom.ControleFlux = 1;
+    ParamCom.TypeFinTrans = 1;
+    ParamCom.TailleTamponRecep = 1024;
+    ParamCom.TailleTamponEmis = 512;
+    EcrireFichierPar(configuration);
+    ConfDefaut(configuration);
+    OuvreDocument(Ecrit(QStringLiteral("PIECE.iso"), programme));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "machine/MachineSimulee.h"
+
+#include <optional>
+#include <stdexcept>
+
+class QCoreApplication;
+
+/// What the command line asks of the machine.
+struct Options
+{
+    ReglageMachine Machine;
+    QString Lien;      ///< empty: none
+    QString Stockage;  ///< folder of the received programs; empty: they are only counted
+    QString AEnvoyer;  ///< file that the machine sends at the operator's word; empty: none
+    Envoi ModeleEnvoi; ///< how it sends; the text comes from the file
+};
+
+/// An option whose value means nothing.
+class OptionFausse : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads the command line; --help and unknown options end the process. Raises OptionFausse.
+Options LitOptions(const QCoreApplication &application);
+
+/// The characters of "13,10": decimal codes from 0 to 255, separated by commas. Empty text: no character.
+std::optional<QByteArray> LitCodes(const QString &texte);
+
+/// The line of "9600,e,7,1": speed, parity (n, e, o, m, s), data bits 5 to 8, stop bits 1, 1.5 or 2.
+std::optional<ReglageLigne> LitReglageLigne(const QString &texte);
