@@ -90,7 +90,14 @@ int LigneScenario::Ecrit(const char *octets, int nombre)
     const int pris = std::min({nombre, m_scenario->parAppel, m_scenario->accepte});
     m_scenario->accepte -= pris;
     m_scenario->ecrits.append(octets, pris);
+    m_scenario->nonEmis += m_scenario->immobile ? pris : 0;
     return pris;
+}
+
+int LigneScenario::NonEmis()
+{
+    ++m_scenario->regards;
+    return m_scenario->nonEmis;
 }
 
 void LigneScenario::JetteReception()

@@ -16,12 +16,14 @@ struct Scenario
     int accepte = 1'000'000;  ///< characters that the line still takes before it refuses
     int parAppel = 1'000'000; ///< most characters that one call takes
     int nonEmis = 0;          ///< what the system says that it holds
+    bool immobile = false;    ///< a line that stands still: nonEmis grows by what is handed over
     bool disparue = false;    ///< unplugged: every operation fails. See also Scenario::Debranche().
     int refusReglage = 0;     ///< number with which settings are refused, 0 takes them
 
     // What the control did
     QByteArray ecrits;
-    int essais = 0; ///< calls that handed characters over, or tried to
+    int essais = 0;  ///< calls that handed characters over, or tried to
+    int regards = 0; ///< times that it asked for nonEmis
     QList<ReglagePort> reglages;
     bool rts = false;
     bool dtr = false;
@@ -64,7 +66,7 @@ public:
     int Descripteur() const override { return m_scenario->m_reveil; }
     LectureLigne Lit(int tailleMax) override;
     int Ecrit(const char *octets, int nombre) override;
-    int NonEmis() override { return m_scenario->nonEmis; }
+    int NonEmis() override;
     void JetteReception() override;
     void JetteEmission() override;
     std::optional<EtatsLigne> Etats() override { return m_scenario->etats; }

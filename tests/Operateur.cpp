@@ -64,7 +64,8 @@ Operateur::Operateur()
 Operateur::~Operateur()
 {
     for (const Attente &attente : m_attentes)
-        Echec(QStringLiteral("never came: ") + attente.fenetre, attente.ou);
+        if (!m_abandon)
+            Echec(QStringLiteral("never came: ") + attente.fenetre, attente.ou);
 }
 
 void Operateur::Repond(const QString &titre, const QString &texte, int drapeaux, QMessageBox::StandardButton bouton,
@@ -169,16 +170,14 @@ void Operateur::Regarde()
     QWidget *const fenetre = QApplication::activeModalWidget();
     if (fenetre == nullptr || m_gesteEnRoute)
         return;
-    if (!m_abandon && m_dernierGeste.hasExpired(Patience)) {
-        m_abandon = true;
-        Etonne(fenetre);
-    } else if (m_abandon) {
+    if (m_abandon)
         QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
-    } else if (!m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName()) {
-        Agit(fenetre);
-    } else if (!m_connues.contains(fenetre)) {
+    else if (m_dernierGeste.hasExpired(Patience))
         Etonne(fenetre);
-    }
+    else if (!m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName())
+        Agit(fenetre);
+    else if (!m_connues.contains(fenetre))
+        Etonne(fenetre);
 }
 
 /// The gesture runs from the event loop and not from the eyes' timer: it may open the next window, and the eyes must
@@ -198,12 +197,14 @@ void Operateur::Agit(QWidget *fenetre)
             m_gesteEnRoute = false;
             m_dernierGeste.restart();
             geste(*fenetre);
+            m_abandon = m_abandon || QTest::currentTestFailed();
         },
         Qt::QueuedConnection);
 }
 
 void Operateur::Etonne(QWidget *fenetre)
 {
+    m_abandon = true;
     const QString attendue = m_attentes.empty() ? QStringLiteral("nothing") : m_attentes.front().fenetre;
     Echec(QStringLiteral("unexpected: %1; foretold: %2").arg(Decrit(fenetre), attendue),
           m_attentes.empty() ? Lieu::current() : m_attentes.front().ou);

@@ -64,5 +64,5 @@ private:
     QList<QPointer<QWidget>> m_connues; // windows that were foretold and may stand open
     QElapsedTimer m_dernierGeste;
     bool m_gesteEnRoute = false;
-    bool m_abandon = false;
+    bool m_abandon = false; // the test has failed: every window is closed, so that it ends
 };

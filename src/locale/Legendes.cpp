@@ -3,6 +3,7 @@
 #include "locale/Langue.h"
 
 #include <QApplication>
+#include <QDialog>
 
 namespace {
 
@@ -131,6 +132,21 @@ void EcritTitre(QObject *controle, const QString &texte)
         controle->setProperty(controle->metaObject()->indexOfProperty("title") >= 0 ? "title" : "text", texte);
 }
 
+/// The control of that name in a window. An open dialog is a child of the main window and has names of the same kind;
+/// its controls are its own.
+QObject *Controle(QWidget *fenetre, QLatin1String nom)
+{
+    const auto candidats = fenetre->findChildren<QObject *>(nom);
+    for (QObject *candidat : candidats) {
+        const QObject *proprietaire = candidat;
+        while (proprietaire != fenetre && qobject_cast<const QDialog *>(proprietaire) == nullptr)
+            proprietaire = proprietaire->parent();
+        if (proprietaire == fenetre)
+            return candidat;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 void AppliqueLangue()
@@ -148,7 +164,7 @@ void AppliqueLegendes(QWidget *fenetre)
         if (texte.isNull() || fenetre->objectName() != QLatin1String(legende.fenetre))
             continue;
         const QLatin1String nom(legende.controle);
-        QObject *const controle = nom.isEmpty() ? fenetre : fenetre->findChild<QObject *>(nom);
+        QObject *const controle = nom.isEmpty() ? fenetre : Controle(fenetre, nom);
         if (controle == nullptr || controle->property(Donnee).toBool())
             continue;
         if (legende.endroit == Titre)

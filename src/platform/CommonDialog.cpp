@@ -6,6 +6,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 /// The dialog's own form of "label|pattern|label|pattern": a label keeps the words in brackets that it has, and the
@@ -20,6 +22,15 @@ QStringList Filtres(const QString &paires)
         filtres << pieces[i] + QLatin1String(" (") + motif + u')';
     }
     return filtres;
+}
+
+/// Place of the filter that the dialog says was chosen, from 1. Where it hides the pattern it names the label alone.
+int Place(const QStringList &filtres, const QString &choisi)
+{
+    const auto trouve = std::find_if(filtres.begin(), filtres.end(), [&choisi](const QString &filtre) {
+        return filtre == choisi || filtre.startsWith(choisi + QLatin1String(" ("));
+    });
+    return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
 }
 
 } // namespace
@@ -59,5 +70,5 @@ void CommonDialog::Demande(bool enregistrement)
     }
     FileName = dialogue.selectedFiles().constFirst();
     FileTitle = QFileInfo(FileName).fileName();
-    FilterIndex = static_cast<int>(dialogue.nameFilters().indexOf(dialogue.selectedNameFilter())) + 1;
+    FilterIndex = Place(filtres, dialogue.selectedNameFilter());
 }

@@ -38,8 +38,8 @@ struct LectureLigne
     bool erreur = false;      ///< the counters have moved: a parity or framing error, or a break
 };
 
-/// An open serial line, closed by its destruction. No operation waits.
-/// Any of them raises Erreur with ErreurPort::Lecture once the device has gone, unless told otherwise.
+/// An open serial line, closed by its destruction. No operation waits. Those that say what they raise may fail; the
+/// others do nothing, or give nothing, once the device has gone.
 class LigneSerie
 {
 public:
@@ -56,9 +56,10 @@ public:
     /// Descriptor that is readable when characters have come or the device has gone, and writable when Ecrit takes
     /// some.
     virtual int Descripteur() const = 0;
-    /// At most tailleMax characters, above 0; none when nothing has come.
+    /// At most tailleMax characters, above 0; none when nothing has come. Raises ErreurPort::Lecture.
     virtual LectureLigne Lit(int tailleMax) = 0;
     /// Hands the first characters over and gives their number; 0 when the line takes none for now.
+    /// Raises ErreurPort::Lecture.
     virtual int Ecrit(const char *octets, int nombre) = 0;
     /// Characters handed over that the system still holds, as far as it knows.
     virtual int NonEmis() = 0;
@@ -66,8 +67,7 @@ public:
     virtual void JetteReception() = 0;
     virtual void JetteEmission() = 0;
 
-    /// Nothing where the device has no such lines. Never fails.
+    /// Nothing where the device has no such lines.
     virtual std::optional<EtatsLigne> Etats() = 0;
-    /// Never fails.
     virtual CompteursLigne Compteurs() = 0;
 };

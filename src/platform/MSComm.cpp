@@ -8,7 +8,6 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
-#include <QSocketNotifier>
 #include <QStringList>
 
 #include <algorithm>
@@ -25,9 +24,7 @@ constexpr int PortMax = 16;
 constexpr int TailleTamponUsuelle = 1024;
 constexpr int ChaineMax = 100; // longest end-of-transfer chain
 constexpr auto PeriodeSurveillance = 50ms;
-constexpr auto PeriodeRetenue = 5ms; // how often a held line is tried where nothing wakes us
-constexpr Duree Jeu = 20ms;          // what drivers and adapters add to a line time
-constexpr int SautSysteme = 24;      // a driver counts down in steps of a FIFO, not character by character
+constexpr Duree Jeu = 20ms; // what drivers and adapters add to a line time
 
 constexpr int EvtEmission = 1;
 constexpr int EvtReception = 2;
@@ -51,19 +48,14 @@ constexpr std::array<std::pair<bool EtatsLigne::*, int>, 3> EvtEtats = {{
     {&EtatsLigne::cd, 5},
 }};
 
-std::chrono::milliseconds Arrondi(Duree duree)
-{
-    return std::chrono::ceil<std::chrono::milliseconds>(duree);
-}
-
 } // namespace
 
 MSComm::MSComm(QObject *parent)
     : QObject(parent)
 {
-    m_minuteurPompe.setTimerType(Qt::PreciseTimer);
-    m_minuteurPompe.setSingleShot(true);
-    connect(&m_minuteurPompe, &QTimer::timeout, this, &MSComm::Pompe);
+    connect(&m_emission, &EmissionPort::SousSeuil, this, [this] { m_evenements.Annonce(EvtEmission); });
+    connect(&m_emission, &EmissionPort::AttendCts, this, &MSComm::Surveille);
+    connect(&m_emission, &EmissionPort::Panne, this, &MSComm::Panne);
     m_surveillance.setInterval(PeriodeSurveillance);
     connect(&m_surveillance, &QTimer::timeout, this, &MSComm::Surveille);
     connect(&m_evenements, &EvenementsPort::Evenement, this, &MSComm::Delivre);
@@ -72,9 +64,8 @@ MSComm::MSComm(QObject *parent)
 MSComm::~MSComm()
 {
     // Nothing may run any more, so a line still open is not waited for.
-    if (m_ligne && !m_panne) {
-        Saute([&] { m_ligne->JetteEmission(); });
-    }
+    if (m_ligne)
+        m_ligne->JetteEmission();
 }
 
 // ---- Opening and closing
@@ -131,48 +122,38 @@ void MSComm::Ouvre()
     ligne->JetteReception(); // a closed port receives nothing
 
     m_ligne = std::move(ligne);
-    m_cadence = CadenceEmission();
-    m_cadence.Regle(m_reglage.vitesse, m_reglage.BitsParCaractere());
+    m_emission.Ouvre(*m_ligne, m_reglage);
     m_etats = m_ligne->Etats();
     m_compteurs = m_ligne->Compteurs();
     SuitCts();
     m_lecture = std::make_unique<QSocketNotifier>(m_ligne->Descripteur(), QSocketNotifier::Read);
-    m_ecriture = std::make_unique<QSocketNotifier>(m_ligne->Descripteur(), QSocketNotifier::Write);
-    m_ecriture->setEnabled(false);
     connect(m_lecture.get(), &QSocketNotifier::activated, this, &MSComm::Recolte);
-    connect(m_ecriture.get(), &QSocketNotifier::activated, this, &MSComm::Pompe);
     m_surveillance.start();
 }
 
 void MSComm::Ferme()
 {
     const bool vivante = !m_panne;
-    const bool abandon = !m_aEmettre.isEmpty() || Retenue();
-    const CadenceEmission cadence = m_cadence;
+    const bool abandon = vivante && (m_emission.Nombre() > 0 || m_emission.Retenue());
+    const CadenceEmission cadence = m_emission.Cadence();
     // From here on the port is closed for everyone who runs while the line empties.
     const std::unique_ptr<LigneSerie> ligne = std::move(m_ligne);
+    m_emission.Ferme();
     m_lecture.reset();
-    m_ecriture.reset();
     m_surveillance.stop();
-    m_minuteurPompe.stop();
     m_evenements.Oublie();
     m_panne.reset();
     m_recus.clear();
-    m_aEmettre.clear();
     m_etats.reset();
-    m_refus = m_reveilVain = m_seuilEmissionArme = false;
-    m_systeme = 0;
     if (!vivante)
         return;
 
-    Saute([&] {
-        const auto partie = [&] { return cadence.Reste(Horloge::now()) == Duree(0) && ligne->NonEmis() == 0; };
-        if (!abandon)
-            Attend(cadence.Reste(Horloge::now()) + Jeu, partie);
-        // A system that still holds characters would make the closing wait for a machine that may never take them.
-        if (abandon || ligne->NonEmis() > 0)
-            ligne->JetteEmission();
-    });
+    const auto partie = [&] { return cadence.Reste(Horloge::now()) == Duree(0) && ligne->NonEmis() == 0; };
+    if (!abandon)
+        Attend(cadence.Reste(Horloge::now()) + Jeu, partie);
+    // A system that still holds characters would make the closing wait for a machine that may never take them.
+    if (abandon || ligne->NonEmis() > 0)
+        ligne->JetteEmission();
 }
 
 /// Keeps the event loop turning until fini holds, no longer than limite. The operator's input and OnComm wait.
@@ -209,9 +190,8 @@ void MSComm::Panne(const Erreur &erreur)
 {
     m_panne = erreur;
     m_lecture->setEnabled(false);
-    m_ecriture->setEnabled(false);
+    m_emission.Arrete();
     m_surveillance.stop();
-    m_minuteurPompe.stop();
     m_etats.reset();
     SignaleMouvement();
 }
@@ -224,7 +204,7 @@ void MSComm::PoseReglage(const ReglagePort &reglage)
         m_ligne->Regle(reglage);
         if (!reglage.ARtsCts() || !m_reglage.ARtsCts())
             m_ligne->PoseRTS(m_rts || reglage.ARtsCts());
-        m_cadence.Regle(reglage.vitesse, reglage.BitsParCaractere());
+        m_emission.Regle(reglage);
     }
     m_reglage = reglage;
     SuitCts();
@@ -379,106 +359,33 @@ void MSComm::ViderReception()
 
 // ---- Sending
 
+void MSComm::setSThreshold(int seuil)
+{
+    m_sThreshold = seuil;
+    m_emission.setSeuil(seuil);
+}
+
 void MSComm::Output(const QString &texte)
 {
     ExigeVivant();
-    if (texte.isEmpty())
-        return;
-    m_aEmettre += OctetsEn1252(texte);
-    m_seuilEmissionArme = true;
-    if (!m_refus)
-        Pompe();
+    m_emission.Ajoute(OctetsEn1252(texte));
 }
 
 int MSComm::OutBufferCount() const
 {
     ExigeVivant();
-    return static_cast<int>(m_aEmettre.size());
+    return m_emission.Nombre();
 }
 
 void MSComm::ViderEmission()
 {
     ExigeVivant();
-    const auto termine = [this] { return !m_ligne || m_panne || m_aEmettre.isEmpty() || Retenue(); };
-    const qint64 nombre = std::min<qint64>(m_aEmettre.size(), ChaineMax) + m_cadence.Avance();
-    Attend(m_cadence.Temps(nombre) + Jeu, termine);
-    if (!m_ligne || m_panne || m_aEmettre.isEmpty())
-        return;
-    m_aEmettre.clear();
-    m_minuteurPompe.stop();
-    m_ecriture->setEnabled(false);
-    m_refus = m_reveilVain = false;
-    Saute([&] { m_ligne->JetteEmission(); });
-}
-
-/// Hands over what the cadence allows and sees to it that it is called again in time for the rest.
-void MSComm::Pompe()
-{
-    if (m_aEmettre.isEmpty())
-        return;
-    try {
-        if (m_cadence.Suspendue())
-            Surveille();
-        const int remis = Remet();
-        m_aEmettre.remove(0, remis);
-        if (remis > 0)
-            SignaleMouvement();
-        ProgrammePompe(remis);
-    } catch (const Erreur &erreur) {
-        Panne(erreur);
-        return;
-    }
-    if (m_seuilEmissionArme && m_aEmettre.size() < m_sThreshold) {
-        m_seuilEmissionArme = false;
-        m_evenements.Annonce(EvtEmission);
-    }
-}
-
-/// Hands the system what it may have now and returns how many characters it took.
-int MSComm::Remet()
-{
-    const auto maintenant = Horloge::now();
-    ObserveSysteme(maintenant);
-    const int place = std::min(m_cadence.Place(maintenant, m_systeme), static_cast<int>(m_aEmettre.size()));
-    if (place == 0) {
-        m_refus = false;
-        return 0;
-    }
-    const int remis = m_ligne->Ecrit(m_aEmettre.constData(), place);
-    m_cadence.Remet(remis, maintenant);
-    m_systeme += remis;
-    m_reveilVain = remis == 0 && m_refus;
-    m_refus = remis == 0;
-    return remis;
-}
-
-/// The write notifier wakes a line that was refused. Where it wakes in vain the timer takes its turn, lest it spins.
-void MSComm::ProgrammePompe(int remis)
-{
-    m_minuteurPompe.stop();
-    const bool reste = !m_aEmettre.isEmpty();
-    m_ecriture->setEnabled(reste && m_refus && !m_reveilVain);
-    if (!reste || (m_refus && !m_reveilVain))
-        return;
-    const auto delai = Arrondi(m_cadence.AvantRemise(Horloge::now()));
-    const bool retenue = m_cadence.Suspendue() || (remis == 0 && delai == 0ms);
-    m_minuteurPompe.start(retenue ? PeriodeRetenue : std::max(delai, 1ms));
-}
-
-bool MSComm::Retenue()
-{
-    const auto maintenant = Horloge::now();
-    ObserveSysteme(maintenant);
-    const bool immobile = m_systeme > 0 && maintenant - m_progres > m_cadence.Temps(SautSysteme) + Jeu;
-    return immobile || m_refus || m_cadence.Suspendue();
-}
-
-void MSComm::ObserveSysteme(CadenceEmission::Instant maintenant)
-{
-    const int systeme = m_ligne->NonEmis();
-    if (systeme < m_systeme || systeme == 0)
-        m_progres = maintenant;
-    m_systeme = systeme;
+    const auto termine = [this] { return !m_ligne || m_panne || m_emission.Nombre() == 0 || m_emission.Retenue(); };
+    const CadenceEmission &cadence = m_emission.Cadence();
+    const int nombre = std::min(m_emission.Nombre(), ChaineMax) + cadence.Avance();
+    Attend(cadence.Temps(nombre) + Jeu, termine);
+    if (m_ligne && !m_panne && m_emission.Nombre() > 0)
+        m_emission.Jette();
 }
 
 // ---- Line states and errors
@@ -507,13 +414,9 @@ void MSComm::Surveille()
     SuitCts();
 }
 
-/// Under the handshake a low CTS stops the sending here: the characters would only gather in the adapter, out of reach.
 void MSComm::SuitCts()
 {
-    if (m_reglage.ARtsCts() && m_etats && !m_etats->cts)
-        m_cadence.Suspend(Horloge::now());
-    else
-        m_cadence.Reprend(Horloge::now());
+    m_emission.RetientCts(m_reglage.ARtsCts() && m_etats && !m_etats->cts);
 }
 
 void MSComm::Delivre()

@@ -1,20 +1,18 @@
 #pragma once
 
-#include "platform/CadenceEmission.h"
-#include "platform/Erreur.h"
+#include "platform/EmissionPort.h"
 #include "platform/ErreurPort.h"
 #include "platform/EvenementsPort.h"
 #include "platform/LigneSerie.h"
 
 #include <QByteArray>
+#include <QSocketNotifier>
 #include <QString>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
 #include <optional>
-
-class QSocketNotifier;
 
 /// The serial control: one port of the PC, its properties, its two buffers and its event.
 ///
@@ -124,7 +122,7 @@ public:
     int RThreshold() const { return m_rThreshold; }
     void setRThreshold(int seuil);
     int SThreshold() const { return m_sThreshold; }
-    void setSThreshold(int seuil) { m_sThreshold = seuil; }
+    void setSThreshold(int seuil);
 
     // The following raise ErreurPort::Ferme on a closed port, and Lecture once the device has gone.
 
@@ -163,12 +161,6 @@ private:
     bool SeuilReceptionAtteint() const;
     void ControleSeuilReception();
 
-    void Pompe();
-    int Remet();
-    void ProgrammePompe(int remis);
-    bool Retenue();
-    void ObserveSysteme(CadenceEmission::Instant maintenant);
-
     void Surveille();
     void SuitCts();
     void Delivre();
@@ -191,20 +183,10 @@ private:
     std::unique_ptr<LigneSerie> m_ligne;
     std::optional<Erreur> m_panne; // the device has gone
     std::unique_ptr<QSocketNotifier> m_lecture;
-    std::unique_ptr<QSocketNotifier> m_ecriture;
     std::optional<EtatsLigne> m_etats;
     CompteursLigne m_compteurs;
     QTimer m_surveillance;
+    EmissionPort m_emission;
     EvenementsPort m_evenements;
-
     QByteArray m_recus;
-
-    QByteArray m_aEmettre;
-    CadenceEmission m_cadence;
-    QTimer m_minuteurPompe;
-    bool m_seuilEmissionArme = false;
-    bool m_refus = false;               // the system takes nothing
-    bool m_reveilVain = false;          // it said that it would, and did not
-    int m_systeme = 0;                  // characters that it held when last looked at
-    CadenceEmission::Instant m_progres; // when that number last fell
 };

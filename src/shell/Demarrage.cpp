@@ -121,7 +121,7 @@ void Mnu_Quitter()
         return;
     Saute([] { frmPrinc->MSComm1->setPortOpen(false); });
     PortOuvert = false;
-    QCoreApplication::quit();
+    QCoreApplication::exit(); // quit() would close the window first and ask about its text a second time
 }
 
 void Form_Unload()

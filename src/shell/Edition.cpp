@@ -30,7 +30,8 @@ void BrancheEdition()
 
 void Mnu_Edition()
 {
-    frmPrinc->Mnu_Coller->setEnabled(QGuiApplication::clipboard()->mimeData()->hasText());
+    const QMimeData *const copie = QGuiApplication::clipboard()->mimeData(); // nullptr when nothing was ever copied
+    frmPrinc->Mnu_Coller->setEnabled(copie != nullptr && copie->hasText());
     for (QAction *action : {frmPrinc->Mnu_Couper, frmPrinc->Mnu_Copier, frmPrinc->Mnu_Supprimer})
         action->setEnabled(frmPrinc->Text1->SelLength() > 0);
 }

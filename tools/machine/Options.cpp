@@ -1,8 +1,6 @@
 #include "machine/Options.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -130,11 +128,11 @@ ReglageTampon Tampon(const Valeurs &valeurs)
 }
 } // namespace
 
-Options LitOptions(const QCoreApplication &application)
+Options LitOptions(const QStringList &arguments)
 {
     QCommandLineParser lecteur;
     DecritOptions(lecteur);
-    lecteur.process(application);
+    lecteur.process(arguments);
     const Valeurs valeurs(lecteur);
 
     Options options;

@@ -2,10 +2,10 @@
 
 #include "machine/MachineSimulee.h"
 
+#include <QStringList>
+
 #include <optional>
 #include <stdexcept>
-
-class QCoreApplication;
 
 /// What the command line asks of the machine.
 struct Options
@@ -24,8 +24,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the command line; --help and unknown options end the process. Raises OptionFausse.
-Options LitOptions(const QCoreApplication &application);
+/// Reads the command line, program name first; --help and unknown options end the process. Raises OptionFausse.
+Options LitOptions(const QStringList &arguments);
 
 /// The characters of "13,10": decimal codes from 0 to 255, separated by commas. Empty text: no character.
 std::optional<QByteArray> LitCodes(const QString &texte);

@@ -6,9 +6,9 @@
 /// The cable: a pseudo-terminal pair. The machine holds the master, the PC opens the slave by its path.
 ///
 /// The pair keeps a descriptor of the slave of its own. So the line outlives each session of the PC, as a real cable
-/// does, and an unplugged PC does not make poll() spin; closing the master still ends every session at once (the PC
-/// reads EIO), even though the slave stays open here. Until the PC sets its own mode the slave is raw, so that what the
-/// machine sends does not come back as an echo.
+/// does, and an unplugged PC does not make poll() spin. Closing the master still ends every session at once, though the
+/// slave stays open here: the PC's poll() says POLLHUP, its writes fail with EIO and its reads give nothing. Until the
+/// PC sets its own mode the slave is raw, so that what the machine sends does not come back as an echo.
 class PaireTerminaux
 {
 public:

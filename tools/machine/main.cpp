@@ -118,7 +118,7 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     try {
-        const Options options = LitOptions(application);
+        const Options options = LitOptions(QCoreApplication::arguments());
         Reveil fin; // outlives the machine: a second signal may come while it is being switched off
         PrendSignaux(fin);
         Sert(options, fin);

@@ -1,0 +1,81 @@
+// From the start of the process to the main window painted, against an empty window of Qt. Each start is a process of
+// its own that ends with its first painting.
+
+#include "Mesure.h"
+
+#include "shell/Chemins.h"
+#include "shell/Demarrage.h"
+#include "shell/Document.h"
+#include "shell/Edition.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Menus.h"
+#include "shell/Reglages.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+/// Ends the process when the window has been painted.
+class FinALaPeinture : public QObject
+{
+public:
+    bool eventFilter(QObject *objet, QEvent *evenement) override
+    {
+        if (evenement->type() == QEvent::Paint)
+            QMetaObject::invokeMethod(
+                qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+        return QObject::eventFilter(objet, evenement);
+    }
+};
+
+int Ouvre(QWidget &fenetre)
+{
+    FinALaPeinture fin;
+    fenetre.installEventFilter(&fin);
+    fenetre.show();
+    return QApplication::exec();
+}
+
+int OuvreProgramme(const QString &dossier)
+{
+    FixeDossierApplication(dossier);
+    FrmPrinc fenetre;
+    BrancheDocument();
+    BrancheEdition();
+    BrancheMenus();
+    Form_Load();
+    return Ouvre(fenetre);
+}
+
+int OuvreFenetreVide()
+{
+    QWidget fenetre;
+    fenetre.resize(900, 640);
+    return Ouvre(fenetre);
+}
+
+double Demarre(const QString &role, const QString &dossier)
+{
+    return SecondesDe([&] { QProcess::execute(QCoreApplication::applicationFilePath(), {role, dossier}); });
+}
+
+} // namespace
+
+int main(int nombre, char *arguments[])
+{
+    QApplication application(nombre, arguments);
+    if (nombre == 3)
+        return qstrcmp(arguments[1], "programme") == 0 ? OuvreProgramme(QString::fromLocal8Bit(arguments[2]))
+                                                       : OuvreFenetreVide();
+    const QTemporaryDir dossier;
+    FixeDossierApplication(dossier.path());
+    SauveIni();
+    constexpr int fois = 15;
+    const double programme = Mediane(fois, [&] { return Demarre(QStringLiteral("programme"), dossier.path()); });
+    const double vide = Mediane(fois, [&] { return Demarre(QStringLiteral("vide"), dossier.path()); });
+    return Montre({QStringLiteral("time from start to the main window / an empty Qt window"), programme / vide, 1.5})
+               ? 0
+               : 1;
+}

@@ -1,0 +1,60 @@
+#include "Mesure.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <malloc.h>
+#include <unistd.h>
+#include <vector>
+
+bool Montre(const Mesure &mesure)
+{
+    const bool tenue = mesure.valeur <= mesure.borne;
+    std::printf("%-78s %10.3f %10.3f  %s\n", qPrintable(mesure.quoi), mesure.valeur, mesure.borne,
+                tenue ? "held" : "MISSED");
+    std::fflush(stdout);
+    return tenue;
+}
+
+double TempsProcesseur()
+{
+    timespec temps{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &temps);
+    return static_cast<double>(temps.tv_sec) + static_cast<double>(temps.tv_nsec) * 1e-9;
+}
+
+qint64 MemoireResidente()
+{
+    malloc_trim(0);
+    QFile pages(QStringLiteral("/proc/self/statm"));
+    if (!pages.open(QIODevice::ReadOnly))
+        return 0;
+    return pages.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+double Mediane(int fois, const std::function<double()> &mesure)
+{
+    std::vector<double> valeurs(static_cast<std::size_t>(fois));
+    std::generate(valeurs.begin(), valeurs.end(), mesure);
+    std::sort(valeurs.begin(), valeurs.end());
+    return valeurs[valeurs.size() / 2];
+}
+
+double SecondesDe(const std::function<void()> &action)
+{
+    QElapsedTimer montre;
+    montre.start();
+    action();
+    return static_cast<double>(montre.nsecsElapsed()) * 1e-9;
+}
+
+QString ProgrammeCN(int lignes)
+{
+    QString texte;
+    for (int i = 1; i <= lignes; ++i)
+        texte += QStringLiteral("N%1 G1 X%2 Z-%3\r\n").arg(i * 10).arg(i % 997 * 0.125, 0, 'f', 3).arg(i % 211);
+    return texte;
+}

@@ -1,0 +1,150 @@
+#include "platform/EmissionPort.h"
+
+#include "platform/CedeLaMain.h"
+
+#include <algorithm>
+
+namespace {
+
+using namespace std::chrono_literals;
+using Horloge = std::chrono::steady_clock;
+
+constexpr auto PeriodeRetenue = 5ms; // how often a held line is tried where nothing wakes us
+constexpr int SautSysteme = 24;      // a driver counts down in steps of a FIFO, not character by character
+constexpr auto Jeu = 20ms;           // and not always at once
+
+} // namespace
+
+EmissionPort::EmissionPort(QObject *parent)
+    : QObject(parent)
+{
+    m_minuteur.setTimerType(Qt::PreciseTimer);
+    m_minuteur.setSingleShot(true);
+    connect(&m_minuteur, &QTimer::timeout, this, &EmissionPort::Pompe);
+}
+
+void EmissionPort::Ouvre(LigneSerie &ligne, const ReglagePort &reglage)
+{
+    m_ligne = &ligne;
+    m_cadence = CadenceEmission();
+    Regle(reglage);
+    m_reveil = std::make_unique<QSocketNotifier>(ligne.Descripteur(), QSocketNotifier::Write);
+    m_reveil->setEnabled(false);
+    connect(m_reveil.get(), &QSocketNotifier::activated, this, &EmissionPort::Pompe);
+}
+
+void EmissionPort::Arrete()
+{
+    m_minuteur.stop();
+    m_reveil->setEnabled(false);
+    m_file.clear();
+    m_refus = m_reveilVain = m_seuilArme = false;
+    m_systeme = 0;
+}
+
+void EmissionPort::Ferme()
+{
+    Arrete();
+    m_reveil.reset();
+    m_ligne = nullptr;
+}
+
+void EmissionPort::Regle(const ReglagePort &reglage)
+{
+    m_cadence.Regle(reglage.vitesse, reglage.BitsParCaractere());
+}
+
+void EmissionPort::Ajoute(const QByteArray &octets)
+{
+    m_file += octets;
+    m_seuilArme = true;
+    if (!m_refus)
+        Pompe();
+}
+
+void EmissionPort::Jette()
+{
+    Arrete();
+    m_ligne->JetteEmission();
+}
+
+void EmissionPort::RetientCts(bool retient)
+{
+    if (retient)
+        m_cadence.Suspend(Horloge::now());
+    else
+        m_cadence.Reprend(Horloge::now());
+}
+
+bool EmissionPort::Retenue()
+{
+    const auto maintenant = Horloge::now();
+    ObserveSysteme(maintenant);
+    const bool immobile = m_systeme > 0 && maintenant - m_progres > m_cadence.Temps(SautSysteme) + Jeu;
+    return immobile || m_refus || m_cadence.Suspendue();
+}
+
+void EmissionPort::ObserveSysteme(CadenceEmission::Instant maintenant)
+{
+    const int systeme = m_ligne->NonEmis();
+    if (systeme < m_systeme || systeme == 0)
+        m_progres = maintenant;
+    m_systeme = systeme;
+}
+
+/// Hands over what the cadence allows and sees to it that it is called again in time for the rest.
+void EmissionPort::Pompe()
+{
+    if (m_file.isEmpty())
+        return;
+    if (m_cadence.Suspendue())
+        Q_EMIT AttendCts();
+    try {
+        Programme(Remet());
+    } catch (const Erreur &erreur) {
+        Q_EMIT Panne(erreur);
+        return;
+    }
+    if (m_seuilArme && m_file.size() < m_seuil) {
+        m_seuilArme = false;
+        Q_EMIT SousSeuil();
+    }
+}
+
+/// Hands the system what it may have now and returns how many characters it took.
+int EmissionPort::Remet()
+{
+    const auto maintenant = Horloge::now();
+    ObserveSysteme(maintenant);
+    const bool refusAvant = m_refus;
+    m_refus = false;
+    int remis = 0;
+    int place = std::min(m_cadence.Place(maintenant, m_systeme), Nombre());
+    while (place > 0 && !m_refus) {
+        const int pris = m_ligne->Ecrit(m_file.constData(), place);
+        m_file.remove(0, pris);
+        remis += pris;
+        place -= pris;
+        m_refus = pris == 0;
+    }
+    m_cadence.Remet(remis, maintenant);
+    m_systeme += remis;
+    m_reveilVain = refusAvant && m_refus && remis == 0;
+    if (remis > 0)
+        SignaleMouvement();
+    return remis;
+}
+
+/// The write notifier wakes a line that was refused. Where it wakes in vain the timer takes its turn, lest it spins.
+void EmissionPort::Programme(int remis)
+{
+    const bool reste = !m_file.isEmpty();
+    const bool parReveil = reste && m_refus && !m_reveilVain;
+    m_reveil->setEnabled(parReveil);
+    m_minuteur.stop();
+    if (!reste || parReveil)
+        return;
+    const auto delai = std::chrono::ceil<std::chrono::milliseconds>(m_cadence.AvantRemise(Horloge::now()));
+    const bool retenue = m_cadence.Suspendue() || (remis == 0 && delai == 0ms);
+    m_minuteur.start(retenue ? PeriodeRetenue : std::max(delai, 1ms));
+}

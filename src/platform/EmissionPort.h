@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/CadenceEmission.h"
+#include "platform/Erreur.h"
+#include "platform/LigneSerie.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <memory>
+
+/// The sending half of the serial control: the queue, and the pump that hands it to the system at the line's pace.
+class EmissionPort : public QObject
+{
+    Q_OBJECT
+public:
+    explicit EmissionPort(QObject *parent = nullptr);
+
+    /// Sends on ligne from now on, which must stay until Ferme(). The queue is empty.
+    void Ouvre(LigneSerie &ligne, const ReglagePort &reglage);
+    /// Stops at once and forgets what waits; the line is touched no more.
+    void Arrete();
+    void Ferme();
+    void Regle(const ReglagePort &reglage);
+    /// Count of the queue below which SousSeuil comes; 0: never.
+    void setSeuil(int seuil) { m_seuil = seuil; }
+
+    /// Queues octets and hands over what may go at once.
+    void Ajoute(const QByteArray &octets);
+    /// Characters that have not been handed over.
+    int Nombre() const { return static_cast<int>(m_file.size()); }
+    /// Throws away the queue and what the system still holds.
+    void Jette();
+
+    /// CTS under the handshake: while it holds, nothing is handed over. A low CTS would only let the characters gather
+    /// in the adapter, out of reach.
+    void RetientCts(bool retient);
+    /// Whether the machine holds the line: the system refuses characters, CTS is low, or what the system holds has
+    /// stood still for clearly longer than its line time.
+    bool Retenue();
+    const CadenceEmission &Cadence() const { return m_cadence; }
+
+Q_SIGNALS:
+    /// The queue has fallen below the threshold since characters were last added.
+    void SousSeuil();
+    /// CTS holds the line and characters wait: it is time to look at it again.
+    void AttendCts();
+    /// The device has gone.
+    void Panne(const Erreur &erreur);
+
+private:
+    void Pompe();
+    int Remet();
+    void Programme(int remis);
+    void ObserveSysteme(CadenceEmission::Instant maintenant);
+
+    LigneSerie *m_ligne = nullptr;
+    std::unique_ptr<QSocketNotifier> m_reveil;
+    QTimer m_minuteur;
+    QByteArray m_file;
+    CadenceEmission m_cadence;
+    int m_seuil = 0;
+    bool m_seuilArme = false;
+    bool m_refus = false;               // the system takes nothing
+    bool m_reveilVain = false;          // it said that it would, and did not
+    int m_systeme = 0;                  // characters that it held when last looked at
+    CadenceEmission::Instant m_progres; // when that number last fell
+};

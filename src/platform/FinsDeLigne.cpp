@@ -1,0 +1,68 @@
+#include "platform/FinsDeLigne.h"
+
+#include "platform/PageCode1252.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QChar Cr = QChar::CarriageReturn;
+constexpr QChar Lf = QChar::LineFeed;
+
+bool EstFinDeLigne(QChar c)
+{
+    return c == Cr || c == Lf;
+}
+
+bool Passe(QChar c)
+{
+    return c.unicode() < 0x80 || EstEn1252(c);
+}
+
+} // namespace
+
+QLatin1String TexteDe(FinDeLigne fin)
+{
+    return QLatin1String(fin == FinDeLigne::CrLf ? "\r\n" : fin == FinDeLigne::Cr ? "\r" : "\n");
+}
+
+Troncon PremierTroncon(const QString &texte, qsizetype debut)
+{
+    Troncon troncon{FinDeLigne::CrLf, debut};
+    for (bool premiere = true;; premiere = false) {
+        const auto *const c = std::find_if(texte.begin() + troncon.suite, texte.end(), EstFinDeLigne);
+        if (c == texte.end())
+            return {troncon.fin, texte.size()};
+        const bool crLf = *c == Cr && c + 1 != texte.end() && c[1] == Lf;
+        const FinDeLigne fin = crLf ? FinDeLigne::CrLf : *c == Cr ? FinDeLigne::Cr : FinDeLigne::Lf;
+        if (!premiere && fin != troncon.fin)
+            return troncon;
+        troncon = {fin, c - texte.begin() + (crLf ? 2 : 1)};
+    }
+}
+
+QString Normalise(const QString &texte)
+{
+    auto c = std::find_if_not(texte.begin(), texte.end(), Passe);
+    if (c == texte.end())
+        return texte;
+    QString propre;
+    propre.reserve(texte.size());
+    propre.append(texte.constData(), c - texte.begin());
+    for (; c != texte.end(); ++c) {
+        if (Passe(*c))
+            propre += *c;
+        else if (*c == QChar::ParagraphSeparator || *c == QChar::LineSeparator)
+            propre += QLatin1String("\r\n");
+        else if (!(c->isLowSurrogate() && c != texte.begin() && std::prev(c)->isHighSurrogate()))
+            propre += QLatin1Char('?');
+    }
+    return propre;
+}
+
+QString NormaliseEtranger(QString texte)
+{
+    if (!texte.contains(Cr))
+        texte.replace(Lf, QLatin1String("\r\n"));
+    return Normalise(texte);
+}

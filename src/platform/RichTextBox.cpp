@@ -1,0 +1,492 @@
+#include "platform/RichTextBox.h"
+
+#include "platform/FichierTexte.h"
+#include "platform/FinsDeLigne.h"
+#include "platform/LecteurRtf.h"
+#include "platform/PageCode1252.h"
+
+#include <QFontDatabase>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// Property of a separator's character format: its kind of line end. Text typed beside it may inherit the property,
+/// where it means nothing.
+constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
+
+/// Copies of a program carry its bytes, so that they come back exactly in this pane and in that of another window.
+const QString FormatCopie = QStringLiteral("application/x-dorvanel-programme");
+
+QFont PoliceOrdinaire()
+{
+    constexpr double Points = 9.75;
+    const QString systeme = QStringLiteral("System");
+    const bool presente = QFontDatabase::hasFamily(systeme);
+    QFont police = presente ? QFont(systeme) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    police.setBold(true);
+    police.setPointSizeF(Points);
+    return police;
+}
+
+QTextCharFormat FormatDe(const AttributsRtf &attributs)
+{
+    QTextCharFormat format;
+    if (!attributs.police.isEmpty())
+        format.setFontFamilies({attributs.police});
+    format.setFontPointSize(attributs.taille);
+    format.setFontWeight(attributs.gras ? QFont::Bold : QFont::Normal);
+    format.setFontItalic(attributs.italique);
+    format.setFontUnderline(attributs.souligne);
+    format.setFontStrikeOut(attributs.barre);
+    if (attributs.couleur.isValid())
+        format.setForeground(attributs.couleur);
+    if (attributs.surlignage.isValid())
+        format.setBackground(attributs.surlignage);
+    return format;
+}
+
+/// AltGr, which types characters, comes as Ctrl with Alt on some systems.
+bool EstAvecCtrl(const QKeyEvent &touche)
+{
+    return (touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
+}
+
+/// Ctrl with a letter is a shortcut of the menu, except for these of the pane: all, cut, paste, redo, undo.
+bool EstRaccourciDuMenu(const QKeyEvent &touche)
+{
+    constexpr std::array DuVolet{Qt::Key_A, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
+    const bool lettre = touche.key() >= Qt::Key_A && touche.key() <= Qt::Key_Z;
+    return EstAvecCtrl(touche) && lettre && std::find(DuVolet.begin(), DuVolet.end(), touche.key()) == DuVolet.end();
+}
+
+bool EstEntree(const QKeyEvent &touche)
+{
+    const bool entree = touche.key() == Qt::Key_Return || touche.key() == Qt::Key_Enter;
+    return entree && !(touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+bool DonneUnCaractere(const QKeyEvent &touche)
+{
+    constexpr std::array<char16_t, 4> Commandes{u'\r', u'\n', u'\t', u'\b'};
+    if (touche.text().isEmpty() || EstAvecCtrl(touche))
+        return false;
+    const QChar c = touche.text().front();
+    return c.isPrint() || std::find(Commandes.begin(), Commandes.end(), c.unicode()) != Commandes.end();
+}
+
+/// Work on the text that Ctrl+Z cannot undo: for a whole program the undo store would outweigh the text.
+class SansAnnulation
+{
+public:
+    explicit SansAnnulation(QTextDocument *document)
+        : m_document(document)
+    {
+        m_document->setUndoRedoEnabled(false);
+    }
+    ~SansAnnulation() { m_document->setUndoRedoEnabled(true); }
+    Q_DISABLE_COPY_MOVE(SansAnnulation)
+
+private:
+    QTextDocument *m_document;
+};
+
+} // namespace
+
+RichTextBox::RichTextBox(QWidget *parent)
+    : QPlainTextEdit(parent)
+{
+    constexpr int ColonnesTabulation = 8;
+    setLineWrapMode(NoWrap);
+    setFont(PoliceOrdinaire());
+    setTabStopDistance(ColonnesTabulation * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+    connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int ajoutes) {
+        m_couture1 = position;
+        m_couture2 = position + ajoutes;
+    });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (m_muet)
+            return;
+        RecolleFins();
+        Q_EMIT Change();
+    });
+}
+
+QString RichTextBox::Text() const
+{
+    return AvecFins(document()->toRawText(), document()->firstBlock());
+}
+
+void RichTextBox::setText(const QString &texte)
+{
+    Remplace(Normalise(texte), FormatA(0));
+}
+
+bool RichTextBox::EstVide() const
+{
+    return document()->isEmpty();
+}
+
+QString RichTextBox::SelText() const
+{
+    return Extrait(textCursor());
+}
+
+void RichTextBox::setSelText(const QString &texte)
+{
+    QTextCursor curseur = textCursor();
+    const QTextCharFormat format = Aspect();
+    curseur.beginEditBlock();
+    curseur.removeSelectedText();
+    Insere(curseur, Normalise(texte), format);
+    curseur.endEditBlock();
+    setTextCursor(curseur);
+}
+
+int RichTextBox::SelStart() const
+{
+    return PlaceDe(textCursor().selectionStart());
+}
+
+void RichTextBox::setSelStart(int debut)
+{
+    QTextCursor curseur = textCursor();
+    curseur.setPosition(PositionDe(debut, false));
+    setTextCursor(curseur);
+}
+
+int RichTextBox::SelLength() const
+{
+    const QTextCursor curseur = textCursor();
+    return curseur.hasSelection() ? PlaceDe(curseur.selectionEnd()) - PlaceDe(curseur.selectionStart()) : 0;
+}
+
+void RichTextBox::setSelLength(int longueur)
+{
+    QTextCursor curseur = textCursor();
+    const int debut = curseur.selectionStart();
+    curseur.setPosition(debut);
+    if (longueur > 0)
+        curseur.setPosition(PositionDe(PlaceDe(debut) + longueur, true), QTextCursor::KeepAnchor);
+    setTextCursor(curseur);
+}
+
+void RichTextBox::Ajoute(const QString &texte)
+{
+    if (texte.isEmpty())
+        return;
+    const SansAnnulation sansAnnulation(document());
+    QScrollBar *barre = verticalScrollBar();
+    const bool suit = barre->value() == barre->maximum();
+    QTextCursor fin = Queue(0);
+    fin.beginEditBlock();
+    Insere(fin, Normalise(texte), fin.charFormat());
+    fin.endEditBlock();
+    AllegeMiseEnPage();
+    if (suit)
+        barre->setValue(barre->maximum());
+}
+
+bool RichTextBox::FinitPar(const QString &suffixe) const
+{
+    return Extrait(Queue(suffixe.size())).endsWith(suffixe);
+}
+
+void RichTextBox::RetireFin(int n)
+{
+    if (n <= 0)
+        return;
+    const SansAnnulation sansAnnulation(document());
+    QTextCursor queue = Queue(n);
+    // n positions hold more than n characters where they take in a CR LF: what is too much goes back.
+    const QString texte = Extrait(queue);
+    const QTextCharFormat format = FormatA(queue.selectionStart());
+    queue.beginEditBlock();
+    queue.removeSelectedText();
+    Insere(queue, texte.chopped(std::min<qsizetype>(n, texte.size())), format);
+    queue.endEditBlock();
+}
+
+void RichTextBox::LoadFile(const QString &chemin, int format)
+{
+    if (format != TexteRiche) {
+        Remplace(LitFichierTexte(chemin), QTextCharFormat());
+        return;
+    }
+    const QList<MorceauRtf> morceaux = LitRtf(LitOctets(chemin));
+    const SansAnnulation sansAnnulation(document());
+    QTextCursor curseur(document());
+    curseur.beginEditBlock();
+    Vide(QTextCharFormat());
+    for (const MorceauRtf &morceau : morceaux)
+        Insere(curseur, Normalise(morceau.texte), FormatDe(morceau.attributs));
+    curseur.endEditBlock();
+    RevientAuDebut();
+}
+
+QColor RichTextBox::SelColor() const
+{
+    const QTextCharFormat aspect = Aspect();
+    const bool propre = aspect.hasProperty(QTextFormat::ForegroundBrush);
+    return propre ? aspect.foreground().color() : palette().color(QPalette::Text);
+}
+
+bool RichTextBox::event(QEvent *evenement)
+{
+    // A key that the pane claims here never reaches the menu.
+    if (evenement->type() == QEvent::ShortcutOverride && EstRaccourciDuMenu(*static_cast<QKeyEvent *>(evenement))) {
+        evenement->ignore();
+        return false;
+    }
+    return QPlainTextEdit::event(evenement);
+}
+
+void RichTextBox::keyPressEvent(QKeyEvent *evenement)
+{
+    // The menu's letters do nothing here while their entries are disabled: some of them delete text on this toolkit.
+    if (EstRaccourciDuMenu(*evenement)) {
+        evenement->ignore();
+        return;
+    }
+    if (DonneUnCaractere(*evenement))
+        Q_EMIT KeyPress(evenement->text());
+    if (EstEntree(*evenement) && !isReadOnly()) {
+        setSelText(QStringLiteral("\r\n"));
+        ensureCursorVisible();
+        evenement->accept();
+        return;
+    }
+    QKeyEvent propre(evenement->type(), evenement->key(), evenement->modifiers(), Normalise(evenement->text()),
+                     evenement->isAutoRepeat(), evenement->count());
+    QPlainTextEdit::keyPressEvent(&propre);
+    evenement->setAccepted(propre.isAccepted());
+}
+
+void RichTextBox::inputMethodEvent(QInputMethodEvent *evenement)
+{
+    QInputMethodEvent propre(evenement->preeditString(), evenement->attributes());
+    propre.setCommitString(Normalise(evenement->commitString()), evenement->replacementStart(),
+                           evenement->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&propre);
+    evenement->setAccepted(propre.isAccepted());
+}
+
+void RichTextBox::mousePressEvent(QMouseEvent *evenement)
+{
+    QPlainTextEdit::mousePressEvent(evenement);
+    evenement->accept();
+    Q_EMIT MouseDown(evenement->button(), evenement->globalPosition().toPoint());
+}
+
+void RichTextBox::contextMenuEvent(QContextMenuEvent *evenement)
+{
+    if (evenement->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT MouseDown(Qt::RightButton, viewport()->mapToGlobal(cursorRect().bottomLeft()));
+    evenement->accept();
+}
+
+QMimeData *RichTextBox::createMimeDataFromSelection() const
+{
+    const QString texte = SelText();
+    auto *copie = new QMimeData;
+    copie->setText(texte);
+    copie->setData(FormatCopie, OctetsEn1252(texte));
+    return copie;
+}
+
+bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
+{
+    return source->hasText() || source->hasFormat(FormatCopie);
+}
+
+void RichTextBox::insertFromMimeData(const QMimeData *source)
+{
+    if (isReadOnly())
+        return;
+    const bool deLaMaison = source->hasFormat(FormatCopie);
+    setSelText(deLaMaison ? TexteDe1252(source->data(FormatCopie)) : NormaliseEtranger(source->text()));
+    ensureCursorVisible();
+}
+
+/// Replaces the whole text by texte, which is normalised already.
+void RichTextBox::Remplace(const QString &texte, const QTextCharFormat &format)
+{
+    const SansAnnulation sansAnnulation(document());
+    QTextCursor curseur(document());
+    curseur.beginEditBlock();
+    Vide(format);
+    Insere(curseur, texte, format);
+    curseur.endEditBlock();
+    RevientAuDebut();
+}
+
+/// Empties the document inside an edit block of the caller; format is the look of what comes next.
+void RichTextBox::Vide(const QTextCharFormat &format)
+{
+    document()->clear();
+    m_finsDiverses = false;
+    m_lignesAllegees = 0;
+    QTextCursor(document()).setBlockCharFormat(format);
+}
+
+void RichTextBox::RevientAuDebut()
+{
+    setTextCursor(QTextCursor(document()));
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
+}
+
+/// Frees the layouts of the lines that have scrolled by during a long reception. A line keeps its layout once it has
+/// been shown, and that is many times its text; only a change of the document's layout object frees them. Done each
+/// time the text has grown by a quarter, so that it costs in proportion to the text.
+void RichTextBox::AllegeMiseEnPage()
+{
+    constexpr int PremierSeuil = 4096;
+    constexpr int Part = 4;
+    if (!isVisible() || blockCount() < m_lignesAllegees + m_lignesAllegees / Part + PremierSeuil)
+        return;
+    m_lignesAllegees = blockCount();
+    document()->setDocumentLayout(new QPlainTextDocumentLayout(document()));
+}
+
+/// Inserts texte at curseur, in an edit block of the caller.
+void RichTextBox::Insere(QTextCursor &curseur, const QString &texte, QTextCharFormat format)
+{
+    // The document takes CR LF, CR and LF each for one separator and gives it the format of the insertion. So all lines
+    // up to the next change of kind go in at once, and a text of one kind, however large, is not even copied.
+    for (qsizetype debut = 0; debut < texte.size();) {
+        const Troncon troncon = PremierTroncon(texte, debut);
+        format.clearProperty(ProprieteFin);
+        if (troncon.fin != FinDeLigne::CrLf) {
+            format.setProperty(ProprieteFin, static_cast<int>(troncon.fin));
+            m_finsDiverses = true;
+        }
+        const bool entier = debut == 0 && troncon.suite == texte.size();
+        curseur.insertText(entier ? texte : texte.mid(debut, troncon.suite - debut), format);
+        debut = troncon.suite;
+    }
+}
+
+/// Makes one separator of a CR and a LF that the last edit has brought together.
+void RichTextBox::RecolleFins()
+{
+    // After an undo the document is as an earlier edit left it, and another edit would cost the operator his redo.
+    if (!m_finsDiverses || document()->isRedoAvailable())
+        return;
+    const QScopedValueRollback<bool> muet(m_muet, true);
+    for (const int couture : {m_couture2, m_couture1}) {
+        const QTextBlock vide = document()->findBlock(couture);
+        if (vide.length() != 1 || !vide.previous().isValid() || !vide.next().isValid() ||
+            FinAvant(vide) != FinDeLigne::Cr || FinAvant(vide.next()) != FinDeLigne::Lf)
+            continue;
+        const QTextCharFormat format = vide.charFormat();
+        QTextCursor curseur(vide);
+        curseur.movePosition(QTextCursor::PreviousCharacter);
+        curseur.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, 2);
+        curseur.joinPreviousEditBlock();
+        curseur.removeSelectedText();
+        Insere(curseur, QStringLiteral("\r\n"), format);
+        curseur.endEditBlock();
+    }
+}
+
+FinDeLigne RichTextBox::FinAvant(const QTextBlock &bloc) const
+{
+    return m_finsDiverses ? static_cast<FinDeLigne>(bloc.charFormat().intProperty(ProprieteFin)) : FinDeLigne::CrLf;
+}
+
+/// brut, a text of the document that begins in bloc, with each separator given back as the line end that it stands for.
+QString RichTextBox::AvecFins(const QString &brut, QTextBlock bloc) const
+{
+    QString texte;
+    texte.reserve(brut.size() + brut.count(QChar::ParagraphSeparator));
+    qsizetype debut = 0;
+    for (qsizetype fin = 0; (fin = brut.indexOf(QChar::ParagraphSeparator, debut)) >= 0; debut = fin + 1) {
+        if (m_finsDiverses)
+            bloc = bloc.next();
+        texte.append(brut.constData() + debut, fin - debut).append(TexteDe(FinAvant(bloc)));
+    }
+    return texte.append(brut.constData() + debut, brut.size() - debut);
+}
+
+QString RichTextBox::Extrait(const QTextCursor &curseur) const
+{
+    return AvecFins(curseur.selectedText(), document()->findBlock(curseur.selectionStart()));
+}
+
+/// The last positions of the document, or all of it when it has fewer.
+QTextCursor RichTextBox::Queue(qsizetype positions) const
+{
+    QTextCursor curseur(document());
+    curseur.movePosition(QTextCursor::End);
+    const qsizetype debut = std::max<qsizetype>(curseur.position() - positions, 0);
+    curseur.setPosition(static_cast<int>(debut), QTextCursor::KeepAnchor);
+    return curseur;
+}
+
+/// How many characters of Text() stand before a position of the document.
+int RichTextBox::PlaceDe(int position) const
+{
+    QTextBlock bloc = document()->findBlock(position);
+    if (!m_finsDiverses)
+        return position + bloc.blockNumber();
+    int place = position;
+    for (; bloc.previous().isValid(); bloc = bloc.previous())
+        place += static_cast<int>(TexteDe(FinAvant(bloc)).size()) - 1;
+    return place;
+}
+
+/// The position of the document at place, a count of characters of Text(). apresFin: a place between CR and LF means
+/// behind that line end, otherwise before it.
+int RichTextBox::PositionDe(int place, bool apresFin) const
+{
+    int reste = std::max(place, 0);
+    for (QTextBlock bloc = document()->firstBlock();; bloc = bloc.next()) {
+        const int longueur = bloc.length() - 1;
+        const QTextBlock suivant = bloc.next();
+        if (reste <= longueur || !suivant.isValid())
+            return bloc.position() + std::min(reste, longueur);
+        reste -= longueur;
+        const int fin = static_cast<int>(TexteDe(FinAvant(suivant)).size());
+        if (reste < fin)
+            return suivant.position() - (apresFin ? 0 : 1);
+        reste -= fin;
+    }
+}
+
+/// The look of the character at a position of the document, or at its end of the last one.
+QTextCharFormat RichTextBox::FormatA(int position) const
+{
+    QTextCursor curseur(document());
+    curseur.setPosition(position);
+    curseur.movePosition(QTextCursor::NextCharacter);
+    return curseur.charFormat();
+}
+
+QTextCharFormat RichTextBox::Aspect() const
+{
+    const QTextCursor curseur = textCursor();
+    return curseur.hasSelection() ? FormatA(curseur.selectionStart()) : curseur.charFormat();
+}
+
+QFont RichTextBox::Police() const
+{
+    return Aspect().font().resolve(document()->defaultFont());
+}
+
+void RichTextBox::Habille(QTextFormat::Property propriete, const QVariant &valeur)
+{
+    const QScopedValueRollback<bool> muet(m_muet, true);
+    const SansAnnulation sansAnnulation(document());
+    QTextCharFormat aspect;
+    aspect.setProperty(propriete, valeur);
+    // What is typed where the whole text was deleted takes its look from the first block.
+    if (textCursor().selectionStart() == 0)
+        QTextCursor(document()).mergeBlockCharFormat(aspect);
+    mergeCurrentCharFormat(aspect);
+}

@@ -1,0 +1,154 @@
+#include "Operateur.h"
+#include "Poste.h"
+
+#include "comconfig/ParamCom.h"
+#include "platform/Boites.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QTest>
+
+namespace {
+
+const QString ChargeConf = QStringLiteral("Mnu_ChargeConf");
+
+/// The commands that a configuration enables: receiving, sending.
+QList<bool> Actives()
+{
+    return {Operateur::Offre(QStringLiteral("Mnu_RecepProg")), frmPrinc->Bouton(10)->isEnabled(),
+            Operateur::Offre(QStringLiteral("Mnu_EmisProgCN")), frmPrinc->Bouton(11)->isEnabled()};
+}
+
+QString Complet(const Poste &poste)
+{
+    const QString chemin = poste.Chemin(QStringLiteral("Tour.par"));
+    QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), chemin);
+    return chemin;
+}
+
+} // namespace
+
+class TestCommandesConf : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Charge();
+    void Dialogue_data();
+    void Dialogue();
+    void Erronee_data();
+    void Erronee();
+};
+
+// Receiving needs a configuration, sending a file too; the file may come before or after.
+void TestCommandesConf::Charge()
+{
+    for (const bool fichierDAbord : {false, true}) {
+        Poste poste;
+        poste.Demarre(0);
+        Operateur operateur;
+        QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
+        const QString programme = poste.Ecrit(QStringLiteral("P.iso"), "G0");
+        if (fichierDAbord)
+            OuvreDocument(programme);
+        QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
+        operateur.Choisit(Complet(poste));
+        Operateur::Menu(ChargeConf);
+        QCOMPARE(Actives(), QList<bool>({true, true, fichierDAbord, fichierDAbord}));
+        OuvreDocument(programme);
+        QCOMPARE(Actives(), QList<bool>({true, true, true, true}));
+
+        QCOMPARE(FicConf + NomConf, poste.Chemin(QStringLiteral("Tour.par")) + QStringLiteral("Tour.par"));
+        QCOMPARE(frmPrinc->Label4->text(), QStringLiteral("Tour.par"));
+        QCOMPARE(frmPrinc->Label6->text(), QStringLiteral("Tour 2 axes, été €"));
+        QCOMPARE(ParamCom.ChaineFinLig, QStringLiteral("\r\r\n"));
+    }
+}
+
+// The dialog opens on the folder of configurations, in the language; cancelling it changes nothing.
+void TestCommandesConf::Dialogue_data()
+{
+    QTest::addColumn<int>("langue");
+    QTest::addColumn<QString>("titre");
+    QTest::addColumn<QString>("filtre");
+    QTest::newRow("French") << 0 << "Sélectionner une configuration de communication"
+                            << "Fichiers paramètres (*.par)";
+    QTest::newRow("English") << 1 << "Select a configuration of communication"
+                             << "Files parameters (*.par)";
+    QTest::newRow("Spanish") << 2 << "Seleccionar una configuración de comunicación"
+                             << "Ficheros parámetros (*.par)";
+}
+
+void TestCommandesConf::Dialogue()
+{
+    QFETCH(int, langue);
+    Poste poste;
+    poste.Demarre(langue);
+    QDir(poste.Dossier()).mkdir(QStringLiteral("Conf"));
+    DosConf = poste.Chemin(QStringLiteral("Conf"));
+    QDir::setCurrent(QStringLiteral("/"));
+    Operateur operateur;
+    operateur.Fait(QStringLiteral("CommonDialog"), [](QWidget &fenetre) {
+        auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
+        QTEST(dialogue.windowTitle(), "titre");
+        QTEST(dialogue.selectedNameFilter(), "filtre");
+        QCOMPARE(dialogue.directory(), QDir(DosConf));
+        dialogue.reject();
+    });
+    Operateur::Barre(8);
+    QCOMPARE(QDir::current(), QDir(DosAppli));
+    QCOMPARE(FicConf + NomConf + ParamCom.NomPort, QString());
+    QVERIFY(!frmPrinc->Mnu_RecepProg->isEnabled());
+}
+
+// A file that breaks off: the record holds what was read, while menus, labels and derived strings stay as they were.
+void TestCommandesConf::Erronee_data()
+{
+    QTest::addColumn<int>("langue");
+    QTest::addColumn<QString>("titre");
+    QTest::addColumn<QString>("texte");
+    QTest::newRow("French") << 0 << "Fichier de configuration erroné ou de version antérieure !"
+                            << "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.";
+    QTest::newRow("English") << 1 << "Erroneous file of configuration or former version !"
+                             << "File of configuration of former version !\rModify and record again.";
+    QTest::newRow("Spanish") << 2 << "Fichero de configuración erróneo o versión previa !"
+                             << "Fichero de configuración de versión previa !\rModificarse de nuevo y registrar.";
+}
+
+void TestCommandesConf::Erronee()
+{
+    QFETCH(int, langue);
+    QFETCH(QString, titre);
+    QFETCH(QString, texte);
+    Poste poste;
+    poste.Demarre(langue);
+    Operateur operateur;
+    QFile complet(Complet(poste));
+    QVERIFY(complet.open(QIODevice::ReadOnly));
+    const QString courte = poste.Ecrit(QStringLiteral("Courte.par"), complet.readAll().chopped(5)); // no last line
+    const auto charge = [&] {
+        operateur.Choisit(courte);
+        operateur.Repond(titre, texte, Boite::Exclamation, QMessageBox::Ok);
+        Operateur::Menu(ChargeConf);
+    };
+    charge();
+    QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
+    QCOMPARE(FicConf + NomConf, courte + QStringLiteral("Courte.par"));
+    QCOMPARE(ParamCom.NomPort, QStringLiteral("Com3"));
+    QCOMPARE(ParamCom.ChaineFinLig, QString());
+    QCOMPARE(ParamCom.TypeEnvoi, 0);
+
+    operateur.Choisit(complet.fileName());
+    Operateur::Menu(ChargeConf);
+    charge();
+    QCOMPARE(Actives(), QList<bool>({true, true, false, false}));
+    QCOMPARE(frmPrinc->Label4->text(), QStringLiteral("Tour.par"));
+    QCOMPARE(ParamCom.TypeEnvoi, 1);
+}
+
+QTEST_MAIN(TestCommandesConf)
+#include "TestCommandesConf.moc"
