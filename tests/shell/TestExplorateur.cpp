@@ -1,11 +1,8 @@
-#include "comconfig/ParamCom.h"
 #include "Operateur.h"
 #include "platform/Boites.h"
 #include "platform/ChoixDossier.h"
-#include "platform/Erreur.h"
 #include "Poste.h"
 #include "shell/Document.h"
-#include "shell/Explorateur.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -17,7 +14,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-// The explorer column, as an operator uses it.
+using namespace Qt::Literals::StringLiterals;
+
+// The explorer column, as an operator uses it. The column is open on "Pieces" when a test begins.
 class TestExplorateur : public QObject
 {
     Q_OBJECT
@@ -25,52 +24,33 @@ class TestExplorateur : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void OuvreEtFerme_data() { Langues(); }
     void OuvreEtFerme();
-    void DossierDeDepart();
-    void Filtre_data() { Langues(); }
     void Filtre();
     void OuvreUnProgramme();
     void ListeSuitLaSelection();
     void Cree_data();
     void Cree();
-    void NonCree_data() { Langues(); }
-    void NonCree();
-    void Supprime_data() { Langues(); }
     void Supprime();
-    void SupprimeRefuse();
     void SupprimeUnLien();
     void SupprimeAMoitie();
-    void RienASupprimer_data() { Langues(); }
-    void RienASupprimer();
     void Renomme_data();
     void Renomme();
-    void NonRenomme_data() { Langues(); }
-    void NonRenomme();
+    void Refus();
     void DossierDuDialogue();
-    void RienNEstCoupe_data() { Langues(); }
+    void RienNEstCoupe_data();
     void RienNEstCoupe();
-    void ChoisitUnDossier();
 
 private:
-    static void Langues();
-    void Ouvre(int langue = 0);
-    void Selectionne(const QString &nom) const;
+    void Selectionne(const QString &nom) const { frmPrinc->FolderTreeview1->setSelectedFolder(m_poste->Chemin(nom)); }
     QString Selection() const;
-    static QStringList Fichiers();
-    void Saisit(const QString &titre, const QString &invite, const QString &reponse);
+    static QString Fichiers();
+    void Saisit(const QString &titre, const QString &invite, const QString &offert, const QString &reponse);
 
     std::unique_ptr<Poste> m_poste;
     std::unique_ptr<Operateur> m_operateur;
 };
 
 namespace {
-
-QString Choix(std::initializer_list<const char *> textes)
-{
-    QFETCH(int, langue);
-    return QString::fromUtf8(textes.begin()[langue]);
-}
 
 /// Rights count for root too while this lives.
 class SansPrivilege
@@ -88,18 +68,22 @@ private:
     bool m_change = false;
 };
 
+constexpr int Question = Boite::OuiNon | Boite::Exclamation | Boite::SecondBouton;
+
 } // namespace
 
 void TestExplorateur::init()
 {
     m_poste = std::make_unique<Poste>();
     m_operateur = std::make_unique<Operateur>();
-    QDir dossier(m_poste->Dossier());
-    QVERIFY(dossier.mkpath(QStringLiteral("Pieces/Tour")));
-    m_poste->Ecrit(QStringLiteral("Pieces/PIECE.ISO"), "%1\r\nG0X1");
-    m_poste->Ecrit(QStringLiteral("Pieces/b.cn"), "%2");
-    m_poste->Ecrit(QStringLiteral("Pieces/Tour/b.cn"), "%3");
-    m_poste->Ecrit(QStringLiteral("b.cn"), "%4");
+    QVERIFY(QDir(m_poste->Dossier()).mkpath(u"Pieces/Tour"_s));
+    m_poste->Ecrit(u"Pieces/PIECE.ISO"_s, "%1\r\nG0X1");
+    m_poste->Ecrit(u"Pieces/b.cn"_s, "%2");
+    m_poste->Ecrit(u"Pieces/Tour/b.cn"_s, "%3");
+    m_poste->Ecrit(u"b.cn"_s, "%4");
+    m_poste->Demarre(0);
+    DosDefaut = m_poste->Chemin(u"Pieces"_s);
+    Operateur::Barre(15);
 }
 
 void TestExplorateur::cleanup()
@@ -108,410 +92,291 @@ void TestExplorateur::cleanup()
     m_poste.reset();
 }
 
-void TestExplorateur::Langues()
-{
-    QTest::addColumn<int>("langue");
-    QTest::newRow("fr") << 0;
-    QTest::newRow("en") << 1;
-    QTest::newRow("es") << 2;
-}
-
-/// Starts the program with the column open on the folder "Pieces".
-void TestExplorateur::Ouvre(int langue)
-{
-    m_poste->Demarre(langue);
-    DosDefaut = m_poste->Chemin(QStringLiteral("Pieces"));
-    Operateur::Barre(15);
-}
-
-void TestExplorateur::Selectionne(const QString &nom) const
-{
-    frmPrinc->FolderTreeview1->setSelectedFolder(m_poste->Chemin(nom));
-}
-
 /// The selected folder, seen from the application folder.
 QString TestExplorateur::Selection() const
 {
     return QDir(m_poste->Dossier()).relativeFilePath(frmPrinc->FolderTreeview1->SelectedFolder());
 }
 
-QStringList TestExplorateur::Fichiers()
+QString TestExplorateur::Fichiers()
 {
     QStringList noms;
     const QAbstractItemModel *const modele = frmPrinc->File1->model();
     for (int i = 0; i < modele->rowCount(); ++i)
         noms << modele->index(i, 0).data().toString();
-    return noms;
+    return noms.join(u' ');
 }
 
-/// A null answer cancels the box.
-void TestExplorateur::Saisit(const QString &titre, const QString &invite, const QString &reponse)
+/// Foretells an input box and what is selected in it; a null answer cancels.
+void TestExplorateur::Saisit(const QString &titre, const QString &invite, const QString &offert, const QString &reponse)
 {
-    m_operateur->Fait(QStringLiteral("InputBox"), [=](QWidget &fenetre) {
+    m_operateur->Fait(u"InputBox"_s, [=](QWidget &fenetre) {
         auto &boite = dynamic_cast<QInputDialog &>(fenetre);
         QCOMPARE(boite.windowTitle(), titre);
         QCOMPARE(boite.labelText(), invite);
+        QTRY_COMPARE(boite.findChild<QLineEdit *>()->selectedText(), offert);
         boite.setTextValue(reponse);
         reponse.isNull() ? boite.reject() : boite.accept();
     });
 }
 
+// The menu entry, the button and the column go together. It opens on the folder of the open dialog; where that has
+// gone, on the application folder.
 void TestExplorateur::OuvreEtFerme()
 {
-    QFETCH(int, langue);
-    m_poste->Demarre(langue);
-    QVERIFY(frmPrinc->Frame1->isHidden());
-    const auto verifie = [](bool ouvert) {
-        QCOMPARE(frmPrinc->Frame1->isVisible(), ouvert);
-        QCOMPARE(frmPrinc->Mnu_AffichDOS->isChecked(), ouvert);
-        QCOMPARE(frmPrinc->Bouton(15)->isChecked(), ouvert);
+    const auto etat = [] {
+        const bool ouvert = frmPrinc->Frame1->isVisible();
+        return ouvert == frmPrinc->Mnu_AffichDOS->isChecked() && ouvert == frmPrinc->Bouton(15)->isChecked() ? ouvert
+                                                                                                             : -1;
     };
-    const QString bulleOuvert =
-        Choix({"Fermer l'explorateur de fichiers", "Close explorer files", "Cerrar el explorador de ficheros"});
-    Operateur::Menu(QStringLiteral("Mnu_AffichDOS"));
-    verifie(true);
-    QCOMPARE(frmPrinc->Bouton(15)->toolTip(), bulleOuvert);
-    QCOMPARE(Selection(), QStringLiteral("."));
+    QCOMPARE(etat(), 1);
+    QCOMPARE(Selection(), u"Pieces"_s);
+    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
     frmPrinc->Command3->click();
-    verifie(false);
-    QCOMPARE(frmPrinc->Bouton(15)->toolTip(), bulleOuvert);
+    QCOMPARE(etat(), 0);
+    QCOMPARE(frmPrinc->Bouton(15)->toolTip(), u"Fermer l'explorateur de fichiers"_s); // the button's own doing
+    DosDefaut = m_poste->Chemin(u"debranche"_s);
+    Operateur::Menu(u"Mnu_AffichDOS"_s);
+    QCOMPARE(etat(), 1);
+    QCOMPARE(Selection(), u"."_s);
+    QCOMPARE(DosDefaut, m_poste->Chemin(u"debranche"_s));
     Operateur::Barre(15);
-    verifie(true);
-    Operateur::Barre(15);
-    verifie(false);
-    QCOMPARE(frmPrinc->Bouton(15)->toolTip(),
-             Choix({"Afficher l'explorateur de fichiers", "View explorer files", "Indicar el explorador de ficheros"}));
+    QCOMPARE(etat(), 0);
+    QCOMPARE(frmPrinc->Bouton(15)->toolTip(), u"Afficher l'explorateur de fichiers"_s);
 }
 
-// The column opens on the folder of the open dialog; where that has gone, on the application folder. Opened again it
-// shows what has come meanwhile.
-void TestExplorateur::DossierDeDepart()
-{
-    Ouvre();
-    QCOMPARE(Selection(), QStringLiteral("Pieces"));
-    QCOMPARE(Fichiers(), QStringList({QStringLiteral("b.cn"), QStringLiteral("PIECE.ISO")}));
-    Operateur::Barre(15);
-    m_poste->Ecrit(QStringLiteral("Pieces/a.cn"), "%");
-    Operateur::Barre(15);
-    QCOMPARE(Fichiers().value(0), QStringLiteral("a.cn"));
-    Operateur::Barre(15);
-    DosDefaut = m_poste->Chemin(QStringLiteral("debranche"));
-    Operateur::Barre(15);
-    QCOMPARE(Selection(), QStringLiteral("."));
-    QCOMPARE(DosDefaut, m_poste->Chemin(QStringLiteral("debranche")));
-}
-
+// Each key counts, and nothing is added to what is typed.
 void TestExplorateur::Filtre()
 {
-    QFETCH(int, langue);
-    Ouvre(langue);
     QComboBox &filtre = *frmPrinc->Combo1;
-    QStringList entrees;
-    for (int i = 0; i < filtre.count(); ++i)
-        entrees << filtre.itemText(i);
-    QCOMPARE(entrees.join(u' '), QStringLiteral("*.* *.iso *.rub *.cn *.xcn *.txt *.asc *.xpi *.jau *.cor *.prg *.cnc "
-                                                "*.rrr *.qqq *.h *.rtf"));
-    QCOMPARE(filtre.currentText(), QStringLiteral("*.*"));
+    QCOMPARE(filtre.count(), 16);
     filtre.setCurrentIndex(1);
-    QCOMPARE(Fichiers(), QStringList(QStringLiteral("PIECE.ISO")));
-
+    QCOMPARE(Fichiers(), u"PIECE.ISO"_s);
     filtre.lineEdit()->clear();
-    QTest::keyClicks(filtre.lineEdit(),
-                     QStringLiteral("b.c")); // each key counts, and nothing is added to what is typed
-    QCOMPARE(Fichiers(), QStringList());
-    QTest::keyClicks(filtre.lineEdit(), QStringLiteral("n"));
-    QCOMPARE(Fichiers(), QStringList(QStringLiteral("b.cn")));
-    m_operateur->Repond(Choix({"Erreur", "Error", "Error"}),
-                        Choix({"Filtre incorrect !", "Incorrect filter !", "Filtro incorrecto !"}), Boite::Exclamation,
-                        QMessageBox::Ok);
-    QTest::keyClicks(filtre.lineEdit(), QStringLiteral("/"));
-    QCOMPARE(Fichiers().size(), 2);
+    QTest::keyClicks(filtre.lineEdit(), u"*.c"_s);
+    QCOMPARE(Fichiers(), QString());
+    QTest::keyClicks(filtre.lineEdit(), u"n"_s);
+    QCOMPARE(Fichiers(), u"b.cn"_s);
+    m_operateur->Repond(u"Erreur"_s, u"Filtre incorrect !"_s, Boite::Exclamation, QMessageBox::Ok);
+    QTest::keyClicks(filtre.lineEdit(), u"/"_s);
+    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
 }
 
 // A double click, or Enter, opens the file; a changed text is dropped without a question.
 void TestExplorateur::OuvreUnProgramme()
 {
-    Ouvre();
-    frmPrinc->Text1->setText(QStringLiteral("autre"));
+    frmPrinc->Text1->setText(u"autre"_s);
     FileListBox &liste = *frmPrinc->File1;
-    QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {},
-                       liste.viewport()->rect().bottomRight()); // beside the names
+    const auto double_clic = [&liste](QPoint ici) {
+        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ici);
+        QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, ici);
+    };
+    double_clic(liste.viewport()->rect().bottomRight()); // beside the names
     QCOMPARE(NomFichier, QString());
-
-    const QPoint ici = liste.visualRect(liste.model()->index(1, 0)).center();
-    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ici);
-    QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, ici);
-    QCOMPARE(NomFichier, m_poste->Chemin(QStringLiteral("Pieces/PIECE.ISO")));
-    QCOMPARE(TitreFichier, QStringLiteral("PIECE.ISO"));
-    QCOMPARE(frmPrinc->Text1->Text(), QStringLiteral("%1\r\nG0X1"));
+    double_clic(liste.visualRect(liste.model()->index(1, 0)).center());
+    QCOMPARE(NomFichier, m_poste->Chemin(u"Pieces/PIECE.ISO"_s));
+    QCOMPARE(TitreFichier, u"PIECE.ISO"_s);
+    QCOMPARE(frmPrinc->Text1->Text(), u"%1\r\nG0X1"_s);
     QCOMPARE(FichierModifie, 0);
-
-    liste.setCurrentIndex(liste.model()->index(0, 0));
+    QTest::keyClick(&liste, Qt::Key_Up);
     QTest::keyClick(&liste, Qt::Key_Return);
-    QCOMPARE(frmPrinc->Text1->Text(), QStringLiteral("%2"));
+    QCOMPARE(frmPrinc->Text1->Text(), u"%2"_s);
 }
 
-// The list and the selected folder are never at odds: a namesake elsewhere could go to the machine.
+// The list and the selected folder are never at odds: a namesake from elsewhere could go to the machine.
 void TestExplorateur::ListeSuitLaSelection()
 {
-    Ouvre();
     QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Right);
     QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Down);
-    QCOMPARE(Selection(), QStringLiteral("Pieces/Tour"));
-    QCOMPARE(Fichiers(), QStringList(QStringLiteral("b.cn")));
-    QDir(m_poste->Chemin(QStringLiteral("Pieces/Tour"))).removeRecursively();
-    QTRY_COMPARE(Selection(), QStringLiteral("Pieces"));
-    QCOMPARE(Fichiers().size(), 2);
-    frmPrinc->File1->setCurrentIndex(frmPrinc->File1->model()->index(0, 0));
-    Q_EMIT frmPrinc->File1->DblClick();
-    QCOMPARE(NomFichier, m_poste->Chemin(QStringLiteral("Pieces/b.cn")));
+    QCOMPARE(Selection(), u"Pieces/Tour"_s);
+    QCOMPARE(Fichiers(), u"b.cn"_s);
+    QDir(m_poste->Chemin(u"Pieces/Tour"_s)).removeRecursively();
+    QTRY_COMPARE(Selection(), u"Pieces"_s);
+    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
 }
 
 void TestExplorateur::Cree_data()
 {
-    QTest::addColumn<int>("langue");
     QTest::addColumn<QString>("reponse");
-    QTest::addColumn<QString>("cree"); // null: nothing
-    QTest::newRow("fr") << 0 << QStringLiteral("Fraise") << QStringLiteral("Fraise");
-    QTest::newRow("en, blanks around stay") << 1 << QStringLiteral(" F 1 ") << QStringLiteral(" F 1 ");
-    QTest::newRow("es, hidden") << 2 << QStringLiteral(".f") << QStringLiteral(".f");
-    QTest::newRow("blanks only") << 0 << QStringLiteral("   ") << QString();
-    QTest::newRow("cancelled") << 0 << QString() << QString();
+    QTest::addColumn<QString>("cree"); // the folder selected afterwards
+    QTest::newRow("a name") << u"Fraise"_s << u"Pieces/Fraise/"_s;
+    QTest::newRow("blanks around stay") << u" F 1 "_s << u"Pieces/ F 1 /"_s;
+    QTest::newRow("hidden") << u".f"_s << u"Pieces/.f/"_s;
+    QTest::newRow("blanks only") << u"   "_s << u"Pieces/"_s;
+    QTest::newRow("cancelled") << QString() << u"Pieces/"_s;
+    QTest::newRow("in use") << u"Tour"_s << u"Pieces/"_s;
 }
 
 void TestExplorateur::Cree()
 {
-    QFETCH(int, langue);
     QFETCH(QString, reponse);
     QFETCH(QString, cree);
-    Ouvre(langue);
-    const QString invite =
-        Choix({"Indiquez le nom du nouveau dossier, qui deviendra sous-dossier de %1 après sa création !",
-               "Indicate the name of the new file,which will become sub-directory of %1 after its creation !",
-               "Indique el nombre del nuevo expediente, que se volverá subfichero de %1 después de su creación !"})
-            .arg(frmPrinc->FolderTreeview1->SelectedFolder());
-    Saisit(Choix({"Créer un dossier", "Create a directory", "Crear un directorio"}), invite, reponse);
+    const QString dossier = frmPrinc->FolderTreeview1->SelectedFolder();
+    Saisit(u"Créer un dossier"_s,
+           u"Indiquez le nom du nouveau dossier, qui deviendra sous-dossier de %1 après sa création !"_s.arg(dossier),
+           QString(), reponse);
+    if (reponse == u"Tour")
+        m_operateur->Repond(u"Erreur"_s, u"Le dossier %1Tour n'a pas pu être créé !"_s.arg(dossier), Boite::Critique,
+                            QMessageBox::Ok);
     frmPrinc->Command1->click();
-    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(),
-             m_poste->Chemin(cree.isNull() ? QStringLiteral("Pieces/") : QStringLiteral("Pieces/%1/").arg(cree)));
-    QCOMPARE(frmPrinc->File1->Path(), frmPrinc->FolderTreeview1->SelectedFolder());
-    const auto filtre = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
-    QCOMPARE(QDir(m_poste->Chemin(QStringLiteral("Pieces"))).entryList(filtre).size(), cree.isNull() ? 1 : 2);
+    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), m_poste->Chemin(cree));
+    QCOMPARE(frmPrinc->File1->Path(), m_poste->Chemin(cree));
+    const auto dossiers = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
+    QCOMPARE(QDir(dossier).entryList(dossiers).size(), cree == u"Pieces/" ? 1 : 2);
 }
 
-void TestExplorateur::NonCree()
-{
-    QFETCH(int, langue);
-    Ouvre(langue);
-    m_operateur->Fait(QStringLiteral("InputBox"), [](QWidget &fenetre) {
-        dynamic_cast<QInputDialog &>(fenetre).setTextValue(QStringLiteral("Tour"));
-        dynamic_cast<QInputDialog &>(fenetre).accept();
-    });
-    m_operateur->Repond(Choix({"Erreur", "Error", "Error"}),
-                        Choix({"Le dossier %1 n'a pas pu être créé !", "The repertory %1  could not be to create !",
-                               "El directorio %1 no pudo ser crear !"})
-                            .arg(m_poste->Chemin(QStringLiteral("Pieces/Tour"))),
-                        Boite::Critique, QMessageBox::Ok);
-    frmPrinc->Command1->click();
-    frmPrinc->FolderTreeview1->clearSelection(); // then the button has nowhere to create
-    frmPrinc->Command1->click();
-}
-
+// Refused, nothing goes; the folder above is selected all the same, with its own files in the list.
 void TestExplorateur::Supprime()
 {
-    QFETCH(int, langue);
-    Ouvre(langue);
-    m_operateur->Repond(Choix({"Supprimer un dossier", "Remove a directory", "Suprimir un directorio"}),
-                        Choix({"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
-                               "Sous-dossiers : 1, fichiers : 3",
-                               "Permanently remove this directory and all that it holds ?\r%1\r"
-                               "Sub-directories: 1, files: 3",
-                               "Suprimir definitivamente este directorio y todo lo que contiene ?\r%1\r"
-                               "Subdirectorios: 1, ficheros: 3"})
-                            .arg(m_poste->Chemin(QStringLiteral("Pieces"))),
-                        Boite::OuiNon | Boite::Exclamation | Boite::SecondBouton, QMessageBox::Yes);
-    m_operateur->Repond(Choix({"Information", "Information", "Información"}),
-                        Choix({"Suppression de dossier réussi", "Suppression of successful repertory",
-                               "Supresión de directorio conseguido"}),
-                        Boite::Information, QMessageBox::Ok);
+    Selectionne(u"Pieces/Tour"_s);
+    m_operateur->Ferme(u"MsgBox"_s);
     frmPrinc->Command2->click();
-    QVERIFY(!QFileInfo::exists(m_poste->Chemin(QStringLiteral("Pieces"))));
-    QCOMPARE(Selection(), QStringLiteral("."));
-    QVERIFY(Fichiers().contains(QStringLiteral("b.cn")));
-}
+    QCOMPARE(m_poste->Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(Selection(), u"Pieces"_s);
+    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
 
-// Refused, nothing goes; the folder above is selected all the same, and the list shows that one's files.
-void TestExplorateur::SupprimeRefuse()
-{
-    Ouvre();
-    Selectionne(QStringLiteral("Pieces/Tour"));
-    m_operateur->Fait(QStringLiteral("MsgBox"), [](QWidget &boite) { boite.close(); });
+    m_operateur->Repond(u"Supprimer un dossier"_s,
+                        u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
+                        u"Sous-dossiers : 1, fichiers : 3"_s.arg(m_poste->Chemin(u"Pieces"_s)),
+                        Question, QMessageBox::Yes);
+    m_operateur->Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
     frmPrinc->Command2->click();
-    QCOMPARE(m_poste->Lit(QStringLiteral("Pieces/Tour/b.cn")), QByteArray("%3"));
-    QCOMPARE(Selection(), QStringLiteral("Pieces"));
-    QCOMPARE(Fichiers().size(), 2);
+    QVERIFY(!QFileInfo::exists(m_poste->Chemin(u"Pieces"_s)));
+    QCOMPARE(Selection(), u"."_s);
+    QVERIFY(Fichiers().contains(u"b.cn"));
 }
 
 void TestExplorateur::SupprimeUnLien()
 {
-    const QString lien = m_poste->Chemin(QStringLiteral("Lien"));
-    QVERIFY(QFile::link(m_poste->Chemin(QStringLiteral("Pieces")), lien));
-    Ouvre();
-    Selectionne(QStringLiteral("Lien"));
-    m_operateur->Repond(QStringLiteral("Supprimer un dossier"),
-                        QStringLiteral("Supprimer ce lien ? Le dossier auquel il mène reste en place.\r") + lien,
-                        Boite::OuiNon | Boite::Exclamation | Boite::SecondBouton, QMessageBox::Yes);
-    m_operateur->Repond(QStringLiteral("Information"), QStringLiteral("Suppression de dossier réussi"),
-                        Boite::Information, QMessageBox::Ok);
+    const QString lien = m_poste->Chemin(u"Lien"_s);
+    QVERIFY(QFile::link(m_poste->Chemin(u"Pieces"_s), lien));
+    Selectionne(u"Lien"_s);
+    m_operateur->Repond(u"Supprimer un dossier"_s,
+                        u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r"_s + lien, Question,
+                        QMessageBox::Yes);
+    m_operateur->Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
     frmPrinc->Command2->click();
     QVERIFY(!QFileInfo(lien).isSymLink());
-    QCOMPARE(m_poste->Lit(QStringLiteral("Pieces/Tour/b.cn")), QByteArray("%3"));
+    QCOMPARE(m_poste->Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
 }
 
 // What resists is named, with what is left.
 void TestExplorateur::SupprimeAMoitie()
 {
-    Ouvre();
+    const QByteArray tour = m_poste->Chemin(u"Pieces/Tour"_s).toUtf8();
     QCOMPARE(chmod(qPrintable(m_poste->Dossier()), 0755), 0);
-    const QByteArray tour = m_poste->Chemin(QStringLiteral("Pieces/Tour")).toUtf8();
     QCOMPARE(chmod(tour.constData(), 0555), 0);
-    Selectionne(QStringLiteral("Pieces/Tour"));
+    Selectionne(u"Pieces/Tour"_s);
+    m_operateur->Fait(u"MsgBox"_s,
+                      [](QWidget &boite) { dynamic_cast<QMessageBox &>(boite).button(QMessageBox::Yes)->click(); });
+    m_operateur->Repond(u"Information"_s,
+                        u"ERREUR N° 70\r%1/b.cn : Permission denied\r"
+                        u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(QString::fromUtf8(tour)),
+                        Boite::Information, QMessageBox::Ok);
     {
         const SansPrivilege operateurOrdinaire;
-        m_operateur->Fait(QStringLiteral("MsgBox"),
-                          [](QWidget &boite) { dynamic_cast<QMessageBox &>(boite).button(QMessageBox::Yes)->click(); });
-        m_operateur->Repond(QStringLiteral("Information"),
-                            QStringLiteral("ERREUR N° 70\r%1/b.cn : Permission denied\r"
-                                           "Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1")
-                                .arg(QString::fromUtf8(tour)),
-                            Boite::Information, QMessageBox::Ok);
         frmPrinc->Command2->click();
     }
     QCOMPARE(chmod(tour.constData(), 0755), 0);
-    QCOMPARE(m_poste->Lit(QStringLiteral("Pieces/Tour/b.cn")), QByteArray("%3"));
-}
-
-void TestExplorateur::RienASupprimer()
-{
-    QFETCH(int, langue);
-    Ouvre(langue);
-    frmPrinc->FolderTreeview1->setSelectedFolder(QDir::rootPath());
-    m_operateur->Repond(Choix({"Attention", "Caution", "Atención"}),
-                        Choix({"Vous vous trouvez dans le dossier racine ! Ce dossier ne peut pas être supprimé !",
-                               "You are in the root directory ! This directory cannot be removed !",
-                               "Se encuentran en el directorio raíz ! Este directorio no puede suprimirse !"}),
-                        Boite::Critique, QMessageBox::Ok);
-    frmPrinc->Command2->click();
-    frmPrinc->FolderTreeview1->clearSelection();
-    m_operateur->Repond(
-        Choix({"Erreur", "Error", "Error"}),
-        Choix({"Pas de dossier sélectionné !", "No selected directory !", "No hay directorio seleccionado !"}),
-        Boite::Exclamation, QMessageBox::Ok);
-    frmPrinc->Command2->click();
+    QCOMPARE(m_poste->Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
 }
 
 void TestExplorateur::Renomme_data()
 {
     QTest::addColumn<QString>("reponse"); // %1: the application folder
     QTest::addColumn<QString>("devient");
-    QTest::newRow("new name") << QStringLiteral("%1/Pieces/Fraise") << QStringLiteral("Pieces/Fraise");
-    QTest::newRow("elsewhere") << QStringLiteral("%1/Tour 2/") << QStringLiteral("Tour 2");
-    QTest::newRow("bare name") << QStringLiteral("Nu") << QStringLiteral("Nu"); // goes to the current directory
-    QTest::newRow("unchanged") << QStringLiteral("%1/Pieces/Tour") << QStringLiteral("Pieces/Tour");
-    QTest::newRow("cancelled") << QString() << QStringLiteral("Pieces/Tour");
+    QTest::newRow("new name") << u"%1/Pieces/Fraise"_s << u"Pieces/Fraise"_s;
+    QTest::newRow("elsewhere") << u"%1/Tour 2/"_s << u"Tour 2"_s;
+    QTest::newRow("bare name") << u"Nu"_s << u"Nu"_s; // goes to the current directory
+    QTest::newRow("unchanged") << u"%1/Pieces/Tour"_s << u"Pieces/Tour"_s;
+    QTest::newRow("cancelled") << QString() << u"Pieces/Tour"_s;
+    QTest::newRow("in use") << u"%1/b.cn"_s << u"Pieces/Tour"_s;
 }
 
 void TestExplorateur::Renomme()
 {
     QFETCH(QString, reponse);
     QFETCH(QString, devient);
-    Ouvre(1); // these texts stand in French in every language
-    Selectionne(QStringLiteral("Pieces/Tour"));
+    Selectionne(u"Pieces/Tour"_s);
     QDir::setCurrent(m_poste->Dossier());
-    const QString ancien = m_poste->Chemin(QStringLiteral("Pieces/Tour"));
-    m_operateur->Fait(QStringLiteral("InputBox"), [&](QWidget &fenetre) {
-        auto &boite = dynamic_cast<QInputDialog &>(fenetre);
-        QCOMPARE(boite.windowTitle(), QStringLiteral("Nouveau nom du dossier"));
-        QCOMPARE(boite.labelText(), QStringLiteral("Indiquez le nouveau nom pour le dossier %1.").arg(ancien));
-        QCOMPARE(boite.textValue(), ancien);
-        QTRY_COMPARE(boite.findChild<QLineEdit *>()->selectedText(), QStringLiteral("Tour")); // typing keeps the path
-        boite.setTextValue(reponse.contains(QLatin1String("%1")) ? reponse.arg(m_poste->Dossier()) : reponse);
-        reponse.isNull() ? boite.reject() : boite.accept();
-    });
+    Saisit(u"Nouveau nom du dossier"_s,
+           u"Indiquez le nouveau nom pour le dossier %1."_s.arg(m_poste->Chemin(u"Pieces/Tour"_s)), u"Tour"_s,
+           reponse.contains(u'%') ? reponse.arg(m_poste->Dossier()) : reponse);
+    if (reponse.endsWith(u"b.cn"))
+        m_operateur->Repond(u"Erreur"_s, u"Erreur ! Le dossier ne peut être renommé."_s, Boite::Exclamation,
+                            QMessageBox::Ok);
     frmPrinc->Command4->click();
     QCOMPARE(Selection(), devient);
-    QCOMPARE(m_poste->Lit(devient + QStringLiteral("/b.cn")), QByteArray("%3"));
-    QCOMPARE(Fichiers(), QStringList(QStringLiteral("b.cn")));
+    QCOMPARE(m_poste->Lit(devient + u"/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(m_poste->Lit(u"b.cn"_s), QByteArray("%4"));
+    QCOMPARE(Fichiers(), u"b.cn"_s);
 }
 
-void TestExplorateur::NonRenomme()
+// A root, and nothing selected, stay out of reach of the buttons.
+void TestExplorateur::Refus()
 {
-    QFETCH(int, langue);
-    Ouvre(langue);
-    Saisit(QStringLiteral("Nouveau nom du dossier"),
-           QStringLiteral("Indiquez le nouveau nom pour le dossier %1.").arg(m_poste->Chemin(QStringLiteral("Pieces"))),
-           m_poste->Chemin(QStringLiteral("b.cn")));
-    m_operateur->Repond(Choix({"Erreur", "Error", "Error"}),
-                        Choix({"Erreur ! Le dossier ne peut être renommé.", "Error ! The repertory cannot be famous.",
-                               "Error ! El directorio no puede reelegirse."}),
-                        Boite::Exclamation, QMessageBox::Ok);
-    frmPrinc->Command4->click();
-    QCOMPARE(Selection(), QStringLiteral("Pieces"));
-    QCOMPARE(m_poste->Lit(QStringLiteral("b.cn")), QByteArray("%4"));
-
     frmPrinc->FolderTreeview1->setSelectedFolder(QDir::rootPath());
-    m_operateur->Repond(Choix({"Information", "Information", "Información"}),
-                        Choix({"Ce dossier ne peut pas être renommé ! ou dossier racine !",
-                               "This repertory cannot be famous! or root directory !",
-                               "Este directorio no puede reelegirse! ¡o directorio raíz !"}),
-                        Boite::Information, QMessageBox::Ok);
-    frmPrinc->Command4->click();
+    m_operateur->Repond(u"Attention"_s,
+                        u"Vous vous trouvez dans le dossier racine ! Ce dossier ne peut pas être supprimé !"_s,
+                        Boite::Critique, QMessageBox::Ok);
+    frmPrinc->Command2->click();
+    const auto nonRenommable = [this] {
+        m_operateur->Repond(u"Information"_s, u"Ce dossier ne peut pas être renommé ! ou dossier racine !"_s,
+                            Boite::Information, QMessageBox::Ok);
+        frmPrinc->Command4->click();
+    };
+    nonRenommable();
+    frmPrinc->FolderTreeview1->clearSelection();
+    nonRenommable();
+    m_operateur->Repond(u"Erreur"_s, u"Pas de dossier sélectionné !"_s, Boite::Exclamation, QMessageBox::Ok);
+    frmPrinc->Command2->click();
+    frmPrinc->Command1->click(); // asks nothing
 }
 
-// Ticked, the box makes the open dialog start in the selected folder, also when the column is closed again.
+// Ticked, the box makes the open dialog start in the selected folder, also when the column is closed again. The folder
+// chooser of the dialogs gives a path without final separator.
 void TestExplorateur::DossierDuDialogue()
 {
-    Ouvre();
-    Selectionne(QStringLiteral("Pieces/Tour"));
+    Selectionne(u"Pieces/Tour"_s);
     Operateur::Barre(15);
     for (const bool coche : {false, true}) {
         frmPrinc->CheckDOS->setChecked(coche);
-        m_operateur->Choisit(QStringLiteral("b.cn"));
-        Operateur::Menu(QStringLiteral("Mnu_Ouvrir"));
-        QCOMPARE(frmPrinc->Text1->Text(), coche ? QStringLiteral("%3") : QStringLiteral("%4"));
-        QCOMPARE(DosDefaut, coche ? m_poste->Chemin(QStringLiteral("Pieces/Tour/")) : m_poste->Dossier());
+        m_operateur->Choisit(u"b.cn"_s);
+        Operateur::Menu(u"Mnu_Ouvrir"_s);
+        QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
+        QCOMPARE(DosDefaut, coche ? m_poste->Chemin(u"Pieces/Tour/"_s) : m_poste->Dossier());
     }
+    m_operateur->Choisit(m_poste->Chemin(u"Pieces/Tour/"_s));
+    QCOMPARE(ChoixDossier(frmPrinc), m_poste->Chemin(u"Pieces/Tour"_s));
+    m_operateur->AnnuleChoix();
+    QCOMPARE(ChoixDossier(frmPrinc), QString());
 }
 
-// In the smallest window every caption of the column has its room, and every control its name.
+void TestExplorateur::RienNEstCoupe_data()
+{
+    QTest::addColumn<int>("langue");
+    QTest::addColumn<QString>("renommer");
+    QTest::newRow("fr") << 0 << u"Renommer le dossier sélectionné"_s;
+    QTest::newRow("en") << 1 << u"Rename the selected directory"_s;
+    QTest::newRow("es") << 2 << u"Reelegir el expediente seleccionado"_s;
+}
+
+// In the smallest window every caption of the column has its room, and the buttons are named in the operator's
+// language.
 void TestExplorateur::RienNEstCoupe()
 {
     QFETCH(int, langue);
-    Ouvre(langue);
+    QFETCH(QString, renommer);
+    if (langue != 0)
+        Operateur::Menu(u"Mnu_Lang_%1"_s.arg(langue));
     frmPrinc->resize(frmPrinc->minimumSize());
     QCoreApplication::processEvents();
-    for (const QWidget *texte :
-         {static_cast<QWidget *>(frmPrinc->CheckDOS), static_cast<QWidget *>(frmPrinc->Label7)}) {
-        QVERIFY(texte->height() >= texte->heightForWidth(texte->width()));
-        QVERIFY(frmPrinc->Frame1->rect().contains(texte->geometry()));
-    }
-    QVERIFY(frmPrinc->CheckDOS->heightForWidth(frmPrinc->CheckDOS->width()) >
-            2 * frmPrinc->CheckDOS->fontMetrics().height());
-    QCOMPARE(frmPrinc->Command4->accessibleName(),
-             Choix({"Renommer le dossier sélectionné", "Rename the selected directory",
-                    "Reelegir el expediente seleccionado"}));
-    QCOMPARE(frmPrinc->Command3->accessibleName(),
-             Choix({"Fermer l'explorateur de fichiers", "Close file explorer", "Cerrar el explorador de ficheros"}));
-    QCOMPARE(frmPrinc->FolderTreeview1->accessibleName(), Choix({"Dossiers", "Directories", "Directorios"}));
-}
-
-void TestExplorateur::ChoisitUnDossier()
-{
-    Ouvre();
-    m_operateur->Choisit(m_poste->Chemin(QStringLiteral("Pieces/Tour/")));
-    QCOMPARE(ChoixDossier(frmPrinc), m_poste->Chemin(QStringLiteral("Pieces/Tour")));
-    m_operateur->AnnuleChoix();
-    QCOMPARE(ChoixDossier(frmPrinc), QString());
+    const QCheckBox &longue = *frmPrinc->CheckDOS;
+    QVERIFY(longue.height() >= longue.heightForWidth(longue.width()));
+    QVERIFY(longue.height() > 2 * longue.fontMetrics().height());
+    QVERIFY(frmPrinc->Label7->height() >= frmPrinc->Label7->heightForWidth(frmPrinc->Label7->width()));
+    QVERIFY(frmPrinc->Frame1->rect().contains(frmPrinc->File1->geometry()));
+    QCOMPARE(frmPrinc->Command4->accessibleName(), renommer);
 }
 
 QTEST_MAIN(TestExplorateur)
