@@ -1,10 +1,15 @@
 #include "platform/Boites.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QSpacerItem>
+#include <QTimer>
 
 namespace {
 
@@ -61,6 +66,25 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
 bool Confirme(const QString &texte, int drapeaux, const QString &titre)
 {
     return MsgBox(texte, drapeaux | Boite::OuiNon, titre) == Reponse::Oui;
+}
+
+QString InputBox(const QString &invite, const QString &titre, const QString &valeur)
+{
+    constexpr int largeur = 440; // pixels; a longer prompt takes more lines
+    QInputDialog boite(QApplication::activeWindow());
+    boite.setObjectName(QStringLiteral("InputBox"));
+    boite.setWindowTitle(titre);
+    boite.setLabelText(PourAffichage(invite));
+    boite.setTextValue(valeur);
+    auto *const texte = boite.findChild<QLabel *>();
+    texte->setTextFormat(Qt::PlainText);
+    texte->setWordWrap(true);
+    texte->setMinimumWidth(largeur);
+    auto *const saisie = boite.findChild<QLineEdit *>();
+    const auto debut = static_cast<int>(valeur.lastIndexOf(QDir::separator())) + 1;
+    // Once the box is shown: showing it selects the whole.
+    QTimer::singleShot(0, saisie, [=] { saisie->setSelection(debut, saisie->maxLength()); });
+    return boite.exec() == QDialog::Accepted ? boite.textValue() : QString();
 }
 
 QString PourAffichage(const QString &texte)

@@ -25,5 +25,9 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre);
 /// True when the operator answers Yes to a box with Yes and No. drapeaux: icon and default button.
 bool Confirme(const QString &texte, int drapeaux, const QString &titre);
 
+/// Asks for a text in a box named "InputBox". invite: the prompt, with line ends as in MsgBox; valeur: the text first
+/// offered. Typing replaces it, or of a path only the last name. Cancelling gives "".
+QString InputBox(const QString &invite, const QString &titre, const QString &valeur = {});
+
 /// Text with the line ends of a label or box (CR LF or CR) made into those that a control shows.
 QString PourAffichage(const QString &texte);

@@ -84,7 +84,8 @@ bool ListeUnFichier(const QString &chemin)
     return !QDir(chemin).entryList(QDir::Files).isEmpty();
 }
 
-/// Folder where the open dialog starts; a folder that lists nothing is given up for the application folder.
+/// Folder where the open dialog starts; a folder that lists nothing is given up for the application folder. The folder
+/// selected in the explorer goes before both, where its box is ticked.
 void ChoisitDosDefaut()
 {
     if (OptDosDefaut == 0)
@@ -92,6 +93,8 @@ void ChoisitDosDefaut()
     QDir::setCurrent(DosDefaut);
     if (!ListeUnFichier(DosDefaut))
         DosDefaut = DossierApplication();
+    if (frmPrinc->CheckDOS->isChecked())
+        DosDefaut = frmPrinc->FolderTreeview1->SelectedFolder();
 }
 
 void ProposeTraitementDeTexte()

@@ -53,6 +53,7 @@ void BrancheMenus()
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))
             QObject::connect(bouton, &QAction::triggered, frmPrinc, commande.routine);
     }
+    BrancheExplorateur();
     QObject::connect(frmPrinc->Mnu_Edition, &QMenu::aboutToShow, frmPrinc, Mnu_Edition);
     QObject::connect(frmPrinc->Mnu_Com, &QMenu::aboutToShow, frmPrinc, Mnu_Com);
     QObject::connect(frmPrinc->MSComm1, &MSComm::OnComm, frmPrinc, MSComm1_OnComm);

@@ -1,0 +1,17 @@
+#include "platform/ChoixDossier.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+QString ChoixDossier(QWidget *fenetre)
+{
+    QFileDialog dialogue(fenetre, QStringLiteral("Choix du dossier"));
+    dialogue.setObjectName(QStringLiteral("CommonDialog"));
+    // The system's own dialog would speak the system's language and not the operator's.
+    dialogue.setOption(QFileDialog::DontUseNativeDialog);
+    dialogue.setOption(QFileDialog::ShowDirsOnly);
+    dialogue.setFileMode(QFileDialog::Directory);
+    if (dialogue.exec() != QDialog::Accepted)
+        return {};
+    return QDir::toNativeSeparators(QDir::cleanPath(dialogue.selectedFiles().value(0)));
+}

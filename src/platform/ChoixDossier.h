@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// Asks the operator for a folder of the disk, in a dialog owned by fenetre. The result is its path without a final
+/// separator, but for a root; "" when nothing was chosen.
+QString ChoixDossier(QWidget *fenetre);

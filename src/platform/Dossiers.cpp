@@ -1,0 +1,122 @@
+#include "platform/Dossiers.h"
+
+#include "platform/Erreur.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+#include <filesystem>
+#include <system_error>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path EnChemin(const QString &chemin)
+{
+    return QFileInfo(chemin).filesystemFilePath();
+}
+
+[[noreturn]] void Echoue(const fs::path &chemin, std::error_code cause)
+{
+    const int numero = cause == std::errc::no_such_file_or_directory || cause == std::errc::not_a_directory
+                           ? Erreur::FichierIntrouvable
+                       : cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted ||
+                               cause == std::errc::read_only_file_system
+                           ? Erreur::AccesRefuse
+                       : cause == std::errc::no_space_on_device ? Erreur::DisqueSature
+                                                                : Erreur::ErreurFichier;
+    throw Erreur(numero, QDir::toNativeSeparators(QFileInfo(chemin).filePath()) + QLatin1String(" : ") +
+                             QString::fromStdString(cause.message()));
+}
+
+void Exige(const fs::path &chemin, std::error_code cause)
+{
+    if (cause)
+        Echoue(chemin, cause);
+}
+
+/// A folder itself, and not a link to one.
+bool EstDossier(const fs::path &chemin)
+{
+    std::error_code cause;
+    return fs::symlink_status(chemin, cause).type() == fs::file_type::directory;
+}
+
+/// What lies in a folder, read to its end: not every file system lists on truly while entries are being deleted.
+std::vector<fs::path> Entrees(const fs::path &dossier)
+{
+    std::vector<fs::path> entrees;
+    std::error_code cause;
+    fs::directory_iterator entree(dossier, cause);
+    for (; entree != fs::directory_iterator(); entree.increment(cause))
+        entrees.push_back(entree->path());
+    Exige(dossier, cause);
+    return entrees;
+}
+
+void EffaceEntree(const fs::path &chemin, const std::function<bool()> &suivi)
+{
+    if (EstDossier(chemin)) {
+        for (const fs::path &entree : Entrees(chemin))
+            EffaceEntree(entree, suivi);
+    }
+    std::error_code cause;
+    fs::remove(chemin, cause);
+    Exige(chemin, cause);
+    if (!suivi())
+        throw Erreur(Erreur::DialogueAnnule, QStringLiteral("The deletion was stopped."));
+}
+
+} // namespace
+
+ContenuDossier CompteContenu(const QString &chemin)
+{
+    ContenuDossier contenu;
+    const fs::path dossier = EnChemin(chemin);
+    if (!EstDossier(dossier))
+        return contenu;
+    std::error_code cause;
+    fs::recursive_directory_iterator entree(dossier, fs::directory_options::skip_permission_denied, cause);
+    for (; entree != fs::recursive_directory_iterator(); entree.increment(cause)) {
+        std::error_code parti;
+        ++(entree->symlink_status(parti).type() == fs::file_type::directory ? contenu.dossiers : contenu.fichiers);
+    }
+    return contenu;
+}
+
+bool EstRacine(const QString &chemin)
+{
+    const QDir dossier(chemin);
+    return dossier.isRoot() || QFileInfo(QStorageInfo(dossier).rootPath()) == QFileInfo(dossier.absolutePath());
+}
+
+void CreeDossier(const QString &chemin)
+{
+    std::error_code cause;
+    const bool cree = fs::create_directory(EnChemin(chemin), cause);
+    if (!cree && !cause)
+        cause = std::make_error_code(std::errc::file_exists);
+    Exige(EnChemin(chemin), cause);
+}
+
+void RenommeDossier(const QString &ancien, const QString &nouveau)
+{
+    const fs::path de = EnChemin(ancien);
+    const fs::path vers = EnChemin(nouveau);
+    std::error_code cause;
+    // The system would put a folder silently in the place of an empty one. The same folder in other letters is no
+    // obstacle where the file system does not tell case apart.
+    if (fs::symlink_status(vers, cause).type() != fs::file_type::not_found && !fs::equivalent(de, vers, cause))
+        Echoue(vers, std::make_error_code(std::errc::file_exists));
+    cause.clear();
+    fs::rename(de, vers, cause);
+    Exige(de, cause);
+}
+
+void EffaceDossier(const QString &chemin, const std::function<bool()> &suivi)
+{
+    EffaceEntree(EnChemin(chemin), suivi);
+}

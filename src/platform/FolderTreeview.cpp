@@ -1,0 +1,265 @@
+#include "platform/FolderTreeview.h"
+
+#include "platform/Erreur.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSet>
+#include <QStyle>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A node: a folder, by its absolute path with "/" and without a final separator, but for a root.
+class Noeud : public QTreeWidgetItem
+{
+public:
+    Noeud(const QString &chemin, const QString &nom, const QIcon &icone)
+        : m_chemin(chemin)
+    {
+        setText(0, nom);
+        setIcon(0, icone);
+        // Whether it has folders below shows when it is opened: looking into each would make a long list slow, and wake
+        // every network drive.
+        setChildIndicatorPolicy(ShowIndicator);
+    }
+
+    const QString &Chemin() const { return m_chemin; }
+    bool Lu() const { return childIndicatorPolicy() != ShowIndicator; }
+    void MarqueLu() { setChildIndicatorPolicy(DontShowIndicatorWhenChildless); }
+
+    QString CheminDe(const QString &nom) const { return QDir(m_chemin).filePath(nom); }
+
+    // The column is narrow: pointing at a folder shows its whole path.
+    QVariant data(int colonne, int role) const override
+    {
+        return role == Qt::ToolTipRole ? QDir::toNativeSeparators(m_chemin) : QTreeWidgetItem::data(colonne, role);
+    }
+
+    bool operator<(const QTreeWidgetItem &autre) const override
+    {
+        return text(0).compare(autre.text(0), Qt::CaseInsensitive) < 0;
+    }
+
+private:
+    QString m_chemin;
+};
+
+Noeud *EnNoeud(QTreeWidgetItem *noeud)
+{
+    return static_cast<Noeud *>(noeud);
+}
+
+const Noeud *EnNoeud(const QTreeWidgetItem *noeud)
+{
+    return static_cast<const Noeud *>(noeud);
+}
+
+/// A folder at the top of the tree.
+struct Lieu
+{
+    QString chemin;
+    QString nom;
+    QStyle::StandardPixmap icone;
+};
+
+QList<Lieu> Lieux()
+{
+    QList<Lieu> lieux = {{QDir::homePath(), QDir::home().dirName(), QStyle::SP_DirHomeIcon}};
+    const QString utilisateur = qEnvironmentVariable("USER", QDir::home().dirName());
+    // Here a desktop session mounts what is plugged in.
+    for (const QString &montages :
+         {QStringLiteral("/media/") + utilisateur, QStringLiteral("/run/media/") + utilisateur}) {
+        const auto volumes = QDir(montages).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        for (const QFileInfo &volume : volumes)
+            lieux << Lieu{volume.filePath(), volume.fileName(), QStyle::SP_DriveHDIcon};
+    }
+    const auto disques = QDir::drives();
+    for (const QFileInfo &disque : disques) {
+        if (disque.filePath() != QDir::homePath())
+            lieux << Lieu{disque.filePath(), QDir::toNativeSeparators(disque.filePath()), QStyle::SP_ComputerIcon};
+    }
+    return lieux;
+}
+
+bool EstSous(const QString &chemin, const QString &dossier)
+{
+    return chemin == dossier || chemin.startsWith(dossier.endsWith(u'/') ? dossier : dossier + u'/');
+}
+
+QString AvecSeparateur(const QString &chemin)
+{
+    return QDir::toNativeSeparators(chemin.endsWith(u'/') ? chemin : chemin + u'/');
+}
+
+} // namespace
+
+FolderTreeview::FolderTreeview(QWidget *parent)
+    : QTreeWidget(parent)
+{
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setIndentation(14);
+    // A deep folder scrolls into view instead of being cut.
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_relecture.setSingleShot(true);
+    m_relecture.setInterval(100ms);
+    connect(&m_guetteur, &QFileSystemWatcher::directoryChanged, this, [this] {
+        if (!m_relecture.isActive())
+            m_relecture.start();
+    });
+    connect(&m_relecture, &QTimer::timeout, this, &FolderTreeview::Refresh);
+    connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lis);
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::SelectionChange);
+    connect(this, &QTreeWidget::itemClicked, this, &FolderTreeview::Click);
+    LisSommets();
+}
+
+QString FolderTreeview::SelectedFolder() const
+{
+    const QTreeWidgetItem *const choisi = Choisi();
+    return choisi == nullptr ? QString() : AvecSeparateur(EnNoeud(choisi)->Chemin());
+}
+
+void FolderTreeview::setSelectedFolder(const QString &chemin)
+{
+    const QString cible = QDir::cleanPath(QFileInfo(chemin).absoluteFilePath());
+    if (chemin.isEmpty() || !QFileInfo(cible).isDir())
+        throw Erreur(Erreur::FichierIntrouvable, chemin);
+    QTreeWidgetItem *noeud = Sommet(cible);
+    if (noeud == nullptr)
+        throw Erreur(Erreur::FichierIntrouvable, chemin);
+    const auto noms = cible.mid(EnNoeud(noeud)->Chemin().size()).split(u'/', Qt::SkipEmptyParts);
+    for (const QString &nom : noms) {
+        noeud->setExpanded(true);
+        noeud = SousDossier(noeud, nom);
+    }
+    setCurrentItem(noeud);
+    scrollToItem(noeud);
+}
+
+QString FolderTreeview::Parent() const
+{
+    const QTreeWidgetItem *const choisi = Choisi();
+    if (choisi == nullptr || QDir(EnNoeud(choisi)->Chemin()).isRoot())
+        return {};
+    return AvecSeparateur(QFileInfo(EnNoeud(choisi)->Chemin()).path());
+}
+
+void FolderTreeview::Refresh()
+{
+    LisSommets();
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        Relis(topLevelItem(i));
+}
+
+/// The top of the tree: volumes come and go while the program runs.
+void FolderTreeview::LisSommets()
+{
+    const QList<Lieu> lieux = Lieux();
+    for (int i = topLevelItemCount() - 1; i >= 0; --i) {
+        const QString &chemin = EnNoeud(topLevelItem(i))->Chemin();
+        if (std::none_of(lieux.begin(), lieux.end(), [&chemin](const Lieu &lieu) { return lieu.chemin == chemin; }))
+            Retire(topLevelItem(i));
+    }
+    for (int i = 0; i < lieux.size(); ++i) {
+        const Lieu &lieu = lieux[i];
+        if (topLevelItem(i) == nullptr || EnNoeud(topLevelItem(i))->Chemin() != lieu.chemin)
+            insertTopLevelItem(i, new Noeud(lieu.chemin, lieu.nom, style()->standardIcon(lieu.icone)));
+    }
+}
+
+/// Brings what stands below a node in line with the disk; what is on both sides stays, with all below it.
+void FolderTreeview::Lis(QTreeWidgetItem *noeud)
+{
+    Noeud *const dossier = EnNoeud(noeud);
+    const QStringList noms =
+        QDir(dossier->Chemin()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    QSet<QString> absents(noms.begin(), noms.end());
+    for (int i = noeud->childCount() - 1; i >= 0; --i) {
+        Noeud *const enfant = EnNoeud(noeud->child(i));
+        // A hidden folder is not listed and yet there.
+        if (!absents.remove(enfant->text(0)) && !QFileInfo(enfant->Chemin()).isDir())
+            Retire(enfant);
+    }
+    const bool complete = noeud->childCount() > 0 && !absents.isEmpty();
+    QList<QTreeWidgetItem *> nouveaux;
+    const QIcon icone = style()->standardIcon(QStyle::SP_DirIcon);
+    for (const QString &nom : noms) {
+        if (absents.contains(nom))
+            nouveaux << new Noeud(dossier->CheminDe(nom), nom, icone);
+    }
+    noeud->addChildren(nouveaux);
+    if (complete)
+        noeud->sortChildren(0, Qt::AscendingOrder);
+    dossier->MarqueLu();
+    m_guetteur.addPath(dossier->Chemin());
+}
+
+void FolderTreeview::Relis(QTreeWidgetItem *noeud)
+{
+    if (!EnNoeud(noeud)->Lu())
+        return;
+    Lis(noeud);
+    for (int i = 0; i < noeud->childCount(); ++i)
+        Relis(noeud->child(i));
+}
+
+QTreeWidgetItem *FolderTreeview::Choisi() const
+{
+    return selectedItems().value(0);
+}
+
+/// Takes a node out, and first hands the selection to the folder above, where left to itself it would fall on a
+/// neighbour.
+void FolderTreeview::Retire(QTreeWidgetItem *noeud)
+{
+    const QString &chemin = EnNoeud(noeud)->Chemin();
+    const QTreeWidgetItem *const choisi = Choisi();
+    if (choisi != nullptr && EstSous(EnNoeud(choisi)->Chemin(), chemin))
+        setCurrentItem(noeud->parent());
+    const QStringList guettes = m_guetteur.directories().filter(chemin);
+    for (const QString &guette : guettes) {
+        if (EstSous(guette, chemin))
+            m_guetteur.removePath(guette);
+    }
+    delete noeud;
+}
+
+/// The node of the top that leads to a path the shortest way.
+QTreeWidgetItem *FolderTreeview::Sommet(const QString &chemin) const
+{
+    QTreeWidgetItem *meilleur = nullptr;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem *const sommet = topLevelItem(i);
+        const QString &debut = EnNoeud(sommet)->Chemin();
+        if (EstSous(chemin, debut) && (meilleur == nullptr || debut.size() > EnNoeud(meilleur)->Chemin().size()))
+            meilleur = sommet;
+    }
+    return meilleur;
+}
+
+/// The node below noeud with that name. The caller knows that the folder exists; where it is hidden, or came since the
+/// reading, its node is added.
+QTreeWidgetItem *FolderTreeview::SousDossier(QTreeWidgetItem *noeud, const QString &nom)
+{
+    for (int i = 0; i < noeud->childCount(); ++i) {
+        if (noeud->child(i)->text(0) == nom)
+            return noeud->child(i);
+    }
+    auto *const ajoute = new Noeud(EnNoeud(noeud)->CheminDe(nom), nom, style()->standardIcon(QStyle::SP_DirIcon));
+    noeud->addChild(ajoute);
+    noeud->sortChildren(0, Qt::AscendingOrder);
+    return ajoute;
+}
+
+/// "*" alone would open every folder of the machine, at any depth.
+void FolderTreeview::keyPressEvent(QKeyEvent *evenement)
+{
+    if (evenement->key() != Qt::Key_Asterisk)
+        QTreeWidget::keyPressEvent(evenement);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QTimer>
+#include <QTreeWidget>
+
+/// The tree of the folders of this PC. At its top stand the operator's own folder, the USB keys and other volumes that
+/// his session has mounted, and the drives (one root where the system has no drives); below them lie real folders only,
+/// so there is nothing in the tree that is no folder of the disk.
+///
+/// A folder is read when it is first opened, and again at each opening; what is open follows the disk. Hidden folders
+/// are left out, but for those on the way to a folder that the program itself selects.
+///
+/// Paths: read with a final separator; written with or without.
+class FolderTreeview : public QTreeWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString SelectedFolder READ SelectedFolder)
+
+public:
+    explicit FolderTreeview(QWidget *parent = nullptr);
+
+    /// The selected folder; "" when nothing is selected.
+    QString SelectedFolder() const;
+    /// Selects a folder and opens the tree down to it. Raises FichierIntrouvable when there is no such folder; the
+    /// selection then stays.
+    void setSelectedFolder(const QString &chemin);
+
+    /// The folder above the selected one; "" for a root, or when nothing is selected.
+    QString Parent() const;
+
+    /// Reads what has been read of the tree anew. Where the selected folder has gone, the one above it is selected.
+    void Refresh();
+
+Q_SIGNALS:
+    void SelectionChange(); ///< another folder is selected, by whatever way
+    void Click();           ///< a folder was clicked, the selected one or another
+
+protected:
+    void keyPressEvent(QKeyEvent *evenement) override;
+
+private:
+    QTreeWidgetItem *Choisi() const;
+    void LisSommets();
+    void Lis(QTreeWidgetItem *noeud);
+    void Relis(QTreeWidgetItem *noeud);
+    void Retire(QTreeWidgetItem *noeud);
+    QTreeWidgetItem *Sommet(const QString &chemin) const;
+    QTreeWidgetItem *SousDossier(QTreeWidgetItem *noeud, const QString &nom);
+
+    QFileSystemWatcher m_guetteur; // watches every folder that has been read
+    QTimer m_relecture;            // gathers the changes of a moment
+};
