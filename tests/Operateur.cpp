@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+
+#include <algorithm>
 #include <QToolButton>
 
 namespace {
@@ -175,8 +177,16 @@ void Operateur::Regarde()
         Etonne(fenetre);
     else if (!m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName())
         Agit(fenetre);
-    else if (!m_connues.contains(fenetre))
+    else if (!m_connues.contains(fenetre) && !Annoncee(*fenetre))
         Etonne(fenetre);
+}
+
+/// A dialog may be on the screen for a moment before the box comes that it asks first.
+bool Operateur::Annoncee(const QWidget &fenetre) const
+{
+    return !fenetre.inherits("QMessageBox") &&
+           std::any_of(m_attentes.begin(), m_attentes.end(),
+                       [&fenetre](const Attente &attente) { return attente.fenetre == fenetre.objectName(); });
 }
 
 /// The gesture runs from the event loop and not from the eyes' timer: it may open the next window, and the eyes must

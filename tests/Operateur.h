@@ -57,6 +57,7 @@ private:
 
     void Regarde();
     void Agit(QWidget *fenetre);
+    bool Annoncee(const QWidget &fenetre) const;
     void Etonne(QWidget *fenetre);
 
     QTimer m_yeux;

@@ -2,17 +2,21 @@
 
 #include "platform/Erreur.h"
 
-#include <QRegularExpression>
-
+#include <charconv>
 #include <cmath>
 #include <limits>
 
 double Val(const QString &texte)
 {
-    static const QRegularExpression nombre(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)([Ee][+-]?\\d+)?"));
     QString sansBlancs = texte;
     sansBlancs.remove(u' ').remove(u'\t');
-    return nombre.match(sansBlancs).captured().toDouble();
+    const QByteArray octets = sansBlancs.toLatin1();
+    const char *debut = octets.cbegin();
+    if (*debut == '+' && octets.size() > 1 && debut[1] != '-')
+        ++debut; // from_chars takes a minus sign only
+    double valeur = 0;
+    std::from_chars(debut, octets.cend(), valeur);
+    return std::isfinite(valeur) ? valeur : 0;
 }
 
 QString TexteNombre(qint64 nombre)

@@ -24,15 +24,19 @@ constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
 /// Copies of a program carry its bytes, so that they come back exactly in this pane and in that of another window.
 const QString FormatCopie = QStringLiteral("application/x-dorvanel-programme");
 
-QFont PoliceOrdinaire()
+/// Looked for once: asking the system which fonts it has is a good part of a pane's making.
+const QFont &PoliceOrdinaire()
 {
-    constexpr double Points = 9.75;
-    const QString systeme = QStringLiteral("System");
-    const bool presente = QFontDatabase::hasFamily(systeme);
-    QFont police = presente ? QFont(systeme) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    police.setBold(true);
-    police.setPointSizeF(Points);
-    return police;
+    static const QFont ordinaire = [] {
+        constexpr double Points = 9.75;
+        const QString systeme = QStringLiteral("System");
+        const bool presente = QFontDatabase::hasFamily(systeme);
+        QFont police = presente ? QFont(systeme) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        police.setBold(true);
+        police.setPointSizeF(Points);
+        return police;
+    }();
+    return ordinaire;
 }
 
 QTextCharFormat FormatDe(const AttributsRtf &attributs)

@@ -182,6 +182,8 @@ void Em_Rc::Command1_Click()
     if (FinTransfert == 1 && ParamCom.TypeRecep != RecepParFichier)
         OuvreFichierRecu();
     reject();
+    if (FinTransfert == 1)
+        frmPrinc->File1->Refresh();
 }
 
 void Em_Rc::Command2_Click()

@@ -7,6 +7,7 @@
 #include "platform/Boites.h"
 #include "platform/FichierTexte.h"
 #include "platform/FiltreTouches.h"
+#include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Transfert.h"
@@ -71,7 +72,10 @@ Rc_Fic::Rc_Fic(QWidget *parent)
 void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
-    Label3->setText(TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : DosJauge);
+    QString &reception = TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : DosJauge;
+    if (frmPrinc->CheckDOS->isChecked())
+        reception = frmPrinc->FolderTreeview1->SelectedFolder();
+    Label3->setText(reception);
 }
 
 void Rc_Fic::MontreFinLigne()
