@@ -4,6 +4,9 @@
 
 #include <array>
 
+/// Values of TypeRecep.
+enum TypeReception { RecepLignes = 0, RecepCaracteres = 1, RecepFichier = 2 };
+
 /// How the program talks to one machine. The fields stand in the order in which a .par file holds them; Integer fields
 /// are 16 bits there.
 struct ConfigurationCom

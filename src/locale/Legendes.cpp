@@ -200,9 +200,9 @@ void MontreDonnee(QWidget *controle, const QString &donnee)
     EcritTitre(controle, donnee);
 }
 
-void PoseTexte(QLabel *label, const Texte3 &texte, const QString &suite)
+void PoseTexte(QWidget *controle, const Texte3 &texte, const QString &suite)
 {
     const QString choisi = Texte(texte);
     if (!choisi.isNull())
-        label->setText(choisi + suite);
+        EcritTitre(controle, choisi + suite);
 }

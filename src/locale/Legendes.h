@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
 struct Texte3;
 
@@ -15,5 +15,6 @@ void AppliqueLegendes(QWidget *fenetre);
 /// a language leave it alone.
 void MontreDonnee(QWidget *controle, const QString &donnee);
 
-/// Writes texte and then suite to a label; nothing when LangIndex chooses no text.
-void PoseTexte(QLabel *label, const Texte3 &texte, const QString &suite = QString());
+/// Writes texte and then suite to what a label or button bears, or a window's title; nothing when LangIndex chooses no
+/// text.
+void PoseTexte(QWidget *controle, const Texte3 &texte, const QString &suite = QString());

@@ -169,10 +169,9 @@ void MSComm::Attend(Duree limite, const std::function<bool()> &fini)
     QTimer battement;
     battement.setTimerType(Qt::PreciseTimer);
     battement.start(1ms);
-    m_evenements.Retient();
+    const SansEvenements sansEvenements(*this);
     while (!fini() && !echeance.hasExpired())
         repartiteur->processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
-    m_evenements.Relache();
 }
 
 void MSComm::ExigeOuvert() const

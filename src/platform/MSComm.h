@@ -126,6 +126,9 @@ public:
 
     // The following raise ErreurPort::Ferme on a closed port, and Lecture once the device has gone.
 
+    /// Does nothing else.
+    void ExigeVivant() const;
+
     /// Takes the characters that wait out of the receive buffer, at most InputLen.
     QString Input();
     int InBufferCount() const;
@@ -137,6 +140,22 @@ public:
     int OutBufferCount() const;
     /// Throws away what waits for sending, after its line time: see Sending above.
     void ViderEmission();
+
+    /// Holds OnComm back as long as it lives, for a modal box that the handler must not run on top of.
+    class SansEvenements
+    {
+    public:
+        explicit SansEvenements(MSComm &controle)
+            : m_evenements(controle.m_evenements)
+        {
+            m_evenements.Retient();
+        }
+        ~SansEvenements() { m_evenements.Relache(); }
+        Q_DISABLE_COPY_MOVE(SansEvenements)
+
+    private:
+        EvenementsPort &m_evenements;
+    };
 
     /// Code of the event that is being delivered.
     int CommEvent() const { return m_evenements.Code(); }
@@ -151,7 +170,6 @@ private:
     void Attend(CadenceEmission::Duree limite, const std::function<bool()> &fini);
     void PoseReglage(const ReglagePort &reglage);
     void ExigeOuvert() const;
-    void ExigeVivant() const;
     void Panne(const Erreur &erreur);
 
     int PlaceReception() const;

@@ -153,13 +153,17 @@ void FrmPrinc::MontrePort(bool ouvert, const QString &texte)
         lblPortOpen->setText(texte);
 }
 
+void FrmPrinc::EteintTransfert()
+{
+    shpSend->setFillColor(Lampe::Rouge);
+    shpReceive->setFillColor(Lampe::Rouge);
+}
+
 void FrmPrinc::UpdateTimer_Timer()
 {
     MontrePort(PortOuvert, Texte(PortOuvert ? PortOuvertTexte : PortFermeTexte));
-    if (!PortOuvert) {
-        shpReceive->setFillColor(Lampe::Rouge);
-        shpSend->setFillColor(Lampe::Rouge);
-    }
+    if (!PortOuvert)
+        EteintTransfert();
     shpRTS->setFillColor(Couleur(PortOuvert && MSComm1->RTSEnable()));
     shpCTS->setFillColor(Couleur(MSComm1->CTSHolding()));
     const bool porteuse = MSComm1->CDHolding();

@@ -35,6 +35,9 @@ public:
     /// Shows the port as open or closed in its lamp; texte: the words beside it.
     void MontrePort(bool ouvert, const QString &texte);
 
+    /// Turns the lamps of sending and reception off.
+    void EteintTransfert();
+
     /// Enables or disables the four commands that send: menu entries and buttons 9 and 11.
     void ActiveEmission(bool active);
 

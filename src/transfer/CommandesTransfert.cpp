@@ -11,19 +11,20 @@ namespace {
 
 void Emet(ModeTransfert mode)
 {
-    AppliqueLangue();
-    const int ancien = TypeTransfert;
-    TypeTransfert = mode;
-    if (!ConfirmeTransfert()) {
-        TypeTransfert = ancien;
+    if (TransfertEnCours())
         return;
-    }
+    AppliqueLangue();
+    if (!ConfirmeTransfert(mode))
+        return;
     FinTransfert = 0;
+    TypeTransfert = mode;
     Em_Rc(frmPrinc).exec();
 }
 
-void Recoit(ModeTransfert mode)
+void OuvreReception(ModeTransfert mode)
 {
+    if (TransfertEnCours())
+        return;
     AppliqueLangue();
     FinTransfert = 0;
     ForceRECEPT = 0;
@@ -45,10 +46,10 @@ void Mnu_EmisJauge()
 
 void Mnu_RecepProg()
 {
-    Recoit(ReceptionProgramme);
+    OuvreReception(ReceptionProgramme);
 }
 
 void Mnu_RecepJauge()
 {
-    Recoit(ReceptionJauges);
+    OuvreReception(ReceptionJauges);
 }

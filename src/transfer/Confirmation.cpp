@@ -39,10 +39,10 @@ constexpr Texte3 SurLePort{u" sur le port ", u" on the port ", u" sobre el puert
 
 } // namespace
 
-bool ConfirmeTransfert()
+bool ConfirmeTransfert(int mode)
 {
     for (const Question &question : Questions) {
-        if (question.type != TypeTransfert)
+        if (question.type != mode)
             continue;
         const bool emission = question.type == EmissionProgramme || question.type == EmissionJauges;
         const QString titre = Texte(question.titre);

@@ -5,6 +5,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
+#include "platform/MSComm.h"
 #include "shell/CentreFeuille.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Confirmation.h"
@@ -12,6 +13,7 @@
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/Reception.h"
+#include "transfer/ReceptionFichier.h"
 #include "transfer/Transfert.h"
 
 #include <QShowEvent>
@@ -90,8 +92,7 @@ constexpr Texte3 ForcerTexte{
     u"Close the receiving and record the received lines !\rConfirm the end of receiving ?",
     u"Cerrar la recepción y registrar las líneas recibidas !\rConfirme el final de recepción ?"};
 
-constexpr int RecepParFichier = 2; // of TypeRecep
-constexpr int CoteImage = 64;      // pixels
+constexpr int CoteImage = 64; // pixels
 
 } // namespace
 
@@ -128,18 +129,15 @@ void Em_Rc::Form_Activate()
 {
     if (FinTransfert == 1)
         return;
-    Command1->setText(Texte(Annuler));
-    Command4->setText(Texte(AnnulerBanc));
+    PoseTexte(Command1, Annuler);
+    PoseTexte(Command4, AnnulerBanc);
     PoseTexte(Label3, LigneEcho);
     PoseTexte(Label4, CaractereEcho);
-    Label3->setVisible(ParamCom.Echo == 1);
-    Label4->setVisible(ParamCom.Echo == 1);
+    MontreLabelsEcho(*this);
     Label1->clear();
     Label2->clear();
     MontreConfigurationChoisie();
     MontreMode();
-    if (TypeTransfert == ReceptionProgramme || TypeTransfert == ReceptionJauges)
-        QMetaObject::invokeMethod(this, &Em_Rc::Recoit, Qt::QueuedConnection);
 }
 
 void Em_Rc::MontreMode()
@@ -148,7 +146,7 @@ void Em_Rc::MontreMode()
         std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
     if (mode == std::end(Modes))
         return;
-    setWindowTitle(Texte(mode->titre));
+    PoseTexte(this, mode->titre);
     Label1->setText(PourAffichage(Texte(mode->consignes)));
     PoseTexte(Label2, mode->statut);
     Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
@@ -159,11 +157,14 @@ void Em_Rc::MontreMode()
     Frame2->setVisible(mode->emission);
     if (mode->emission)
         Command2->setFocus();
+    else
+        QMetaObject::invokeMethod(this, &Em_Rc::CommenceReception, Qt::QueuedConnection);
 }
 
-void Em_Rc::Recoit()
+void Em_Rc::CommenceReception()
 {
-    if (!ConfirmeTransfert()) {
+    const EnTransfert enTransfert;
+    if (!ConfirmeTransfert(TypeTransfert)) {
         reject();
         return;
     }
@@ -179,7 +180,7 @@ void Em_Rc::MontreConfigurationChoisie()
 
 void Em_Rc::Command1_Click()
 {
-    if (FinTransfert == 1 && ParamCom.TypeRecep != RecepParFichier)
+    if (FinTransfert == 1 && ParamCom.TypeRecep != RecepFichier)
         OuvreFichierRecu();
     reject();
     if (FinTransfert == 1)
@@ -188,13 +189,17 @@ void Em_Rc::Command1_Click()
 
 void Em_Rc::Command2_Click()
 {
-    // A second click would start a second sending inside the first.
+    const EnTransfert enTransfert;
+    // A second click would start a second sending inside the first. Without the focus it does not pass to the cancel
+    // button, where a second stroke of the space bar would end the sending.
+    Command2->clearFocus();
     Command2->setEnabled(false);
     if (ParamCom.TypeEnvoi == 0)
         EnvoiFich_Lig_Lig(*this);
     else
         EnvoiFich_FinFich(*this);
     Command2->setEnabled(true);
+    Command2->setFocus();
 }
 
 void Em_Rc::Command3_Click()
@@ -207,6 +212,8 @@ void Em_Rc::Command3_Click()
 
 void Em_Rc::Command7_Click()
 {
+    // The reception stands still until the box is answered; it must not begin on top of it.
+    const MSComm::SansEvenements sansEvenements(*frmPrinc->MSComm1);
     if (Confirme(Texte(ForcerTexte), Boite::Question | Boite::SecondBouton, Texte(ForcerTitre)))
         ForceRECEPT = 1;
 }
@@ -220,9 +227,8 @@ void Em_Rc::done(int resultat)
 void Em_Rc::Form_Unload()
 {
     AnnuleRECEPT = 1;
-    frmPrinc->shpSend->setFillColor(Lampe::Rouge);
-    frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
+    frmPrinc->EteintTransfert();
     CoupePortCOM(*this);
-    if (ParamCom.TypeRecep == RecepParFichier)
+    if (ParamCom.TypeRecep == RecepFichier)
         frmPrinc->Text2->hide();
 }

@@ -33,6 +33,8 @@ private:
     void Form_Unload();
 
     void MontreMode();
-    void Recoit();
+    /// Asks for confirmation and runs the reception; returns when the routine returns, perhaps long after the dialog
+    /// has been closed.
+    void CommenceReception();
     void MontreConfigurationChoisie();
 };

@@ -26,6 +26,8 @@ constexpr Texte3 ResteTexte{
 /// A file of this many bytes or more is not shown after a reception.
 constexpr qint64 TailleTropGrande = 65536;
 
+bool ecritEntier = false; // the file of the last reception stands whole on the disk
+
 void VidePane()
 {
     NomFichier.clear();
@@ -38,18 +40,18 @@ void VidePane()
         action->setEnabled(false);
 }
 
-void ProposeTraitementDeTexte(const QString &path)
+void ProposeTraitementDeTexte()
 {
     const QString question = QStringLiteral("Le fichier ") + NomFicRecep +
                              QStringLiteral(" est trop volumineux pour être ouvert par Brovane.\r"
                                             "           Voulez-vous utiliser WordPad pour lire ce fichier ?");
     if (Confirme(question, Boite::Information, QStringLiteral("Message")))
-        LanceProgramme(QStringLiteral("write"), path);
+        LanceProgramme(QStringLiteral("write"), CheminRecep());
 }
 
-void MontreFichier(const QString &path)
+void MontreFichier()
 {
-    frmPrinc->Text1->setText(LitFichierTexte(path));
+    frmPrinc->Text1->setText(LitFichierTexte(CheminRecep()));
     TitreFenetre(CheminRecep());
     MontreDonnee(frmPrinc->Label2, NomFicRecep);
     frmPrinc->Text1->show();
@@ -59,28 +61,30 @@ void MontreFichier(const QString &path)
     frmPrinc->ActiveEmission(true);
 }
 
-/// Loads a received file into the pane, or offers the word processor for one that is too large. A failure leaves the
-/// pane as it was.
-void OpenFileRecu(const QString &path)
-{
-    Saute([&] {
-        if (QFileInfo(path).size() >= TailleTropGrande) {
-            VidePane();
-            ProposeTraitementDeTexte(path);
-        } else {
-            MontreFichier(path);
-        }
-    });
-}
-
 } // namespace
+
+void EcritFichierRecu(const QString &texte)
+{
+    ecritEntier = false;
+    EcritFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"));
+    ecritEntier = true;
+}
 
 void OuvreFichierRecu()
 {
-    OpenFileRecu(CheminRecep());
-    NomFichier = CheminRecep();
-    TitreFichier = NomFicRecep;
-    FichierModifie = 0;
+    if (!ecritEntier)
+        return;
+    Saute([] {
+        if (QFileInfo(CheminRecep()).size() >= TailleTropGrande) {
+            VidePane();
+            ProposeTraitementDeTexte();
+        } else {
+            MontreFichier();
+        }
+        NomFichier = CheminRecep();
+        TitreFichier = NomFicRecep;
+        FichierModifie = 0;
+    });
 }
 
 void SauveAilleurs(const QString &texte)

@@ -4,8 +4,11 @@
 
 // The file that a reception leaves, and its way into the program pane.
 
-/// Makes the received file the document. One of 65536 bytes or more is not shown: the pane empties and the operator may
-/// open it with the word processor. A file that cannot be read leaves the pane as it was.
+/// Writes texte and one CR LF to CheminRecep(), replacing what was there. Raises what EcritFichierTexte raises.
+void EcritFichierRecu(const QString &texte);
+
+/// Makes the file of the last reception the document. One of 65536 bytes or more is not shown: the pane empties and the
+/// operator may open it with the word processor. When it was not written whole, or cannot be read, nothing changes.
 void OuvreFichierRecu();
 
 /// A reception has failed: offers to save what had come, again and again until it is written or given up. An empty

@@ -160,8 +160,19 @@ void FermePortCOM(Ui::Em_Rc &dialogue)
         PortOuvert = false;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreurPort(erreur));
-        dialogue.Command1->setText(Texte(Fermer));
+        BoutonFermer(dialogue);
     }
+}
+
+void BoutonFermer(Ui::Em_Rc &dialogue)
+{
+    PoseTexte(dialogue.Command1, Fermer);
+}
+
+void MontreLabelsEcho(Ui::Em_Rc &dialogue)
+{
+    dialogue.Label3->setVisible(ParamCom.Echo == 1);
+    dialogue.Label4->setVisible(ParamCom.Echo == 1);
 }
 
 void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue)

@@ -27,6 +27,12 @@ void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialog
 /// failure.
 void CoupePortCOM(Ui::Em_Rc &dialogue);
 
+/// Command1 of the dialog reads "Close" from now on.
+void BoutonFermer(Ui::Em_Rc &dialogue);
+
+/// Label3 and Label4 of the dialog are shown if the configuration asks for the echo.
+void MontreLabelsEcho(Ui::Em_Rc &dialogue);
+
 /// What the operator reads for an error of the serial control: our text, or the platform's for a number without one.
 QString TexteErreurPort(const Erreur &erreur);
 

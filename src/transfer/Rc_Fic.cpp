@@ -2,9 +2,11 @@
 
 #include "comconfig/CommandesConf.h"
 #include "comconfig/ParamCom.h"
+#include "gauges/Lignes.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
+#include "platform/ChoixDossier.h"
 #include "platform/FichierTexte.h"
 #include "platform/FiltreTouches.h"
 #include "shell/FrmPrinc.h"
@@ -45,8 +47,7 @@ constexpr Texte3 ExisteQuestion{u"Confirmez  ?", u"Confirm  ?", u"Confirme  ?"};
 /// Characters that must not enter a file name.
 constexpr char16_t Interdits[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
 
-constexpr int RecepParFichier = 2; // of TypeRecep
-constexpr int CoteImage = 64;      // pixels
+constexpr int CoteImage = 64; // pixels
 
 } // namespace
 
@@ -62,7 +63,9 @@ Rc_Fic::Rc_Fic(QWidget *parent)
     for (int i = 0; i < 4; ++i)
         connect(options[i], &QRadioButton::toggled, this,
                 [i](bool choisi) { OptionFinLig = choisi ? i : OptionFinLig; });
-    connect(Command1, &QPushButton::clicked, this, &Rc_Fic::reject);
+    Combo1->setCompleter(nullptr); // an extension stays as it is typed
+    connect(Command1, &QPushButton::clicked, this, &Rc_Fic::Command1_Click);
+    connect(Command3, &QPushButton::clicked, this, &Rc_Fic::Command3_Click);
     connect(Command2, &QPushButton::clicked, this, &Rc_Fic::Command2_Click);
     connect(Command4, &QPushButton::clicked, this, &Rc_Fic::Command4_Click);
     Form_Load();
@@ -72,7 +75,7 @@ Rc_Fic::Rc_Fic(QWidget *parent)
 void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
-    QString &reception = TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : DosJauge;
+    QString &reception = Dossier();
     if (frmPrinc->CheckDOS->isChecked())
         reception = frmPrinc->FolderTreeview1->SelectedFolder();
     Label3->setText(reception);
@@ -92,21 +95,45 @@ void Rc_Fic::Form_Activate()
         std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
     if (mode == std::end(Modes))
         return;
-    setWindowTitle(Texte(mode->titre));
+    PoseTexte(this, mode->titre);
     Combo1->setCurrentText(QString::fromUtf16(mode->extension));
     Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
-    Frame5->setVisible(TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepParFichier);
 }
 
 void Rc_Fic::MontreConfigurationChoisie()
 {
     Label4->setText(NomConf + QStringLiteral("  ") + ParamCom.Commentaire);
+    Frame5->setVisible(TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepFichier);
+}
+
+/// The reception folder that the mode uses.
+QString &Rc_Fic::Dossier()
+{
+    return TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : DosJauge;
+}
+
+void Rc_Fic::Command1_Click()
+{
+    reject();
+    frmPrinc->Text2->hide();
+    frmPrinc->File1->Refresh();
+}
+
+void Rc_Fic::Command3_Click()
+{
+    const QString choisi = ChoixDossier(this);
+    if (choisi.isEmpty())
+        return;
+    Dossier() = choisi;
+    Label3->setText(choisi);
 }
 
 void Rc_Fic::Command2_Click()
 {
-    NomFicRecep = (Text1->text().trimmed() + u'.' + Combo1->currentText()).toUpper();
-    DossierRecep = Label3->text().trimmed();
+    if (TransfertEnCours())
+        return;
+    NomFicRecep = (SansBlancs(Text1->text()) + u'.' + Combo1->currentText()).toUpper();
+    DossierRecep = SansBlancs(Label3->text());
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
         return;
     Em_Rc(this).exec();

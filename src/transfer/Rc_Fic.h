@@ -20,10 +20,13 @@ public:
 private:
     void Form_Load();
     void Form_Activate();
+    void Command1_Click();
     void Command2_Click();
+    void Command3_Click();
     void Command4_Click();
 
     void MontreConfigurationChoisie();
     void MontreFinLigne();
     bool ConfirmeRemplacement() const;
+    static QString &Dossier();
 };

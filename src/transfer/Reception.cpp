@@ -4,18 +4,15 @@
 #include "gauges/Lignes.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "platform/Boites.h"
 #include "platform/CedeLaMain.h"
 #include "platform/Erreur.h"
-#include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
 #include "platform/PageCode1252.h"
-#include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "transfer/EvenementsCom.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
+#include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
@@ -24,12 +21,6 @@ namespace {
 constexpr Texte3 CarParCar{u"Réception caractère par caractère", u"Receiving character by character",
                            u"Recepción carácter por carácter"};
 constexpr Texte3 ParLigne{u"Réception par ligne", u"Receiving by line", u"Recepción por línea"};
-constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receiving", u"En espera de recepción"};
-constexpr Texte3 FinDetectee{u"Fin de transfert détectée !", u"End of transfer detected !",
-                             u"Final de transferencia detectado !"};
-constexpr Texte3 Reussi{u"Transfert réalisé avec succès !", u"Transfer carried out successfully !",
-                        u"Transferencia realizada con éxito !"};
-constexpr Texte3 Fermer{u"&Fermer", u"&Close", u"&Cerrarse"};
 constexpr Texte3 TropDeLignes{u"La réception dépasse 25000 lignes.", u"The reception exceeds 25000 lines.",
                               u"La recepción sobrepasa 25000 líneas."};
 
@@ -46,43 +37,16 @@ constexpr TexteLigne FinLigneCar{{u"Fin de ligne ", u"End of line ", u"Final de 
 constexpr TexteLigne FinLigneLigne{{u"Fin de ligne", u"End of line", u"Final de línea"},
                                    {u" détectée", u" detected", u" detectada"}};
 
-namespace Fichier {
-constexpr Texte3 Attente3{u"En attente de réception...", u"On standby of receiving...", u"En espera de recepción..."};
-constexpr Texte3 Attente4{u"Réception jusqu'à caractère de fin de transfert...",
-                          u"Receiving until character of end of transfer...",
-                          u"Recepción hasta carácter de final de transferencia..."};
-constexpr Texte3 Termine3{u"Réception terminée...", u"Finished receiving...", u"Recepción terminada..."};
-constexpr Texte3 Termine4{u"Caractère de fin de transfert détecté...", u"Character of end of detected transfer...",
-                          u"Carácter de final de transferencia detectada..."};
-constexpr Texte3 BoiteAnnulation{u"Bouton Annuler cliqué", u"Button Cancel Clicked", u"Botón cancelar pulsado"};
-constexpr Texte3 Annule2{u"Transfert annulé !", u"Cancelled transfer !", u"Transferencia cancelada !"};
-constexpr Texte3 Annule3{u"Réception annulée...", u"Cancelled receiving...", u"Recepción cancelada..."};
-} // namespace Fichier
-
-/// The line ends that the operator can choose for received lines.
-const QString FinsRecep[] = {QString(), QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\r\n")};
-
 MSComm &Controle()
 {
     return *frmPrinc->MSComm1;
 }
 
-void MontreEcho(Ui::Em_Rc &dialogue)
-{
-    dialogue.Label3->setVisible(ParamCom.Echo == 1);
-    dialogue.Label4->setVisible(ParamCom.Echo == 1);
-}
-
-void ChoisitFinLigne()
-{
-    ChaineFinLigRecep = FinsRecep[OptionFinLig];
-}
-
-/// A reception that fills Lignes: the table with its counter, and the steps that both kinds share.
-class ReceptionLignes
+/// The table Lignes as a reception fills it: its counter, and the steps that both ways of filling it share.
+class Remplissage
 {
 public:
-    explicit ReceptionLignes(Ui::Em_Rc &dialogue)
+    explicit Remplissage(Ui::Em_Rc &dialogue)
         : m_dialogue(dialogue)
     {
     }
@@ -90,11 +54,12 @@ public:
     /// genre: what Label4 says of the way of receiving.
     void Commence(const Texte3 &genre);
 
-    /// Puts Ligne, with fin behind it, into the table and empties it. Raises IndiceHorsPlage beyond the table.
+    /// Puts Ligne, with fin behind it, into the table and empties it.
     void Range(const QString &fin = QString());
     void MontreFinLigne(const TexteLigne &texte);
     void MontreEcho(const QString &ligne, const QString &lu);
-    void Suivante() { ++m_compteur; }
+    /// Goes on to the next line. Raises IndiceHorsPlage past the last one of the table.
+    void Suivante();
 
     /// The machine gets its end string back, the port closes, and the file is written and stands in the pane.
     void Termine();
@@ -109,10 +74,10 @@ private:
     int m_compteur = 1;
 };
 
-void ReceptionLignes::Commence(const Texte3 &genre)
+void Remplissage::Commence(const Texte3 &genre)
 {
     ForceRECEPT = 0;
-    ::MontreEcho(m_dialogue);
+    MontreLabelsEcho(m_dialogue);
     if (ParamCom.Echo == 1)
         PoseTexte(m_dialogue.Label4, genre);
     FinTransfert = 0;
@@ -122,20 +87,24 @@ void ReceptionLignes::Commence(const Texte3 &genre)
     PoseTexte(m_dialogue.Label2, EnAttente);
 }
 
-void ReceptionLignes::Range(const QString &fin)
+void Remplissage::Range(const QString &fin)
 {
-    if (m_compteur > CapaciteLignes)
-        throw Erreur(Erreur::IndiceHorsPlage, Texte(TropDeLignes));
     Lignes[static_cast<std::size_t>(m_compteur)] = Ligne + fin;
     Ligne.clear();
 }
 
-void ReceptionLignes::MontreFinLigne(const TexteLigne &texte)
+void Remplissage::Suivante()
+{
+    if (++m_compteur > CapaciteLignes)
+        throw Erreur(Erreur::IndiceHorsPlage, Texte(TropDeLignes));
+}
+
+void Remplissage::MontreFinLigne(const TexteLigne &texte)
 {
     PoseTexte(m_dialogue.Label2, texte.avant, TexteNombre(m_compteur) + Texte(texte.apres));
 }
 
-void ReceptionLignes::MontreEcho(const QString &ligne, const QString &lu)
+void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
 {
     if (ParamCom.Echo != 1)
         return;
@@ -143,7 +112,7 @@ void ReceptionLignes::MontreEcho(const QString &ligne, const QString &lu)
     m_dialogue.Label4->setText(ControlesVisibles(lu.right(ParamCom.ChaineFinLig.size())));
 }
 
-void ReceptionLignes::Termine()
+void Remplissage::Termine()
 {
     Controle().ViderReception();
     FinTransfert = 1;
@@ -155,20 +124,18 @@ void ReceptionLignes::Termine()
     }
     Controle().ViderEmission();
     FermePortCOM(m_dialogue);
-    frmPrinc->shpSend->setFillColor(Lampe::Rouge);
-    frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
+    frmPrinc->EteintTransfert();
     PoseTexte(m_dialogue.Label2, Reussi);
-
     Ligne.clear();
-    EcritFichierTexte(CheminRecep(), Recu() + QStringLiteral("\r\n"));
+    EcritFichierRecu(Recu());
     OuvreFichierRecu();
     if (FinTransfert == 1) {
         PoseTexte(m_dialogue.Label2, Reussi);
-        m_dialogue.Command1->setText(Texte(Fermer));
+        BoutonFermer(m_dialogue);
     }
 }
 
-QString ReceptionLignes::Recu() const
+QString Remplissage::Recu() const
 {
     QString texte;
     for (int i = 1; i < m_compteur; ++i)
@@ -179,15 +146,20 @@ QString ReceptionLignes::Recu() const
 /// What a character that ends a line, or belongs to its end, does to the line.
 enum class EffetFinLigne { Aucun, Avale, Termine };
 
-EffetFinLigne Effet(const QString &car)
+/// The characters that end a line, as the character reception looks for them.
+QString FinLigneCherchee()
 {
-    // Of a line end of several characters the last one ends the line; the order on the line is not looked at.
-    const QString fins[] = {ParamCom.ChaineFinLig, ParamCom.ChaineFinLig, QStringLiteral("\n\r"),
-                            QStringLiteral("\r\n"), ChaineCarFinLig()};
-    if (ParamCom.TypeFinLig < 0 || ParamCom.TypeFinLig >= static_cast<int>(std::size(fins)))
-        return EffetFinLigne::Aucun;
-    const QString &fin = fins[ParamCom.TypeFinLig];
-    if (!fin.contains(car))
+    static const QString deuxCaracteres[] = {QStringLiteral("\n\r"), QStringLiteral("\r\n")};
+    if (ParamCom.TypeFinLig == 2 || ParamCom.TypeFinLig == 3)
+        return deuxCaracteres[ParamCom.TypeFinLig - 2];
+    return ParamCom.TypeFinLig == 4 ? ChaineCarFinLig() : ParamCom.ChaineFinLig;
+}
+
+/// Of a line end of several characters the last one ends the line; their order on the line is not looked at.
+EffetFinLigne Effet(const QString &car, const QString &fin)
+{
+    const bool unSeul = ParamCom.TypeFinLig == 0 || ParamCom.TypeFinLig == 1;
+    if (car.isEmpty() || (unSeul ? car != fin : !fin.contains(car)))
         return EffetFinLigne::Aucun;
     return fin.endsWith(car) ? EffetFinLigne::Termine : EffetFinLigne::Avale;
 }
@@ -214,29 +186,30 @@ QString AttendCaractere()
     return car;
 }
 
-void RecoitCaracteres(ReceptionLignes &reception)
+void EmplitParCaractere(Remplissage &table)
 {
     const LectureParCaractere lecture;
+    const QString fin = FinLigneCherchee();
     while (true) {
         QString car = AttendCaractere();
         if (AnnuleRECEPT == 1)
             return;
         frmPrinc->shpReceive->setFillColor(Lampe::Verte);
-        const EffetFinLigne effet = car.isEmpty() ? EffetFinLigne::Aucun : Effet(car);
+        const EffetFinLigne effet = Effet(car, fin);
         if (effet != EffetFinLigne::Aucun)
             car.clear();
         if (effet == EffetFinLigne::Termine) {
-            reception.Range();
-            reception.MontreFinLigne(FinLigneCar);
-            reception.Suivante();
+            table.Range();
+            table.MontreFinLigne(FinLigneCar);
+            table.Suivante();
             Controle().ViderReception();
         }
         if (car == ParamCom.ChaineFinTrans)
-            return reception.Termine();
-        reception.Ligne += car;
-        reception.MontreEcho(reception.Ligne, car);
+            return table.Termine();
+        table.Ligne += car;
+        table.MontreEcho(table.Ligne, car);
         if (ForceRECEPT == 1)
-            return reception.Termine();
+            return table.Termine();
     }
 }
 
@@ -253,149 +226,50 @@ void AttendLigne(QString &recu)
              ForceRECEPT != 1);
 }
 
-void RecoitLignes(ReceptionLignes &reception)
+void EmplitParLigne(Remplissage &table)
 {
-    QString &recu = reception.Ligne;
+    QString &recu = table.Ligne; // what was read since the last line
     while (true) {
         AttendLigne(recu);
         if (AnnuleRECEPT == 1)
             return;
         if (ForceRECEPT == 1)
-            return reception.Termine();
-        reception.MontreEcho(recu, recu);
+            return table.Termine();
+        table.MontreEcho(recu, recu);
         // The end of transfer counts only when it stands alone in the buffer.
         if (recu == ParamCom.ChaineFinTrans)
-            return reception.Termine();
+            return table.Termine();
         if (recu.isEmpty())
             continue;
         recu.chop(ParamCom.ChaineFinLig.size());
-        reception.Range(ChaineFinLigRecep);
+        table.Range(ChaineFinLigRecep);
         Controle().ViderReception();
-        reception.Suivante();
-        reception.MontreFinLigne(FinLigneLigne);
+        table.Suivante();
+        table.MontreFinLigne(FinLigneLigne);
     }
 }
 
-void Recoit(Ui::Em_Rc &dialogue, const Texte3 &genre, void (*corps)(ReceptionLignes &))
+void Mene(Ui::Em_Rc &dialogue, const Texte3 &genre, void (*corps)(Remplissage &))
 {
-    ReceptionLignes reception(dialogue);
+    Remplissage table(dialogue);
     try {
-        reception.Commence(genre);
-        corps(reception);
+        table.Commence(genre);
+        corps(table);
     } catch (const Erreur &erreur) {
         ErreurPortCOM(erreur, dialogue);
-        SauveAilleurs(reception.Recu());
+        SauveAilleurs(table.Recu());
     }
-}
-
-// ---- Reception of a file until its end
-
-void PrepareFichier(Ui::Em_Rc &dialogue)
-{
-    ForceRECEPT = 0;
-    ChoisitFinLigne();
-    frmPrinc->Text2->setText(QString());
-    MontreEcho(dialogue);
-    frmPrinc->Text2->setVisible(ParamCom.Echo == 1);
-    if (ParamCom.Echo == 1) {
-        PoseTexte(dialogue.Label3, Fichier::Attente3);
-        PoseTexte(dialogue.Label4, Fichier::Attente4);
-    }
-    FinTransfert = 0;
-    AnnuleRECEPT = 0;
-    OuvrePortCOM();
-    PoseTexte(dialogue.Label2, EnAttente);
-}
-
-void PrendCeQuiAttend()
-{
-    Saute([] {
-        for (QString recu = Controle().Input(); !recu.isEmpty(); recu = Controle().Input())
-            frmPrinc->Text2->Ajoute(recu);
-    });
-}
-
-/// The events gather the text inside this wait's yield, perhaps for the whole of the reception.
-void AttendFichier(Ui::Em_Rc &dialogue)
-{
-    const EcouteFichier ecoute(dialogue);
-    do {
-        CedeLaMain();
-        if (ForceRECEPT == 1) {
-            PrendCeQuiAttend(); // too little to raise an event
-            Controle().ViderReception();
-            FinTransfert = 1;
-        } else if (Controle().PortOpen()) {
-            Controle().OutBufferCount(); // raises when the device has gone
-        }
-    } while (FinTransfert != 1 && AnnuleRECEPT != 1);
-}
-
-void TermineFichier(Ui::Em_Rc &dialogue)
-{
-    if (Controle().PortOpen()) {
-        frmPrinc->shpSend->setFillColor(Lampe::Verte);
-        Controle().Output(ParamCom.ChaineFinTrans);
-        PoseTexte(dialogue.Label2, FinDetectee);
-    }
-    if (ParamCom.Echo == 1) {
-        PoseTexte(dialogue.Label3, Fichier::Termine3);
-        PoseTexte(dialogue.Label4, Fichier::Termine4);
-    }
-    Controle().ViderEmission();
-    FermePortCOM(dialogue);
-    frmPrinc->Text2->hide();
-    frmPrinc->shpSend->setFillColor(Lampe::Rouge);
-    frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
-    PoseTexte(dialogue.Label2, Reussi);
-    const QString texte = frmPrinc->Text2->Text();
-    frmPrinc->Text1->setText(texte);
-    EcritFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"));
-    TitreFenetre(NomFicRecep);
-    MontreDonnee(frmPrinc->Label2, NomFicRecep);
-    FichierModifie = 0;
-}
-
-void AnnuleFichier(Ui::Em_Rc &dialogue)
-{
-    MsgBox(QStringLiteral("AnnuleRECEPT% = 1"), 0, Texte(Fichier::BoiteAnnulation));
-    if (Controle().PortOpen())
-        Controle().ViderEmission();
-    FermePortCOM(dialogue);
-    PoseTexte(dialogue.Label2, Fichier::Annule2);
-    frmPrinc->Text2->setText(QString());
-    frmPrinc->Text2->hide();
-    if (ParamCom.Echo != 1)
-        return;
-    PoseTexte(dialogue.Label3, Fichier::Annule3);
-    dialogue.Label4->setText(QStringLiteral("..."));
 }
 
 } // namespace
 
 void ReceptionCar(Ui::Em_Rc &dialogue)
 {
-    Recoit(dialogue, CarParCar, RecoitCaracteres);
+    Mene(dialogue, CarParCar, EmplitParCaractere);
 }
 
 void ReceptionLigne(Ui::Em_Rc &dialogue)
 {
-    ChoisitFinLigne();
-    Recoit(dialogue, ParLigne, RecoitLignes);
-}
-
-void ReceptionFichier(Ui::Em_Rc &dialogue)
-{
-    try {
-        PrepareFichier(dialogue);
-        AttendFichier(dialogue);
-        if (AnnuleRECEPT == 1)
-            AnnuleFichier(dialogue);
-        else
-            TermineFichier(dialogue);
-    } catch (const Erreur &erreur) {
-        PrendCeQuiAttend();
-        ErreurPortCOM(erreur, dialogue);
-        SauveAilleurs(frmPrinc->Text2->Text());
-    }
+    ChoisitChaineFinLigRecep();
+    Mene(dialogue, ParLigne, EmplitParLigne);
 }

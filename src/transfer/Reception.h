@@ -4,11 +4,11 @@ namespace Ui {
 class Em_Rc;
 }
 
-// The three ways of receiving. Each opens the port, takes what the machine sends until the end-of-transfer string or
-// the operator's forced end, sends that string back, closes the port, and writes the file CheminRecep(), which then
-// stands in the program pane. A cancelled reception stores and sends nothing. They run inside the dialog's activation;
-// in their yields its buttons run. A failure ends in ErreurPortCOM; when it is the file that could not be written, what
-// was received stands in the pane as a changed text without a name, to be saved elsewhere.
+// The two ways of receiving that fill the line table. Each opens the port, takes what the machine sends until the
+// end-of-transfer string or the operator's forced end, sends that string back, closes the port, and writes the file
+// CheminRecep(), which then stands in the program pane. A cancelled reception stores and sends nothing. They run inside
+// the dialog's activation; in their yields its buttons run. A failure ends in ErreurPortCOM, and the operator may then
+// save what had come.
 //
 // dialogue: the controls that show the transfer; they have to live until the routine returns.
 
@@ -18,6 +18,3 @@ void ReceptionCar(Ui::Em_Rc &dialogue);
 /// By line: a line is all that was read when it ends with ChaineFinLig; ChaineFinLigRecep is put behind it. What the
 /// port holds beyond it is dropped.
 void ReceptionLigne(Ui::Em_Rc &dialogue);
-
-/// Of a file until its end: the receive events gather the text in Text2 (EvenementsCom), without lines or limit.
-void ReceptionFichier(Ui::Em_Rc &dialogue);

@@ -12,6 +12,33 @@ QString DossierRecep;
 int OptionFinLig = 0;
 QString ChaineFinLigRecep;
 
+namespace {
+
+int transferts = 0;
+
+} // namespace
+
+bool TransfertEnCours()
+{
+    return transferts > 0;
+}
+
+EnTransfert::EnTransfert()
+{
+    ++transferts;
+}
+
+EnTransfert::~EnTransfert()
+{
+    --transferts;
+}
+
+void ChoisitChaineFinLigRecep()
+{
+    static const QString fins[] = {QString(), QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\r\n")};
+    ChaineFinLigRecep = fins[OptionFinLig];
+}
+
 void ChoisitFinLigneRecep()
 {
     OptionFinLig = ParamCom.FinLigRecep >= 0 && ParamCom.FinLigRecep <= 3 ? ParamCom.FinLigRecep : 0;

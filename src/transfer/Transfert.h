@@ -10,6 +10,21 @@ enum ModeTransfert {
     EmissionJauges = 2,
     ReceptionProgramme = 3,
     ReceptionJauges = 4,
+    ReceptionBanc = 5,
+};
+
+/// True while a transfer routine stands on the stack. The dialog that it belongs to may be closed already; no other
+/// transfer may begin inside its last yields.
+bool TransfertEnCours();
+
+/// Makes TransfertEnCours() true as long as it lives.
+class EnTransfert
+{
+public:
+    EnTransfert();
+    ~EnTransfert();
+    EnTransfert(const EnTransfert &) = delete;
+    EnTransfert &operator=(const EnTransfert &) = delete;
 };
 
 extern int TypeTransfert; ///< mode of the transfer, set by the menu command
@@ -24,6 +39,9 @@ extern QString ChaineFinLigRecep; ///< that line ending, as the running receptio
 
 /// The line ending of the configuration becomes the choice; what is none of the four counts as 0.
 void ChoisitFinLigneRecep();
+
+/// ChaineFinLigRecep becomes the line ending of OptionFinLig.
+void ChoisitChaineFinLigRecep();
 
 /// Full path of the file being received.
 QString CheminRecep();

@@ -1,0 +1,206 @@
+#include "transfer/ReceptionFichier.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/CedeLaMain.h"
+#include "platform/Erreur.h"
+#include "platform/ErreurPort.h"
+#include "platform/MSComm.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/FichierRecu.h"
+#include "transfer/PortCom.h"
+#include "transfer/TextesReception.h"
+#include "transfer/Transfert.h"
+#include "ui_Em_Rc.h"
+
+#include <QElapsedTimer>
+#include <QScopedValueRollback>
+
+namespace {
+
+constexpr Texte3 Attente3{u"En attente de réception...", u"On standby of receiving...", u"En espera de recepción..."};
+constexpr Texte3 Attente4{u"Réception jusqu'à caractère de fin de transfert...",
+                          u"Receiving until character of end of transfer...",
+                          u"Recepción hasta carácter de final de transferencia..."};
+constexpr Texte3 Termine3{u"Réception terminée...", u"Finished receiving...", u"Recepción terminada..."};
+constexpr Texte3 Termine4{u"Caractère de fin de transfert détecté...", u"Character of end of detected transfer...",
+                          u"Carácter de final de transferencia detectada..."};
+constexpr Texte3 BoiteAnnulation{u"Bouton Annuler cliqué", u"Button Cancel Clicked", u"Botón cancelar pulsado"};
+constexpr Texte3 Annule2{u"Transfert annulé !", u"Cancelled transfer !", u"Transferencia cancelada !"};
+constexpr Texte3 Annule3{u"Réception annulée...", u"Cancelled receiving...", u"Recepción cancelada..."};
+
+constexpr Texte3 EnCours{u"Transfert en cours...", u"Transfer in progress...", u"Transferencia en curso..."};
+// French alone has a blank before the number.
+constexpr Texte3 EnCoursPasse{u"Transfert en cours... ", u"Transfer in progress...", u"Transferencia en curso..."};
+constexpr Texte3 Analyse{u"Réception en cours... Analyse : ", u"Receiving in progress... Analyze : ",
+                         u"Recepción en curso... Análisis : "};
+constexpr Texte3 AttenteFin{u"En attente du caractère de fin de transfert...",
+                            u"On standby of the character of end of transfer...",
+                            u"En espera del carácter de final de transferencia..."};
+
+constexpr qint64 PasAffichage = 40; // milliseconds between two numbers that the eye could read
+
+Ui::Em_Rc *enAttente = nullptr; // dialog of the reception that waits for its events
+bool enRecolte = false;         // that reception is being gathered further down the stack
+
+MSComm &Controle()
+{
+    return *frmPrinc->MSComm1;
+}
+
+/// Takes what waits into Text2. A closed port gives nothing; a device that has gone ends the gathering, and the routine
+/// below meets the same failure and tells it.
+bool Prend()
+{
+    try {
+        for (QString lu = Controle().Input(); !lu.isEmpty(); lu = Controle().Input())
+            frmPrinc->Text2->Ajoute(lu);
+    } catch (const Erreur &erreur) {
+        return erreur.Numero() != ErreurPort::Lecture;
+    }
+    return true;
+}
+
+void MontrePasse(Ui::Em_Rc &dialogue, int passe)
+{
+    PoseTexte(dialogue.Label2, EnCoursPasse, QString::number(passe));
+    if (ParamCom.Echo != 1)
+        return;
+    PoseTexte(dialogue.Label3, Analyse, QString::number(passe));
+    PoseTexte(dialogue.Label4, AttenteFin);
+}
+
+/// True when the text gathered so far ends with the end-of-transfer string, which is then cut off.
+bool FinTrouvee()
+{
+    if (!frmPrinc->Text2->FinitPar(ParamCom.ChaineFinTrans))
+        return false;
+    frmPrinc->Text2->RetireFin(static_cast<int>(ParamCom.ChaineFinTrans.size()));
+    FinTransfert = 1;
+    return true;
+}
+
+void Recolte(Ui::Em_Rc &dialogue)
+{
+    Prend();
+    PoseTexte(dialogue.Label2, EnCours);
+    QElapsedTimer depuis;
+    bool vivante = true;
+    int passe = 0;
+    do {
+        ++passe;
+        CedeLaMain();
+        if (!depuis.isValid() || depuis.elapsed() >= PasAffichage) {
+            MontrePasse(dialogue, passe);
+            depuis.start();
+        }
+        vivante = Prend();
+    } while (!FinTrouvee() && vivante && AnnuleRECEPT != 1 && ForceRECEPT != 1);
+    MontrePasse(dialogue, passe);
+    if (AnnuleRECEPT == 1)
+        CoupePortCOM(dialogue);
+}
+
+void PrepareFichier(Ui::Em_Rc &dialogue)
+{
+    ForceRECEPT = 0;
+    ChoisitChaineFinLigRecep();
+    frmPrinc->Text2->setText(QString());
+    MontreLabelsEcho(dialogue);
+    frmPrinc->Text2->setVisible(ParamCom.Echo == 1);
+    if (ParamCom.Echo == 1) {
+        PoseTexte(dialogue.Label3, Attente3);
+        PoseTexte(dialogue.Label4, Attente4);
+    }
+    FinTransfert = 0;
+    AnnuleRECEPT = 0;
+    OuvrePortCOM();
+    PoseTexte(dialogue.Label2, EnAttente);
+}
+
+/// The events gather the text inside this wait's yield, perhaps for the whole of the reception.
+void AttendFichier(Ui::Em_Rc &dialogue)
+{
+    const QScopedValueRollback<Ui::Em_Rc *> ecoute(enAttente, &dialogue);
+    do {
+        CedeLaMain();
+        if (ForceRECEPT == 1) {
+            // What is too little to raise an event has come all the same.
+            Prend();
+            FinTrouvee();
+            Controle().ViderReception();
+            FinTransfert = 1;
+        } else if (Controle().PortOpen()) {
+            Controle().ExigeVivant();
+            // The event of characters that came before this wait has gone by.
+            if (ParamCom.SeuilRecep > 0 && Controle().InBufferCount() >= ParamCom.SeuilRecep)
+                RecolteFichier();
+        }
+    } while (FinTransfert != 1 && AnnuleRECEPT != 1);
+}
+
+void TermineFichier(Ui::Em_Rc &dialogue)
+{
+    if (Controle().PortOpen()) {
+        frmPrinc->shpSend->setFillColor(Lampe::Verte);
+        Controle().Output(ParamCom.ChaineFinTrans);
+        PoseTexte(dialogue.Label2, FinDetectee);
+    }
+    if (ParamCom.Echo == 1) {
+        PoseTexte(dialogue.Label3, Termine3);
+        PoseTexte(dialogue.Label4, Termine4);
+    }
+    Controle().ViderEmission();
+    FermePortCOM(dialogue);
+    frmPrinc->Text2->hide();
+    frmPrinc->EteintTransfert();
+    PoseTexte(dialogue.Label2, Reussi);
+    const QString texte = frmPrinc->Text2->Text();
+    frmPrinc->Text1->setText(texte);
+    EcritFichierRecu(texte);
+    TitreFenetre(NomFicRecep);
+    MontreDonnee(frmPrinc->Label2, NomFicRecep);
+    FichierModifie = 0;
+}
+
+void AnnuleFichier(Ui::Em_Rc &dialogue)
+{
+    MsgBox(QStringLiteral("AnnuleRECEPT% = 1"), 0, Texte(BoiteAnnulation));
+    FermePortCOM(dialogue);
+    PoseTexte(dialogue.Label2, Annule2);
+    frmPrinc->Text2->setText(QString());
+    frmPrinc->Text2->hide();
+    if (ParamCom.Echo != 1)
+        return;
+    PoseTexte(dialogue.Label3, Annule3);
+    dialogue.Label4->setText(QStringLiteral("..."));
+}
+
+} // namespace
+
+void ReceptionFichier(Ui::Em_Rc &dialogue)
+{
+    try {
+        PrepareFichier(dialogue);
+        AttendFichier(dialogue);
+        if (AnnuleRECEPT == 1)
+            AnnuleFichier(dialogue);
+        else
+            TermineFichier(dialogue);
+    } catch (const Erreur &erreur) {
+        Prend();
+        ErreurPortCOM(erreur, dialogue);
+        SauveAilleurs(frmPrinc->Text2->Text());
+    }
+}
+
+void RecolteFichier()
+{
+    if (ParamCom.TypeRecep != RecepFichier || enAttente == nullptr || enRecolte)
+        return;
+    const QScopedValueRollback<bool> recolte(enRecolte, true);
+    Recolte(*enAttente);
+}
