@@ -3,6 +3,7 @@
 #include "platform/FichierTexte.h"
 #include "platform/FinsDeLigne.h"
 #include "platform/LecteurRtf.h"
+#include "platform/MiseEnPage.h"
 #include "platform/PageCode1252.h"
 
 #include <QFontDatabase>
@@ -102,6 +103,8 @@ RichTextBox::RichTextBox(QWidget *parent)
     : QPlainTextEdit(parent)
 {
     constexpr int ColonnesTabulation = 8;
+    document()->setDocumentLayout(new MiseEnPage(document()));
+    setDocument(document());
     setLineWrapMode(NoWrap);
     setFont(PoliceOrdinaire());
     setTabStopDistance(ColonnesTabulation * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
@@ -134,7 +137,8 @@ bool RichTextBox::EstVide() const
 
 QString RichTextBox::SelText() const
 {
-    return Extrait(textCursor());
+    const QTextCursor curseur = textCursor();
+    return AvecFins(curseur.selectedText(), document()->findBlock(curseur.selectionStart()));
 }
 
 void RichTextBox::setSelText(const QString &texte)
@@ -183,8 +187,9 @@ void RichTextBox::Ajoute(const QString &texte)
     const SansAnnulation sansAnnulation(document());
     QScrollBar *barre = verticalScrollBar();
     const bool suit = barre->value() == barre->maximum();
-    QTextCursor fin = Queue(0);
+    QTextCursor fin(document());
     fin.beginEditBlock();
+    fin.setPosition(FinDuDocument());
     Insere(fin, Normalise(texte), fin.charFormat());
     fin.endEditBlock();
     AllegeMiseEnPage();
@@ -194,7 +199,7 @@ void RichTextBox::Ajoute(const QString &texte)
 
 bool RichTextBox::FinitPar(const QString &suffixe) const
 {
-    return Extrait(Queue(suffixe.size())).endsWith(suffixe);
+    return Queue(suffixe.size()).endsWith(suffixe);
 }
 
 void RichTextBox::RetireFin(int n)
@@ -202,12 +207,15 @@ void RichTextBox::RetireFin(int n)
     if (n <= 0)
         return;
     const SansAnnulation sansAnnulation(document());
-    QTextCursor queue = Queue(n);
-    // n positions hold more than n characters where they take in a CR LF: what is too much goes back.
-    const QString texte = Extrait(queue);
-    const QTextCharFormat format = FormatA(queue.selectionStart());
+    const QString texte = Queue(n);
+    const int fin = FinDuDocument();
+    QTextCursor queue(document());
     queue.beginEditBlock();
+    queue.setPosition(fin);
+    queue.setPosition(std::max(fin - n, 0), QTextCursor::KeepAnchor);
+    const QTextCharFormat format = FormatA(queue.selectionStart());
     queue.removeSelectedText();
+    // n positions hold more than n characters where they take in a CR LF: what is too much goes back.
     Insere(queue, texte.chopped(std::min<qsizetype>(n, texte.size())), format);
     queue.endEditBlock();
 }
@@ -351,7 +359,7 @@ void RichTextBox::AllegeMiseEnPage()
     if (!isVisible() || blockCount() < m_lignesAllegees + m_lignesAllegees / Part + PremierSeuil)
         return;
     m_lignesAllegees = blockCount();
-    document()->setDocumentLayout(new QPlainTextDocumentLayout(document()));
+    document()->setDocumentLayout(new MiseEnPage(document()));
 }
 
 /// Inserts texte at curseur, in an edit block of the caller.
@@ -386,8 +394,8 @@ void RichTextBox::RecolleFins()
             continue;
         const QTextCharFormat format = vide.charFormat();
         QTextCursor curseur(vide);
-        curseur.movePosition(QTextCursor::PreviousCharacter);
-        curseur.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, 2);
+        curseur.setPosition(couture - 1);
+        curseur.setPosition(couture + 1, QTextCursor::KeepAnchor);
         curseur.joinPreviousEditBlock();
         curseur.removeSelectedText();
         Insere(curseur, QStringLiteral("\r\n"), format);
@@ -414,19 +422,16 @@ QString RichTextBox::AvecFins(const QString &brut, QTextBlock bloc) const
     return texte.append(brut.constData() + debut, brut.size() - debut);
 }
 
-QString RichTextBox::Extrait(const QTextCursor &curseur) const
+/// The text of the last positions, or of the whole document when it has fewer. No cursor goes there: placing one lays
+/// its line out, which a very long line would make felt.
+QString RichTextBox::Queue(qsizetype positions) const
 {
-    return AvecFins(curseur.selectedText(), document()->findBlock(curseur.selectionStart()));
-}
-
-/// The last positions of the document, or all of it when it has fewer.
-QTextCursor RichTextBox::Queue(qsizetype positions) const
-{
-    QTextCursor curseur(document());
-    curseur.movePosition(QTextCursor::End);
-    const qsizetype debut = std::max<qsizetype>(curseur.position() - positions, 0);
-    curseur.setPosition(static_cast<int>(debut), QTextCursor::KeepAnchor);
-    return curseur;
+    const int fin = FinDuDocument();
+    const int debut = static_cast<int>(std::max<qsizetype>(fin - positions, 0));
+    QString brut;
+    for (int position = debut; position < fin; ++position)
+        brut += document()->characterAt(position);
+    return AvecFins(brut, document()->findBlock(debut));
 }
 
 /// How many characters of Text() stand before a position of the document.
@@ -463,8 +468,7 @@ int RichTextBox::PositionDe(int place, bool apresFin) const
 QTextCharFormat RichTextBox::FormatA(int position) const
 {
     QTextCursor curseur(document());
-    curseur.setPosition(position);
-    curseur.movePosition(QTextCursor::NextCharacter);
+    curseur.setPosition(std::min(position + 1, FinDuDocument()));
     return curseur.charFormat();
 }
 

@@ -81,10 +81,12 @@ public:
     void setSelColor(const QColor &couleur) { Habille(QTextFormat::ForegroundBrush, QBrush(couleur)); }
 
 Q_SIGNALS:
-    void Change();                       ///< the text was changed, by hand or by the program
-    void KeyPress(const QString &texte); ///< a key that gives texte, before the pane takes it
-    void MouseDown(Qt::MouseButton bouton,
-                   const QPoint &ici); ///< ici: on the screen. The Menu key counts as the right button
+    /// The text was changed, by hand or by the program.
+    void Change();
+    /// A key that gives texte, before the pane takes it. Backspace, Tab and Enter count; Ctrl with a letter does not.
+    void KeyPress(const QString &texte);
+    /// A button pressed at a point of the screen. The Menu key counts as the right button; the pane pops up no menu.
+    void MouseDown(Qt::MouseButton bouton, const QPoint &ici);
 
 protected:
     bool event(QEvent *evenement) override;
@@ -105,8 +107,8 @@ private:
     void RecolleFins();
     FinDeLigne FinAvant(const QTextBlock &bloc) const;
     QString AvecFins(const QString &brut, QTextBlock bloc) const;
-    QString Extrait(const QTextCursor &curseur) const;
-    QTextCursor Queue(qsizetype positions) const;
+    int FinDuDocument() const { return document()->characterCount() - 1; }
+    QString Queue(qsizetype positions) const;
     int PlaceDe(int position) const;
     int PositionDe(int place, bool apresFin) const;
     QTextCharFormat FormatA(int position) const;

@@ -13,6 +13,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace {
 
@@ -76,6 +78,8 @@ QMimeData *Etranger(const QString &texte)
 class TestRichTextBox : public QObject
 {
     Q_OBJECT
+
+    QTemporaryDir m_dossier;
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(m_dossier.isValid()); }
@@ -410,6 +414,21 @@ private Q_SLOTS:
         QCOMPARE(volet.Text(), T("garde\n"));
     }
 
+    // Without line ends every piece lengthens one line: laying it out each time would never end.
+    void neMetPasEnPageUneLigneSansFin()
+    {
+        RichTextBox volet;
+        const QString bloc(5000, QLatin1Char('X'));
+        for (int i = 0; i < 5; ++i) {
+            volet.Ajoute(bloc);
+            QVERIFY(volet.FinitPar(T("XX")));
+            QCOMPARE(volet.document()->lastBlock().layout()->lineCount(), 0);
+        }
+        volet.RetireFin(1);
+        QCOMPARE(volet.Text().size(), 24999);
+        QCOMPARE(volet.document()->lastBlock().layout()->lineCount(), 0);
+    }
+
     // A long reception in a pane that is shown: it follows the end, and lines shown and gone by are laid out anew.
     void suitUneLongueReception()
     {
@@ -436,9 +455,6 @@ private Q_SLOTS:
         barre->setValue(barre->maximum());
         QCOMPARE(volet.grab().toImage().size(), image.size());
     }
-
-private:
-    QTemporaryDir m_dossier;
 };
 
 QTEST_MAIN(TestRichTextBox)
