@@ -169,13 +169,12 @@ void Operateur::Regarde()
     QWidget *const fenetre = QApplication::activeModalWidget();
     if (fenetre == nullptr || m_gesteEnRoute)
         return;
+    const bool fige = m_dernierGeste.hasExpired(Patience);
     if (m_abandon)
         QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
-    else if (m_dernierGeste.hasExpired(Patience))
-        Etonne(fenetre);
-    else if (!m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName())
+    else if (!fige && !m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName())
         Agit(fenetre);
-    else if (!m_connues.contains(fenetre))
+    else if (fige || !m_connues.contains(fenetre))
         Etonne(fenetre);
 }
 
