@@ -19,12 +19,12 @@ constexpr int Patience = 30000; // milliseconds without a gesture before a test 
 
 void Echec(const QString &message, const Operateur::Lieu &ou)
 {
-    QTest::qFail(qPrintable(message), ou.file_name(), int(ou.line()));
+    QTest::qFail(qPrintable(message), ou.fichier, ou.ligne);
 }
 
 bool Egal(const QString &lu, const QString &attendu, const char *quoi, const Operateur::Lieu &ou)
 {
-    return QTest::qCompare(lu, attendu, quoi, "foretold", ou.file_name(), int(ou.line()));
+    return QTest::qCompare(lu, attendu, quoi, "foretold", ou.fichier, ou.ligne);
 }
 
 QString Decrit(const QWidget *fenetre)
@@ -79,7 +79,7 @@ void Operateur::Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux,
             auto &boite = dynamic_cast<QMessageBox &>(fenetre);
             Egal(boite.windowTitle(), titre, "title", ou);
             Egal(boite.text(), texte, "text", ou);
-            QTest::qCompare(Drapeaux(boite), drapeaux, "icon and buttons", "foretold", ou.file_name(), int(ou.line()));
+            QTest::qCompare(Drapeaux(boite), drapeaux, "icon and buttons", "foretold", ou.fichier, ou.ligne);
             if (QAbstractButton *const presse = boite.button(bouton))
                 presse->click();
             else
@@ -171,13 +171,12 @@ void Operateur::Regarde()
     QWidget *const fenetre = QApplication::activeModalWidget();
     if (fenetre == nullptr || m_gesteEnRoute)
         return;
+    const bool fige = m_dernierGeste.hasExpired(Patience);
     if (m_abandon)
         QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
-    else if (m_dernierGeste.hasExpired(Patience))
-        Etonne(fenetre);
-    else if (!m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName())
+    else if (!fige && !m_attentes.empty() && m_attentes.front().fenetre == fenetre->objectName())
         Agit(fenetre);
-    else if (!m_connues.contains(fenetre) && !Annoncee(*fenetre))
+    else if (fige || (!m_connues.contains(fenetre) && !Annoncee(*fenetre)))
         Etonne(fenetre);
 }
 
@@ -216,6 +215,6 @@ void Operateur::Etonne(QWidget *fenetre)
     m_abandon = true;
     const QString attendue = m_attentes.empty() ? QStringLiteral("nothing") : m_attentes.front().fenetre;
     Echec(QStringLiteral("unexpected: %1; foretold: %2").arg(Decrit(fenetre), attendue),
-          m_attentes.empty() ? Lieu::current() : m_attentes.front().ou);
+          m_attentes.empty() ? Lieu::Ici() : m_attentes.front().ou);
     QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
 }

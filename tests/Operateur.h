@@ -7,7 +7,6 @@
 
 #include <deque>
 #include <functional>
-#include <source_location>
 
 /// The operator of a test. It is told beforehand which boxes and dialogs will come, in order, and what to do in each;
 /// then the test gives a command, and the operator works inside the modal loops that the command runs.
@@ -19,7 +18,18 @@ class Operateur
 public:
     using Condition = std::function<bool()>;
     using Geste = std::function<void(QWidget &fenetre)>;
-    using Lieu = std::source_location;
+
+    /// The line of the test that foretold something; a failure is reported there.
+    struct Lieu
+    {
+        const char *fichier;
+        int ligne;
+
+        static Lieu Ici(const char *fichier = __builtin_FILE(), int ligne = __builtin_LINE())
+        {
+            return {fichier, ligne};
+        }
+    };
 
     Operateur();
     ~Operateur();
@@ -27,22 +37,22 @@ public:
 
     /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/Boites.h) is answered.
     void Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
-                Lieu ou = Lieu::current());
+                Lieu ou = Lieu::Ici());
     /// A file dialog: the name is typed and taken, or the dialog is cancelled.
-    void Choisit(QAnyStringView chemin, Lieu ou = Lieu::current());
-    void AnnuleChoix(Lieu ou = Lieu::current());
+    void Choisit(QAnyStringView chemin, Lieu ou = Lieu::Ici());
+    void AnnuleChoix(Lieu ou = Lieu::Ici());
     /// The window of that objectName: a button is pressed, the close box is pressed, or anything is done, once the
     /// condition holds. The window may stay open.
-    void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::current());
-    void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::current());
-    void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::current());
+    void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::Ici());
+    void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::Ici());
+    void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::Ici());
 
     /// Opens the menus down to the entry and chooses it; the test fails when it is disabled.
-    static void Menu(QAnyStringView entree, Lieu ou = Lieu::current());
+    static void Menu(QAnyStringView entree, Lieu ou = Lieu::Ici());
     /// True when the operator can choose the entry: it and all menus above it are enabled when they open.
     static bool Offre(QAnyStringView entree);
     /// Clicks a toolbar button, by its position.
-    static void Barre(int position, Lieu ou = Lieu::current());
+    static void Barre(int position, Lieu ou = Lieu::Ici());
     /// What a label, button or box bears in the window that waits for the operator.
     static QString Lu(QAnyStringView controle);
 

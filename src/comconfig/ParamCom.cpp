@@ -15,7 +15,7 @@ QString NomConf;
 namespace {
 
 /// Three full chains take some 2 kB; a file beyond this size, in bytes, is no configuration.
-constexpr qint64 TailleMaxPar = 1024 * 1024;
+constexpr qint64 TailleMaxPar = qint64{1024} * 1024;
 
 constexpr int CodeMax = 255; // of a character of code page 1252
 

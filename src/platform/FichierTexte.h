@@ -4,7 +4,7 @@
 #include <QString>
 
 /// Largest file, in bytes, that is read whole: what the text pane can hold in its positions.
-constexpr qint64 TailleMaxOctets = 512 * 1024 * 1024;
+constexpr qint64 TailleMaxOctets = qint64{512} * 1024 * 1024;
 
 // Files read and written whole, in code page 1252. Nothing is converted but the characters: line ends stay as they are.
 

@@ -19,7 +19,7 @@ QString EditeurCN;
 namespace {
 
 /// No settings file comes near this size, in bytes; a larger one is not read.
-constexpr qint64 TailleMaxReglages = 1024 * 1024;
+constexpr qint64 TailleMaxReglages = qint64{1024} * 1024;
 
 QString LigneNombre(int nombre)
 {

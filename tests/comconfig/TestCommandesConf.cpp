@@ -25,7 +25,7 @@ QList<bool> Actives()
 
 QString Complet(const Poste &poste)
 {
-    const QString chemin = poste.Chemin("Tour.par");
+    QString chemin = poste.Chemin("Tour.par");
     QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), chemin);
     return chemin;
 }

@@ -169,7 +169,7 @@ void TestParamCom::PasDeFichier()
     const QString chemin = m_dossier.filePath(QStringLiteral("x.par"));
     EcritFichierTexte(chemin, QString());
     QCOMPARE(Lit(chemin), Erreur::FinDeFichier);
-    EcritFichierTexte(chemin, QString(2 * 1024 * 1024, u'1'));
+    EcritFichierTexte(chemin, QString(2'000'000, u'1'));
     QCOMPARE(Lit(chemin), Erreur::MemoireInsuffisante);
     QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(QStringLiteral("parti/x.par"))), Erreur);
 }

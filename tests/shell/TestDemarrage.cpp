@@ -145,7 +145,7 @@ void TestDemarrage::IniIllisible_data()
     QTest::newRow("a line too few") << QByteArray(" 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 1 \r\n/c\r\n");
     QTest::newRow("quotes never closed") << QByteArray(" 0 \r\n\"/x\r\n 0 \r\n");
     QTest::newRow("number beyond 16 bits") << QByteArray(" 99999 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n 0 \r\n");
-    QTest::newRow("2 MB") << QByteArray(2 * 1024 * 1024, '\0');
+    QTest::newRow("2 MB") << QByteArray(2'000'000, '\0');
 }
 
 void TestDemarrage::IniIllisible()

@@ -112,7 +112,7 @@ void TestDocument::AllerRetour()
 void TestDocument::GrosProgramme()
 {
     QByteArray octets;
-    for (int bloc = 0; octets.size() < 10 * 1024 * 1024; ++bloc)
+    for (int bloc = 0; octets.size() < 10'000'000; ++bloc)
         octets += "N" + QByteArray::number(bloc) + " G1 X12.345 Y-6.789 Z0.5 F1000" + (bloc % 3 == 0 ? "\n" : "\r\n");
     Poste poste;
     poste.Demarre(0);

@@ -123,16 +123,14 @@ void TestPortCom::OuvreRate()
 {
     const struct
     {
-        int flux;
-        const char *vitesse, *bits;
-        int port, refus, numero;
-        const char *texte;
-    } cas[] = {{9, "x", "8", 2, 0, 8015, "Impossible de définir l'état de communication"},
-               {1, "x", "4", 99, 0, 8007, "Le débit en bauds du périphérique n'est pas pris en charge"},
-               {1, "9600", "4", 99, 0, 8008, "La taille d'octet spécifiée n'est pas valide"},
-               {1, "9600", "8", 17, 8015, 8002, "Numéro de port non valide"},
-               {1, "9600", "8", 2, 8015, 8015, "Impossible de définir l'état de communication"}};
-    for (const auto &[flux, vitesse, bits, port, refus, numero, texte] : cas) {
+        int flux, port, refus, numero;
+        const char *vitesse, *bits, *texte;
+    } cas[] = {{9, 2, 0, 8015, "x", "8", "Impossible de définir l'état de communication"},
+               {1, 99, 0, 8007, "x", "4", "Le débit en bauds du périphérique n'est pas pris en charge"},
+               {1, 99, 0, 8008, "9600", "4", "La taille d'octet spécifiée n'est pas valide"},
+               {1, 17, 8015, 8002, "9600", "8", "Numéro de port non valide"},
+               {1, 2, 8015, 8015, "9600", "8", "Impossible de définir l'état de communication"}};
+    for (const auto &[flux, port, refus, numero, vitesse, bits, texte] : cas) {
         ParamCom.ControleFlux = flux;
         ParamCom.Vitesse = QString::fromLatin1(vitesse);
         ParamCom.BitsDonnees = QString::fromLatin1(bits);
