@@ -368,7 +368,7 @@ void TestReception::TropDeLignes()
     ParamCom.Echo = 0;
     ParamCom.TypeFinLig = 0;
     BatirChaines();
-    ParamCom.TailleTamponRecep = 2; // a line at a time, so that nothing waits behind its end
+    ParamCom.TailleTamponRecep = 1; // so that nothing waits behind a line end
     atelier.Nomme();
     scenario->Envoie(QByteArray("N\n").repeated(CapaciteLignes));
     atelier.Erreur(Erreur::IndiceHorsPlage, QStringLiteral("La réception dépasse 25000 lignes."));
