@@ -209,7 +209,7 @@ void FolderTreeview::Relis(QTreeWidgetItem *noeud)
         Relis(noeud->child(i));
 }
 
-/// The tree also reports a change when a neighbour of the selected folder goes.
+/// The tree also reports a change when a neighbour above the selected folder goes.
 void FolderTreeview::Annonce()
 {
     if (const QString dossier = SelectedFolder(); dossier != m_annonce) {
