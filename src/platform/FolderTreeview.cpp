@@ -114,7 +114,7 @@ FolderTreeview::FolderTreeview(QWidget *parent)
     });
     connect(&m_relecture, &QTimer::timeout, this, &FolderTreeview::Refresh);
     connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lis);
-    connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::SelectionChange);
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::Annonce);
     connect(this, &QTreeWidget::itemClicked, this, &FolderTreeview::Click);
     LisSommets();
 }
@@ -207,6 +207,15 @@ void FolderTreeview::Relis(QTreeWidgetItem *noeud)
     Lis(noeud);
     for (int i = 0; i < noeud->childCount(); ++i)
         Relis(noeud->child(i));
+}
+
+/// The tree also reports a change when a neighbour above the selected folder goes.
+void FolderTreeview::Annonce()
+{
+    if (const QString dossier = SelectedFolder(); dossier != m_annonce) {
+        m_annonce = dossier;
+        Q_EMIT SelectionChange();
+    }
 }
 
 QTreeWidgetItem *FolderTreeview::Choisi() const

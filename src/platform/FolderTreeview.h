@@ -40,6 +40,7 @@ protected:
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
+    void Annonce();
     QTreeWidgetItem *Choisi() const;
     void LisSommets();
     void Lis(QTreeWidgetItem *noeud);
@@ -48,6 +49,7 @@ private:
     QTreeWidgetItem *Sommet(const QString &chemin) const;
     QTreeWidgetItem *SousDossier(QTreeWidgetItem *noeud, const QString &nom);
 
+    QString m_annonce;             // the selection last announced
     QFileSystemWatcher m_guetteur; // watches every folder that has been read
     QTimer m_relecture;            // gathers the changes of a moment
 };

@@ -108,14 +108,16 @@ void TestFolderTreeview::Selection()
 // selected one has gone it is the folder above that gets selected, never a neighbour.
 void TestFolderTreeview::SuitLeDisque()
 {
-    Pose({u"B/dessous/"_s, u"C/"_s});
+    Pose({u"B/dessous/"_s, u"B/avant/"_s, u"C/"_s});
     FolderTreeview arbre;
     arbre.setSelectedFolder(Chemin(u"B/dessous"_s));
     QTreeWidgetItem *const dossier = arbre.currentItem()->parent()->parent();
     QSignalSpy changements(&arbre, &FolderTreeview::SelectionChange);
     Pose({u"a/"_s});
+    QVERIFY(QDir().rmdir(Chemin(u"B/avant"_s)));
     QVERIFY(QDir().rename(Chemin(u"C"_s), Chemin(u"D"_s)));
     QTRY_COMPARE(Sous(dossier), u"a B D"_s);
+    QCOMPARE(Sous(dossier->child(1)), u"dessous"_s);
     QVERIFY(dossier->child(1)->isExpanded());
     QCOMPARE(changements.count(), 0);
     QVERIFY(QDir(Chemin(u"B"_s)).removeRecursively());

@@ -152,6 +152,8 @@ void TestExplorateur::Filtre()
     QCOMPARE(filtre.count(), 16);
     filtre.setCurrentIndex(1);
     QCOMPARE(Fichiers(), u"PIECE.ISO"_s);
+    filtre.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
     filtre.lineEdit()->clear();
     QTest::keyClicks(filtre.lineEdit(), u"*.c"_s);
     QCOMPARE(Fichiers(), QString());
