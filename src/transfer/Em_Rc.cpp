@@ -5,7 +5,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
-#include "shell/CentreFeuille.h"
+#include "platform/CentreFeuille.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Confirmation.h"
 #include "transfer/Emission.h"
