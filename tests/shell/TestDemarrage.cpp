@@ -112,6 +112,9 @@ void TestDemarrage::IniCorrige_data()
           " 0 \r\n\"@\"\r\n 0 \r\n\"/m.par\"\r\n 0 \r\n@\r\n 2 \r\n", 2);
     ligne("comma in line 6", " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/a,b\r\n 1 \r\n",
           " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/a\r\n-1 \r\n", LangAucune);
+    ligne("comma before a number", "1\n\"/x\"\n0\n\"\"\n0\n/a,2 b\r\n",
+          " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/a\r\n 2 \r\n", 2);
+    ligne("no language", "1\n\"/x\"\n0\n\"\"\n0\n/c\n \n", " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/c\r\n 0 \r\n", 0);
     ligne("language 9, lone LF, no last line end", "1\n\"/x\"\n0\n\"\"\n0\n/c\n9",
           " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/c\r\n 9 \r\n", 9);
     ligne("more lines than needed", " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/c\r\n 1 \r\nmore\r\n",
