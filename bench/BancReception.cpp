@@ -38,7 +38,7 @@ struct Poste
         : machine(Reglage(vitesse))
     {
         fenetre.MSComm1->setDossierPorts(dossier.path());
-        BrancheMenus();
+        Branche();
         QFile::link(machine.Chemin(), dossier.filePath(QStringLiteral("Com2")));
         ParamCom = ConfigurationCom();
         ParamCom.NumPort = 2;
