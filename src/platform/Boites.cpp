@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSpacerItem>
+
+#include <algorithm>
 #include <QTimer>
 
 namespace {
@@ -32,12 +34,18 @@ QMessageBox::Icon Icone(int drapeaux)
     }
 }
 
-/// A box is as wide as its text; without this the titles that say what failed would be cut.
-void ElargitAuTitre(QMessageBox &boite)
+/// A box of its own accord cuts its title and breaks lines that the screen has room for.
+void Elargit(QMessageBox &boite)
 {
     constexpr int boutonsDuCadre = 140;
-    const int largeur = boite.fontMetrics().horizontalAdvance(boite.windowTitle()) + boutonsDuCadre;
-    auto *grille = qobject_cast<QGridLayout *>(boite.layout());
+    constexpr int iconeEtMarges = 110;
+    constexpr int largeurMax = 760; // pixels; a longer line, with a long path in it, is broken
+    const QFontMetrics metrique = boite.fontMetrics();
+    int largeur = metrique.horizontalAdvance(boite.windowTitle()) + boutonsDuCadre;
+    const QStringList lignes = boite.text().split(u'\n');
+    for (const QString &ligne : lignes)
+        largeur = std::max(largeur, std::min(metrique.horizontalAdvance(ligne) + iconeEtMarges, largeurMax));
+    auto *const grille = qobject_cast<QGridLayout *>(boite.layout());
     grille->addItem(new QSpacerItem(largeur, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), grille->rowCount(), 0, 1,
                     grille->columnCount());
 }
@@ -59,7 +67,7 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
         boite.setDefaultButton((drapeaux & Boite::SecondBouton) != 0 ? QMessageBox::No : QMessageBox::Yes);
         boite.setEscapeButton(QMessageBox::No);
     }
-    ElargitAuTitre(boite);
+    Elargit(boite);
     const int choix = boite.exec();
     return !ouiNon ? Reponse::Ok : choix == QMessageBox::Yes ? Reponse::Oui : Reponse::Non;
 }

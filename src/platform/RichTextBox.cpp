@@ -5,6 +5,7 @@
 #include "platform/LecteurRtf.h"
 #include "platform/MiseEnPage.h"
 #include "platform/PageCode1252.h"
+#include "platform/TouchesVolet.h"
 
 #include <QFontDatabase>
 #include <QMimeData>
@@ -13,7 +14,6 @@
 #include <QTextBlock>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -54,35 +54,6 @@ QTextCharFormat FormatDe(const AttributsRtf &attributs)
     if (attributs.surlignage.isValid())
         format.setBackground(attributs.surlignage);
     return format;
-}
-
-/// AltGr, which types characters, comes as Ctrl with Alt on some systems.
-bool EstAvecCtrl(const QKeyEvent &touche)
-{
-    return (touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
-}
-
-/// Ctrl with a letter is a shortcut of the menu, except for these of the pane: all, cut, paste, redo, undo.
-bool EstRaccourciDuMenu(const QKeyEvent &touche)
-{
-    constexpr std::array DuVolet{Qt::Key_A, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
-    const bool lettre = touche.key() >= Qt::Key_A && touche.key() <= Qt::Key_Z;
-    return EstAvecCtrl(touche) && lettre && std::find(DuVolet.begin(), DuVolet.end(), touche.key()) == DuVolet.end();
-}
-
-bool EstEntree(const QKeyEvent &touche)
-{
-    const bool entree = touche.key() == Qt::Key_Return || touche.key() == Qt::Key_Enter;
-    return entree && !(touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-}
-
-bool DonneUnCaractere(const QKeyEvent &touche)
-{
-    constexpr std::array<char16_t, 4> Commandes{u'\r', u'\n', u'\t', u'\b'};
-    if (touche.text().isEmpty() || EstAvecCtrl(touche))
-        return false;
-    const QChar c = touche.text().front();
-    return c.isPrint() || std::find(Commandes.begin(), Commandes.end(), c.unicode()) != Commandes.end();
 }
 
 /// Work on the text that Ctrl+Z cannot undo: for a whole program the undo store would outweigh the text.

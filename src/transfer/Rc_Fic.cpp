@@ -9,10 +9,13 @@
 #include "platform/FichierTexte.h"
 #include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
+#include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Transfert.h"
+
+#include <QDir>
 
 #include <algorithm>
 
@@ -78,7 +81,8 @@ void Rc_Fic::Form_Load()
     QString &reception = Dossier();
     if (frmPrinc->CheckDOS->isChecked())
         reception = frmPrinc->FolderTreeview1->SelectedFolder();
-    Label3->setText(reception);
+    // A configuration may name a folder beside the program, wherever that has been laid.
+    Label3->setText(QDir::toNativeSeparators(QDir(DossierApplication()).absoluteFilePath(reception)));
 }
 
 void Rc_Fic::MontreFinLigne()

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QKeyEvent>
+
+// What a key means to the text pane.
+
+/// Ctrl with a letter is a shortcut of the menu, except for those of the pane: all, cut, paste, redo, undo.
+bool EstRaccourciDuMenu(const QKeyEvent &touche);
+
+/// Enter, of whichever half of the keyboard, with or without Shift.
+bool EstEntree(const QKeyEvent &touche);
+
+/// A key that puts a character into the text or takes one out.
+bool DonneUnCaractere(const QKeyEvent &touche);
