@@ -3,6 +3,7 @@
 
 #include "Mesure.h"
 
+#include "locale/Langue.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/FrmPrinc.h"
@@ -39,7 +40,9 @@ int Ouvre(QWidget &fenetre)
 int OuvreProgramme(const QString &dossier)
 {
     FixeDossierApplication(dossier);
+    AppliqueLangueSysteme();
     FrmPrinc fenetre;
+    QApplication::setWindowIcon(fenetre.windowIcon());
     Branche();
     Form_Load();
     return Ouvre(fenetre);

@@ -116,7 +116,19 @@ FolderTreeview::FolderTreeview(QWidget *parent)
     connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lis);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::Annonce);
     connect(this, &QTreeWidget::itemClicked, this, &FolderTreeview::Click);
-    LisSommets();
+}
+
+void FolderTreeview::showEvent(QShowEvent *evenement)
+{
+    LisPremierement();
+    QTreeWidget::showEvent(evenement);
+}
+
+/// A tree that is never shown reads nothing: the start of the program does not wait for the disk.
+void FolderTreeview::LisPremierement()
+{
+    if (topLevelItemCount() == 0)
+        LisSommets();
 }
 
 QString FolderTreeview::SelectedFolder() const
@@ -130,6 +142,7 @@ void FolderTreeview::setSelectedFolder(const QString &chemin)
     const QString cible = QDir::cleanPath(QFileInfo(chemin).absoluteFilePath());
     if (chemin.isEmpty() || !QFileInfo(cible).isDir())
         throw Erreur(Erreur::FichierIntrouvable, chemin);
+    LisPremierement();
     QTreeWidgetItem *noeud = Sommet(cible);
     if (noeud == nullptr)
         throw Erreur(Erreur::FichierIntrouvable, chemin);

@@ -37,11 +37,13 @@ Q_SIGNALS:
     void Click();           ///< a folder was clicked, the selected one or another
 
 protected:
+    void showEvent(QShowEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
     void Annonce();
     QTreeWidgetItem *Choisi() const;
+    void LisPremierement();
     void LisSommets();
     void Lis(QTreeWidgetItem *noeud);
     void Relis(QTreeWidgetItem *noeud);

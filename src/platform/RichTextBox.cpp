@@ -28,12 +28,11 @@ const QString FormatCopie = QStringLiteral("application/x-dorvanel-programme");
 const QFont &PoliceOrdinaire()
 {
     static const QFont ordinaire = [] {
-        constexpr double Points = 9.75;
         const QString systeme = QStringLiteral("System");
-        const bool presente = QFontDatabase::hasFamily(systeme);
-        QFont police = presente ? QFont(systeme) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        QFont police =
+            QFontDatabase::hasFamily(systeme) ? QFont(systeme) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
         police.setBold(true);
-        police.setPointSizeF(Points);
+        police.setPointSizeF(9.75);
         return police;
     }();
     return ordinaire;

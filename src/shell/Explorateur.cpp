@@ -15,6 +15,11 @@
 
 namespace {
 
+/// The filters offered; the first is in force when the window is made.
+const QStringList Motifs =
+    QStringLiteral("*.* *.iso *.rub *.cn *.xcn *.txt *.asc *.xpi *.jau *.cor *.prg *.cnc *.rrr *.qqq *.h *.rtf")
+        .split(u' ');
+
 constexpr Texte3 BulleFerme{u"Afficher l'explorateur de fichiers", u"View explorer files",
                             u"Indicar el explorador de ficheros"};
 constexpr Texte3 BulleOuvert{u"Fermer l'explorateur de fichiers", u"Close explorer files",
@@ -163,6 +168,7 @@ void BrancheExplorateur()
     QObject::connect(frmPrinc->FolderTreeview1, &FolderTreeview::SelectionChange, frmPrinc, FolderTreeview1_Click);
     QObject::connect(frmPrinc->FolderTreeview1, &FolderTreeview::Click, frmPrinc, FolderTreeview1_Click);
     QObject::connect(frmPrinc->File1, &FileListBox::DblClick, frmPrinc, File1_DblClick);
+    frmPrinc->Combo1->addItems(Motifs);
     // A completion would put a filter in force that the operator has not typed.
     frmPrinc->Combo1->setCompleter(nullptr);
     QObject::connect(frmPrinc->Combo1, &QComboBox::editTextChanged, frmPrinc, Combo1_Change);
