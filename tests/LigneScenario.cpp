@@ -19,20 +19,15 @@ Scenario::~Scenario()
 
 void Scenario::Envoie(const QByteArray &octets, const QList<qsizetype> &fausses)
 {
-    for (qsizetype i = 0; i < octets.size(); ++i)
-        m_enRouteFausses.append(fausses.contains(i));
+    for (const qsizetype fausse : fausses)
+        m_fausses.append(m_enRoute.size() + fausse);
     m_enRoute += octets;
-    Reveille();
+    eventfd_write(m_reveil, 1);
 }
 
 void Scenario::Debranche()
 {
     disparue = true;
-    Reveille();
-}
-
-void Scenario::Reveille() const
-{
     eventfd_write(m_reveil, 1);
 }
 
@@ -52,12 +47,6 @@ MSComm::Fabrique LigneScenario::Fabrique(const std::shared_ptr<Scenario> &scenar
     return [scenario](int) { return std::make_unique<LigneScenario>(scenario); };
 }
 
-void LigneScenario::ExigePresente() const
-{
-    if (m_scenario->disparue)
-        throw Erreur(ErreurPort::Lecture, QStringLiteral("unplugged"));
-}
-
 void LigneScenario::Regle(const ReglagePort &reglage)
 {
     if (m_scenario->refusReglage != 0)
@@ -70,13 +59,13 @@ LectureLigne LigneScenario::Lit(int tailleMax)
     ExigePresente();
     LectureLigne lecture;
     lecture.octets = m_scenario->m_enRoute.left(tailleMax);
-    for (qsizetype i = 0; i < lecture.octets.size(); ++i) {
-        if (m_scenario->m_enRouteFausses.at(i))
-            lecture.fausses.append(i);
+    m_scenario->m_enRoute.remove(0, lecture.octets.size());
+    for (qsizetype &fausse : m_scenario->m_fausses) {
+        if (fausse >= 0 && fausse < lecture.octets.size())
+            lecture.fausses.append(fausse);
+        fausse -= lecture.octets.size();
     }
     lecture.erreur = !lecture.fausses.isEmpty();
-    m_scenario->m_enRoute.remove(0, lecture.octets.size());
-    m_scenario->m_enRouteFausses.remove(0, lecture.octets.size());
     eventfd_t compte = 0;
     if (m_scenario->m_enRoute.isEmpty())
         eventfd_read(m_scenario->m_reveil, &compte);
@@ -94,20 +83,14 @@ int LigneScenario::Ecrit(const char *octets, int nombre)
     return pris;
 }
 
-int LigneScenario::NonEmis()
-{
-    ++m_scenario->regards;
-    return m_scenario->nonEmis;
-}
-
 void LigneScenario::JetteReception()
 {
-    ++m_scenario->jetsReception;
     m_scenario->m_enRoute.clear();
-    m_scenario->m_enRouteFausses.clear();
+    m_scenario->m_fausses.clear();
 }
 
-void LigneScenario::JetteEmission()
+void LigneScenario::ExigePresente() const
 {
-    ++m_scenario->jetsEmission;
+    if (m_scenario->disparue)
+        throw Erreur(ErreurPort::Lecture, QStringLiteral("unplugged"));
 }

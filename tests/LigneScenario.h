@@ -27,7 +27,6 @@ struct Scenario
     QList<ReglagePort> reglages;
     bool rts = false;
     bool dtr = false;
-    int jetsReception = 0;
     int jetsEmission = 0;
     bool ouverte = false;
 
@@ -43,11 +42,10 @@ struct Scenario
 
 private:
     friend class LigneScenario;
-    void Reveille() const;
 
     int m_reveil = -1; // readable as long as something has come
     QByteArray m_enRoute;
-    QList<bool> m_enRouteFausses;
+    QList<qsizetype> m_fausses; // positions in m_enRoute; below 0: gone
 };
 
 /// A line that behaves as its Scenario says.
@@ -66,9 +64,9 @@ public:
     int Descripteur() const override { return m_scenario->m_reveil; }
     LectureLigne Lit(int tailleMax) override;
     int Ecrit(const char *octets, int nombre) override;
-    int NonEmis() override;
+    int NonEmis() override { return ++m_scenario->regards, m_scenario->nonEmis; }
     void JetteReception() override;
-    void JetteEmission() override;
+    void JetteEmission() override { ++m_scenario->jetsEmission; }
     std::optional<EtatsLigne> Etats() override { return m_scenario->etats; }
     CompteursLigne Compteurs() override { return m_scenario->compteurs; }
 
