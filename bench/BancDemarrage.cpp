@@ -5,8 +5,6 @@
 
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
-#include "shell/Document.h"
-#include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 #include "shell/Reglages.h"
@@ -42,9 +40,7 @@ int OuvreProgramme(const QString &dossier)
 {
     FixeDossierApplication(dossier);
     FrmPrinc fenetre;
-    BrancheDocument();
-    BrancheEdition();
-    BrancheMenus();
+    Branche();
     Form_Load();
     return Ouvre(fenetre);
 }

@@ -2,8 +2,6 @@
 #include "platform/MSComm.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
-#include "shell/Document.h"
-#include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 
@@ -13,15 +11,16 @@ int main(int nombre, char *arguments[])
 {
     QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
-    QApplication::setApplicationDisplayName(QString());
+    QApplication::setApplicationDisplayName(QString()); // or each title would end in the program's name
     AppliqueLangueSysteme();
 
     FrmPrinc fenetre;
     QApplication::setWindowIcon(fenetre.windowIcon());
     fenetre.MSComm1->setDossierPorts(AjouteAntislash(DossierApplication()) + QStringLiteral("Ports"));
-    BrancheDocument();
-    BrancheEdition();
-    BrancheMenus();
+    Branche();
+    // The operator has been asked for his text by then. Another window that stands open does not keep the program
+    // alive.
+    QObject::connect(&fenetre, &FrmPrinc::Form_Unload, &application, [] { QCoreApplication::exit(); });
     Form_Load();
     fenetre.show();
     return QApplication::exec();

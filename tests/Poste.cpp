@@ -8,7 +8,6 @@
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/Document.h"
-#include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 #include "shell/Reglages.h"
@@ -62,9 +61,7 @@ void Poste::Demarre()
 {
     m_fenetre = std::make_unique<FrmPrinc>();
     m_fenetre->MSComm1->setDossierPorts(Chemin("Ports"));
-    BrancheDocument();
-    BrancheEdition();
-    BrancheMenus();
+    Branche();
     Form_Load();
     m_fenetre->show();
 }

@@ -1,19 +1,12 @@
 #include "gauges/Lignes.h"
 
+#include "platform/Nombres.h"
+
 #include <algorithm>
 
 std::vector<QString> Lignes(CapaciteLignes + 1);
 int NbLignes = 0;
 int LigneMaxi = 0;
-
-namespace {
-
-bool EstBlanc(QChar caractere)
-{
-    return caractere == u' ';
-}
-
-} // namespace
 
 void VideLignes()
 {
@@ -39,14 +32,7 @@ void CalculeLigne(const QString &texte)
 void CalculeMaxi()
 {
     const auto derniere = std::find_if(Lignes.rbegin(), Lignes.rend() - 1, [](const QString &ligne) {
-        return !std::all_of(ligne.begin(), ligne.end(), EstBlanc);
+        return std::any_of(ligne.begin(), ligne.end(), [](QChar caractere) { return caractere != u' '; });
     });
     LigneMaxi = static_cast<int>(Lignes.rend() - 1 - derniere);
-}
-
-QString SansBlancs(const QString &texte)
-{
-    const auto debut = std::find_if_not(texte.begin(), texte.end(), EstBlanc);
-    const auto fin = std::find_if_not(texte.rbegin(), std::make_reverse_iterator(debut), EstBlanc).base();
-    return QString(debut, fin - debut);
 }

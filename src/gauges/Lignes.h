@@ -4,8 +4,9 @@
 
 #include <vector>
 
-/// The line table that transfers and gauge routines share: entries 0 to 25000, the first line at 1, entry 0 unused.
-constexpr int CapaciteLignes = 25000;
+constexpr int CapaciteLignes = 25000; ///< highest entry of Lignes
+/// The line table that transfers and gauge routines share: entries 0 to CapaciteLignes, the first line at 1, entry 0
+/// unused.
 extern std::vector<QString> Lignes;
 extern int NbLignes;  ///< last entry that CalculeLigne() filled
 extern int LigneMaxi; ///< last entry that CalculeMaxi() found in use
@@ -20,6 +21,3 @@ void CalculeLigne(const QString &texte);
 
 /// Finds the last entry that holds more than blanks; LigneMaxi is 0 when there is none.
 void CalculeMaxi();
-
-/// texte without the blanks (character 32 alone) at both ends.
-QString SansBlancs(const QString &texte);

@@ -19,8 +19,10 @@ void AppliqueLangueSysteme()
 {
     static QTranslator *const traducteur = new QTranslator(QCoreApplication::instance());
     const QString fichier = Texte({u"qtbase_fr", u"qtbase_en", u"qtbase_es"});
-    if (fichier.isNull())
+    static QString pris;
+    if (fichier.isNull() || fichier == pris)
         return;
+    pris = fichier;
     QCoreApplication::removeTranslator(traducteur);
     if (traducteur->load(fichier, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(traducteur);

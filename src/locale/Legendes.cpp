@@ -2,6 +2,8 @@
 
 #include "locale/Langue.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 
@@ -142,6 +144,29 @@ constexpr Legende Table[] = {
     {"Rc_Fic", "Option1_0", Titre, u"No end of line", u"No hay final de línea"},
 };
 
+/// A text that is heard, or seen only when asked for.
+struct Discret
+{
+    const char *fenetre;
+    const char *controle;
+    const char *propriete;
+    const char16_t *anglais;
+    const char16_t *espagnol;
+};
+
+constexpr Discret Discrets[] = {
+    {"frmPrinc", "Toolbar1", "windowTitle", u"Toolbar", u"Barra de herramientas"},
+    {"frmPrinc", "Text1", "accessibleName", u"NC program", u"Programa CN"},
+    {"frmPrinc", "Text2", "accessibleName", u"Reception", u"Recepción"},
+    {"frmPrinc", "FolderTreeview1", "accessibleName", u"Directories", u"Directorios"},
+    {"frmPrinc", "File1", "accessibleName", u"Files", u"Ficheros"},
+    {"frmPrinc", "Combo1", "toolTip", u"Filter of the files shown", u"Filtro de los ficheros mostrados"},
+    {"Em_Rc", "Picture1", "accessibleName", u"Transfer", u"Transferencia"},
+    {"Em_Rc", "Picture2", "accessibleName", u"Presetting bench", u"Banco de reglaje previo"},
+    {"Em_Rc", "Progression", "accessibleName", u"Progress of the transfer", u"Avance de la transferencia"},
+    {"Rc_Fic", "Picture1", "accessibleName", u"Transfer", u"Transferencia"},
+};
+
 /// The properties that hold what a control bears, by kind of control: window, frame or menu, label or entry.
 void EcritTitre(QObject *controle, const QString &texte)
 {
@@ -152,10 +177,15 @@ void EcritTitre(QObject *controle, const QString &texte)
         controle->setProperty(controle->metaObject()->indexOfProperty("title") >= 0 ? "title" : "text", texte);
 }
 
-/// The control of that name in a window. An open dialog is a child of the main window and has names of the same kind;
-/// its controls are its own.
+/// The control of that name in a window, "" for the window itself. A toolbar button bears the name of its action, which
+/// is what holds its texts. An open dialog is a child of the main window and has names of the same kind; its controls
+/// are its own.
 QObject *Controle(QWidget *fenetre, QLatin1String nom)
 {
+    if (nom.isEmpty())
+        return fenetre;
+    if (auto *const action = fenetre->findChild<QAction *>(nom))
+        return action;
     const auto candidats = fenetre->findChildren<QObject *>(nom);
     for (QObject *candidat : candidats) {
         const QObject *proprietaire = candidat;
@@ -165,6 +195,19 @@ QObject *Controle(QWidget *fenetre, QLatin1String nom)
             return candidat;
     }
     return nullptr;
+}
+
+/// Hands each line of a table that is meant for fenetre, with its control and its text in the language, to ecrit.
+template <typename Lignes, typename Ecriture>
+void Ecrit(const Lignes &table, QWidget *fenetre, Ecriture ecrit)
+{
+    for (const auto &ligne : table) {
+        const QString texte = Texte({nullptr, ligne.anglais, ligne.espagnol});
+        if (texte.isNull() || fenetre->objectName() != QLatin1String(ligne.fenetre))
+            continue;
+        if (QObject *const controle = Controle(fenetre, QLatin1String(ligne.controle)))
+            ecrit(controle, ligne, texte);
+    }
 }
 
 } // namespace
@@ -179,19 +222,31 @@ void AppliqueLangue()
 
 void AppliqueLegendes(QWidget *fenetre)
 {
-    for (const Legende &legende : Table) {
-        const QString texte = Texte({nullptr, legende.anglais, legende.espagnol});
-        if (texte.isNull() || fenetre->objectName() != QLatin1String(legende.fenetre))
-            continue;
-        const QLatin1String nom(legende.controle);
-        QObject *const controle = nom.isEmpty() ? fenetre : Controle(fenetre, nom);
-        if (controle == nullptr || controle->property(Donnee).toBool())
-            continue;
+    Ecrit(Table, fenetre, [](QObject *controle, const Legende &legende, const QString &texte) {
+        if (controle->property(Donnee).toBool())
+            return;
         if (legende.endroit == Titre)
             EcritTitre(controle, texte);
         else
-            controle->setProperty("toolTip", texte);
-    }
+            PoseBulle(controle, texte);
+    });
+    Ecrit(Discrets, fenetre, [](QObject *controle, const Discret &discret, const QString &texte) {
+        controle->setProperty(discret.propriete, texte);
+    });
+    QEvent changement(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(fenetre, &changement);
+}
+
+void PoseBulle(QObject *controle, const QString &texte)
+{
+    if (texte.isNull())
+        return;
+    controle->setProperty("toolTip", texte);
+    auto *const bouton = qobject_cast<QAbstractButton *>(controle);
+    if (auto *const action = qobject_cast<QAction *>(controle))
+        action->setText(texte);
+    else if (bouton != nullptr && bouton->text().isEmpty())
+        bouton->setAccessibleName(texte);
 }
 
 void MontreDonnee(QWidget *controle, const QString &donnee)

@@ -5,11 +5,16 @@
 struct Texte3;
 
 /// Writes the captions of LangIndex to every open window. In French it does nothing: the windows are made in French, so
-/// it only goes away from French, never back to it. It also turns the standard buttons to the language.
+/// it only goes away from French, never back to it. It also turns the standard buttons to the language, and each window
+/// hears of it by a LanguageChange event.
 void AppliqueLangue();
 
 /// Same for one window, which calls it as it is made. fenetre: a window whose objectName is a key of the table.
 void AppliqueLegendes(QWidget *fenetre);
+
+/// Gives a control without a caption of its own (a toolbar button, a button with a picture) its tool tip, which is also
+/// its name for an assistive program. Nothing for a null text.
+void PoseBulle(QObject *controle, const QString &texte);
 
 /// Shows a piece of data in a label, or in a window's title, in the place of its caption: from then on the captions of
 /// a language leave it alone.

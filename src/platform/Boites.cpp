@@ -1,6 +1,7 @@
 #include "platform/Boites.h"
 
-#include <QApplication>
+#include "platform/FenetreAppelante.h"
+
 #include <QDir>
 #include <QFontMetrics>
 #include <QGridLayout>
@@ -46,7 +47,7 @@ void ElargitAuTitre(QMessageBox &boite)
 Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
     const bool ouiNon = (drapeaux & Boite::OuiNon) != 0;
-    QMessageBox boite(QApplication::activeWindow());
+    QMessageBox boite(FenetreAppelante());
     boite.setObjectName(QStringLiteral("MsgBox"));
     boite.setWindowTitle(titre);
     boite.setIcon(Icone(drapeaux));
@@ -71,7 +72,7 @@ bool Confirme(const QString &texte, int drapeaux, const QString &titre)
 QString InputBox(const QString &invite, const QString &titre, const QString &valeur)
 {
     constexpr int largeur = 440; // pixels; a longer prompt takes more lines
-    QInputDialog boite(QApplication::activeWindow());
+    QInputDialog boite(FenetreAppelante());
     boite.setObjectName(QStringLiteral("InputBox"));
     boite.setWindowTitle(titre);
     boite.setLabelText(PourAffichage(invite));

@@ -1,8 +1,9 @@
 #include "platform/CommonDialog.h"
 
 #include "platform/Erreur.h"
+#include "platform/FenetreAppelante.h"
 
-#include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -47,7 +48,7 @@ void CommonDialog::ShowSave()
 
 void CommonDialog::Demande(bool enregistrement)
 {
-    QFileDialog dialogue(QApplication::activeWindow(), DialogTitle, InitDir);
+    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir);
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
     // The system's own dialog would speak the system's language and not the operator's.
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
@@ -68,7 +69,7 @@ void CommonDialog::Demande(bool enregistrement)
             throw Erreur(Erreur::DialogueAnnule, QStringLiteral("Cancel was selected."));
         return;
     }
-    FileName = dialogue.selectedFiles().constFirst();
+    FileName = QDir::toNativeSeparators(dialogue.selectedFiles().constFirst());
     FileTitle = QFileInfo(FileName).fileName();
     FilterIndex = Place(filtres, dialogue.selectedNameFilter());
 }

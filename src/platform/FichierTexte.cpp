@@ -7,9 +7,12 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <new>
 
 namespace {
 
+/// cause: the system's own number. QFile's does not tell a full disk from a broken one, nor a missing file from one
+/// that may not be read; so errno is cleared before each call and read when the call has failed.
 [[noreturn]] void Echoue(const QFile &fichier, int cause)
 {
     const int numero = cause == ENOSPC || cause == EDQUOT                    ? Erreur::DisqueSature
@@ -29,7 +32,7 @@ void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
 } // namespace
 
 QByteArray LitOctets(const QString &chemin, qint64 tailleMax)
-{
+try {
     QFile fichier(chemin);
     // A device or a pipe under the name of a file would never end.
     if (QFileInfo::exists(chemin) && !QFileInfo(chemin).isFile())
@@ -42,11 +45,15 @@ QByteArray LitOctets(const QString &chemin, qint64 tailleMax)
     if (fichier.error() != QFileDevice::NoError)
         Echoue(fichier, errno);
     return octets;
+} catch (const std::bad_alloc &) {
+    throw Erreur(Erreur::MemoireInsuffisante, chemin);
 }
 
 QString LitFichierTexte(const QString &chemin, qint64 tailleMax)
-{
+try {
     return TexteDe1252(LitOctets(chemin, tailleMax));
+} catch (const std::bad_alloc &) {
+    throw Erreur(Erreur::MemoireInsuffisante, chemin);
 }
 
 void EcritFichierTexte(const QString &chemin, const QString &texte)
@@ -56,6 +63,11 @@ void EcritFichierTexte(const QString &chemin, const QString &texte)
     const QByteArray octets = OctetsEn1252(texte);
     errno = 0;
     if (fichier.write(octets) != octets.size())
+        Echoue(fichier, errno);
+    // A network drive may find out only here that it has no room.
+    errno = 0;
+    fichier.close();
+    if (fichier.error() != QFileDevice::NoError)
         Echoue(fichier, errno);
 }
 

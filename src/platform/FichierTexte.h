@@ -10,7 +10,7 @@ constexpr qint64 TailleMaxOctets = qint64{512} * 1024 * 1024;
 
 /// The bytes of the file at chemin.
 /// tailleMax: largest size in bytes that the caller can use. Raises FichierIntrouvable, AccesRefuse, ErreurFichier,
-/// or MemoireInsuffisante for a larger file.
+/// or MemoireInsuffisante for a larger file or one that finds no room in memory.
 QByteArray LitOctets(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
 
 /// Same, as text.

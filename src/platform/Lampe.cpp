@@ -17,8 +17,12 @@ void Lampe::setFillColor(int couleur)
     update();
 }
 
-void Lampe::setTextes(const QString &allumee, const QString &eteinte)
+void Lampe::setTextes(const QString &nom, const QString &allumee, const QString &eteinte)
 {
+    // A change is announced to the operator who works by ear: none must be announced where nothing changes.
+    if (nom == accessibleName() && allumee == m_allumee && eteinte == m_eteinte)
+        return;
+    setAccessibleName(nom);
     m_allumee = allumee;
     m_eteinte = eteinte;
     DitEtat();
@@ -39,7 +43,7 @@ void Lampe::paintEvent(QPaintEvent *)
     const double cote = std::min(width(), height());
     const QRectF disque(1.5, 1.5, cote - 3, cote - 3);
     peintre.setPen(QPen(couleur.darker(170), 1.5));
-    peintre.setBrush(verte ? couleur.darker(115) : couleur.darker(105));
+    peintre.setBrush(couleur);
     peintre.drawEllipse(disque);
     // An operator who does not tell red from green sees a lit lamp by its bright spot, an unlit one by its bar.
     peintre.setPen(Qt::NoPen);

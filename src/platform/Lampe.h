@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A round lamp of the status panel. It tells its state by more than its colour: lit it shows a bright spot and a full
-/// disc, unlit a ring; the tool tip and the accessible description say it in words.
+/// A round lamp of the status panel. It tells its state by more than its colour: lit it bears a bright spot, unlit
+/// a bar; the tool tip and the accessible description say it in words.
 class Lampe : public QWidget
 {
     Q_OBJECT
@@ -20,8 +20,9 @@ public:
     /// couleur: Verte or Rouge.
     void setFillColor(int couleur);
 
-    /// Words for the two states, as the tool tip shows them.
-    void setTextes(const QString &allumee, const QString &eteinte);
+    /// nom: what the lamp stands for, as an assistive program reads it; allumee, eteinte: the words for its two states,
+    /// as the tool tip shows them.
+    void setTextes(const QString &nom, const QString &allumee, const QString &eteinte);
 
     QSize sizeHint() const override;
 

@@ -2,12 +2,14 @@
 
 #include "platform/Erreur.h"
 
+#include <QOperatingSystemVersion>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QStringList>
 
 #include <array>
+#include <span>
 
 namespace {
 
@@ -23,8 +25,7 @@ constexpr std::array Traitements{Remplacant{"libreoffice", "--writer"}, Remplaca
 constexpr std::array Editeurs{Remplacant{"gnome-text-editor", ""}, Remplacant{"gedit", ""}, Remplacant{"kate", ""},
                               Remplacant{"mousepad", ""}, Remplacant{"xdg-open", ""}};
 
-template <std::size_t N>
-bool LancePremier(const std::array<Remplacant, N> &remplacants, const QString &fichier)
+bool LancePremier(std::span<const Remplacant> remplacants, const QString &fichier)
 {
     for (const auto &[programme, option] : remplacants) {
         const QString chemin = QStandardPaths::findExecutable(QLatin1String(programme));
@@ -45,19 +46,28 @@ QString NomDuProgramme(const QString &programme)
     return programme.mid(programme.lastIndexOf(QRegularExpression(QStringLiteral("[\\\\/]"))) + 1).toLower();
 }
 
+/// What takes the place of a Windows program; nothing for any other. Its name decides, and not whether a program of
+/// that name exists: the "write" of many a system sends messages to terminals.
+std::span<const Remplacant> Remplacants(const QString &programme)
+{
+    if constexpr (QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
+        return {};
+    const QString nom = NomDuProgramme(programme);
+    if (nom == QLatin1String("write") || nom == QLatin1String("write.exe") || nom == QLatin1String("wordpad.exe"))
+        return Traitements;
+    if (nom == QLatin1String("notepad.exe"))
+        return Editeurs;
+    return {};
+}
+
 } // namespace
 
 void LanceProgramme(const QString &programme, const QString &fichier)
 {
+    const std::span<const Remplacant> remplacants = Remplacants(programme);
     const QString chemin = QStandardPaths::findExecutable(programme);
-    bool lance = false;
-    if (!chemin.isEmpty())
-        lance = QProcess::startDetached(chemin, {fichier});
-    else if (const QString nom = NomDuProgramme(programme);
-             nom == QLatin1String("write") || nom == QLatin1String("write.exe") || nom == QLatin1String("wordpad.exe"))
-        lance = LancePremier(Traitements, fichier);
-    else if (nom == QLatin1String("notepad.exe"))
-        lance = LancePremier(Editeurs, fichier);
+    const bool lance = !remplacants.empty() ? LancePremier(remplacants, fichier)
+                                            : !chemin.isEmpty() && QProcess::startDetached(chemin, {fichier});
     if (!lance)
         throw Erreur(Erreur::FichierIntrouvable, programme);
 }

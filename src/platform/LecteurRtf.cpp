@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -469,6 +470,8 @@ AttributsRtf Lecteur::Attributs(const Style &style) const
 } // namespace
 
 QList<MorceauRtf> LitRtf(const QByteArray &octets)
-{
+try {
     return Lecteur(octets).Lit();
+} catch (const std::bad_alloc &) {
+    throw Erreur(Erreur::MemoireInsuffisante, QStringLiteral("Out of memory"));
 }

@@ -31,5 +31,5 @@ struct MorceauRtf
 /// Pictures, headers, notes, hidden and deleted text and the numbers of automatic lists are left out; a field gives its
 /// result; cells of a table are separated by tabs, its rows and page breaks by CR LF.
 /// octets: the whole file. One that breaks off in the middle gives what stands before the break.
-/// Raises FormatRefuse when octets does not begin as rich text.
+/// Raises FormatRefuse when octets does not begin as rich text, MemoireInsuffisante.
 QList<MorceauRtf> LitRtf(const QByteArray &octets);

@@ -2,8 +2,10 @@
 
 #include "platform/Erreur.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 double Val(const QString &texte)
@@ -55,4 +57,12 @@ int EnEntier(double valeur)
     if (!(arrondi >= std::numeric_limits<qint16>::min() && arrondi <= std::numeric_limits<qint16>::max()))
         throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
     return static_cast<int>(arrondi);
+}
+
+QString SansBlancs(const QString &texte)
+{
+    const auto blanc = [](QChar caractere) { return caractere == u' '; };
+    const auto debut = std::find_if_not(texte.begin(), texte.end(), blanc);
+    const auto fin = std::find_if_not(texte.rbegin(), std::make_reverse_iterator(debut), blanc).base();
+    return QString(debut, fin - debut);
 }

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// The number forms of the program. They depend on no locale: the decimal separator is a point.
+// The number forms of the program, and the blanks around them. They depend on no locale: the decimal separator is a
+// point.
 
 /// Numeric value of texte: blanks are skipped and the number is read up to the first character that cannot belong to
 /// it; 0 when none stands there. Never raises.
@@ -17,3 +18,6 @@ QString TexteReel(float valeur);
 
 /// The nearest whole number of 16 bits, a tie going to the even one. Raises Depassement outside -32768 to 32767.
 int EnEntier(double valeur);
+
+/// texte without the blanks (character 32 alone) at both ends.
+QString SansBlancs(const QString &texte);

@@ -5,16 +5,36 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 
 QString DossierFixe;
 
-QString DossierUtilisateur()
+/// Copies what the program was shipped with; a sample that cannot be copied is passed over.
+void CopieExemples(const QString &de, const QString &vers)
+{
+    for (const QLatin1String nom : {QLatin1String("/Conf"), QLatin1String("/Programmes")}) {
+        std::error_code echec;
+        std::filesystem::copy(QFileInfo(de + nom).filesystemFilePath(), QFileInfo(vers + nom).filesystemFilePath(),
+                              std::filesystem::copy_options::recursive, echec);
+    }
+}
+
+QString DossierUtilisateur(const QString &dossierProgramme)
 {
     const QString dossier =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Dorvanel");
-    QDir().mkpath(dossier);
+    if (!QFileInfo::exists(dossier) && QDir().mkpath(dossier))
+        CopieExemples(dossierProgramme, dossier);
     return dossier;
+}
+
+QString DossierOrdinaire()
+{
+    const QString dossier = QCoreApplication::applicationDirPath();
+    return QDir::toNativeSeparators(QFileInfo(dossier).isWritable() ? dossier : DossierUtilisateur(dossier));
 }
 
 } // namespace
@@ -23,8 +43,8 @@ QString DossierApplication()
 {
     if (!DossierFixe.isEmpty())
         return DossierFixe;
-    const QString dossier = QCoreApplication::applicationDirPath();
-    return QDir::toNativeSeparators(QFileInfo(dossier).isWritable() ? dossier : DossierUtilisateur());
+    static const QString dossier = DossierOrdinaire();
+    return dossier;
 }
 
 void FixeDossierApplication(const QString &dossier)

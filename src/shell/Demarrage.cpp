@@ -48,6 +48,7 @@ void LisReglages()
         return;
     }
     IniParDefaut();
+    LangIndex = 0;
     FrmLangue().exec();
     AppliqueLangue();
 }

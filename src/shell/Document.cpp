@@ -7,10 +7,10 @@
 #include "platform/CommonDialog.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
-#include "platform/Lanceur.h"
 #include "shell/Chemins.h"
 #include "shell/FiltresFichiers.h"
 #include "shell/FrmPrinc.h"
+#include "shell/ProgrammesExternes.h"
 #include "shell/Reglages.h"
 
 #include <QDir>
@@ -58,9 +58,6 @@ constexpr Texte3 OuvertureSuite{u". \r Format non reconnu ou fichier déja ouver
                                 u". \r Formato no reconocido o fichero déja abierto por otra aplicación.\r"
                                 u" - Abrir el fichero con Worpad.\r - Registrar el fichero al formato TXT.\r"
                                 u"  Quieren utilizar a WordPad para leer este fichero ?"};
-constexpr Texte3 EditeurIntrouvable{u"Erreur pendant l'ouverture du fichier ou\rEditeur non trouvé !",
-                                    u"Error during the opening of the file or\rEditor not found !",
-                                    u"Error durante la apertura del fichero o\rEditor no encontrado !"};
 
 /// The names of the document, to go back to when a file cannot be opened or saved.
 struct Noms
@@ -99,14 +96,9 @@ void ChoisitDosDefaut()
 
 void ProposeTraitementDeTexte()
 {
-    if (!Confirme(Texte(OuvertureAvant) + TitreFichier + Texte(OuvertureSuite), Boite::Information,
-                  Texte(OuvertureTitre)))
-        return;
-    try {
-        LanceProgramme(QStringLiteral("write.exe"), NomFichier);
-    } catch (const Erreur &) {
-        MsgBox(Texte(EditeurIntrouvable), Boite::Critique, Texte(ErreurTitre));
-    }
+    if (Confirme(Texte(OuvertureAvant) + TitreFichier + Texte(OuvertureSuite), Boite::Information,
+                 Texte(OuvertureTitre)))
+        OuvreAvecTraitementDeTexte(NomFichier);
 }
 
 void ProposeEnregistrement()
@@ -197,9 +189,7 @@ void OpenFile(const QString &path)
     frmPrinc->Text1->LoadFile(path, texteEnrichi ? RichTextBox::TexteRiche : RichTextBox::TexteSimple);
     TitreFenetre(NomFichier);
     frmPrinc->ActiveEmission(!FicConf.isEmpty() && !NomFichier.isEmpty());
-    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_EnregistrerSous, frmPrinc->Mnu_Imprim,
-                            frmPrinc->Bouton(2), frmPrinc->Bouton(4), frmPrinc->Bouton(5)})
-        action->setEnabled(true);
+    frmPrinc->ActiveFichier(true);
     MontreDonnee(frmPrinc->Label2, TitreFichier);
     frmPrinc->Text1->show();
     FichierModifie = 0;

@@ -21,10 +21,8 @@ void RetientTexte()
 void BrancheEdition()
 {
     QObject::connect(frmPrinc->Text1, &RichTextBox::MouseDown, frmPrinc, [](Qt::MouseButton bouton, const QPoint &ou) {
-        if (bouton != Qt::RightButton)
-            return;
-        Mnu_Edition();
-        frmPrinc->Mnu_Edition->popup(ou);
+        if (bouton == Qt::RightButton)
+            frmPrinc->Mnu_Edition->popup(ou);
     });
 }
 

@@ -12,9 +12,6 @@
 #include "shell/SuppressionDossier.h"
 
 #include <QDir>
-#include <QEvent>
-
-#include <array>
 
 namespace {
 
@@ -22,8 +19,6 @@ constexpr Texte3 BulleFerme{u"Afficher l'explorateur de fichiers", u"View explor
                             u"Indicar el explorador de ficheros"};
 constexpr Texte3 BulleOuvert{u"Fermer l'explorateur de fichiers", u"Close explorer files",
                              u"Cerrar el explorador de ficheros"};
-constexpr Texte3 NomArbre{u"Dossiers", u"Directories", u"Directorios"};
-constexpr Texte3 NomListe{u"Fichiers", u"Files", u"Ficheros"};
 
 constexpr Texte3 ErreurTitre{u"Erreur", u"Error", u"Error"};
 constexpr Texte3 FiltreIncorrect{u"Filtre incorrect !", u"Incorrect filter !", u"Filtro incorrecto !"};
@@ -54,34 +49,6 @@ QString SansSeparateur(const QString &dossier)
 {
     return QDir::toNativeSeparators(QDir::cleanPath(dossier));
 }
-
-std::array<QPushButton *, 4> Boutons()
-{
-    return {frmPrinc->Command1, frmPrinc->Command2, frmPrinc->Command3, frmPrinc->Command4};
-}
-
-/// What an assistive program reads where there is no caption: the tool tip of a button, the word for a list.
-void NommeControles()
-{
-    for (QPushButton *bouton : Boutons())
-        bouton->setAccessibleName(bouton->toolTip());
-    frmPrinc->FolderTreeview1->setAccessibleName(Texte(NomArbre));
-    frmPrinc->File1->setAccessibleName(Texte(NomListe));
-}
-
-/// Keeps those names in the language of the tool tips.
-class SuitBulles : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject *controle, QEvent *evenement) override
-    {
-        if (evenement->type() == QEvent::ToolTipChange)
-            NommeControles();
-        return QObject::eventFilter(controle, evenement);
-    }
-};
 
 /// The column starts in the folder where programs are opened; when that has gone (a USB key), in the application
 /// folder.
@@ -199,9 +166,6 @@ void BrancheExplorateur()
     // A completion would put a filter in force that the operator has not typed.
     frmPrinc->Combo1->setCompleter(nullptr);
     QObject::connect(frmPrinc->Combo1, &QComboBox::editTextChanged, frmPrinc, Combo1_Change);
-    auto *const suit = new SuitBulles(frmPrinc);
-    for (QPushButton *bouton : Boutons())
-        bouton->installEventFilter(suit);
 }
 
 void Mnu_AffichDOS()
@@ -211,9 +175,7 @@ void Mnu_AffichDOS()
     if (montre)
         PointeDossier();
     frmPrinc->MontreExplorateur(montre);
-    const QString bulle = Texte(montre ? BulleOuvert : BulleFerme);
-    if (!bulle.isNull())
-        frmPrinc->Bouton(15)->setToolTip(bulle);
+    PoseBulle(frmPrinc->Bouton(15), Texte(montre ? BulleOuvert : BulleFerme));
 }
 
 void FolderTreeview1_Click()

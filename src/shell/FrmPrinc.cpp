@@ -35,6 +35,13 @@ constexpr const char *IconesBoutons[] = {"Mnu_Ouvrir",     "Mnu_EnregistrerSous"
                                          "Mnu_AffichDOS",  "Mnu_Aide",
                                          "Mnu_Apropos"};
 
+// The buttons of the explorer column, which have no entry in the menus.
+constexpr std::pair<QPushButton * Ui_FrmPrinc::*, const char *> IconesExplorateur[] = {
+    {&Ui_FrmPrinc::Command1, "Dossier_Creer"},
+    {&Ui_FrmPrinc::Command2, "Dossier_Supprimer"},
+    {&Ui_FrmPrinc::Command3, "Explorateur_Fermer"},
+    {&Ui_FrmPrinc::Command4, "Dossier_Renommer"}};
+
 QIcon IconeProgramme(const char *nom)
 {
     return Icone(QStringLiteral(":/icones/%1.svg").arg(QLatin1String(nom)));
@@ -98,12 +105,20 @@ void FrmPrinc::PoseIcones()
         if (QAction *const bouton = Bouton(++position))
             bouton->setIcon(IconeProgramme(icone));
     }
+    for (const auto &[bouton, icone] : IconesExplorateur)
+        (this->*bouton)->setIcon(IconeProgramme(icone));
 }
 
 QAction *FrmPrinc::Bouton(int position) const
 {
     QAction *const action = Toolbar1->actions().value(position - 1);
     return action == nullptr || action->isSeparator() ? nullptr : action;
+}
+
+void FrmPrinc::ActiveFichier(bool active)
+{
+    for (QAction *action : {Mnu_EditProg, Mnu_EnregistrerSous, Mnu_Imprim, Bouton(2), Bouton(4), Bouton(5)})
+        action->setEnabled(active);
 }
 
 void FrmPrinc::ActiveEmission(bool active)
@@ -149,8 +164,10 @@ void FrmPrinc::MontreEtat(const QString &message)
 void FrmPrinc::MontrePort(bool ouvert, const QString &texte)
 {
     shpPortOpen->setFillColor(Couleur(ouvert));
-    if (!texte.isNull())
-        lblPortOpen->setText(texte);
+    const QString mots = texte.isNull() ? Texte(ouvert ? PortOuvertTexte : PortFermeTexte) : texte;
+    if (!mots.isNull())
+        lblPortOpen->setText(mots);
+    DitLampes();
 }
 
 void FrmPrinc::EteintTransfert()
@@ -170,7 +187,6 @@ void FrmPrinc::UpdateTimer_Timer()
     shpCD->setFillColor(Couleur(porteuse));
     if (porteuse)
         PortOuvert = true;
-    DitLampes();
 }
 
 void FrmPrinc::Timer2_Timer()
@@ -182,15 +198,31 @@ void FrmPrinc::Timer2_Timer()
 
 void FrmPrinc::DitLampes()
 {
+    const QString allumee = Texte(AllumeeTexte);
+    const QString eteinte = Texte(EteinteTexte);
+    if (allumee.isNull())
+        return;
     const std::pair<Lampe *, QLabel *> paires[] = {{shpPortOpen, lblPortOpen}, {shpCD, lblCD},
                                                    {shpRTS, lblRTS},           {shpCTS, lblCTS},
                                                    {shpSend, lblSend},         {shpReceive, lblReceive}};
     for (const auto &[lampe, nom] : paires) {
-        lampe->setAccessibleName(nom->text());
-        lampe->setTextes(nom->text() + Texte(AllumeeTexte), nom->text() + Texte(EteinteTexte));
+        // The words beside the port's lamp tell its state already.
+        const bool dit = lampe == shpPortOpen;
+        lampe->setTextes(nom->text(), nom->text() + (dit ? QString() : allumee),
+                         nom->text() + (dit ? QString() : eteinte));
     }
-    // The words beside this lamp tell its state already.
-    shpPortOpen->setTextes(lblPortOpen->text(), lblPortOpen->text());
+}
+
+void FrmPrinc::changeEvent(QEvent *evenement)
+{
+    QMainWindow::changeEvent(evenement);
+    if (evenement->type() != QEvent::LanguageChange)
+        return;
+    // The captions of a language say that the port is closed.
+    if (PortOuvert)
+        MontrePort(true);
+    else
+        DitLampes();
 }
 
 void FrmPrinc::closeEvent(QCloseEvent *evenement)

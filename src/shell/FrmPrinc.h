@@ -32,8 +32,12 @@ public:
     /// Shows a state of the port in Etat; Timer2 clears it.
     void MontreEtat(const QString &message);
 
-    /// Shows the port as open or closed in its lamp; texte: the words beside it.
-    void MontrePort(bool ouvert, const QString &texte);
+    /// Shows the port as open or closed in its lamp, with texte beside it; a null text gives the ordinary words.
+    void MontrePort(bool ouvert, const QString &texte = {});
+
+    /// Enables or disables the commands that work on the file in the pane: edit, save, print; entries and buttons 2,
+    /// 4, 5.
+    void ActiveFichier(bool active);
 
     /// Turns the lamps of sending and reception off.
     void EteintTransfert();
@@ -44,7 +48,7 @@ public:
     /// Enables the commands that receive, with their menu and the buttons 10, 12 and 13.
     void ActiveReception();
 
-    /// The toolbar button at a position, 1 to 17 (7 and 14 are separators: nullptr).
+    /// The toolbar button at a position, 1 to 17; nullptr for the separators 7 and 14 and for any other number.
     QAction *Bouton(int position) const;
 
     /// Opens or closes the explorer column, with the menu entry and button 15 that follow it.
@@ -57,6 +61,7 @@ Q_SIGNALS:
     void Form_Unload(); ///< the operator closes the window; it closes when the handler returns
 
 protected:
+    void changeEvent(QEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:

@@ -46,14 +46,16 @@ constexpr Commande Commandes[] = {
 
 } // namespace
 
-void BrancheMenus()
+void Branche()
 {
+    BrancheDocument();
+    BrancheEdition();
+    BrancheExplorateur();
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))
             QObject::connect(bouton, &QAction::triggered, frmPrinc, commande.routine);
     }
-    BrancheExplorateur();
     QObject::connect(frmPrinc->Mnu_Edition, &QMenu::aboutToShow, frmPrinc, Mnu_Edition);
     QObject::connect(frmPrinc->Mnu_Com, &QMenu::aboutToShow, frmPrinc, Mnu_Com);
     QObject::connect(frmPrinc->MSComm1, &MSComm::OnComm, frmPrinc, MSComm1_OnComm);

@@ -1,4 +1,6 @@
 #pragma once
 
-/// Ties every menu entry and toolbar button to the command that serves it. Once, when the main window exists.
-void BrancheMenus();
+/// Ties everything that the operator or the machine does to the routine that serves it: menu entries and toolbar
+/// buttons, the program pane, the explorer column, the events of the line, the closing. Once, when the main window
+/// exists.
+void Branche();

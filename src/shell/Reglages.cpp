@@ -6,6 +6,8 @@
 #include "platform/Nombres.h"
 #include "shell/Chemins.h"
 
+#include <QRegularExpression>
+
 QString DosAppli;
 int OptDosDefaut = 0;
 QString DosDefaut;
@@ -32,11 +34,11 @@ QString LigneCitee(const QString &texte)
 }
 
 /// The language is the one number that may be a text: a comma in the line before it pushes half a path into its place.
+/// Raises Depassement.
 int LangueLue(const QString &champ)
 {
-    bool estNombre = false;
-    const int langue = champ.trimmed().toInt(&estNombre);
-    return estNombre ? langue : LangAucune;
+    static const QRegularExpression debutDeNombre(QStringLiteral(R"(^\s*([+-]?\.?\d|$))"));
+    return debutDeNombre.match(champ).hasMatch() ? EnEntier(Val(champ)) : LangAucune;
 }
 
 } // namespace
@@ -78,7 +80,6 @@ void IniParDefaut()
     FicConfDefaut.clear();
     OptExplorateur = 0;
     DosConf = DossierApplication();
-    LangIndex = 0;
 }
 
 void LisCfg(QString &dosRecep)

@@ -3,8 +3,9 @@
 #include <QString>
 
 // The settings that the program carries from one run to the next, in two small files of the application folder:
-// "Dorvanel.ini" (with LangIndex as its last line) and "Dorvanel.CFG" (with the reception folder of programs, which
-// lives in ParamCom, as its first).
+// "Dorvanel.ini" (with LangIndex as its last line) and "Dorvanel.CFG" (with the reception folder of programs as its
+// first). That folder is a field of ParamCom, which is built on the settings and not below them: so whoever reads the
+// file hands it in.
 
 extern QString DosAppli;      ///< application folder, without final separator; set once at the start
 extern int OptDosDefaut;      ///< 1: the open dialog starts in DosDefaut; 0: in the application folder
@@ -27,10 +28,10 @@ void LisIni();
 /// Writes "Dorvanel.ini" whole. Raises what EcritFichierTexte raises.
 void SauveIni();
 
-/// The values of a first run, which has no "Dorvanel.ini" yet.
+/// The values of a first run, which has no "Dorvanel.ini" yet. LangIndex stays: the operator is asked for it.
 void IniParDefaut();
 
-/// Reads "Dorvanel.CFG" into dosRecep, DosJauge and EditeurCN. Raises as LisIni().
+/// Reads "Dorvanel.CFG" into dosRecep (the reception folder of programs), DosJauge and EditeurCN. Raises as LisIni().
 void LisCfg(QString &dosRecep);
 
 /// The values of a run without "Dorvanel.CFG".

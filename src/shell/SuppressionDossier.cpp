@@ -4,8 +4,8 @@
 #include "platform/Boites.h"
 #include "platform/Dossiers.h"
 #include "platform/Erreur.h"
+#include "platform/FenetreAppelante.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QProgressDialog>
 
@@ -47,7 +47,7 @@ void EffaceEnMontrant(const QString &chemin, const ContenuDossier &contenu)
 {
     constexpr int delai = 500; // milliseconds: what is quicker shows no progress
     const qint64 entrees = contenu.dossiers + contenu.fichiers + 1;
-    QProgressDialog avancement(QApplication::activeWindow());
+    QProgressDialog avancement(FenetreAppelante());
     avancement.setObjectName(QStringLiteral("Avancement"));
     avancement.setWindowTitle(Texte(QuestionTitre));
     avancement.setLabelText(chemin);

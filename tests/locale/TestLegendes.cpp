@@ -33,9 +33,10 @@ void TestLegendes::Traduites()
         const Em_Rc d(nullptr);
         const FrmPrinc &f = *frmPrinc;
         QCOMPARE((QStringList{f.windowTitle(), f.Mnu_Fichier->title(), f.Mnu_EnregistrerSous->text(),
-                              f.Bouton(17)->toolTip(), f.Frame1->title(), f.Label2->text()}
+                              f.Bouton(17)->toolTip(), f.Frame1->title(), f.Label2->text(), f.Toolbar1->windowTitle()}
                       .join(u'|')),
                  attendus[langue][0]);
+        QCOMPARE(f.Bouton(17)->text(), f.Bouton(17)->toolTip());
         QCOMPARE(
             (QStringList{d.windowTitle(), d.Frame2->title(), d.Command2->text(), d.Command1->toolTip()}.join(u'|')),
             attendus[langue][1]);

@@ -15,6 +15,7 @@ class TestFrmPrinc : public QObject
 
 private Q_SLOTS:
     void Taille();
+    void RienNEstCoupe();
     void Lampes();
     void MessageEtat();
 };
@@ -33,6 +34,31 @@ void TestFrmPrinc::Taille()
     QCOMPARE(frmPrinc->Frame1->width(), colonne);
     QVERIFY(frmPrinc->Frame1->mapTo(frmPrinc, QPoint()).x() < frmPrinc->Text1->mapTo(frmPrinc, QPoint()).x());
     QVERIFY(frmPrinc->Text1->mapTo(frmPrinc, QPoint()).y() < frmPrinc->Picture11->mapTo(frmPrinc, QPoint()).y());
+}
+
+// In the smallest window every word of the status panel has its room but for the data, which are cut with an ellipsis;
+// the panel keeps its height whatever is shown above it or written in it.
+void TestFrmPrinc::RienNEstCoupe()
+{
+    for (int langue = 0; langue < 3; ++langue) {
+        Poste poste;
+        poste.Demarre(langue);
+        poste.Charge("G0");
+        frmPrinc->resize(frmPrinc->minimumSize());
+        QCoreApplication::processEvents();
+        const int hauteur = frmPrinc->Picture11->height();
+        frmPrinc->MontrePort(true);
+        frmPrinc->MontreEtat(QStringLiteral("CTS"));
+        frmPrinc->Text1->hide();
+        QCoreApplication::processEvents();
+        QCOMPARE(frmPrinc->Picture11->height(), hauteur);
+        const auto labels = frmPrinc->Picture11->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            QVERIFY2(frmPrinc->Picture11->rect().contains(label->geometry()), qPrintable(label->objectName()));
+            if (qobject_cast<const LabelElide *>(label) == nullptr)
+                QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+        }
+    }
 }
 
 // The lamps follow the port once a second, in the language; a lamp tells its state in words too.

@@ -1,4 +1,4 @@
-#include "shell/CentreFeuille.h"
+#include "platform/CentreFeuille.h"
 
 #include <QScreen>
 #include <QWidget>

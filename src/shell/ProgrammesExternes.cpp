@@ -1,0 +1,24 @@
+#include "shell/ProgrammesExternes.h"
+
+#include "locale/Langue.h"
+#include "platform/Boites.h"
+#include "platform/Erreur.h"
+#include "platform/Lanceur.h"
+
+namespace {
+
+constexpr Texte3 ErreurTitre{u"Erreur", u"Error", u"Error"};
+constexpr Texte3 EditeurIntrouvable{u"Erreur pendant l'ouverture du fichier ou\rEditeur non trouvé !",
+                                    u"Error during the opening of the file or\rEditor not found !",
+                                    u"Error durante la apertura del fichero o\rEditor no encontrado !"};
+
+} // namespace
+
+void OuvreAvecTraitementDeTexte(const QString &chemin)
+{
+    try {
+        LanceProgramme(QStringLiteral("write.exe"), chemin);
+    } catch (const Erreur &) {
+        MsgBox(Texte(EditeurIntrouvable), Boite::Critique, Texte(ErreurTitre));
+    }
+}
