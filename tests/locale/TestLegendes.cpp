@@ -22,11 +22,11 @@ private Q_SLOTS:
 void TestLegendes::Traduites()
 {
     const QString attendus[][2] = {
-        {u"Dorvanel Pro version 2.7.0|&Fichier|Enregistrer &Sous...|A propos|Explorateur de fichiers |Aucun"_s,
+        {u"Dorvanel Pro version 2.7.0|&Fichier|Enregistrer &Sous...|A propos|Explorateur de fichiers |Aucun|Barre d'outils"_s,
          u"Transfert|Configuration de communication sélectionnée |Emission...|Annule le transfert"_s},
-        {u"Dorvanel Pro version 1.7.0|File|Save_As...|Author|File exploreur|None"_s,
+        {u"Dorvanel Pro version 1.7.0|File|Save_As...|Author|File exploreur|None|Toolbar"_s,
          u"Transfer|Configuration of selected communication |Sending...|Cancel the transfer"_s},
-        {u"Dorvanel Pro versión 1.7.0|Ficheros|Registrar bajo...|A propósito|Explorador de ficheros|Ningún"_s,
+        {u"Dorvanel Pro versión 1.7.0|Ficheros|Registrar bajo...|A propósito|Explorador de ficheros|Ningún|Barra de herramientas"_s,
          u"Transferencia|Configuración de comunicación seleccionada|Emisión...|Cancela la transferencia"_s}};
     for (int langue = 0; langue < 3; ++langue) {
         const Poste poste(langue);

@@ -94,6 +94,8 @@ void TestDemarrage::IniCorrige()
         // A comma in line 6 pushes the language away.
         {" 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/a,b\r\n 1 \r\n",
          " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/a\r\n-1 \r\n", LangAucune},
+        {"1\n\"/x\"\n0\n\"\"\n0\n/a,2 b\r\n", " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/a\r\n 2 \r\n", 2},
+        {"1\n\"/x\"\n0\n\"\"\n0\n/c\n \n", " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/c\r\n 0 \r\n", 0},
         {"1\n\"/x\"\n0\n\"\"\n0\n/c\n9", " 1 \r\n\"/x\"\r\n 0 \r\n\"\"\r\n 0 \r\n/c\r\n 9 \r\n", 9}};
     for (auto [avant, apres, langue] : fichiers) {
         Poste poste;

@@ -2,6 +2,7 @@
 #include "Operateur.h"
 #include "Poste.h"
 
+#include "locale/Legendes.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
 
@@ -41,14 +42,13 @@ void TestFrmPrinc::Taille()
 void TestFrmPrinc::RienNEstCoupe()
 {
     for (int langue = 0; langue < 3; ++langue) {
-        Poste poste;
-        poste.Demarre(langue);
+        const Poste poste(langue);
         poste.Charge("G0");
         frmPrinc->resize(frmPrinc->minimumSize());
         QCoreApplication::processEvents();
         const int hauteur = frmPrinc->Picture11->height();
         frmPrinc->MontrePort(true);
-        frmPrinc->MontreEtat(QStringLiteral("CTS"));
+        frmPrinc->MontreEtat(u"CTS"_s);
         frmPrinc->Text1->hide();
         QCoreApplication::processEvents();
         QCOMPARE(frmPrinc->Picture11->height(), hauteur);
@@ -84,7 +84,12 @@ void TestFrmPrinc::Lampes()
         for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpRTS, frmPrinc->shpCTS, frmPrinc->shpSend})
             QCOMPARE(lampe->FillColor(), ouvre ? Lampe::Verte : Lampe::Rouge);
         QCOMPARE(frmPrinc->shpCD->FillColor(), Lampe::Rouge);
-        QCOMPARE(frmPrinc->shpCTS->toolTip() == frmPrinc->shpCD->toolTip().replace("CD"_L1, "CTS"_L1), !ouvre);
+        if (!ouvre)
+            continue;
+        QVERIFY(frmPrinc->shpCTS->toolTip() != frmPrinc->shpCD->toolTip().replace("CD"_L1, "CTS"_L1));
+        QCOMPARE(frmPrinc->shpPortOpen->accessibleName(), u"Open Port"_s);
+        AppliqueLangue(); // whose caption is that of a closed port
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Open Port"_s);
     }
 
     scenario->etats = EtatsLigne{false, false, true, false}; // a carrier makes the port count as open
