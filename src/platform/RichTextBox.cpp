@@ -112,15 +112,20 @@ RichTextBox::RichTextBox(QWidget *parent)
     setLineWrapMode(NoWrap);
     setFont(PoliceOrdinaire());
     setTabStopDistance(ColonnesTabulation * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
-    connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int ajoutes) {
-        m_couture1 = position;
-        m_couture2 = position + ajoutes;
-    });
+    SuitDocument();
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (m_muet)
             return;
         RecolleFins();
         Q_EMIT Change();
+    });
+}
+
+void RichTextBox::SuitDocument()
+{
+    connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int ajoutes) {
+        m_couture1 = position;
+        m_couture2 = position + ajoutes;
     });
 }
 
@@ -132,6 +137,31 @@ QString RichTextBox::Text() const
 void RichTextBox::setText(const QString &texte)
 {
     Remplace(Normalise(texte), FormatA(0));
+}
+
+void RichTextBox::PrendTexte(RichTextBox &autre)
+{
+    if (FormatA(0).propertyCount() > 0 || font() != autre.font()) {
+        setText(autre.Text());
+    } else {
+        // The two panes exchange their documents. A document with a parent would go with the pane that lets go of it.
+        QTextDocument *const mien = document();
+        QTextDocument *const sien = autre.document();
+        mien->disconnect(this);
+        sien->disconnect(&autre);
+        mien->setParent(nullptr);
+        sien->setParent(nullptr);
+        setDocument(sien);
+        autre.setDocument(mien);
+        sien->setParent(this);
+        mien->setParent(&autre);
+        SuitDocument();
+        autre.SuitDocument();
+        std::swap(m_finsDiverses, autre.m_finsDiverses);
+        RevientAuDebut();
+        Q_EMIT Change();
+    }
+    autre.setText(QString());
 }
 
 bool RichTextBox::EstVide() const

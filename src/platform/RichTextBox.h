@@ -31,6 +31,10 @@ public:
     QString Text() const;
     void setText(const QString &texte);
 
+    /// Takes over the text of another pane, which is empty then. Nothing is copied, however long the text, unless this
+    /// pane shows its text in a look of its own, which the text then takes.
+    void PrendTexte(RichTextBox &autre);
+
     bool EstVide() const;
 
     /// The selected text. Setting it replaces the selection, in the look of its beginning, and leaves the insertion
@@ -99,6 +103,7 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    void SuitDocument();
     void Remplace(const QString &texte, const QTextCharFormat &format);
     void Vide(const QTextCharFormat &format);
     void RevientAuDebut();

@@ -32,11 +32,11 @@ constexpr Texte3 CaractereEcho{u"Caractère émis / reçu", u"Emitted / received
 struct Mode
 {
     ModeTransfert type;
+    bool emission; ///< the operator starts it by Command2; a reception starts by itself
     Texte3 titre;
     Texte3 consignes;
     Texte3 statut;
     const char *image;
-    bool emission; ///< the operator starts it by Command2; a reception starts by itself
 };
 
 constexpr Texte3 PuisCliquez{u"Puis cliquez sur le bouton < Emission... >", u"Then click on the button < Emission... >",
@@ -46,15 +46,16 @@ constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receive"
 
 constexpr Mode Modes[] = {
     {EmissionProgramme,
+     true,
      {u"Emission d'un programme CN", u"Sending of a program", u"Emisión de un programa"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Chargement Programme\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Chargement mode Programs\r\rSupport on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento Programa\r\r"
       u"Apoyar en Salida de Ciclo"},
      PuisCliquez,
-     ":/icones/Mode_1.svg",
-     true},
+     ":/icones/Mode_1.svg"},
     {EmissionJauges,
+     true,
      {u"Emission des jauges outils", u"Sending of the gauges tools", u"Emisión de las Cabidas instrumentos"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Chargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Loading mode of the Gauges Tools\r\r"
@@ -62,18 +63,18 @@ constexpr Mode Modes[] = {
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento de las Cabidas instrumentos\r"
       u"Apoyar en Salida de Ciclo"},
      PuisCliquez,
-     ":/icones/Mode_2.svg",
-     true},
+     ":/icones/Mode_2.svg"},
     {ReceptionProgramme,
+     false,
      {u"Réception d'un programme CN", u"Receiving of a program", u"Recepción de un programa"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Déchargement Programme\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Déchargement mode Programs\r\rSupport on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga Programa\r\r"
       u"Apoyar en Salida de Ciclo"},
      EnAttente,
-     ":/icones/Mode_3.svg",
-     false},
+     ":/icones/Mode_3.svg"},
     {ReceptionJauges,
+     false,
      {u"Réception des jauges outils", u"Receiving of the gauges tools", u"Recepción de las Cabidas instrumentos"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Déchargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Unloading mode of the Gauges Tools\r\r"
@@ -81,8 +82,7 @@ constexpr Mode Modes[] = {
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga de las Cabidas instrumentos\r\r"
       u"Apoyar en Salida de Ciclo"},
      EnAttente,
-     ":/icones/Mode_4.svg",
-     false},
+     ":/icones/Mode_4.svg"},
 };
 
 constexpr Texte3 ForcerTitre{u"Forcer la fin de réception", u"Force the end of receiving",

@@ -6,10 +6,10 @@
 #include "platform/CommonDialog.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
-#include "platform/Lanceur.h"
 #include "shell/Document.h"
 #include "shell/FiltresFichiers.h"
 #include "shell/FrmPrinc.h"
+#include "shell/ProgrammesExternes.h"
 #include "transfer/Transfert.h"
 
 #include <QFileInfo>
@@ -35,9 +35,7 @@ void VidePane()
     MontreDonnee(frmPrinc->Label2, QString());
     frmPrinc->Text1->setText(QString());
     frmPrinc->Text1->hide();
-    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_EnregistrerSous, frmPrinc->Mnu_Imprim,
-                            frmPrinc->Bouton(2), frmPrinc->Bouton(4), frmPrinc->Bouton(5)})
-        action->setEnabled(false);
+    frmPrinc->ActiveFichier(false);
 }
 
 void ProposeTraitementDeTexte()
@@ -46,7 +44,7 @@ void ProposeTraitementDeTexte()
                              QStringLiteral(" est trop volumineux pour être ouvert par Brovane.\r"
                                             "           Voulez-vous utiliser WordPad pour lire ce fichier ?");
     if (Confirme(question, Boite::Information, QStringLiteral("Message")))
-        LanceProgramme(QStringLiteral("write"), CheminRecep());
+        OuvreAvecTraitementDeTexte(CheminRecep());
 }
 
 void MontreFichier()
@@ -55,9 +53,7 @@ void MontreFichier()
     TitreFenetre(CheminRecep());
     MontreDonnee(frmPrinc->Label2, NomFicRecep);
     frmPrinc->Text1->show();
-    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_EnregistrerSous, frmPrinc->Mnu_Imprim,
-                            frmPrinc->Bouton(2), frmPrinc->Bouton(4), frmPrinc->Bouton(5)})
-        action->setEnabled(true);
+    frmPrinc->ActiveFichier(true);
     frmPrinc->ActiveEmission(true);
 }
 

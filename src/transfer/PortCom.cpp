@@ -105,7 +105,6 @@ constexpr TexteErreur Textes[] = {
 constexpr Texte3 ErreurNumero{u"Erreur N°: ", u"Error N°: ", u"Error N°: "};
 constexpr Texte3 Fermeture{u"Fermeture du port de communication", u"Closing of the port of communication",
                            u"Cierre del puerto de comunicación"};
-constexpr Texte3 PortOuvertTexte{u"Port Ouvert", u"Open Port", u"Port Abierto"};
 constexpr Texte3 PortFermeTexte{u"Port Fermé", u"Closed Port", u"Port Cerrado"};
 constexpr Texte3 Fermer{u"&Fermer", u"&Close", u"&Cerrarse"};
 
@@ -142,7 +141,7 @@ void OuvrePortCOM()
             return;
         controle.setCommPort(ParamCom.NumPort);
         controle.setPortOpen(true);
-        frmPrinc->MontrePort(true, Texte(PortOuvertTexte));
+        frmPrinc->MontrePort(true);
         PortOuvert = true;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreurPort(erreur));

@@ -142,6 +142,13 @@ void AttendFichier(Ui::Em_Rc &dialogue)
     } while (FinTransfert != 1 && AnnuleRECEPT != 1);
 }
 
+/// panneau: where the received text stands.
+void Echoue(const Erreur &erreur, Ui::Em_Rc &dialogue, const RichTextBox &panneau)
+{
+    ErreurPortCOM(erreur, dialogue);
+    SauveAilleurs(panneau.Text());
+}
+
 void TermineFichier(Ui::Em_Rc &dialogue)
 {
     if (Controle().PortOpen()) {
@@ -158,9 +165,13 @@ void TermineFichier(Ui::Em_Rc &dialogue)
     frmPrinc->Text2->hide();
     frmPrinc->EteintTransfert();
     PoseTexte(dialogue.Label2, Reussi);
-    const QString texte = frmPrinc->Text2->Text();
-    frmPrinc->Text1->setText(texte);
-    EcritFichierRecu(texte);
+    frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
+    try {
+        EcritFichierRecu(frmPrinc->Text1->Text());
+    } catch (const Erreur &erreur) {
+        Echoue(erreur, dialogue, *frmPrinc->Text1);
+        return;
+    }
     TitreFenetre(NomFicRecep);
     MontreDonnee(frmPrinc->Label2, NomFicRecep);
     FichierModifie = 0;
@@ -192,8 +203,7 @@ void ReceptionFichier(Ui::Em_Rc &dialogue)
             TermineFichier(dialogue);
     } catch (const Erreur &erreur) {
         Prend();
-        ErreurPortCOM(erreur, dialogue);
-        SauveAilleurs(frmPrinc->Text2->Text());
+        Echoue(erreur, dialogue, *frmPrinc->Text2);
     }
 }
 
