@@ -178,7 +178,7 @@ void FrmPrinc::EteintTransfert()
 
 void FrmPrinc::UpdateTimer_Timer()
 {
-    MontrePort(PortOuvert, Texte(PortOuvert ? PortOuvertTexte : PortFermeTexte));
+    MontrePort(PortOuvert);
     if (!PortOuvert)
         EteintTransfert();
     shpRTS->setFillColor(Couleur(PortOuvert && MSComm1->RTSEnable()));
