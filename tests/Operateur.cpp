@@ -1,17 +1,14 @@
 #include "Operateur.h"
 
-#include "platform/Boites.h"
 #include "shell/FrmPrinc.h"
 
 #include <QApplication>
-#include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 
 #include <algorithm>
-#include <QToolButton>
 
 namespace {
 
@@ -86,6 +83,17 @@ void Operateur::Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux,
                 Etonne(&boite);
         },
         {}, ou);
+}
+
+void Operateur::LitErreur(int numero, const QString &texte, Lieu ou)
+{
+    Repond(QStringLiteral("Erreur N°:  %1Fermeture du port de communication").arg(numero), texte, Boite::Critique,
+           QMessageBox::Ok, ou);
+}
+
+Operateur::Geste Operateur::Clique(QMessageBox::StandardButton bouton)
+{
+    return [bouton](QWidget &boite) { dynamic_cast<QMessageBox &>(boite).button(bouton)->click(); };
 }
 
 void Operateur::Choisit(QAnyStringView chemin, Lieu ou)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Boites.h"
+
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
@@ -18,6 +20,10 @@ class Operateur
 public:
     using Condition = std::function<bool()>;
     using Geste = std::function<void(QWidget &fenetre)>;
+
+    // What most boxes that ask bear: Yes and No, with No or Yes under Enter.
+    static constexpr int Demande = Boite::Question | Boite::OuiNon | Boite::SecondBouton;
+    static constexpr int DemandeSimple = Boite::Exclamation | Boite::OuiNon;
 
     /// The line of the test that foretold something; a failure is reported there.
     struct Lieu
@@ -38,6 +44,10 @@ public:
     /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/Boites.h) is answered.
     void Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
                 Lieu ou = Lieu::Ici());
+    /// The box, in French, of a transfer that an error has ended.
+    void LitErreur(int numero, const QString &texte, Lieu ou = Lieu::Ici());
+    /// Presses a button of a box of the system's own; a gesture for Fait.
+    static Geste Clique(QMessageBox::StandardButton bouton);
     /// A file dialog: the name is typed and taken, or the dialog is cancelled.
     void Choisit(QAnyStringView chemin, Lieu ou = Lieu::Ici());
     void AnnuleChoix(Lieu ou = Lieu::Ici());

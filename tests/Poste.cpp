@@ -25,6 +25,13 @@ Poste::Poste()
     RemetEnregistrements();
 }
 
+Poste::Poste(int langue)
+    : Poste()
+{
+    Ecrit("Dorvanel.ini", " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + QByteArray::number(langue) + " \r\n");
+    Demarre();
+}
+
 Poste::~Poste()
 {
     m_fenetre.reset();
@@ -57,12 +64,6 @@ void Poste::Demarre()
     Branche();
     Form_Load();
     m_fenetre->show();
-}
-
-void Poste::Demarre(int langue)
-{
-    Ecrit("Dorvanel.ini", " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + QByteArray::number(langue) + " \r\n");
-    Demarre();
 }
 
 QString Poste::Ecrit(QAnyStringView nom, const QByteArray &octets) const

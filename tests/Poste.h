@@ -13,13 +13,13 @@ class Poste
 {
 public:
     Poste();
+    /// Starts with an ordinary "Dorvanel.ini" of that language. 0 French, 1 English, 2 Spanish.
+    explicit Poste(int langue);
     ~Poste();
     Q_DISABLE_COPY_MOVE(Poste)
 
     /// Starts the program as the process does. Without a "Dorvanel.ini" the language dialog comes.
     void Demarre();
-    /// Writes an ordinary "Dorvanel.ini" of that language and starts. 0 French, 1 English, 2 Spanish.
-    void Demarre(int langue);
 
     QString Dossier() const { return m_dossier.path(); }
     /// Path of a file in the application folder.

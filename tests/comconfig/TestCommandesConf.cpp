@@ -2,32 +2,23 @@
 #include "Poste.h"
 
 #include "comconfig/ParamCom.h"
-#include "platform/Boites.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QTest>
 
-namespace {
+using namespace Qt::Literals::StringLiterals;
 
-constexpr char ChargeConf[] = "Mnu_ChargeConf";
+namespace {
 
 /// The commands that a configuration enables: receiving, sending.
 QList<bool> Actives()
 {
     return {Operateur::Offre("Mnu_RecepProg"), frmPrinc->Bouton(10)->isEnabled(), Operateur::Offre("Mnu_EmisProgCN"),
             frmPrinc->Bouton(11)->isEnabled()};
-}
-
-QString Complet(const Poste &poste)
-{
-    QString chemin = poste.Chemin("Tour.par");
-    QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), chemin);
-    return chemin;
 }
 
 } // namespace
@@ -38,86 +29,71 @@ class TestCommandesConf : public QObject
 
 private Q_SLOTS:
     void Charge();
-    void Dialogue();
     void Erronee();
+
+private:
+    const QString m_complet = QString::fromUtf16(DONNEES) + u"/Complet.par"_s;
 };
 
-// Receiving needs a configuration, sending a file too; the file may come before or after.
+// Receiving needs a configuration, sending a file too; the file may come before or after. The dialog opens on the
+// folder of configurations; cancelling it changes nothing.
 void TestCommandesConf::Charge()
 {
     for (const bool fichierDAbord : {false, true}) {
-        Poste poste;
-        poste.Demarre(0);
+        const Poste poste(2);
         Operateur operateur;
-        QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
         const QString programme = poste.Ecrit("P.iso", "G0");
         if (fichierDAbord)
             OuvreDocument(programme);
+        DosConf = QDir::rootPath();
+        operateur.Fait("CommonDialog", [](QWidget &fenetre) {
+            auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
+            QCOMPARE(dialogue.windowTitle(), u"Seleccionar una configuración de comunicación"_s);
+            QCOMPARE(dialogue.selectedNameFilter(), u"Ficheros parámetros (*.par)"_s);
+            QCOMPARE(dialogue.directory(), QDir(DosConf));
+            dialogue.reject();
+        });
+        Operateur::Barre(8);
+        QCOMPARE(QDir::current(), QDir(DosAppli));
+        QCOMPARE(FicConf + NomConf + ParamCom.NomPort, QString());
         QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
-        operateur.Choisit(Complet(poste));
-        Operateur::Menu(ChargeConf);
+
+        operateur.Choisit(m_complet);
+        Operateur::Menu("Mnu_ChargeConf");
         QCOMPARE(Actives(), QList<bool>({true, true, fichierDAbord, fichierDAbord}));
         OuvreDocument(programme);
         QCOMPARE(Actives(), QList<bool>({true, true, true, true}));
-
-        QCOMPARE(FicConf + NomConf, poste.Chemin("Tour.par") + QStringLiteral("Tour.par"));
-        QCOMPARE(frmPrinc->Label4->text(), QStringLiteral("Tour.par"));
-        QCOMPARE(frmPrinc->Label6->text(), QStringLiteral("Tour 2 axes, été €"));
-        QCOMPARE(ParamCom.ChaineFinLig, QStringLiteral("\r\r\n"));
+        QCOMPARE(FicConf + NomConf, m_complet + u"Complet.par"_s);
+        QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), u"Complet.parTour 2 axes, été €"_s);
+        QCOMPARE(ParamCom.ChaineFinLig, u"\r\r\n"_s);
     }
-}
-
-// The dialog opens on the folder of configurations, in the language; cancelling it changes nothing.
-void TestCommandesConf::Dialogue()
-{
-    Poste poste;
-    poste.Demarre(2);
-    QDir(poste.Dossier()).mkdir(QStringLiteral("Conf"));
-    DosConf = poste.Chemin("Conf");
-    QDir::setCurrent(QStringLiteral("/"));
-    Operateur operateur;
-    operateur.Fait("CommonDialog", [](QWidget &fenetre) {
-        auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
-        QCOMPARE(dialogue.windowTitle(), QStringLiteral("Seleccionar una configuración de comunicación"));
-        QCOMPARE(dialogue.selectedNameFilter(), QStringLiteral("Ficheros parámetros (*.par)"));
-        QCOMPARE(dialogue.directory(), QDir(DosConf));
-        dialogue.reject();
-    });
-    Operateur::Barre(8);
-    QCOMPARE(QDir::current(), QDir(DosAppli));
-    QCOMPARE(FicConf + NomConf + ParamCom.NomPort, QString());
-    QVERIFY(!frmPrinc->Mnu_RecepProg->isEnabled());
 }
 
 // A file that breaks off: the record holds what was read, while menus, labels and derived strings stay as they were.
 void TestCommandesConf::Erronee()
 {
-    Poste poste;
-    poste.Demarre(0);
+    const Poste poste(1);
     Operateur operateur;
-    QFile complet(Complet(poste));
+    QFile complet(m_complet);
     QVERIFY(complet.open(QIODevice::ReadOnly));
     const QString courte = poste.Ecrit("Courte.par", complet.readAll().chopped(5)); // no last line
-    const auto charge = [&] {
+    for (const bool apresUneBonne : {false, true}) {
+        if (apresUneBonne) {
+            operateur.Choisit(m_complet);
+            Operateur::Menu("Mnu_ChargeConf");
+        }
         operateur.Choisit(courte);
-        operateur.Repond("Fichier de configuration erroné ou de version antérieure !",
-                         "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
-                         Boite::Exclamation, QMessageBox::Ok);
-        Operateur::Menu(ChargeConf);
-    };
-    charge();
-    QCOMPARE(Actives(), QList<bool>({false, false, false, false}));
-    QCOMPARE(FicConf + NomConf, courte + QStringLiteral("Courte.par"));
-    QCOMPARE(ParamCom.NomPort, QStringLiteral("Com3"));
-    QCOMPARE(ParamCom.ChaineFinLig, QString());
-    QCOMPARE(ParamCom.TypeEnvoi, 0);
-
-    operateur.Choisit(complet.fileName());
-    Operateur::Menu(ChargeConf);
-    charge();
-    QCOMPARE(Actives(), QList<bool>({true, true, false, false}));
-    QCOMPARE(frmPrinc->Label4->text(), QStringLiteral("Tour.par"));
-    QCOMPARE(ParamCom.TypeEnvoi, 1);
+        operateur.Repond("Erroneous file of configuration",
+                         "File of configuration of former version !\rModify to record some again.", Boite::Exclamation,
+                         QMessageBox::Ok);
+        Operateur::Menu("Mnu_ChargeConf");
+        QCOMPARE(Actives(), QList<bool>({apresUneBonne, apresUneBonne, false, false}));
+        QCOMPARE(FicConf + NomConf, courte + u"Courte.par"_s);
+        QCOMPARE(ParamCom.NomPort, u"Com3"_s);
+        QCOMPARE(ParamCom.ChaineFinLig, apresUneBonne ? u"\r\r\n"_s : QString());
+        QCOMPARE(ParamCom.TypeEnvoi, apresUneBonne ? 1 : 0);
+        QCOMPARE(frmPrinc->Label4->text(), apresUneBonne ? u"Complet.par"_s : u"None"_s);
+    }
 }
 
 QTEST_MAIN(TestCommandesConf)

@@ -2,79 +2,60 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class TestLignes : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void Coupe_data();
     void Coupe();
     void Capacite();
     void Maxi();
 };
 
-void TestLignes::Coupe_data()
-{
-    QTest::addColumn<QString>("texte");
-    QTest::addColumn<QStringList>("lignes");
-    const auto ligne = [](const char *nom, const char *texte, std::initializer_list<const char *> lignes) {
-        QStringList attendues;
-        for (const char *attendue : lignes)
-            attendues << QString::fromLatin1(attendue);
-        QTest::newRow(nom) << QString::fromLatin1(texte) << attendues;
-    };
-    ligne("empty", "", {""});
-    ligne("one line, blanks at both ends", "  G0 X1  ", {"G0 X1"});
-    ligne("a tab is no blank", "\tG0\t", {"\tG0\t"});
-    ligne("three lines", " A \r\n B \r\n C ", {" A \r", "\n B \r", "\n C"});
-    ligne("last CR LF", "A\r\n", {"A\r", "\n"});
-    ligne("empty lines", "\r\n\r\nA", {"\r", "\n\r", "\nA"});
-    ligne("lone CR, lone LF", "A\rB\nC\n\rD", {"A\rB\nC\n\rD"});
-    ligne("CR CR LF", "A\r\r\nB", {"A\r\r", "\nB"});
-}
-
 void TestLignes::Coupe()
 {
-    QFETCH(QString, texte);
-    QFETCH(QStringList, lignes);
-    std::fill(Lignes.begin() + 1, Lignes.end(), QStringLiteral("before"));
-    CalculeLigne(texte);
-    QCOMPARE(NbLignes, lignes.size());
-    for (int i = 1; i <= NbLignes; ++i)
-        QCOMPARE(Lignes[std::size_t(i)], lignes[i - 1]);
-    QVERIFY(
-        std::all_of(Lignes.begin() + NbLignes + 1, Lignes.end(), [](const QString &reste) { return reste.isEmpty(); }));
+    const std::pair<QString, QStringList> textes[] = {{u""_s, {u""_s}},
+                                                      {u"  G0 X1  "_s, {u"G0 X1"_s}},
+                                                      {u"\tG0\t"_s, {u"\tG0\t"_s}}, // a tab is no blank
+                                                      {u" A \r\n B \r\n C "_s, {u" A \r"_s, u"\n B \r"_s, u"\n C"_s}},
+                                                      {u"A\r\n"_s, {u"A\r"_s, u"\n"_s}},
+                                                      {u"\r\n\r\nA"_s, {u"\r"_s, u"\n\r"_s, u"\nA"_s}},
+                                                      {u"A\rB\nC\n\rD"_s, {u"A\rB\nC\n\rD"_s}},
+                                                      {u"A\r\r\nB"_s, {u"A\r\r"_s, u"\nB"_s}}};
+    for (const auto &[texte, lignes] : textes) {
+        std::fill(Lignes.begin() + 1, Lignes.end(), u"before"_s);
+        CalculeLigne(texte);
+        QCOMPARE(QStringList(Lignes.begin() + 1, Lignes.begin() + 1 + NbLignes), lignes);
+        QVERIFY(std::all_of(Lignes.begin() + 1 + NbLignes, Lignes.end(), [](const QString &l) { return l.isEmpty(); }));
+    }
 }
 
 // One line too many fills the table and leaves the count of the text before it.
 void TestLignes::Capacite()
 {
-    const QString pleine = QStringLiteral("N\r\n").repeated(CapaciteLignes - 1) + QStringLiteral("FIN");
+    const QString pleine = u"N\r\n"_s.repeated(CapaciteLignes - 1) + u"FIN"_s;
     CalculeLigne(pleine);
     QCOMPARE(NbLignes, CapaciteLignes);
-    QCOMPARE(Lignes.back(), QStringLiteral("\nFIN"));
+    QCOMPARE(Lignes.back(), u"\nFIN"_s);
 
-    CalculeLigne(QStringLiteral("A\r\nB"));
-    CalculeLigne(pleine + QStringLiteral("\r\n"));
+    CalculeLigne(u"A\r\nB"_s);
+    CalculeLigne(pleine + u"\r\n"_s);
     QCOMPARE(NbLignes, 2);
-    QCOMPARE(Lignes.back(), QStringLiteral("\nFIN\r"));
+    QCOMPARE(Lignes.back(), u"\nFIN\r"_s);
 }
 
+// The last line that holds more than blanks; a line end is no blank.
 void TestLignes::Maxi()
 {
     VideLignes();
-    CalculeMaxi();
-    QCOMPARE(LigneMaxi, 0);
-    Lignes[1] = QStringLiteral("   ");
-    CalculeMaxi();
-    QCOMPARE(LigneMaxi, 0);
-    Lignes[3] = QStringLiteral(" A");
-    Lignes[4] = QStringLiteral("  ");
-    CalculeMaxi();
-    QCOMPARE(LigneMaxi, 3);
-    Lignes[CapaciteLignes] = QStringLiteral("\n"); // a line end is no blank
-    CalculeMaxi();
-    QCOMPARE(LigneMaxi, CapaciteLignes);
+    for (const auto &[ligne, texte, maxi] :
+         {std::tuple{1, u"   "_s, 0}, {3, u" A"_s, 3}, {4, u"  "_s, 3}, {CapaciteLignes, u"\n"_s, CapaciteLignes}}) {
+        Lignes[std::size_t(ligne)] = texte;
+        CalculeMaxi();
+        QCOMPARE(LigneMaxi, maxi);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestLignes)

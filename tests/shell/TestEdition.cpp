@@ -8,33 +8,26 @@
 #include <QMimeData>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-/// Which of the entries the operator can choose now, by their initials: A undo, u cut, o copy, l paste, S delete.
-QString Offres()
+/// A workstation with a program in the pane and a part of it selected.
+struct Atelier : Poste
 {
-    QString offres;
-    for (const auto &[entree, initiale] : {std::pair{"Mnu_Annuler", 'A'},
-                                           {"Mnu_Couper", 'u'},
-                                           {"Mnu_Copier", 'o'},
-                                           {"Mnu_Coller", 'l'},
-                                           {"Mnu_Supprimer", 'S'}}) {
-        if (Operateur::Offre(QLatin1String(entree)))
-            offres += QLatin1Char(initiale);
+    Atelier(int debut, int longueur, const QByteArray &programme = "N10\nN20\r\nN30")
+        : Poste(0)
+    {
+        OuvreDocument(Ecrit("P.iso", programme));
+        Selectionne(debut, longueur);
     }
-    return offres;
-}
 
-void Selectionne(int debut, int longueur)
-{
-    frmPrinc->Text1->setSelStart(debut);
-    frmPrinc->Text1->setSelLength(longueur);
-}
-
-void Ouvre(const Poste &poste)
-{
-    OuvreDocument(poste.Ecrit("P.iso", "N10\nN20\r\nN30"));
-}
+    static void Selectionne(int debut, int longueur)
+    {
+        frmPrinc->Text1->setSelStart(debut);
+        frmPrinc->Text1->setSelLength(longueur);
+    }
+};
 
 } // namespace
 
@@ -44,7 +37,6 @@ class TestEdition : public QObject
 
 private Q_SLOTS:
     void Entrees();
-    void Commandes_data();
     void Commandes();
     void CopieVersAilleurs();
     void Raccourcis();
@@ -54,80 +46,63 @@ private Q_SLOTS:
 // What the menu offers follows the selection and the clipboard at the moment it opens.
 void TestEdition::Entrees()
 {
-    Poste poste;
-    poste.Demarre(0);
-    QCOMPARE(Offres(), QString());
-    Ouvre(poste);
-    Selectionne(0, 3);
-    QCOMPARE(Offres(), QStringLiteral("uoS"));
+    const auto offres = [] {
+        QStringList offertes;
+        for (const QString &entree : {u"Annuler"_s, u"Couper"_s, u"Copier"_s, u"Coller"_s, u"Supprimer"_s}) {
+            if (Operateur::Offre(u"Mnu_"_s + entree))
+                offertes << entree;
+        }
+        return offertes.join(u' ');
+    };
+    const Atelier atelier(0, 3);
     auto *const image = new QMimeData; // owned by the clipboard
-    image->setData(QStringLiteral("image/png"), "x");
+    image->setData(u"image/png"_s, "x");
     QGuiApplication::clipboard()->setMimeData(image);
-    QCOMPARE(Offres(), QStringLiteral("uoS"));
-    QGuiApplication::clipboard()->setText(QStringLiteral("X"));
-    Selectionne(2, 0);
-    QCOMPARE(Offres(), QStringLiteral("l"));
+    QCOMPARE(offres(), u"Couper Copier Supprimer"_s);
+    QGuiApplication::clipboard()->setText(u"X"_s);
+    Atelier::Selectionne(2, 0);
+    QCOMPARE(offres(), u"Coller"_s);
 }
 
 // A command on a selection: the text behind it, the clipboard, whether it can be undone. Undo restores the whole text
 // and does so once.
-void TestEdition::Commandes_data()
-{
-    QTest::addColumn<QString>("entree");
-    QTest::addColumn<int>("debut");
-    QTest::addColumn<int>("longueur");
-    QTest::addColumn<QString>("texte");
-    QTest::addColumn<QString>("pressePapiers");
-    QTest::newRow("cut") << "Mnu_Couper" << 0 << 4 << "N20\r\nN30"
-                         << "N10\n";
-    QTest::newRow("copy") << "Mnu_Copier" << 4 << 6 << "N10\nN20\r\nN30"
-                          << "N20\r\nN";
-    QTest::newRow("paste over a selection") << "Mnu_Coller" << 4 << 5 << "N10\nX\tY\rZ\r\nN30"
-                                            << "X\tY\rZ\r\n";
-    QTest::newRow("paste") << "Mnu_Coller" << 12 << 0 << "N10\nN20\r\nN30X\tY\rZ\r\n"
-                           << "X\tY\rZ\r\n";
-    QTest::newRow("delete") << "Mnu_Supprimer" << 3 << 6 << "N10N30"
-                            << "X\tY\rZ\r\n";
-}
-
 void TestEdition::Commandes()
 {
-    QFETCH(QString, entree);
-    QFETCH(int, debut);
-    QFETCH(int, longueur);
-    QFETCH(QString, texte);
-    Poste poste;
-    poste.Demarre(0);
-    Ouvre(poste);
-    const QString avant = frmPrinc->Text1->Text();
-    QGuiApplication::clipboard()->setText(QStringLiteral("X\tY\rZ\r\n"));
-    Selectionne(debut, longueur);
-    Operateur::Menu(entree);
-    const bool copie = entree == QLatin1String("Mnu_Copier");
-    QCOMPARE(frmPrinc->Text1->Text(), texte);
-    QTEST(QGuiApplication::clipboard()->text(), "pressePapiers");
-    QCOMPARE(frmPrinc->Mnu_Annuler->isEnabled(), !copie);
-    QCOMPARE(FichierModifie, copie ? 0 : Vrai);
-    if (copie)
-        return;
-    Operateur::Menu("Mnu_Annuler");
-    QCOMPARE(frmPrinc->Text1->Text(), avant);
-    QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
+    const QString colle = u"X\tY\rZ\r\n"_s;
+    const std::tuple<QString, int, int, QString, QString> commandes[] = {
+        {u"Mnu_Couper"_s, 0, 4, u"N20\r\nN30"_s, u"N10\n"_s},
+        {u"Mnu_Copier"_s, 4, 6, u"N10\nN20\r\nN30"_s, u"N20\r\nN"_s},
+        {u"Mnu_Coller"_s, 4, 5, u"N10\nX\tY\rZ\r\nN30"_s, colle},
+        {u"Mnu_Coller"_s, 12, 0, u"N10\nN20\r\nN30X\tY\rZ\r\n"_s, colle},
+        {u"Mnu_Supprimer"_s, 3, 6, u"N10N30"_s, colle}};
+    for (const auto &[entree, debut, longueur, texte, pressePapiers] : commandes) {
+        const Atelier atelier(debut, longueur);
+        const QString avant = frmPrinc->Text1->Text();
+        QGuiApplication::clipboard()->setText(colle);
+        Operateur::Menu(entree);
+        const bool change = texte != avant;
+        QCOMPARE(frmPrinc->Text1->Text(), texte);
+        QCOMPARE(QGuiApplication::clipboard()->text(), pressePapiers);
+        QCOMPARE(frmPrinc->Mnu_Annuler->isEnabled(), change);
+        QCOMPARE(FichierModifie, change ? Vrai : 0);
+        if (change)
+            Operateur::Menu("Mnu_Annuler");
+        QCOMPARE(frmPrinc->Text1->Text(), avant);
+        QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
+    }
 }
 
 // Bytes that are no ordinary text survive the clipboard; typing leaves the undo copy alone.
 void TestEdition::CopieVersAilleurs()
 {
-    Poste poste;
-    poste.Demarre(0);
-    OuvreDocument(poste.Ecrit("P.iso", "%\f\t\r\xE9\x80\x81\nFIN"));
+    const Atelier atelier(0, 0, "%\f\t\r\xE9\x80\x81\nFIN");
     const QString texte = frmPrinc->Text1->Text();
-    Selectionne(0, int(texte.size()));
+    Atelier::Selectionne(0, int(texte.size()));
     Operateur::Menu("Mnu_Couper");
     QVERIFY(frmPrinc->Text1->EstVide());
     Operateur::Menu("Mnu_Coller");
     QCOMPARE(frmPrinc->Text1->Text(), texte);
-    QTest::keyClicks(frmPrinc->Text1, QStringLiteral("abc"));
+    QTest::keyClicks(frmPrinc->Text1, u"abc"_s);
     QCOMPARE(TexteAnnuler, QString());
     Operateur::Menu("Mnu_Annuler");
     QVERIFY(frmPrinc->Text1->EstVide());
@@ -136,16 +111,13 @@ void TestEdition::CopieVersAilleurs()
 // Ctrl+C loads a configuration, also while the keyboard is in the text.
 void TestEdition::Raccourcis()
 {
-    Poste poste;
-    poste.Demarre(0);
-    Ouvre(poste);
+    const Atelier atelier(0, 3);
     frmPrinc->activateWindow();
     frmPrinc->Text1->setFocus();
     QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
-    Selectionne(0, 3);
     Operateur operateur;
     operateur.Fait("CommonDialog", [](QWidget &fenetre) {
-        QCOMPARE(fenetre.windowTitle(), QStringLiteral("Sélectionner une configuration de communication"));
+        QCOMPARE(fenetre.windowTitle(), u"Sélectionner une configuration de communication"_s);
         fenetre.close();
     });
     QTest::keyClick(frmPrinc->Text1, Qt::Key_C, Qt::ControlModifier);
@@ -155,10 +127,7 @@ void TestEdition::Raccourcis()
 // The right button opens the menu where it was pressed, with its entries brought up to date; the left one does not.
 void TestEdition::BoutonDroit()
 {
-    Poste poste;
-    poste.Demarre(0);
-    Ouvre(poste);
-    Selectionne(0, 3);
+    const Atelier atelier(0, 3);
     QWidget *const pane = frmPrinc->Text1->viewport();
     QTest::mousePress(pane, Qt::RightButton, {}, QPoint(5, 5));
     QVERIFY(frmPrinc->Mnu_Edition->isVisible() && frmPrinc->Mnu_Couper->isEnabled());

@@ -1,5 +1,4 @@
 #include "Operateur.h"
-#include "platform/Boites.h"
 #include "platform/ChoixDossier.h"
 #include "Poste.h"
 #include "shell/Document.h"
@@ -15,40 +14,6 @@
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
-
-// The explorer column, as an operator uses it. The column is open on "Pieces" when a test begins.
-class TestExplorateur : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-    void cleanup();
-    void OuvreEtFerme();
-    void Filtre();
-    void OuvreUnProgramme();
-    void ListeSuitLaSelection();
-    void Cree_data();
-    void Cree();
-    void Supprime();
-    void SupprimeUnLien();
-    void SupprimeAMoitie();
-    void Renomme_data();
-    void Renomme();
-    void Refus();
-    void DossierDuDialogue();
-    void RienNEstCoupe_data();
-    void RienNEstCoupe();
-
-private:
-    void Selectionne(const QString &nom) const { frmPrinc->FolderTreeview1->setSelectedFolder(m_poste->Chemin(nom)); }
-    QString Selection() const;
-    static QString Fichiers();
-    void Saisit(const QString &titre, const QString &invite, const QString &offert, const QString &reponse);
-
-    std::unique_ptr<Poste> m_poste;
-    std::unique_ptr<Operateur> m_operateur;
-};
 
 namespace {
 
@@ -68,105 +33,128 @@ private:
     bool m_change = false;
 };
 
-constexpr int Question = Boite::OuiNon | Boite::Exclamation | Boite::SecondBouton;
+/// An operator at a workstation with some programs, and the column open on "Pieces".
+struct Atelier : Poste, Operateur
+{
+    Atelier()
+    {
+        QDir(Dossier()).mkpath(u"Pieces/Tour"_s);
+        Poste::Ecrit("Pieces/PIECE.ISO", "%1\r\nG0X1");
+        Poste::Ecrit("Pieces/b.cn", "%2");
+        Poste::Ecrit("Pieces/Tour/b.cn", "%3");
+        Poste::Ecrit("b.cn", "%4");
+        Poste::Ecrit("Dorvanel.ini", " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n 0 \r\n");
+        Demarre();
+        DosDefaut = Chemin("Pieces");
+        Barre(15);
+    }
+
+    void Selectionne(QAnyStringView nom) const { frmPrinc->FolderTreeview1->setSelectedFolder(Chemin(nom)); }
+
+    /// The selected folder, seen from the application folder, and the files listed.
+    QString Montre() const
+    {
+        QStringList montre{QDir(Dossier()).relativeFilePath(frmPrinc->FolderTreeview1->SelectedFolder()) + u':'};
+        const QAbstractItemModel *const modele = frmPrinc->File1->model();
+        for (int i = 0; i < modele->rowCount(); ++i)
+            montre << modele->index(i, 0).data().toString();
+        return montre.join(u' ');
+    }
+
+    /// Presses a button of the column, which says one thing.
+    void Lit(QPushButton *bouton, QAnyStringView titre, QAnyStringView texte, int icone)
+    {
+        Repond(titre, texte, icone, QMessageBox::Ok);
+        bouton->click();
+    }
+
+    /// Foretells an input box and what is selected in it; a null answer cancels.
+    void Saisit(const QString &titre, const QString &invite, const QString &offert, const QString &reponse)
+    {
+        Fait("InputBox", [=](QWidget &fenetre) {
+            auto &boite = dynamic_cast<QInputDialog &>(fenetre);
+            QCOMPARE(boite.windowTitle(), titre);
+            QCOMPARE(boite.labelText(), invite);
+            QTRY_COMPARE(boite.findChild<QLineEdit *>()->selectedText(), offert);
+            boite.setTextValue(reponse);
+            reponse.isNull() ? boite.reject() : boite.accept();
+        });
+    }
+};
+
+constexpr int Question = Operateur::DemandeSimple | Boite::SecondBouton;
 
 } // namespace
 
-void TestExplorateur::init()
+class TestExplorateur : public QObject
 {
-    m_poste = std::make_unique<Poste>();
-    m_operateur = std::make_unique<Operateur>();
-    QVERIFY(QDir(m_poste->Dossier()).mkpath(u"Pieces/Tour"_s));
-    m_poste->Ecrit(u"Pieces/PIECE.ISO"_s, "%1\r\nG0X1");
-    m_poste->Ecrit(u"Pieces/b.cn"_s, "%2");
-    m_poste->Ecrit(u"Pieces/Tour/b.cn"_s, "%3");
-    m_poste->Ecrit(u"b.cn"_s, "%4");
-    m_poste->Demarre(0);
-    DosDefaut = m_poste->Chemin(u"Pieces"_s);
-    Operateur::Barre(15);
-}
+    Q_OBJECT
 
-void TestExplorateur::cleanup()
-{
-    m_operateur.reset(); // says which boxes never came
-    m_poste.reset();
-}
-
-/// The selected folder, seen from the application folder.
-QString TestExplorateur::Selection() const
-{
-    return QDir(m_poste->Dossier()).relativeFilePath(frmPrinc->FolderTreeview1->SelectedFolder());
-}
-
-QString TestExplorateur::Fichiers()
-{
-    QStringList noms;
-    const QAbstractItemModel *const modele = frmPrinc->File1->model();
-    for (int i = 0; i < modele->rowCount(); ++i)
-        noms << modele->index(i, 0).data().toString();
-    return noms.join(u' ');
-}
-
-/// Foretells an input box and what is selected in it; a null answer cancels.
-void TestExplorateur::Saisit(const QString &titre, const QString &invite, const QString &offert, const QString &reponse)
-{
-    m_operateur->Fait(u"InputBox"_s, [=](QWidget &fenetre) {
-        auto &boite = dynamic_cast<QInputDialog &>(fenetre);
-        QCOMPARE(boite.windowTitle(), titre);
-        QCOMPARE(boite.labelText(), invite);
-        QTRY_COMPARE(boite.findChild<QLineEdit *>()->selectedText(), offert);
-        boite.setTextValue(reponse);
-        reponse.isNull() ? boite.reject() : boite.accept();
-    });
-}
+private Q_SLOTS:
+    void OuvreEtFerme();
+    void Filtre();
+    void OuvreUnProgramme();
+    void ListeSuitLaSelection();
+    void Cree();
+    void Supprime();
+    void SupprimeUnLien();
+    void SupprimeAMoitie();
+    void Renomme();
+    void Refus();
+    void DossierDuDialogue();
+    void RienNEstCoupe();
+};
 
 // The menu entry, the button and the column go together. It opens on the folder of the open dialog; where that has
 // gone, on the application folder.
 void TestExplorateur::OuvreEtFerme()
 {
+    const Atelier atelier;
     const auto etat = [] {
-        const bool ouvert = frmPrinc->Frame1->isVisible();
-        return ouvert == frmPrinc->Mnu_AffichDOS->isChecked() && ouvert == frmPrinc->Bouton(15)->isChecked() ? ouvert
-                                                                                                             : -1;
+        return QList<bool>{frmPrinc->Frame1->isVisible(), frmPrinc->Mnu_AffichDOS->isChecked(),
+                           frmPrinc->Bouton(15)->isChecked()};
     };
-    QCOMPARE(etat(), 1);
-    QCOMPARE(Selection(), u"Pieces"_s);
-    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
+    const QList<bool> ouvert{true, true, true};
+    const QList<bool> ferme{false, false, false};
+    QCOMPARE(etat(), ouvert);
+    QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
     frmPrinc->Command3->click();
-    QCOMPARE(etat(), 0);
+    QCOMPARE(etat(), ferme);
     QCOMPARE(frmPrinc->Bouton(15)->toolTip(), u"Fermer l'explorateur de fichiers"_s); // the button's own doing
-    DosDefaut = m_poste->Chemin(u"debranche"_s);
-    Operateur::Menu(u"Mnu_AffichDOS"_s);
-    QCOMPARE(etat(), 1);
-    QCOMPARE(Selection(), u"."_s);
-    QCOMPARE(DosDefaut, m_poste->Chemin(u"debranche"_s));
+    DosDefaut = atelier.Chemin("debranche");
+    Operateur::Menu("Mnu_AffichDOS");
+    QCOMPARE(etat(), ouvert);
+    QVERIFY(atelier.Montre().startsWith(u".:"));
+    QCOMPARE(DosDefaut, atelier.Chemin("debranche"));
     Operateur::Barre(15);
-    QCOMPARE(etat(), 0);
+    QCOMPARE(etat(), ferme);
     QCOMPARE(frmPrinc->Bouton(15)->toolTip(), u"Afficher l'explorateur de fichiers"_s);
 }
 
 // Each key counts, and nothing is added to what is typed.
 void TestExplorateur::Filtre()
 {
+    Atelier atelier;
     QComboBox &filtre = *frmPrinc->Combo1;
     QCOMPARE(filtre.count(), 16);
     filtre.setCurrentIndex(1);
-    QCOMPARE(Fichiers(), u"PIECE.ISO"_s);
+    QCOMPARE(atelier.Montre(), u"Pieces: PIECE.ISO"_s);
     filtre.setFocus();
     QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
     filtre.lineEdit()->clear();
     QTest::keyClicks(filtre.lineEdit(), u"*.c"_s);
-    QCOMPARE(Fichiers(), QString());
+    QCOMPARE(atelier.Montre(), u"Pieces:"_s);
     QTest::keyClicks(filtre.lineEdit(), u"n"_s);
-    QCOMPARE(Fichiers(), u"b.cn"_s);
-    m_operateur->Repond(u"Erreur"_s, u"Filtre incorrect !"_s, Boite::Exclamation, QMessageBox::Ok);
+    QCOMPARE(atelier.Montre(), u"Pieces: b.cn"_s);
+    atelier.Repond("Erreur", "Filtre incorrect !", Boite::Exclamation, QMessageBox::Ok);
     QTest::keyClicks(filtre.lineEdit(), u"/"_s);
-    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
+    QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 }
 
 // A double click, or Enter, opens the file; a changed text is dropped without a question.
 void TestExplorateur::OuvreUnProgramme()
 {
+    Atelier atelier;
     frmPrinc->Text1->setText(u"autre"_s);
     FileListBox &liste = *frmPrinc->File1;
     const auto double_clic = [&liste](QPoint ici) {
@@ -176,7 +164,7 @@ void TestExplorateur::OuvreUnProgramme()
     double_clic(liste.viewport()->rect().bottomRight()); // beside the names
     QCOMPARE(NomFichier, QString());
     double_clic(liste.visualRect(liste.model()->index(1, 0)).center());
-    QCOMPARE(NomFichier, m_poste->Chemin(u"Pieces/PIECE.ISO"_s));
+    QCOMPARE(NomFichier, atelier.Chemin(u"Pieces/PIECE.ISO"_s));
     QCOMPARE(TitreFichier, u"PIECE.ISO"_s);
     QCOMPARE(frmPrinc->Text1->Text(), u"%1\r\nG0X1"_s);
     QCOMPARE(FichierModifie, 0);
@@ -188,150 +176,133 @@ void TestExplorateur::OuvreUnProgramme()
 // The list and the selected folder are never at odds: a namesake from elsewhere could go to the machine.
 void TestExplorateur::ListeSuitLaSelection()
 {
+    Atelier atelier;
     QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Right);
     QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Down);
-    QCOMPARE(Selection(), u"Pieces/Tour"_s);
-    QCOMPARE(Fichiers(), u"b.cn"_s);
-    QDir(m_poste->Chemin(u"Pieces/Tour"_s)).removeRecursively();
-    QTRY_COMPARE(Selection(), u"Pieces"_s);
-    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
-}
-
-void TestExplorateur::Cree_data()
-{
-    QTest::addColumn<QString>("reponse");
-    QTest::addColumn<QString>("cree"); // the folder selected afterwards
-    QTest::newRow("a name") << u"Fraise"_s << u"Pieces/Fraise/"_s;
-    QTest::newRow("blanks around stay") << u" F 1 "_s << u"Pieces/ F 1 /"_s;
-    QTest::newRow("hidden") << u".f"_s << u"Pieces/.f/"_s;
-    QTest::newRow("blanks only") << u"   "_s << u"Pieces/"_s;
-    QTest::newRow("cancelled") << QString() << u"Pieces/"_s;
-    QTest::newRow("in use") << u"Tour"_s << u"Pieces/"_s;
+    QCOMPARE(atelier.Montre(), u"Pieces/Tour: b.cn"_s);
+    QDir(atelier.Chemin(u"Pieces/Tour"_s)).removeRecursively();
+    QTRY_COMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 }
 
 void TestExplorateur::Cree()
 {
-    QFETCH(QString, reponse);
-    QFETCH(QString, cree);
-    const QString dossier = frmPrinc->FolderTreeview1->SelectedFolder();
-    Saisit(u"Créer un dossier"_s,
-           u"Indiquez le nom du nouveau dossier, qui deviendra sous-dossier de %1 après sa création !"_s.arg(dossier),
-           QString(), reponse);
-    if (reponse == u"Tour")
-        m_operateur->Repond(u"Erreur"_s, u"Le dossier %1Tour n'a pas pu être créé !"_s.arg(dossier), Boite::Critique,
-                            QMessageBox::Ok);
-    frmPrinc->Command1->click();
-    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), m_poste->Chemin(cree));
-    QCOMPARE(frmPrinc->File1->Path(), m_poste->Chemin(cree));
-    const auto dossiers = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
-    QCOMPARE(QDir(dossier).entryList(dossiers).size(), cree == u"Pieces/" ? 1 : 2);
+    for (const auto &[reponse, choisi] : {std::pair{u"Fraise"_s, u"Pieces/Fraise/"_s},
+                                          {u" F 1 "_s, u"Pieces/ F 1 /"_s},
+                                          {u".f"_s, u"Pieces/.f/"_s},
+                                          {u"   "_s, u"Pieces/"_s},
+                                          {QString(), u"Pieces/"_s},
+                                          {u"Tour"_s, u"Pieces/"_s}}) { // in use
+        Atelier atelier;
+        const QString dossier = frmPrinc->FolderTreeview1->SelectedFolder();
+        atelier.Saisit(
+            u"Créer un dossier"_s,
+            u"Indiquez le nom du nouveau dossier, qui deviendra sous-dossier de %1 après sa création !"_s.arg(dossier),
+            QString(), reponse);
+        if (reponse == u"Tour")
+            atelier.Repond("Erreur", u"Le dossier %1Tour n'a pas pu être créé !"_s.arg(dossier), Boite::Critique,
+                           QMessageBox::Ok);
+        frmPrinc->Command1->click();
+        QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), atelier.Chemin(choisi));
+        QCOMPARE(frmPrinc->File1->Path(), atelier.Chemin(choisi));
+        const auto dossiers = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
+        QCOMPARE(QDir(dossier).entryList(dossiers).size(), choisi == u"Pieces/" ? 1 : 2);
+    }
 }
 
 // Refused, nothing goes; the folder above is selected all the same, with its own files in the list.
 void TestExplorateur::Supprime()
 {
-    Selectionne(u"Pieces/Tour"_s);
-    m_operateur->Ferme(u"MsgBox"_s);
+    Atelier atelier;
+    atelier.Selectionne(u"Pieces/Tour"_s);
+    atelier.Ferme(u"MsgBox"_s);
     frmPrinc->Command2->click();
-    QCOMPARE(m_poste->Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
-    QCOMPARE(Selection(), u"Pieces"_s);
-    QCOMPARE(Fichiers(), u"b.cn PIECE.ISO"_s);
+    QCOMPARE(atelier.Poste::Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 
-    m_operateur->Repond(u"Supprimer un dossier"_s,
-                        u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
-                        u"Sous-dossiers : 1, fichiers : 3"_s.arg(m_poste->Chemin(u"Pieces"_s)),
-                        Question, QMessageBox::Yes);
-    m_operateur->Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
+    atelier.Repond(u"Supprimer un dossier"_s,
+                   u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
+                   u"Sous-dossiers : 1, fichiers : 3"_s.arg(atelier.Chemin(u"Pieces"_s)),
+                   Question, QMessageBox::Yes);
+    atelier.Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
     frmPrinc->Command2->click();
-    QVERIFY(!QFileInfo::exists(m_poste->Chemin(u"Pieces"_s)));
-    QCOMPARE(Selection(), u"."_s);
-    QVERIFY(Fichiers().contains(u"b.cn"));
+    QVERIFY(!QFileInfo::exists(atelier.Chemin(u"Pieces"_s)));
+    QVERIFY(atelier.Montre().startsWith(u".: b.cn"_s));
 }
 
 void TestExplorateur::SupprimeUnLien()
 {
-    const QString lien = m_poste->Chemin(u"Lien"_s);
-    QVERIFY(QFile::link(m_poste->Chemin(u"Pieces"_s), lien));
-    Selectionne(u"Lien"_s);
-    m_operateur->Repond(u"Supprimer un dossier"_s,
-                        u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r"_s + lien, Question,
-                        QMessageBox::Yes);
-    m_operateur->Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
+    Atelier atelier;
+    const QString lien = atelier.Chemin(u"Lien"_s);
+    QVERIFY(QFile::link(atelier.Chemin(u"Pieces"_s), lien));
+    atelier.Selectionne(u"Lien"_s);
+    atelier.Repond(u"Supprimer un dossier"_s,
+                   u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r"_s + lien, Question,
+                   QMessageBox::Yes);
+    atelier.Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
     frmPrinc->Command2->click();
     QVERIFY(!QFileInfo(lien).isSymLink());
-    QCOMPARE(m_poste->Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(atelier.Poste::Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
 }
 
 // What resists is named, with what is left.
 void TestExplorateur::SupprimeAMoitie()
 {
-    const QByteArray tour = m_poste->Chemin(u"Pieces/Tour"_s).toUtf8();
-    QCOMPARE(chmod(qPrintable(m_poste->Dossier()), 0755), 0);
+    Atelier atelier;
+    const QByteArray tour = atelier.Chemin(u"Pieces/Tour"_s).toUtf8();
+    QCOMPARE(chmod(qPrintable(atelier.Dossier()), 0755), 0);
     QCOMPARE(chmod(tour.constData(), 0555), 0);
-    Selectionne(u"Pieces/Tour"_s);
-    m_operateur->Fait(u"MsgBox"_s,
-                      [](QWidget &boite) { dynamic_cast<QMessageBox &>(boite).button(QMessageBox::Yes)->click(); });
-    m_operateur->Repond(u"Information"_s,
-                        u"ERREUR N° 70\r%1/b.cn : Permission denied\r"
-                        u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(QString::fromUtf8(tour)),
-                        Boite::Information, QMessageBox::Ok);
+    atelier.Selectionne(u"Pieces/Tour"_s);
+    atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
+    atelier.Repond(u"Information"_s,
+                   u"ERREUR N° 70\r%1/b.cn : Permission denied\r"
+                   u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(QString::fromUtf8(tour)),
+                   Boite::Information, QMessageBox::Ok);
     {
         const SansPrivilege operateurOrdinaire;
         frmPrinc->Command2->click();
     }
     QCOMPARE(chmod(tour.constData(), 0755), 0);
-    QCOMPARE(m_poste->Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
-}
-
-void TestExplorateur::Renomme_data()
-{
-    QTest::addColumn<QString>("reponse"); // %1: the application folder
-    QTest::addColumn<QString>("devient");
-    QTest::newRow("new name") << u"%1/Pieces/Fraise"_s << u"Pieces/Fraise"_s;
-    QTest::newRow("elsewhere") << u"%1/Tour 2/"_s << u"Tour 2"_s;
-    QTest::newRow("bare name") << u"Nu"_s << u"Nu"_s; // goes to the current directory
-    QTest::newRow("unchanged") << u"%1/Pieces/Tour"_s << u"Pieces/Tour"_s;
-    QTest::newRow("cancelled") << QString() << u"Pieces/Tour"_s;
-    QTest::newRow("in use") << u"%1/b.cn"_s << u"Pieces/Tour"_s;
+    QCOMPARE(atelier.Poste::Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
 }
 
 void TestExplorateur::Renomme()
 {
-    QFETCH(QString, reponse);
-    QFETCH(QString, devient);
-    Selectionne(u"Pieces/Tour"_s);
-    QDir::setCurrent(m_poste->Dossier());
-    Saisit(u"Nouveau nom du dossier"_s,
-           u"Indiquez le nouveau nom pour le dossier %1."_s.arg(m_poste->Chemin(u"Pieces/Tour"_s)), u"Tour"_s,
-           reponse.contains(u'%') ? reponse.arg(m_poste->Dossier()) : reponse);
-    if (reponse.endsWith(u"b.cn"))
-        m_operateur->Repond(u"Erreur"_s, u"Erreur ! Le dossier ne peut être renommé."_s, Boite::Exclamation,
-                            QMessageBox::Ok);
-    frmPrinc->Command4->click();
-    QCOMPARE(Selection(), devient);
-    QCOMPARE(m_poste->Lit(devient + u"/b.cn"_s), QByteArray("%3"));
-    QCOMPARE(m_poste->Lit(u"b.cn"_s), QByteArray("%4"));
-    QCOMPARE(Fichiers(), u"b.cn"_s);
+    for (auto [reponse, devient] : {std::pair{u"%1/Pieces/Fraise"_s, u"Pieces/Fraise"_s},
+                                    {u"%1/Tour 2/"_s, u"Tour 2"_s},
+                                    {u"Nu"_s, u"Nu"_s}, // goes to the current directory
+                                    {u"%1/Pieces/Tour"_s, u"Pieces/Tour"_s},
+                                    {QString(), u"Pieces/Tour"_s},
+                                    {u"%1/b.cn"_s, u"Pieces/Tour"_s}}) { // in use
+        Atelier atelier;
+        atelier.Selectionne("Pieces/Tour");
+        QDir::setCurrent(atelier.Dossier());
+        atelier.Saisit(u"Nouveau nom du dossier"_s,
+                       u"Indiquez le nouveau nom pour le dossier %1."_s.arg(atelier.Chemin("Pieces/Tour")), u"Tour"_s,
+                       reponse.replace(u"%1"_s, atelier.Dossier()));
+        if (reponse.endsWith(u"b.cn"))
+            atelier.Repond("Erreur", "Erreur ! Le dossier ne peut être renommé.", Boite::Exclamation, QMessageBox::Ok);
+        frmPrinc->Command4->click();
+        QCOMPARE(atelier.Montre(), devient + u": b.cn"_s);
+        QCOMPARE(atelier.Poste::Lit(devient + u"/b.cn"_s), QByteArray("%3"));
+        QCOMPARE(atelier.Poste::Lit("b.cn"), QByteArray("%4"));
+    }
 }
 
 // A root, and nothing selected, stay out of reach of the buttons.
 void TestExplorateur::Refus()
 {
-    frmPrinc->FolderTreeview1->setSelectedFolder(QDir::rootPath());
-    m_operateur->Repond(u"Attention"_s,
-                        u"Vous vous trouvez dans le dossier racine ! Ce dossier ne peut pas être supprimé !"_s,
-                        Boite::Critique, QMessageBox::Ok);
-    frmPrinc->Command2->click();
-    const auto nonRenommable = [this] {
-        m_operateur->Repond(u"Information"_s, u"Ce dossier ne peut pas être renommé ! ou dossier racine !"_s,
-                            Boite::Information, QMessageBox::Ok);
-        frmPrinc->Command4->click();
+    Atelier atelier;
+    const auto ditNonRenommable = [&atelier] {
+        atelier.Lit(frmPrinc->Command4, "Information", "Ce dossier ne peut pas être renommé ! ou dossier racine !",
+                    Boite::Information);
     };
-    nonRenommable();
+    frmPrinc->FolderTreeview1->setSelectedFolder(QDir::rootPath());
+    atelier.Lit(frmPrinc->Command2, "Attention",
+                "Vous vous trouvez dans le dossier racine ! Ce dossier ne peut pas être supprimé !", Boite::Critique);
+    ditNonRenommable();
     frmPrinc->FolderTreeview1->clearSelection();
-    nonRenommable();
-    m_operateur->Repond(u"Erreur"_s, u"Pas de dossier sélectionné !"_s, Boite::Exclamation, QMessageBox::Ok);
-    frmPrinc->Command2->click();
+    ditNonRenommable();
+    atelier.Lit(frmPrinc->Command2, "Erreur", "Pas de dossier sélectionné !", Boite::Exclamation);
     frmPrinc->Command1->click(); // asks nothing
 }
 
@@ -339,46 +310,41 @@ void TestExplorateur::Refus()
 // chooser of the dialogs gives a path without final separator.
 void TestExplorateur::DossierDuDialogue()
 {
-    Selectionne(u"Pieces/Tour"_s);
+    Atelier atelier;
+    atelier.Selectionne(u"Pieces/Tour"_s);
     Operateur::Barre(15);
     for (const bool coche : {false, true}) {
         frmPrinc->CheckDOS->setChecked(coche);
-        m_operateur->Choisit(u"b.cn"_s);
+        atelier.Choisit(u"b.cn"_s);
         Operateur::Menu(u"Mnu_Ouvrir"_s);
         QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
-        QCOMPARE(DosDefaut, coche ? m_poste->Chemin(u"Pieces/Tour/"_s) : m_poste->Dossier());
+        QCOMPARE(DosDefaut, coche ? atelier.Chemin(u"Pieces/Tour/"_s) : atelier.Dossier());
     }
-    m_operateur->Choisit(m_poste->Chemin(u"Pieces/Tour/"_s));
-    QCOMPARE(ChoixDossier(frmPrinc), m_poste->Chemin(u"Pieces/Tour"_s));
-    m_operateur->AnnuleChoix();
+    atelier.Choisit(atelier.Chemin(u"Pieces/Tour/"_s));
+    QCOMPARE(ChoixDossier(frmPrinc), atelier.Chemin(u"Pieces/Tour"_s));
+    atelier.AnnuleChoix();
     QCOMPARE(ChoixDossier(frmPrinc), QString());
-}
-
-void TestExplorateur::RienNEstCoupe_data()
-{
-    QTest::addColumn<int>("langue");
-    QTest::addColumn<QString>("renommer");
-    QTest::newRow("fr") << 0 << u"Renommer le dossier sélectionné"_s;
-    QTest::newRow("en") << 1 << u"Rename the selected directory"_s;
-    QTest::newRow("es") << 2 << u"Reelegir el expediente seleccionado"_s;
 }
 
 // In the smallest window every caption of the column has its room, and the buttons are named in the operator's
 // language.
 void TestExplorateur::RienNEstCoupe()
 {
-    QFETCH(int, langue);
-    QFETCH(QString, renommer);
-    if (langue != 0)
-        Operateur::Menu(u"Mnu_Lang_%1"_s.arg(langue));
+    const Atelier atelier;
     frmPrinc->resize(frmPrinc->minimumSize());
-    QCoreApplication::processEvents();
-    const QCheckBox &longue = *frmPrinc->CheckDOS;
-    QVERIFY(longue.height() >= longue.heightForWidth(longue.width()));
-    QVERIFY(longue.height() > 2 * longue.fontMetrics().height());
-    QVERIFY(frmPrinc->Label7->height() >= frmPrinc->Label7->heightForWidth(frmPrinc->Label7->width()));
-    QVERIFY(frmPrinc->Frame1->rect().contains(frmPrinc->File1->geometry()));
-    QCOMPARE(frmPrinc->Command4->accessibleName(), renommer);
+    const QString renommer[] = {u"Renommer le dossier sélectionné"_s, u"Rename the selected directory"_s,
+                                u"Reelegir el expediente seleccionado"_s};
+    for (int langue = 0; langue < 3; ++langue) {
+        if (langue > 0)
+            Operateur::Menu(u"Mnu_Lang_%1"_s.arg(langue));
+        QCoreApplication::processEvents();
+        const QCheckBox &longue = *frmPrinc->CheckDOS;
+        QVERIFY(longue.height() >= longue.heightForWidth(longue.width()));
+        QVERIFY(longue.height() > 2 * longue.fontMetrics().height());
+        QVERIFY(frmPrinc->Label7->height() >= frmPrinc->Label7->heightForWidth(frmPrinc->Label7->width()));
+        QVERIFY(frmPrinc->Frame1->rect().contains(frmPrinc->File1->geometry()));
+        QCOMPARE(frmPrinc->Command4->accessibleName(), renommer[langue]);
+    }
 }
 
 QTEST_MAIN(TestExplorateur)

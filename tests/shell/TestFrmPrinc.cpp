@@ -2,12 +2,13 @@
 #include "Operateur.h"
 #include "Poste.h"
 
-#include "comconfig/ParamCom.h"
 #include "locale/Legendes.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
 
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 class TestFrmPrinc : public QObject
 {
@@ -18,14 +19,12 @@ private Q_SLOTS:
     void RienNEstCoupe();
     void Lampes();
     void MessageEtat();
-    void Explorateur();
 };
 
 // Too small a window springs back; the pane and the status panel follow a larger one, the column keeps its width.
 void TestFrmPrinc::Taille()
 {
-    Poste poste;
-    poste.Demarre(0);
+    const Poste poste(0);
     frmPrinc->resize(100, 100);
     QTRY_COMPARE(frmPrinc->size(), QSize(620, 547));
     Operateur::Menu("Mnu_AffichDOS");
@@ -43,14 +42,13 @@ void TestFrmPrinc::Taille()
 void TestFrmPrinc::RienNEstCoupe()
 {
     for (int langue = 0; langue < 3; ++langue) {
-        Poste poste;
-        poste.Demarre(langue);
+        const Poste poste(langue);
         poste.Charge("G0");
         frmPrinc->resize(frmPrinc->minimumSize());
         QCoreApplication::processEvents();
         const int hauteur = frmPrinc->Picture11->height();
         frmPrinc->MontrePort(true);
-        frmPrinc->MontreEtat(QStringLiteral("CTS"));
+        frmPrinc->MontreEtat(u"CTS"_s);
         frmPrinc->Text1->hide();
         QCoreApplication::processEvents();
         QCOMPARE(frmPrinc->Picture11->height(), hauteur);
@@ -66,10 +64,8 @@ void TestFrmPrinc::RienNEstCoupe()
 // The lamps follow the port once a second, in the language; a lamp tells its state in words too.
 void TestFrmPrinc::Lampes()
 {
-    const QString ouvert = QStringLiteral("Open Port");
-    const QString ferme = QStringLiteral("Closed Port"); // the caption reads "Closed port" until the first tick
-    Poste poste;
-    poste.Demarre(1);
+    const QString ferme = u"Closed Port"_s; // the caption reads "Closed port" until the first tick
+    const Poste poste(1);
     QCOMPARE(frmPrinc->UpdateTimer.interval(), 1000);
     QCOMPARE(frmPrinc->Timer2.interval(), 5000);
     frmPrinc->UpdateTimer.setInterval(1);
@@ -80,24 +76,21 @@ void TestFrmPrinc::Lampes()
     QTRY_COMPARE(frmPrinc->lblPortOpen->text(), ferme);
     QCOMPARE(frmPrinc->shpRTS->FillColor(), Lampe::Rouge);
 
-    frmPrinc->MSComm1->setPortOpen(true);
-    PortOuvert = true;
-    frmPrinc->shpSend->setFillColor(Lampe::Verte);
-    QTRY_COMPARE(frmPrinc->lblPortOpen->text(), ouvert);
-    QCOMPARE(frmPrinc->shpPortOpen->accessibleName(), ouvert);
-    AppliqueLangue(); // whose caption is that of a closed port
-    QCOMPARE(frmPrinc->lblPortOpen->text(), ouvert);
-    for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpRTS, frmPrinc->shpCTS, frmPrinc->shpSend})
-        QCOMPARE(lampe->FillColor(), Lampe::Verte);
-    QCOMPARE(frmPrinc->shpCD->FillColor(), Lampe::Rouge);
-    QVERIFY(frmPrinc->shpCTS->toolTip() !=
-            frmPrinc->shpCD->toolTip().replace(QLatin1String("CD"), QLatin1String("CTS")));
-
-    frmPrinc->MSComm1->setPortOpen(false);
-    PortOuvert = false;
-    QTRY_COMPARE(frmPrinc->lblPortOpen->text(), ferme);
-    for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpRTS, frmPrinc->shpCTS, frmPrinc->shpSend})
-        QCOMPARE(lampe->FillColor(), Lampe::Rouge);
+    for (const bool ouvre : {true, false}) {
+        frmPrinc->MSComm1->setPortOpen(ouvre);
+        PortOuvert = ouvre;
+        frmPrinc->shpSend->setFillColor(Lampe::Verte);
+        QTRY_COMPARE(frmPrinc->lblPortOpen->text(), ouvre ? u"Open Port"_s : ferme);
+        for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpRTS, frmPrinc->shpCTS, frmPrinc->shpSend})
+            QCOMPARE(lampe->FillColor(), ouvre ? Lampe::Verte : Lampe::Rouge);
+        QCOMPARE(frmPrinc->shpCD->FillColor(), Lampe::Rouge);
+        if (!ouvre)
+            continue;
+        QVERIFY(frmPrinc->shpCTS->toolTip() != frmPrinc->shpCD->toolTip().replace("CD"_L1, "CTS"_L1));
+        QCOMPARE(frmPrinc->shpPortOpen->accessibleName(), u"Open Port"_s);
+        AppliqueLangue(); // whose caption is that of a closed port
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Open Port"_s);
+    }
 
     scenario->etats = EtatsLigne{false, false, true, false}; // a carrier makes the port count as open
     frmPrinc->MSComm1->setPortOpen(true);
@@ -109,31 +102,18 @@ void TestFrmPrinc::Lampes()
 // A message hides again; a second one meanwhile does not prolong the first one's time.
 void TestFrmPrinc::MessageEtat()
 {
-    Poste poste;
-    poste.Demarre(0);
+    const Poste poste(0);
     frmPrinc->Timer2.stop();
-    frmPrinc->MontreEtat(QStringLiteral("CTS"));
-    QCOMPARE(frmPrinc->Etat->text(), QStringLiteral("État : CTS"));
+    frmPrinc->MontreEtat(u"CTS"_s);
+    QCOMPARE(frmPrinc->Etat->text(), u"État : CTS"_s);
     QVERIFY(frmPrinc->Etat->isVisible() && frmPrinc->Timer2.isActive());
     const int minuterie = frmPrinc->Timer2.timerId();
-    frmPrinc->MontreEtat(QStringLiteral("DSR"));
+    frmPrinc->MontreEtat(u"DSR"_s);
     QCOMPARE(frmPrinc->Timer2.timerId(), minuterie); // not started anew
     frmPrinc->Timer2.setInterval(1);
     QTRY_VERIFY(frmPrinc->Etat->isHidden());
-    QCOMPARE(frmPrinc->Etat->text(), QStringLiteral("État : "));
+    QCOMPARE(frmPrinc->Etat->text(), u"État : "_s);
     QVERIFY(!frmPrinc->Timer2.isActive());
-}
-
-void TestFrmPrinc::Explorateur()
-{
-    Poste poste;
-    poste.Demarre(0);
-    Operateur::Barre(15);
-    QVERIFY(frmPrinc->Frame1->isVisible());
-    QVERIFY(frmPrinc->Mnu_AffichDOS->isChecked() && frmPrinc->Bouton(15)->isChecked());
-    Operateur::Menu("Mnu_AffichDOS");
-    QVERIFY(frmPrinc->Frame1->isHidden());
-    QVERIFY(!frmPrinc->Mnu_AffichDOS->isChecked() && !frmPrinc->Bouton(15)->isChecked());
 }
 
 QTEST_MAIN(TestFrmPrinc)

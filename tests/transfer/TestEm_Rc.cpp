@@ -2,8 +2,6 @@
 #include "Poste.h"
 
 #include "comconfig/ParamCom.h"
-#include "platform/Boites.h"
-#include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "transfer/Transfert.h"
@@ -11,46 +9,23 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr char Dialogue[] = "Em_Rc";
-constexpr int Drapeaux = Boite::Question | Boite::OuiNon | Boite::SecondBouton;
 
 /// One transfer as the dialog announces it.
-struct Annonce
+struct CasAnnonce
 {
-    int langue;
-    int bouton;
+    int langue, bouton, type;
     const char *entree;
-    const char *confirmation;
-    const char *question;
-    const char *titre;
-    const char *consignes; ///< lines joined by "|"
-    const char *statut;
+    QString confirmation, question, titre;
+    QString consignes; ///< lines joined by "|"
+    QString statut;
 };
-
-constexpr Annonce Annonces[] = {
-    {0, 9, "Mnu_EmisProgCN", "Emission d'un programme CN",
-     "Confirmez l'émission du programme PIECE.iso sur le port Com2 ?", "Emission d'un programme CN",
-     "|Sur CN faire une RàZ||Valider le mode Chargement Programme||Appuyer sur Départ de Cycle",
-     "Puis cliquez sur le bouton < Emission... >"},
-    {1, 11, "Mnu_EmisJauge", "Sending of a file Gauges Tools",
-     "Confirm the sending of a file Gauges Tools PIECE.iso on the port Com2 ?", "Sending of the gauges tools",
-     "|On machine to make Restoring||Validate the Loading mode of the Gauges Tools||Support on Departure of Cycle",
-     "Then click on the button < Emission... >"},
-    {2, 11, "Mnu_EmisJauge", "Emisión de un fichero Cabidas instrumentos",
-     "Confirme la emisión del fichero mide PIECE.iso sobre el puerto Com2 ?", "Emisión de las Cabidas instrumentos",
-     "|Sobre máquina hacer un a Entrega a Cero||Validar el método Cargamento de las Cabidas instrumentos|"
-     "Apoyar en Salida de Ciclo",
-     "Luego presionan el botón < Emisión... >"}};
-
-bool Montre(const QWidget &fenetre, const char *controle)
-{
-    return fenetre.findChild<QWidget *>(QLatin1String(controle))->isVisible();
-}
 
 } // namespace
 
@@ -61,40 +36,50 @@ class TestEm_Rc : public QObject
 private Q_SLOTS:
     void Annonce();
     void AutreConfiguration();
-    void ConfigurationErronee();
 };
 
-// Each way of sending in each language: a No ends it, a Yes shows what to do at the machine; closing before the start
-// touches neither port nor lamp.
+// Each way of sending: a No ends it, a Yes shows what to do at the machine; closing before the start touches neither
+// port nor lamp.
 void TestEm_Rc::Annonce()
 {
-    for (const struct Annonce &annonce : Annonces) {
-        Poste poste;
-        poste.Demarre(annonce.langue);
+    const CasAnnonce annonces[] = {
+        {0, 9, 1, "Mnu_EmisProgCN", u"Emission d'un programme CN"_s,
+         u"Confirmez l'émission du programme PIECE.iso sur le port Com2 ?"_s, u"Emission d'un programme CN"_s,
+         u"|Sur CN faire une RàZ||Valider le mode Chargement Programme||Appuyer sur Départ de Cycle"_s,
+         u"Puis cliquez sur le bouton < Emission... >"_s},
+        {2, 11, 2, "Mnu_EmisJauge", u"Emisión de un fichero Cabidas instrumentos"_s,
+         u"Confirme la emisión del fichero mide PIECE.iso sobre el puerto Com2 ?"_s,
+         u"Emisión de las Cabidas instrumentos"_s,
+         u"|Sobre máquina hacer un a Entrega a Cero||Validar el método Cargamento de las Cabidas instrumentos|"
+         "Apoyar en Salida de Ciclo"_s,
+         u"Luego presionan el botón < Emisión... >"_s}};
+    for (const CasAnnonce &cas : annonces) {
+        const Poste poste(cas.langue);
         poste.Charge("G0");
         Operateur operateur;
-        const QString titre = QString::fromUtf8(annonce.confirmation);
-        const QString question = titre + u'\r' + QString::fromUtf8(annonce.question);
-        operateur.Repond(titre, question, Drapeaux, QMessageBox::No);
-        Operateur::Barre(annonce.bouton);
+        const QString question = cas.confirmation + u'\r' + cas.question;
+        operateur.Repond(cas.confirmation, question, Operateur::Demande, QMessageBox::No);
+        Operateur::Barre(cas.bouton);
         QCOMPARE(TypeTransfert, 0);
 
-        operateur.Repond(titre, question, Drapeaux, QMessageBox::Yes);
-        operateur.Fait(Dialogue, [&annonce](QWidget &fenetre) {
-            QCOMPARE(fenetre.windowTitle(), QString::fromUtf8(annonce.titre));
-            QCOMPARE(Operateur::Lu("Label1"), QString::fromUtf8(annonce.consignes).replace(u'|', u'\n'));
-            QCOMPARE(Operateur::Lu("Label2"), QString::fromUtf8(annonce.statut));
-            QCOMPARE(Operateur::Lu("Label5"), QStringLiteral("Machine.par  Tour"));
-            for (const char *montre : {"Command1", "Command2", "Command3", "Frame1", "Frame2", "Picture1"})
-                QVERIFY2(Montre(fenetre, montre), montre);
-            QVERIFY(!Montre(fenetre, "Command7") && !Montre(fenetre, "Frame4"));
-            QVERIFY(!fenetre.findChild<QLabel *>(QStringLiteral("Picture1"))->pixmap().isNull());
+        operateur.Repond(cas.confirmation, question, Operateur::Demande, QMessageBox::Yes);
+        operateur.Fait(Dialogue, [&cas](QWidget &fenetre) {
+            QCOMPARE(fenetre.windowTitle(), cas.titre);
+            QCOMPARE(Operateur::Lu("Label1"), QString(cas.consignes).replace(u'|', u'\n'));
+            QCOMPARE(Operateur::Lu("Label2"), cas.statut);
+            QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
+            const QStringList caches = {u"Command7"_s, u"Frame4"_s};
+            for (const QString &nom :
+                 QStringList{u"Command1"_s, u"Command2"_s, u"Command3"_s, u"Frame1"_s, u"Frame2"_s, u"Picture1"_s} +
+                     caches)
+                QVERIFY2(fenetre.findChild<QWidget *>(nom)->isVisible() != caches.contains(nom), qPrintable(nom));
+            QVERIFY(!fenetre.findChild<QLabel *>(u"Picture1"_s)->pixmap().isNull());
             fenetre.close();
         });
         frmPrinc->UpdateTimer.stop();
         frmPrinc->shpPortOpen->setFillColor(Lampe::Verte);
-        Operateur::Menu(QLatin1String(annonce.entree));
-        QCOMPARE(TypeTransfert, annonce.bouton == 9 ? 1 : 2);
+        Operateur::Menu(cas.entree);
+        QCOMPARE(TypeTransfert, cas.type);
         QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
     }
 }
@@ -102,54 +87,30 @@ void TestEm_Rc::Annonce()
 // Another configuration from inside the dialog; cancelling the choice leaves the first.
 void TestEm_Rc::AutreConfiguration()
 {
-    Poste poste;
-    poste.Demarre(0);
+    const Poste poste(0);
     poste.Charge("G0");
     const QString autre = poste.Chemin("Tour.par");
-    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + QStringLiteral("/Complet.par"), autre));
-    DosConf = QStringLiteral("/"); // not where this choice begins
+    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
+    DosConf = u"/"_s; // not where this choice begins
     Operateur operateur;
-    operateur.Fait("MsgBox",
-                   [](QWidget &boite) { dynamic_cast<QMessageBox &>(boite).button(QMessageBox::Yes)->click(); });
+    operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
     operateur.Presse(Dialogue, "Command3");
     operateur.Fait("CommonDialog", [](QWidget &fenetre) {
         QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory(), QDir(DosAppli));
         fenetre.close();
     });
     operateur.Fait(Dialogue, [&poste](QWidget &) {
-        QCOMPARE(Operateur::Lu("Label5"), QStringLiteral("Machine.par  Tour"));
+        QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
         QCOMPARE(FicConf, poste.Chemin("Machine.par"));
     });
     operateur.Presse(Dialogue, "Command3");
     operateur.Choisit(autre);
-    operateur.Fait(
-        Dialogue, [](QWidget &) { QCOMPARE(Operateur::Lu("Label5"), QStringLiteral("Tour.par  Tour 2 axes, été €")); });
+    operateur.Fait(Dialogue, [](QWidget &) { QCOMPARE(Operateur::Lu("Label5"), u"Tour.par  Tour 2 axes, été €"_s); });
     operateur.Presse(Dialogue, "Command1");
     Operateur::Menu("Mnu_EmisProgCN");
-    QCOMPARE(FicConf + NomConf, autre + QStringLiteral("Tour.par"));
-    QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), QStringLiteral("Tour.parTour 2 axes, été €"));
-    QCOMPARE(ParamCom.ChaineFinLig, QStringLiteral("\r\r\n"));
-}
-
-// A file that breaks off: told, and the dialog still shows the configuration before it.
-void TestEm_Rc::ConfigurationErronee()
-{
-    Poste poste;
-    poste.Demarre(1);
-    poste.Charge("G0");
-    Operateur operateur;
-    operateur.Fait("MsgBox",
-                   [](QWidget &boite) { dynamic_cast<QMessageBox &>(boite).button(QMessageBox::Yes)->click(); });
-    operateur.Presse(Dialogue, "Command3");
-    operateur.Choisit(poste.Ecrit("Faux.par", "3\r\nCom3\r\n"));
-    operateur.Repond("Erroneous file of configuration",
-                     "File of configuration of former version !\rModify to record some again.", Boite::Exclamation,
-                     QMessageBox::Ok);
-    operateur.Fait(Dialogue, [](QWidget &) { QCOMPARE(Operateur::Lu("Label5"), QStringLiteral("Machine.par  Tour")); });
-    operateur.Presse(Dialogue, "Command1");
-    Operateur::Menu("Mnu_EmisJauge");
-    QCOMPARE(frmPrinc->Label4->text(), QStringLiteral("Machine.par"));
-    QCOMPARE(ParamCom.NumPort, 3);
+    QCOMPARE(FicConf + NomConf, autre + u"Tour.par"_s);
+    QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), u"Tour.parTour 2 axes, été €"_s);
+    QCOMPARE(ParamCom.ChaineFinLig, u"\r\r\n"_s);
 }
 
 QTEST_MAIN(TestEm_Rc)
