@@ -34,18 +34,8 @@ ReglageMachine Machine(int vitesse)
 void Configure(const QString &port, int vitesse, int typeEnvoi)
 {
     QFile::remove(port);
-    ParamCom = ConfigurationCom();
-    ParamCom.NumPort = 2;
-    ParamCom.NomPort = QStringLiteral("Com2");
-    ParamCom.Vitesse = QString::number(vitesse);
-    ParamCom.Parite = QStringLiteral("n");
-    ParamCom.BitsDonnees = QStringLiteral("8");
-    ParamCom.BitsArret = QStringLiteral("1");
-    ParamCom.ControleFlux = 1;
-    ParamCom.TypeFinTrans = 1;
-    ParamCom.TailleTamponEmis = 512;
-    ParamCom.TailleTamponRecep = 1024;
-    ParamCom.Echo = 1;
+    ConfigureMachine(vitesse);
+    ParamCom.TypeFinLig = 0;
     ParamCom.TypeEnvoi = typeEnvoi;
     BatirChaines();
 }

@@ -31,18 +31,6 @@ double DureeProgramme(const QString &fichier)
     });
 }
 
-double DureeNue(const QString &fichier)
-{
-    const QString texte = LitFichierTexte(fichier);
-    QPlainTextEdit editeur;
-    editeur.show();
-    QCoreApplication::processEvents();
-    return SecondesDe([&] {
-        editeur.setPlainText(texte);
-        QCoreApplication::processEvents();
-    });
-}
-
 qint64 Memoire(const QString &role, const QString &fichier)
 {
     FrmPrinc fenetre;
@@ -79,8 +67,9 @@ int main(int nombre, char *arguments[])
     const QTemporaryDir dossier;
     const QString fichier = dossier.filePath(QStringLiteral("grand.iso"));
     EcritFichierTexte(fichier, ProgrammeCN(Lignes));
+    const QString texte = LitFichierTexte(fichier);
     const double temps =
-        Mediane(5, [&] { return DureeProgramme(fichier); }) / Mediane(5, [&] { return DureeNue(fichier); });
+        Mediane(5, [&] { return DureeProgramme(fichier); }) / Mediane(5, [&] { return DureeVoletNu(texte); });
     const double memoire = MemoireDe(QStringLiteral("programme"), fichier) / MemoireDe(QStringLiteral("nu"), fichier);
     const bool tenuTemps =
         Montre({QStringLiteral("time to open a program of 400,000 lines / bare text pane"), temps, 1.5});

@@ -20,7 +20,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QPlainTextEdit>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -40,20 +39,9 @@ struct Poste
         fenetre.MSComm1->setDossierPorts(dossier.path());
         Branche();
         QFile::link(machine.Chemin(), dossier.filePath(QStringLiteral("Com2")));
-        ParamCom = ConfigurationCom();
-        ParamCom.NumPort = 2;
-        ParamCom.Vitesse = QString::number(vitesse > 0 ? vitesse : 115200);
-        ParamCom.Parite = QStringLiteral("n");
-        ParamCom.BitsDonnees = QStringLiteral("8");
-        ParamCom.BitsArret = QStringLiteral("1");
-        ParamCom.ControleFlux = 1;
-        ParamCom.TypeFinTrans = 1;
-        ParamCom.TypeFinLig = 3;
-        ParamCom.TailleTamponEmis = 512;
+        ConfigureMachine(vitesse > 0 ? vitesse : 115200);
         ParamCom.TailleTamponRecep = 9999;
         ParamCom.SeuilRecep = 256;
-        ParamCom.Echo = 1;
-        BatirChaines();
         DossierRecep = dossier.path();
         NomFicRecep = QStringLiteral("RECU.ISO");
         TypeTransfert = 0; // the dialog shows the transfer and starts nothing by itself
@@ -95,18 +83,6 @@ double DureeFichier(int lignes)
     Envoi envoi;
     envoi.Texte = OctetsEn1252(ProgrammeCN(lignes));
     return SecondesDe([&] { poste.Recoit(ReceptionFichier, RecepFichier, envoi); });
-}
-
-double DureeNue(int lignes)
-{
-    const QString texte = ProgrammeCN(lignes);
-    QPlainTextEdit editeur;
-    editeur.show();
-    QCoreApplication::processEvents();
-    return SecondesDe([&] {
-        editeur.setPlainText(texte);
-        QCoreApplication::processEvents();
-    });
 }
 
 /// Peak of this process's memory, bytes.
@@ -167,12 +143,12 @@ int main(int nombre, char *arguments[])
     QApplication application(nombre, arguments);
     if (nombre == 2) {
         const bool nu = qstrcmp(arguments[1], "nu") == 0;
-        nu ? DureeNue(Lignes8Mo) : DureeFichier(Lignes8Mo);
+        nu ? DureeVoletNu(ProgrammeCN(Lignes8Mo)) : DureeFichier(Lignes8Mo);
         std::printf("%lld\n", Pointe());
         return 0;
     }
     const double huit = Mediane(3, [] { return DureeFichier(Lignes8Mo); });
-    const double nue = Mediane(5, [] { return DureeNue(Lignes8Mo); });
+    const double nue = Mediane(5, [] { return DureeVoletNu(ProgrammeCN(Lignes8Mo)); });
     const double seize = Mediane(3, [] { return DureeFichier(2 * Lignes8Mo); });
     const auto memoire = static_cast<double>(PointeDe(QStringLiteral("programme")));
     bool tenu = Montre({QStringLiteral("reception by file of 8 MB / bare text pane"), huit / nue, 2.0});

@@ -1,7 +1,11 @@
 #include "Mesure.h"
 
+#include "comconfig/ParamCom.h"
+
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPlainTextEdit>
 
 #include <algorithm>
 #include <cstdio>
@@ -49,6 +53,35 @@ double SecondesDe(const std::function<void()> &action)
     montre.start();
     action();
     return static_cast<double>(montre.nsecsElapsed()) * 1e-9;
+}
+
+double DureeVoletNu(const QString &texte)
+{
+    QPlainTextEdit editeur;
+    editeur.show();
+    QCoreApplication::processEvents();
+    return SecondesDe([&] {
+        editeur.setPlainText(texte);
+        QCoreApplication::processEvents();
+    });
+}
+
+void ConfigureMachine(int vitesse)
+{
+    ParamCom = ConfigurationCom();
+    ParamCom.NumPort = 2;
+    ParamCom.NomPort = QStringLiteral("Com2");
+    ParamCom.Vitesse = QString::number(vitesse);
+    ParamCom.Parite = QStringLiteral("n");
+    ParamCom.BitsDonnees = QStringLiteral("8");
+    ParamCom.BitsArret = QStringLiteral("1");
+    ParamCom.ControleFlux = 1;
+    ParamCom.TypeFinTrans = 1;
+    ParamCom.TypeFinLig = 3;
+    ParamCom.TailleTamponRecep = 1024;
+    ParamCom.TailleTamponEmis = 512;
+    ParamCom.Echo = 1;
+    BatirChaines();
 }
 
 QString ProgrammeCN(int lignes)

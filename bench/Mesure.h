@@ -29,3 +29,9 @@ double SecondesDe(const std::function<void()> &action);
 
 /// A CN program of that many lines of about 25 characters, CR LF behind each.
 QString ProgrammeCN(int lignes);
+
+/// Seconds that a bare text pane of Qt takes to show texte.
+double DureeVoletNu(const QString &texte);
+
+/// ParamCom becomes a configuration for a simulated machine on Com2 with XON/XOFF and EOT. vitesse: bits per second.
+void ConfigureMachine(int vitesse);
