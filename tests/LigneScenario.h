@@ -1,15 +1,19 @@
 #pragma once
 
+#include "platform/Erreur.h"
 #include "platform/LigneSerie.h"
 #include "platform/MSComm.h"
 
+#include <algorithm>
 #include <memory>
-#include <optional>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 /// The machine, the cable and the driver behind a LigneScenario. A test sets what they do and reads what the control
 /// did.
-struct Scenario
+class Scenario
 {
+public:
     // What the test sets
     std::optional<EtatsLigne> etats = EtatsLigne{true, true, true, false};
     CompteursLigne compteurs;
@@ -17,7 +21,6 @@ struct Scenario
     int parAppel = 1'000'000; ///< most characters that one call takes
     int nonEmis = 0;          ///< what the system says that it holds
     bool immobile = false;    ///< a line that stands still: nonEmis grows by what is handed over
-    bool disparue = false;    ///< unplugged: every operation fails. See also Scenario::Debranche().
     int refusReglage = 0;     ///< number with which settings are refused, 0 takes them
 
     // What the control did
@@ -30,20 +33,32 @@ struct Scenario
     int jetsEmission = 0;
     bool ouverte = false;
 
-    Scenario();
-    ~Scenario();
+    Scenario() = default;
+    ~Scenario() { close(m_reveil); }
     Q_DISABLE_COPY_MOVE(Scenario)
 
     /// The machine sends octets; the positions in fausses come with a parity error.
-    void Envoie(const QByteArray &octets, const QList<qsizetype> &fausses = {});
+    void Envoie(const QByteArray &octets, const QList<qsizetype> &fausses = {})
+    {
+        for (const qsizetype fausse : fausses)
+            m_fausses.append(m_enRoute.size() + fausse);
+        m_enRoute += octets;
+        eventfd_write(m_reveil, 1);
+    }
     /// Characters sent that the control has not taken.
     qsizetype EnAttente() const { return m_enRoute.size(); }
-    void Debranche();
+    /// From now on every operation fails.
+    void Debranche()
+    {
+        m_disparue = true;
+        eventfd_write(m_reveil, 1);
+    }
 
 private:
     friend class LigneScenario;
 
-    int m_reveil = -1; // readable as long as something has come
+    int m_reveil = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC); // readable as long as something has come
+    bool m_disparue = false;
     QByteArray m_enRoute;
     QList<qsizetype> m_fausses; // positions in m_enRoute; below 0: gone
 };
@@ -52,26 +67,71 @@ private:
 class LigneScenario : public LigneSerie
 {
 public:
-    explicit LigneScenario(std::shared_ptr<Scenario> scenario);
-    ~LigneScenario() override;
+    explicit LigneScenario(std::shared_ptr<Scenario> scenario)
+        : m_scenario(std::move(scenario))
+    {
+        m_scenario->ouverte = true;
+    }
+    ~LigneScenario() override { m_scenario->ouverte = false; }
 
     /// Gives each port that a control opens this scenario.
-    static MSComm::Fabrique Fabrique(const std::shared_ptr<Scenario> &scenario);
+    static MSComm::Fabrique Fabrique(const std::shared_ptr<Scenario> &scenario)
+    {
+        return [scenario](int) { return std::make_unique<LigneScenario>(scenario); };
+    }
 
-    void Regle(const ReglagePort &reglage) override;
+    void Regle(const ReglagePort &reglage) override
+    {
+        if (m_scenario->refusReglage != 0)
+            throw Erreur(m_scenario->refusReglage, QStringLiteral("refused"));
+        m_scenario->reglages.append(reglage);
+    }
     void PoseRTS(bool actif) override { m_scenario->rts = actif; }
     void PoseDTR(bool actif) override { m_scenario->dtr = actif; }
     int Descripteur() const override { return m_scenario->m_reveil; }
-    LectureLigne Lit(int tailleMax) override;
-    int Ecrit(const char *octets, int nombre) override;
+    LectureLigne Lit(int tailleMax) override
+    {
+        ExigePresente();
+        LectureLigne lecture;
+        lecture.octets = m_scenario->m_enRoute.left(tailleMax);
+        m_scenario->m_enRoute.remove(0, lecture.octets.size());
+        for (qsizetype &fausse : m_scenario->m_fausses) {
+            if (fausse >= 0 && fausse < lecture.octets.size())
+                lecture.fausses.append(fausse);
+            fausse -= lecture.octets.size();
+        }
+        lecture.erreur = !lecture.fausses.isEmpty();
+        eventfd_t compte = 0;
+        if (m_scenario->m_enRoute.isEmpty())
+            eventfd_read(m_scenario->m_reveil, &compte);
+        return lecture;
+    }
+    int Ecrit(const char *octets, int nombre) override
+    {
+        ExigePresente();
+        ++m_scenario->essais;
+        const int pris = std::min({nombre, m_scenario->parAppel, m_scenario->accepte});
+        m_scenario->accepte -= pris;
+        m_scenario->ecrits.append(octets, pris);
+        m_scenario->nonEmis += m_scenario->immobile ? pris : 0;
+        return pris;
+    }
     int NonEmis() override { return ++m_scenario->regards, m_scenario->nonEmis; }
-    void JetteReception() override;
+    void JetteReception() override
+    {
+        m_scenario->m_enRoute.clear();
+        m_scenario->m_fausses.clear();
+    }
     void JetteEmission() override { ++m_scenario->jetsEmission; }
     std::optional<EtatsLigne> Etats() override { return m_scenario->etats; }
     CompteursLigne Compteurs() override { return m_scenario->compteurs; }
 
 private:
-    void ExigePresente() const;
+    void ExigePresente() const
+    {
+        if (m_scenario->m_disparue)
+            throw Erreur(ErreurPort::Lecture, QStringLiteral("unplugged"));
+    }
 
     std::shared_ptr<Scenario> m_scenario;
 };

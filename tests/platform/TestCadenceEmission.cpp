@@ -15,13 +15,9 @@ private Q_SLOTS:
     // Handing over whenever the cadence asks for it never lets the line idle and never exceeds the lead.
     void ligneToujoursOccupee()
     {
-        const struct
-        {
-            int vitesse;
-            double bits;
-            int avance;
-            std::chrono::microseconds retard; // by which each turn comes too late
-        } cas[] = {{110, 11, 16, 8ms}, {9600, 10, 16, 8ms}, {115200, 10, 138, 0ms}, {115200, 8.5, 162, 8ms}};
+        // Speed, bits a character, lead; the time by which each turn comes too late.
+        const std::tuple<int, double, int, std::chrono::microseconds> cas[] = {
+            {110, 11, 16, 8ms}, {9600, 10, 16, 8ms}, {115200, 10, 138, 0ms}, {115200, 8.5, 162, 8ms}};
         for (const auto &[vitesse, bits, avance, retard] : cas) {
             CadenceEmission cadence;
             cadence.Regle(vitesse, bits);

@@ -43,18 +43,14 @@ private Q_SLOTS:
         QVERIFY(QDir(m_dossier.path()).mkdir(QStringLiteral("dossier")));
         QVERIFY(QFile::link(QStringLiteral("/dev/full"), Chemin("plein")));
         QCOMPARE(mkfifo(qPrintable(Chemin("tube")), 0600), 0);
-        const struct
-        {
-            const char *nom;
-            int lecture;
-            int ecriture; // -1: would wait for a reader
-        } cas[] = {{"absent", Erreur::FichierIntrouvable, 0},
-                   {"parti/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
-                   {"fichier/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
-                   {"dossier", Erreur::ErreurFichier, Erreur::ErreurFichier},
-                   {"tube", Erreur::ErreurFichier, -1},
-                   {"plein", Erreur::ErreurFichier, Erreur::DisqueSature},
-                   {"gros", Erreur::MemoireInsuffisante, 0}};
+        const std::tuple<const char *, int, int> cas[] = {
+            {"absent", Erreur::FichierIntrouvable, 0},
+            {"parti/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
+            {"fichier/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
+            {"dossier", Erreur::ErreurFichier, Erreur::ErreurFichier},
+            {"tube", Erreur::ErreurFichier, -1}, // would wait for a reader
+            {"plein", Erreur::ErreurFichier, Erreur::DisqueSature},
+            {"gros", Erreur::MemoireInsuffisante, 0}};
         for (const auto &[nom, lecture, ecriture] : cas) {
             const QString chemin = Chemin(nom);
             QCOMPARE(FichierExiste(chemin), QLatin1String(nom) == QLatin1String("gros"));

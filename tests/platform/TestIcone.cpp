@@ -9,23 +9,16 @@ class TestIcone : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_dossier;
-
-    /// A file with a drawing whose left half is red and whose right half has the colour given.
-    QString Pose(const char *droite) const
-    {
-        QFile fichier(m_dossier.filePath(QStringLiteral("icone.svg")));
-        const QByteArray dessin = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 48 48'>"
-                                  "<path fill='#f00' d='M0 0h24v48H0z'/><path fill='" +
-                                  QByteArray(droite) + "' d='M24 0h24v48H24z'/></svg>";
-        return fichier.open(QIODevice::WriteOnly) && fichier.write(dessin) > 0 ? fichier.fileName() : QString();
-    }
-
 private Q_SLOTS:
     void Peinture()
     {
         const std::pair<QSize, double> cas[] = {{{16, 16}, 1}, {{128, 128}, 1}, {{24, 24}, 1.5}};
-        const QIcon icone = Icone(Pose("#00f"));
+        const QTemporaryDir dossier;
+        QFile fichier(dossier.filePath(QStringLiteral("icone.svg"))); // left half red, right half blue
+        QVERIFY(fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        fichier.write("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 48 48'>"
+                      "<path fill='#f00' d='M0 0h24v48H0z'/><path fill='#00f' d='M24 0h24v48H24z'/></svg>");
+        const QIcon icone = Icone(fichier.fileName());
         for (const auto &[taille, densite] : cas) {
             QImage ecran((QSizeF(taille) * densite).toSize(), QImage::Format_ARGB32_Premultiplied);
             ecran.setDevicePixelRatio(densite);

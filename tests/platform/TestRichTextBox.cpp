@@ -47,14 +47,6 @@ QString TexteAuHasard(QRandomGenerator &hasard)
     return texte;
 }
 
-/// The text of the clipboard, as another program would put it there.
-void PoseAilleurs(const char *texte)
-{
-    auto *donnees = new QMimeData;
-    donnees->setText(T(texte));
-    QGuiApplication::clipboard()->setMimeData(donnees);
-}
-
 } // namespace
 
 class TestRichTextBox : public QObject
@@ -190,10 +182,12 @@ private Q_SLOTS:
         QVERIFY(volet.EstVide());
         QCOMPARE(QGuiApplication::clipboard()->text(), texte);
         QTest::keyClick(&volet, Qt::Key_V, Qt::ControlModifier);
-        PoseAilleurs("1\n2\n");
-        volet.paste();
-        PoseAilleurs("\r3\n");
-        volet.paste();
+        for (const char *texteAilleurs : {"1\n2\n", "\r3\n"}) {
+            auto *ailleurs = new QMimeData; // as another program would put it there
+            ailleurs->setText(T(texteAilleurs));
+            QGuiApplication::clipboard()->setMimeData(ailleurs);
+            volet.paste();
+        }
         QCOMPARE(volet.Text(), texte + T("1\r\n2\r\n\r3\n"));
     }
 
@@ -201,11 +195,19 @@ private Q_SLOTS:
     {
         RichTextBox volet;
         volet.setSelBold(false);
-        volet.LoadFile(QStringLiteral(DONNEES) + QStringLiteral("/wordpad.rtf"), RichTextBox::TexteRiche);
-        volet.setSelStart(static_cast<int>(volet.Text().indexOf(T("Bride"))) + 1);
-        QVERIFY(volet.SelBold());
-        QCOMPARE(volet.SelFontName(), QStringLiteral("Courier New"));
-        QCOMPARE(volet.SelColor(), QColor(255, 0, 0));
+        volet.LoadFile(QStringLiteral(DONNEES) + QStringLiteral("/libreoffice.rtf"), RichTextBox::TexteRiche);
+        const auto va = [&volet](const char *mot) { volet.setSelStart(int(volet.Text().indexOf(T(mot))) + 1); };
+        va("O4512");
+        QVERIFY(volet.SelBold() && !volet.SelItalic() && !volet.SelUnderline());
+        va("N10");
+        QVERIFY(!volet.SelBold() && volet.SelFontSize() == 10 && volet.SelColor() == QColor(0, 0, 255));
+        QCOMPARE(volet.SelFontName(), QStringLiteral("Liberation Mono"));
+        va("Z-5");
+        QVERIFY(volet.SelUnderline());
+        va("M6");
+        QVERIFY(volet.SelStrikeThru());
+        va("n\xB0");
+        QVERIFY(volet.SelItalic());
     }
 
     // Without line ends every piece lengthens one line: laying it out each time would never end.

@@ -30,18 +30,14 @@ class TestMachine : public QObject
 private Q_SLOTS:
     void DecoupeChaines()
     {
-        const struct
-        {
-            QByteArray debut;
-            QByteArray fin;
-            QByteArray flot;
-            QByteArrayList textes; // the last is what remains unfinished
-        } cas[] = {{"", "\4", "\4N1\r\n\4N2", {"", "N1\r\n", "N2"}},
-                   {"", "M30", "MM3M30M3", {"MM3", "M3"}},
-                   {"%\r", "\4", "\4%%\rN1\4N2", {"N1", ""}},
-                   {"%", "%", "%N1%%N2%%", {"N1", "N2", ""}},
-                   {"%%", "%%", "%%%N%%", {"%N", ""}}, // the end does not eat the beginning
-                   {"", "", "N1\4", {"N1\4"}}};
+        // Beginning and end chain, what comes, the programs in it; the last is what remains unfinished.
+        const std::tuple<QByteArray, QByteArray, QByteArray, QByteArrayList> cas[] = {
+            {"", "\4", "\4N1\r\n\4N2", {"", "N1\r\n", "N2"}},
+            {"", "M30", "MM3M30M3", {"MM3", "M3"}},
+            {"%\r", "\4", "\4%%\rN1\4N2", {"N1", ""}},
+            {"%", "%", "%N1%%N2%%", {"N1", "N2", ""}},
+            {"%%", "%%", "%%%N%%", {"%N", ""}}, // the end does not eat the beginning
+            {"", "", "N1\4", {"N1\4"}}};
         for (const auto &[debut, fin, flot, textes] : cas) {
             Decoupe decoupe(debut, fin);
             QByteArrayList trouves;
