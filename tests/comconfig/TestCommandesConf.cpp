@@ -72,7 +72,7 @@ void TestCommandesConf::Charge()
 // A file that breaks off: the record holds what was read, while menus, labels and derived strings stay as they were.
 void TestCommandesConf::Erronee()
 {
-    const Poste poste(1);
+    const Poste poste(0);
     Operateur operateur;
     QFile complet(m_complet);
     QVERIFY(complet.open(QIODevice::ReadOnly));
@@ -83,16 +83,16 @@ void TestCommandesConf::Erronee()
             Operateur::Menu("Mnu_ChargeConf");
         }
         operateur.Choisit(courte);
-        operateur.Repond("Erroneous file of configuration",
-                         "File of configuration of former version !\rModify to record some again.", Boite::Exclamation,
-                         QMessageBox::Ok);
+        operateur.Repond("Fichier de configuration erroné ou de version antérieure !",
+                         "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
+                         Boite::Exclamation, QMessageBox::Ok);
         Operateur::Menu("Mnu_ChargeConf");
         QCOMPARE(Actives(), QList<bool>({apresUneBonne, apresUneBonne, false, false}));
         QCOMPARE(FicConf + NomConf, courte + u"Courte.par"_s);
         QCOMPARE(ParamCom.NomPort, u"Com3"_s);
         QCOMPARE(ParamCom.ChaineFinLig, apresUneBonne ? u"\r\r\n"_s : QString());
         QCOMPARE(ParamCom.TypeEnvoi, apresUneBonne ? 1 : 0);
-        QCOMPARE(frmPrinc->Label4->text(), apresUneBonne ? u"Complet.par"_s : u"None"_s);
+        QCOMPARE(frmPrinc->Label4->text(), apresUneBonne ? u"Complet.par"_s : u"Aucun"_s);
     }
 }
 
