@@ -1,4 +1,3 @@
-#include "Cas.h"
 #include "Operateur.h"
 #include "Poste.h"
 
@@ -9,6 +8,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,12 +55,6 @@ void VerifieChange(const QString &chemin)
     QCOMPARE(FichierModifie, Vrai);
 }
 
-struct CasOctets
-{
-    const char *nom;
-    QByteArray octets;
-};
-
 } // namespace
 
 class TestDocument : public QObject
@@ -68,7 +62,6 @@ class TestDocument : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void AllerRetour_data();
     void AllerRetour();
     void TexteRiche();
     void DialogueOuvrir();
@@ -81,7 +74,7 @@ private Q_SLOTS:
 };
 
 // Through the two commands a program keeps every byte; the saving adds one CR LF.
-void TestDocument::AllerRetour_data()
+void TestDocument::AllerRetour()
 {
     QByteArray tous;
     for (int code = 0; code < 256; ++code)
@@ -89,38 +82,28 @@ void TestDocument::AllerRetour_data()
     QByteArray gros;
     for (int bloc = 0; gros.size() < 10'000'000; ++bloc)
         gros += "N" + QByteArray::number(bloc) + " G1 X12.345 Y-6.789 F1000" + (bloc % 3 == 0 ? "\n" : "\r\n");
-    Rangees<CasOctets>({{"empty", ""},
-                        {"LF", "%\nN10\nM30\n"},
-                        {"CR", "%\rN10\rM30\r"},
-                        {"mixed ends", "A\r\r\nB\n\rC\n\n\r\n\r\rD\r"},
-                        {"tabs and form feeds", "\tN10\t\fX1 \f\r\n \t\r\n"},
-                        {"all bytes", tous},
-                        {"all bytes, each a line", QByteArray(tous).replace("", "\r\n")},
-                        {"NUL only", QByteArray(3, '\0')},
-                        {"one long line", QByteArray(100000, 'X')},
-                        {"an older system's end of file", "M30\r\n\x1A"},
-                        {"10 MB", gros}});
-}
+    for (const QByteArray &octets :
+         {QByteArray(), QByteArray("%\nN10\nM30\n"), QByteArray("%\rN10\rM30\r"),
+          QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
+          QByteArray(tous).replace("", "\r\n"), QByteArray(3, '\0'), QByteArray(100'000, 'X'),
+          QByteArray("M30\r\n\x1A"), gros}) {
+        Atelier atelier;
+        const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
+        atelier.Ouvre(chemin);
+        QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
+        QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
+        QCOMPARE(frmPrinc->Label2->text(), u"Pièce n° 1.iso"_s);
+        QCOMPARE(NomFichier + TitreFichier, chemin + u"Pièce n° 1.iso"_s);
+        QCOMPARE(FichierModifie, 0);
+        for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
+            QVERIFY(Operateur::Offre(entree));
 
-void TestDocument::AllerRetour()
-{
-    QFETCH(CasOctets, cas);
-    Atelier atelier;
-    const QString chemin = atelier.Ecrit("Pièce n° 1.iso", cas.octets);
-    atelier.Ouvre(chemin);
-    QCOMPARE(frmPrinc->Text1->Text().size(), cas.octets.size());
-    QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
-    QCOMPARE(frmPrinc->Label2->text(), u"Pièce n° 1.iso"_s);
-    QCOMPARE(NomFichier + TitreFichier, chemin + u"Pièce n° 1.iso"_s);
-    QCOMPARE(FichierModifie, 0);
-    for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
-        QVERIFY(Operateur::Offre(entree));
-
-    atelier.Enregistre(atelier.Chemin("copie.iso"));
-    QVERIFY(atelier.Lit("copie.iso") == cas.octets + "\r\n");
-    QVERIFY(atelier.Lit("Pièce n° 1.iso") == cas.octets);
-    QCOMPARE(frmPrinc->windowTitle(), Version + atelier.Chemin("copie.iso"));
-    QCOMPARE(frmPrinc->Label2->text() + TitreFichier, u"copie.isocopie.iso"_s);
+        atelier.Enregistre(atelier.Chemin("copie.iso"));
+        QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
+        QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
+        QCOMPARE(frmPrinc->windowTitle(), Version + atelier.Chemin("copie.iso"));
+        QCOMPARE(frmPrinc->Label2->text() + TitreFichier, u"copie.isocopie.iso"_s);
+    }
 }
 
 // Rich text is known by its name.

@@ -84,10 +84,11 @@ void TestEm_Rc::Annonce()
     }
 }
 
-// Another configuration from inside the dialog; cancelling the choice leaves the first.
+// Another configuration from inside the dialog; a cancelled choice leaves the first, and a file that breaks off, which
+// is told, leaves its name.
 void TestEm_Rc::AutreConfiguration()
 {
-    const Poste poste(0);
+    const Poste poste(1);
     poste.Charge("G0");
     const QString autre = poste.Chemin("Tour.par");
     QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
@@ -102,6 +103,16 @@ void TestEm_Rc::AutreConfiguration()
     operateur.Fait(Dialogue, [&poste](QWidget &) {
         QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
         QCOMPARE(FicConf, poste.Chemin("Machine.par"));
+    });
+    operateur.Presse(Dialogue, "Command3");
+    operateur.Choisit(poste.Ecrit("Faux.par", "3\r\nCom3\r\n"));
+    operateur.Repond("Erroneous file of configuration",
+                     "File of configuration of former version !\rModify to record some again.", Boite::Exclamation,
+                     QMessageBox::Ok);
+    operateur.Fait(Dialogue, [](QWidget &) {
+        QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
+        QCOMPARE(frmPrinc->Label4->text(), u"Machine.par"_s);
+        QCOMPARE(ParamCom.NumPort, 3);
     });
     operateur.Presse(Dialogue, "Command3");
     operateur.Choisit(autre);

@@ -1,4 +1,3 @@
-#include "Cas.h"
 #include "Operateur.h"
 #include "Poste.h"
 
@@ -10,6 +9,7 @@
 #include "shell/FrmPrinc.h"
 
 #include <QPushButton>
+#include <QTest>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -103,16 +103,6 @@ struct Atelier
     Operateur operateur;
 };
 
-struct CasOctets
-{
-    const char *nom;
-    int typeEnvoi;
-    QByteArray texte;
-    const char *debut; // beginning of program
-    int finLigne;      // 0 LF, 3 CR LF
-    QByteArray attendu;
-};
-
 } // namespace
 
 class TestEmission : public QObject
@@ -120,58 +110,53 @@ class TestEmission : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Octets_data();
     void Octets();
     void TropDeLignes();
     void Affichage();
-    void Coupure_data();
     void Coupure();
     void PortInutilisable();
 };
 
 // What the machine gets, byte for byte, twice in a row from one dialog: so nothing follows the end of the first.
-void TestEmission::Octets_data()
+void TestEmission::Octets()
 {
     QByteArray tous;
     for (int code = 0; code < 256; ++code)
         tous += static_cast<char>(code);
     const QByteArray longue(50, 'X');
-    Rangees<CasOctets>({{"block: empty", DUnBloc, "", "", 0, "\x04"},
-                        {"block: empty, beginning", DUnBloc, "", "%O", 3, "%O\r\n\x04"},
-                        {"block: exactly a buffer", DUnBloc, "12345678", "", 3, "12345678\x04"},
-                        {"block: one character more", DUnBloc, "123456789", "%", 0, "%\n123456789\x04"},
-                        {"block: line ends of its own", DUnBloc, " A\r\nB\nC\rD \r\n", "", 3, " A\r\nB\nC\rD \r\n\x04"},
-                        {"block: all bytes", DUnBloc, tous, "\xFF", 0, "\xFF\n" + tous + "\x04"},
-                        {"lines: empty", ParLigne, "", "", 3, "\r\n\x04"},
-                        {"lines: beginning, CR ahead of LF", ParLigne, "A\r\nB", "%", 0, "%\nA\r\nB\n\x04"},
-                        {"lines: CR ahead of CR LF", ParLigne, "A\r\nB", "", 3, "A\r\r\nB\r\n\x04"},
-                        {"lines: blanks at the ends of the text alone", ParLigne, "  A \r\n B \r\n C  ", "", 0,
-                         "A \r\n B \r\n C\n\x04"},
-                        {"lines: empty ones", ParLigne, "A\r\n\r\n\r\nB\r\n", "", 0, "A\r\n\r\n\r\nB\r\n\n\x04"},
-                        {"lines: LF alone cuts none", ParLigne, "A\nB\n", "", 3, "A\nB\n\r\n\x04"},
-                        {"lines: longer than the buffer", ParLigne, longue + "\r\nB", "", 0, longue + "\r\nB\n\x04"},
-                        {"lines: all bytes", ParLigne, tous, "", 0, tous + "\n\x04"}});
-}
-
-void TestEmission::Octets()
-{
-    QFETCH(CasOctets, cas);
-    Atelier atelier(cas.typeEnvoi, cas.texte);
-    ParamCom.TypeFinLig = cas.finLigne;
-    const QByteArray debut = cas.debut;
-    ParamCom.NbCarDebProg = int(debut.size());
-    for (int i = 0; i < debut.size(); ++i)
-        ParamCom.CarDebProg[std::size_t(i) + 1] = static_cast<unsigned char>(debut[i]);
-    BatirChaines();
-    ParamCom.TailleTamponEmis = 8;
-    atelier.Confirme();
-    atelier.operateur.Presse(Dialogue, Demarre, Fini);
-    atelier.Emet(Fini);
-    const qsizetype total = 2 * cas.attendu.size();
-    QVERIFY(atelier.machine.Attend([total](const EtatMachine &etat) { return etat.Recus >= total; }));
-    QCOMPARE(Recu(atelier.machine), cas.attendu + cas.attendu);
-    QVERIFY(PortLibre());
-    QCOMPARE(frmPrinc->Text1->Text().size(), cas.texte.size());
+    // beginning of the program, type of line end: 0 LF, 3 CR LF
+    const std::tuple<int, QByteArray, QByteArray, int, QByteArray> cas[] = {
+        {DUnBloc, "", "", 0, "\x04"},
+        {DUnBloc, "", "%O", 3, "%O\r\n\x04"},
+        {DUnBloc, "12345678", "", 3, "12345678\x04"}, // exactly a buffer
+        {DUnBloc, "123456789", "%", 0, "%\n123456789\x04"},
+        {DUnBloc, " A\r\nB\nC\rD \r\n", "", 3, " A\r\nB\nC\rD \r\n\x04"},
+        {DUnBloc, tous, "\xFF", 0, "\xFF\n" + tous + "\x04"},
+        {ParLigne, "", "", 3, "\r\n\x04"},
+        {ParLigne, "A\r\nB", "%", 0, "%\nA\r\nB\n\x04"},
+        {ParLigne, "A\r\nB", "", 3, "A\r\r\nB\r\n\x04"},
+        {ParLigne, "  A \r\n B \r\n C  ", "", 0, "A \r\n B \r\n C\n\x04"},
+        {ParLigne, "A\r\n\r\n\r\nB\r\n", "", 0, "A\r\n\r\n\r\nB\r\n\n\x04"},
+        {ParLigne, "A\nB\n", "", 3, "A\nB\n\r\n\x04"}, // LF alone cuts no line
+        {ParLigne, longue + "\r\nB", "", 0, longue + "\r\nB\n\x04"},
+        {ParLigne, tous, "", 0, tous + "\n\x04"}};
+    for (const auto &[type, texte, debut, finLigne, attendu] : cas) {
+        Atelier atelier(type, texte);
+        ParamCom.TypeFinLig = finLigne;
+        ParamCom.NbCarDebProg = int(debut.size());
+        for (int i = 0; i < debut.size(); ++i)
+            ParamCom.CarDebProg[std::size_t(i) + 1] = static_cast<unsigned char>(debut[i]);
+        BatirChaines();
+        ParamCom.TailleTamponEmis = 8;
+        atelier.Confirme();
+        atelier.operateur.Presse(Dialogue, Demarre, Fini);
+        atelier.Emet(Fini);
+        const qsizetype total = 2 * attendu.size();
+        QVERIFY(atelier.machine.Attend([total](const EtatMachine &etat) { return etat.Recus >= total; }));
+        QCOMPARE(Recu(atelier.machine), attendu + attendu);
+        QVERIFY(PortLibre());
+        QCOMPARE(frmPrinc->Text1->Text().size(), texte.size());
+    }
 }
 
 // The table holds 25000 lines. A text of more leaves the count of the sending before it, and so many of its lines go.
@@ -235,58 +220,48 @@ void TestEmission::Affichage()
 
 // The operator cancels, closes the dialog or the machine is switched off, in the middle and while the machine holds the
 // line: told once, port closed, lamps red, no end of transfer; and the next sending is whole.
-void TestEmission::Coupure_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("geste");
-    QTest::addColumn<bool>("retenue");
-    for (int cas = 0; cas < 12; ++cas) {
-        const char *const geste = std::array{"cancel", "close box", "machine off"}[std::size_t(cas % 3)];
-        QTest::addRow("%s: %s%s", cas < 6 ? "lines" : "block", geste, cas / 3 % 2 == 0 ? ", held" : "")
-            << (cas < 6 ? int(ParLigne) : int(DUnBloc)) << QString::fromLatin1(geste) << (cas / 3 % 2 == 0);
-    }
-}
-
 void TestEmission::Coupure()
 {
-    QFETCH(int, type);
-    QFETCH(QString, geste);
-    QFETCH(bool, retenue);
-    Atelier atelier(type, QByteArray("N10 G1 X1\r\n").repeated(3000),
-                    retenue ? std::vector<Arret>{{100, -1}} : std::vector<Arret>());
-    MachineSimulee &machine = atelier.machine;
-    const bool eteinte = geste == "machine off"_L1;
-    const auto auMilieu = [&] { return machine.Etat().Recus >= 100 && machine.Etat().Retenu == retenue; };
-    atelier.Confirme();
-    if (eteinte) {
-        atelier.operateur.Fait(
-            Dialogue, [&machine](QWidget &) { machine.Arrete(); }, auMilieu);
-        atelier.operateur.LitErreur(8020, u"Erreur de lecture du périphérique de communication"_s);
-        atelier.operateur.Presse(Dialogue, Annule);
-    } else {
-        if (geste == "cancel"_L1)
-            atelier.operateur.Presse(Dialogue, Annule, auMilieu);
-        else
-            atelier.operateur.Ferme(Dialogue, auMilieu);
-        atelier.operateur.LitErreur(8018, PortFerme);
-    }
-    frmPrinc->UpdateTimer.setInterval(1);
-    Operateur::Menu("Mnu_EmisProgCN");
-    QVERIFY(PortLibre());
-    QTRY_COMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
-    QTRY_COMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Rouge);
-    QVERIFY(machine.Programmes().empty() && Recu(machine).size() < 33000);
+    enum { Annuler, Fermer, Eteindre };
+    for (int cas = 0; cas < 12; ++cas) {
+        const int geste = cas % 3;
+        const int type = cas < 6 ? ParLigne : DUnBloc;
+        const bool retenue = cas / 3 % 2 == 0;
+        Atelier atelier(type, QByteArray("N10 G1 X1\r\n").repeated(3000),
+                        retenue ? std::vector<Arret>{{100, -1}} : std::vector<Arret>());
+        MachineSimulee &machine = atelier.machine;
+        const auto auMilieu = [&] { return machine.Etat().Recus >= 100 && machine.Etat().Retenu == retenue; };
+        atelier.Confirme();
+        if (geste == Eteindre) {
+            atelier.operateur.Fait(
+                Dialogue, [&machine](QWidget &) { machine.Arrete(); }, auMilieu);
+            atelier.operateur.LitErreur(8020, u"Erreur de lecture du périphérique de communication"_s);
+            atelier.operateur.Presse(Dialogue, Annule);
+        } else {
+            if (geste == Annuler)
+                atelier.operateur.Presse(Dialogue, Annule, auMilieu);
+            else
+                atelier.operateur.Ferme(Dialogue, auMilieu);
+            atelier.operateur.LitErreur(8018, PortFerme);
+        }
+        frmPrinc->UpdateTimer.setInterval(1);
+        Operateur::Menu("Mnu_EmisProgCN");
+        QVERIFY(PortLibre());
+        QTRY_COMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
+        QTRY_COMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Rouge);
+        QVERIFY(machine.Programmes().empty() && Recu(machine).size() < 33000);
 
-    const MachineSimulee autre(Rapide());
-    if (eteinte)
-        atelier.poste.Relie(2, autre.Chemin());
-    machine.Reprend();
-    machine.RemiseAZero();
-    OuvreDocument(atelier.poste.Ecrit("PIECE.iso", "G0"));
-    atelier.EmetToutEntier();
-    const MachineSimulee &suivante = eteinte ? autre : machine;
-    QVERIFY(suivante.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
-    QCOMPARE(Recu(suivante), type == ParLigne ? QByteArray("G0\n\x04") : QByteArray("G0\x04"));
+        const MachineSimulee autre(Rapide());
+        if (geste == Eteindre)
+            atelier.poste.Relie(2, autre.Chemin());
+        machine.Reprend();
+        machine.RemiseAZero();
+        OuvreDocument(atelier.poste.Ecrit("PIECE.iso", "G0"));
+        atelier.EmetToutEntier();
+        const MachineSimulee &suivante = geste == Eteindre ? autre : machine;
+        QVERIFY(suivante.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
+        QCOMPARE(Recu(suivante), type == ParLigne ? QByteArray("G0\n\x04") : QByteArray("G0\x04"));
+    }
 }
 
 // What stands behind the port's name is no line that can be used: told at the opening, then at the first operation. An

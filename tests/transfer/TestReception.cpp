@@ -1,4 +1,3 @@
-#include "Cas.h"
 #include "LigneScenario.h"
 #include "Operateur.h"
 #include "Poste.h"
@@ -13,6 +12,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -113,13 +113,6 @@ struct Atelier
     Operateur operateur;
 };
 
-struct CasRecu
-{
-    const char *nom;
-    int genre, finLigne, option;
-    QByteArray envoye, fichier;
-};
-
 } // namespace
 
 class TestReception : public QObject
@@ -127,163 +120,153 @@ class TestReception : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Recoit_data();
     void Recoit();
-    void Force_data() { Genres(); }
     void Force();
-    void Annule_data() { Genres(); }
     void Annule();
-    void Debranche_data() { Genres(); }
     void Debranche();
-    void DossierDisparu_data() { Genres(); }
     void DossierDisparu();
     void TropDeLignes();
     void FichierExistant();
     void Evenements();
-
-private:
-    static void Genres()
-    {
-        QTest::addColumn<int>("genre");
-        QTest::newRow("by line") << int(ParLigne);
-        QTest::newRow("by character") << int(ParCaractere);
-        QTest::newRow("by file") << int(ParFichier);
-    }
 };
 
 // Each way of receiving, to the file on the disk, the pane, the answer to the machine and the names of the document.
-void TestReception::Recoit_data()
+void TestReception::Recoit()
 {
     QByteArray tous;
     for (int i = 0; i < 256; ++i)
         tous += static_cast<char>(i);
     tous.replace('\x04', "").replace('\x11', "").replace('\x13', ""); // the end chain; XON and XOFF steer the line
     const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
-    Rangees<CasRecu>({{"by line", ParLigne, 3, 0, deux, deux + "\r\n"},
-                      {"by line, CR + LF added", ParLigne, 3, 3, "A\r\nB\r\n", "A\r\n\r\nB\r\n\r\n\r\n"},
-                      {"by line, LF", ParLigne, 0, 1, "A\nB\n", "A\n\r\nB\n\r\n\r\n"},
-                      {"by character", ParCaractere, 3, 0, deux, deux + "\r\n"},
-                      {"by character, own chain", ParCaractere, 4, 0, "A\r\r\nB\r\r\n", "A\r\nB\r\n\r\n"},
-                      {"by file, nothing", ParFichier, 3, 0, "", "\r\n"},
-                      {"by file, all bytes", ParFichier, 3, 0, tous, tous + "\r\n"}});
-}
+    const std::tuple<int, int, int, QByteArray, QByteArray> cas[] = {
+        {ParLigne, 3, 0, deux, deux + "\r\n"},
+        {ParLigne, 3, 3, "A\r\nB\r\n", "A\r\n\r\nB\r\n\r\n\r\n"}, // CR + LF added
+        {ParLigne, 0, 1, "A\nB\n", "A\n\r\nB\n\r\n\r\n"},
+        {ParCaractere, 3, 0, deux, deux + "\r\n"},
+        {ParCaractere, 4, 0, "A\r\r\nB\r\r\n", "A\r\nB\r\n\r\n"}, // a chain of the operator's own
+        {ParFichier, 3, 0, "", "\r\n"},
+        {ParFichier, 3, 0, tous, tous + "\r\n"}};
+    for (const auto &[genre, finLigne, option, envoye, fichier] : cas) {
+        Atelier atelier(genre);
+        ParamCom.TypeFinLig = finLigne;
+        ParamCom.FinLigRecep = option;
+        ParamCom.NbCarFinLig = 3;
+        ParamCom.CarFinLig = {0, 13, 13, 10};
+        BatirChaines();
+        atelier.Nomme();
+        atelier.Envoie(envoye);
+        const bool parFichier = genre == ParFichier;
+        atelier.operateur.Fait(
+            Dialogue,
+            [parFichier](QWidget &) {
+                QCOMPARE(Operateur::Lu("Label2"), u"Transfert réalisé avec succès !"_s);
+                QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s);
+            },
+            Finie);
+        atelier.Sort();
 
-void TestReception::Recoit()
-{
-    QFETCH(CasRecu, cas);
-    Atelier atelier(cas.genre);
-    ParamCom.TypeFinLig = cas.finLigne;
-    ParamCom.FinLigRecep = cas.option;
-    ParamCom.NbCarFinLig = 3;
-    ParamCom.CarFinLig = {0, 13, 13, 10};
-    BatirChaines();
-    atelier.Nomme();
-    atelier.Envoie(cas.envoye);
-    const bool parFichier = cas.genre == ParFichier;
-    atelier.operateur.Fait(
-        Dialogue,
-        [parFichier](QWidget &) {
-            QCOMPARE(Operateur::Lu("Label2"), u"Transfert réalisé avec succès !"_s);
-            QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s);
-        },
-        Finie);
-    atelier.Sort();
-
-    QCOMPARE(atelier.poste.Lit("PIECE.ISO"), cas.fichier);
-    QCOMPARE(frmPrinc->Text1->Text().size(), cas.fichier.size() - (parFichier ? 2 : 0));
-    QCOMPARE(FichierModifie, 0);
-    QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
-    QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
-    QVERIFY(atelier.machine.Attend([](const EtatMachine &etat) { return etat.Envoi.Reponse == Retour::Juste; }));
-    QVERIFY(frmPrinc->Text2->isHidden());
+        QCOMPARE(atelier.poste.Lit("PIECE.ISO"), fichier);
+        QCOMPARE(frmPrinc->Text1->Text().size(), fichier.size() - (parFichier ? 2 : 0));
+        QCOMPARE(FichierModifie, 0);
+        QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
+        QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
+        QVERIFY(atelier.machine.Attend([](const EtatMachine &etat) { return etat.Envoi.Reponse == Retour::Juste; }));
+        QVERIFY(frmPrinc->Text2->isHidden());
+    }
 }
 
 // The operator ends what the machine does not end. By line and by character the unfinished line goes; of a file all
 // stays.
 void TestReception::Force()
 {
-    QFETCH(int, genre);
-    Atelier atelier(genre);
-    atelier.Nomme();
-    atelier.Envoie("A\r\nB\r\nC\r\nmoit", true);
-    atelier.operateur.Presse(Dialogue, "Command7", [&atelier, genre] {
-        return !atelier.machine.Etat().Envoi.EnCours &&
-               (genre == ParFichier ? frmPrinc->Text2->FinitPar(u"moit"_s)
-                                    : Operateur::Lu("Label2").contains(genre == ParLigne ? u'4' : u'3'));
-    });
-    atelier.operateur.Repond("Forcer la fin de réception",
-                             "Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
-                             Operateur::Demande, QMessageBox::Yes);
-    atelier.Sort();
-    QCOMPARE(atelier.poste.Lit("PIECE.ISO"),
-             genre == ParFichier ? QByteArray("A\r\nB\r\nC\r\nmoit\r\n") : QByteArray("A\r\nB\r\nC\r\n\r\n"));
+    for (const int genre : {ParLigne, ParCaractere, ParFichier}) {
+        Atelier atelier(genre);
+        atelier.Nomme();
+        atelier.Envoie("A\r\nB\r\nC\r\nmoit", true);
+        atelier.operateur.Presse(Dialogue, "Command7", [&atelier, genre] {
+            return !atelier.machine.Etat().Envoi.EnCours &&
+                   (genre == ParFichier ? frmPrinc->Text2->FinitPar(u"moit"_s)
+                                        : Operateur::Lu("Label2").contains(genre == ParLigne ? u'4' : u'3'));
+        });
+        atelier.operateur.Repond(
+            "Forcer la fin de réception",
+            "Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
+            Operateur::Demande, QMessageBox::Yes);
+        atelier.Sort();
+        QCOMPARE(atelier.poste.Lit("PIECE.ISO"),
+                 genre == ParFichier ? QByteArray("A\r\nB\r\nC\r\nmoit\r\n") : QByteArray("A\r\nB\r\nC\r\n\r\n"));
+    }
 }
 
 // Cancelled by the button or the close box: nothing is stored, the machine gets nothing, the file dialog waits for
 // another try.
 void TestReception::Annule()
 {
-    QFETCH(int, genre);
-    for (const bool boiteDeFermeture : {false, true}) {
-        Atelier atelier(genre);
-        atelier.Nomme();
-        atelier.Envoie("A\r\nB\r\n", true);
-        const auto venu = [&atelier] { return atelier.machine.Etat().Envoi.Emis == 6; };
-        if (boiteDeFermeture)
-            atelier.operateur.Ferme(Dialogue, venu);
-        else
-            atelier.operateur.Presse(Dialogue, "Command1", venu);
-        if (genre == ParFichier)
-            atelier.operateur.Repond("Bouton Annuler cliqué", "AnnuleRECEPT% = 1", 0, QMessageBox::Ok);
-        atelier.Abandonne();
-        QVERIFY(!QFile::exists(atelier.poste.Chemin("PIECE.ISO")));
-        QVERIFY(!PortOuvert && frmPrinc->Text2->isHidden());
-        QCOMPARE(frmPrinc->shpReceive->FillColor(), int(Lampe::Rouge));
-        QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
-        QCOMPARE(atelier.machine.Etat().Envoi.Octets, QByteArray());
+    for (const int genre : {ParLigne, ParCaractere, ParFichier}) {
+        for (const bool boiteDeFermeture : {false, true}) {
+            Atelier atelier(genre);
+            atelier.Nomme();
+            atelier.Envoie("A\r\nB\r\n", true);
+            const auto venu = [&atelier] { return atelier.machine.Etat().Envoi.Emis == 6; };
+            if (boiteDeFermeture)
+                atelier.operateur.Ferme(Dialogue, venu);
+            else
+                atelier.operateur.Presse(Dialogue, "Command1", venu);
+            if (genre == ParFichier)
+                atelier.operateur.Repond("Bouton Annuler cliqué", "AnnuleRECEPT% = 1", 0, QMessageBox::Ok);
+            atelier.Abandonne();
+            QVERIFY(!QFile::exists(atelier.poste.Chemin("PIECE.ISO")));
+            QVERIFY(!PortOuvert && frmPrinc->Text2->isHidden());
+            QCOMPARE(frmPrinc->shpReceive->FillColor(), int(Lampe::Rouge));
+            QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
+            QCOMPARE(atelier.machine.Etat().Envoi.Octets, QByteArray());
+        }
     }
 }
 
 // Unplugged in the middle: told, and what had come can be saved.
 void TestReception::Debranche()
 {
-    QFETCH(int, genre);
-    Atelier atelier(genre);
-    atelier.Nomme();
-    atelier.Envoie("A\r\nB\r\nmoi", true);
-    atelier.operateur.Fait(
-        Dialogue, [&atelier](QWidget &) { atelier.machine.Arrete(); },
-        [genre] {
-            return genre == ParFichier ? frmPrinc->Text2->FinitPar(u"moi"_s)
-                                       : Operateur::Lu("Label3") == u"moi" || (genre == ParLigne && Lignes[2] == u"B");
-        });
-    atelier.operateur.LitErreur(ErreurPort::Lecture, u"Erreur de lecture du périphérique de communication"_s);
-    const QByteArray sauve = atelier.Sauve();
-    QVERIFY(!QFile::exists(atelier.poste.Chemin("PIECE.ISO")));
-    // By line the machine may be gone before its last characters were read.
-    QVERIFY(QByteArray("A\r\nB\r\nmoi").startsWith(sauve) && sauve.startsWith("A\r\nB\r\n"));
-    QVERIFY(!PortOuvert);
+    for (const int genre : {ParLigne, ParCaractere, ParFichier}) {
+        Atelier atelier(genre);
+        atelier.Nomme();
+        atelier.Envoie("A\r\nB\r\nmoi", true);
+        atelier.operateur.Fait(
+            Dialogue, [&atelier](QWidget &) { atelier.machine.Arrete(); },
+            [genre] {
+                return genre == ParFichier
+                           ? frmPrinc->Text2->FinitPar(u"moi"_s)
+                           : Operateur::Lu("Label3") == u"moi" || (genre == ParLigne && Lignes[2] == u"B");
+            });
+        atelier.operateur.LitErreur(ErreurPort::Lecture, u"Erreur de lecture du périphérique de communication"_s);
+        const QByteArray sauve = atelier.Sauve();
+        QVERIFY(!QFile::exists(atelier.poste.Chemin("PIECE.ISO")));
+        // By line the machine may be gone before its last characters were read.
+        QVERIFY(QByteArray("A\r\nB\r\nmoi").startsWith(sauve) && sauve.startsWith("A\r\nB\r\n"));
+        QVERIFY(!PortOuvert);
+    }
 }
 
 // The folder has gone when the file is to be written: told, and saved elsewhere at the second try.
 void TestReception::DossierDisparu()
 {
-    QFETCH(int, genre);
-    Atelier atelier(genre);
-    ParamCom.DosRecep = atelier.poste.Chemin("disparu");
-    atelier.Nomme();
-    atelier.Envoie("A\r\nB\r\n");
-    atelier.operateur.Fait("MsgBox", [](QWidget &fenetre) {
-        QVERIFY(fenetre.windowTitle().endsWith("Fermeture du port de communication"_L1));
-        dynamic_cast<QDialog &>(fenetre).accept();
-    });
-    atelier.Reste();
-    atelier.operateur.AnnuleChoix();
-    atelier.Reste();
-    atelier.operateur.Choisit(atelier.poste.Chemin("ailleurs.txt"));
-    atelier.operateur.Presse(Dialogue, "Command1");
-    Operateur::Menu("Mnu_RecepProg");
-    QCOMPARE(atelier.poste.Lit("ailleurs.txt"), QByteArray("A\r\nB\r\n"));
+    for (const int genre : {ParLigne, ParCaractere, ParFichier}) {
+        Atelier atelier(genre);
+        ParamCom.DosRecep = atelier.poste.Chemin("disparu");
+        atelier.Nomme();
+        atelier.Envoie("A\r\nB\r\n");
+        atelier.operateur.Fait("MsgBox", [](QWidget &fenetre) {
+            QVERIFY(fenetre.windowTitle().endsWith("Fermeture du port de communication"_L1));
+            dynamic_cast<QDialog &>(fenetre).accept();
+        });
+        atelier.Reste();
+        atelier.operateur.AnnuleChoix();
+        atelier.Reste();
+        atelier.operateur.Choisit(atelier.poste.Chemin("ailleurs.txt"));
+        atelier.operateur.Presse(Dialogue, "Command1");
+        Operateur::Menu("Mnu_RecepProg");
+        QCOMPARE(atelier.poste.Lit("ailleurs.txt"), QByteArray("A\r\nB\r\n"));
+    }
 }
 
 /// A line on which all stands ready at once, and nothing of it can be thrown away.
