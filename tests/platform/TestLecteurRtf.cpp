@@ -60,19 +60,27 @@ private Q_SLOTS:
             QCOMPARE(NumeroErreur([&] { (void)LitRtf(octets); }), Erreur::FormatRefuse);
     }
 
-    // A real file; and whatever cuts it short, what stands before the cut is read.
+    // Files as the office programs write them; and whatever cuts it short, what stands before the cut is read.
     void fichierEntierPuisCoupe()
     {
-        const QByteArray octets = LitOctets(QStringLiteral(DONNEES) + QStringLiteral("/libreoffice.rtf"));
-        const QString entier = TexteDe(LitRtf(octets));
-        QCOMPARE(entier,
-                 QStringLiteral("O4512 (Pi\u00E8ce n\u00B0 5 \u2013 \u00ABarbre\u00BB \u20AC \u03A9 \U0001F527)\r\n"
-                                "N10 G0 X1.\r\nN20 G1 {a} \\b Z-5M6\r\na\tb\r\nun\r\n\u010D\u0159lien\u00A0fin\r\n"));
-        for (qsizetype taille = 5; taille < octets.size(); ++taille) {
-            QString lu = TexteDe(LitRtf(octets.left(taille)));
-            // A cut inside a word or a pair leaves its beginning.
-            lu.chop(std::min<qsizetype>(2, lu.size()));
-            QVERIFY2(entier.startsWith(lu), qPrintable(QString::number(taille)));
+        const std::pair<QString, QString> fichiers[] = {
+            {QStringLiteral("/libreoffice.rtf"),
+             QStringLiteral("O4512 (Pi\u00E8ce n\u00B0 5 \u2013 \u00ABarbre\u00BB \u20AC \u03A9 \U0001F527)\r\n"
+                            "N10 G0 X1.\r\nN20 G1 {a} \\b Z-5M6\r\na\tb\r\nun\r\n\u010D\u0159lien\u00A0fin\r\n")},
+            {QStringLiteral("/wordpad.rtf"),
+             QStringLiteral("%\r\nO1234 (Bride \u00E9paul\u00E9e)\r\nN10 T1 M6\r\n"
+                            "N20 G0\tX12.5 Y\u20133\u00A0mm \u20AC\r\nN30 G1 {Z-1} \\ F100 M8\r\n"
+                            "\u041F M30\r\n%\r\n")},
+        };
+        for (const auto &[nom, entier] : fichiers) {
+            const QByteArray octets = LitOctets(QStringLiteral(DONNEES) + nom);
+            QCOMPARE(TexteDe(LitRtf(octets)), entier);
+            for (qsizetype taille = 5; taille < octets.size(); ++taille) {
+                QString lu = TexteDe(LitRtf(octets.left(taille)));
+                // A cut inside a word or a pair leaves its beginning.
+                lu.chop(std::min<qsizetype>(2, lu.size()));
+                QVERIFY2(entier.startsWith(lu), qPrintable(nom + QString::number(taille)));
+            }
         }
         const QByteArray profond = "{\\rtf1 a" + QByteArray("{").repeated(100000);
         QCOMPARE(TexteDe(LitRtf(profond + "b" + QByteArray("}").repeated(100000) + "c}")), QStringLiteral("abc"));
