@@ -107,12 +107,6 @@ void Operateur::Choisit(QAnyStringView chemin, Lieu ou)
         {}, ou);
 }
 
-void Operateur::AnnuleChoix(Lieu ou)
-{
-    Fait(
-        "CommonDialog", [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "reject"); }, {}, ou);
-}
-
 void Operateur::Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand, Lieu ou)
 {
     Fait(

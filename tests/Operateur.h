@@ -48,9 +48,8 @@ public:
     void LitErreur(int numero, const QString &texte, Lieu ou = Lieu::Ici());
     /// Presses a button of a box of the system's own; a gesture for Fait.
     static Geste Clique(QMessageBox::StandardButton bouton);
-    /// A file dialog: the name is typed and taken, or the dialog is cancelled.
+    /// A file dialog ("CommonDialog"): the name is typed and taken.
     void Choisit(QAnyStringView chemin, Lieu ou = Lieu::Ici());
-    void AnnuleChoix(Lieu ou = Lieu::Ici());
     /// The window of that objectName: a button is pressed, the close box is pressed, or anything is done, once the
     /// condition holds. The window may stay open.
     void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::Ici());

@@ -4,7 +4,6 @@
 #include "platform/CommonDialog.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -65,12 +64,10 @@ private Q_SLOTS:
     void AllerRetour();
     void TexteRiche();
     void DialogueOuvrir();
-    void DossierPropose();
     void OuvertureRatee();
     void EnregistrementRate();
     void Ecrase();
     void Nouveau();
-    void NouveauSansNom();
 };
 
 // Through the two commands a program keeps every byte; the saving adds one CR LF.
@@ -151,28 +148,6 @@ void TestDocument::DialogueOuvrir()
     QCOMPARE(frmPrinc->Text1->Text() + TitreFichier, u"G0P.xcn"_s);
 }
 
-// The dialog starts in the default folder only when the settings say so and its listing gives a file.
-void TestDocument::DossierPropose()
-{
-    Atelier atelier;
-    QDir(atelier.Dossier()).mkdir(u"pieces"_s);
-    const QString avec = atelier.Chemin("pieces/");
-    atelier.Ecrit("pieces/P.iso", "G0");
-    for (const auto &[option, dossier, propose] : {std::tuple{1, avec, avec},
-                                                   {0, avec, atelier.Dossier()},
-                                                   {1, avec.chopped(1), atelier.Dossier()},
-                                                   {1, atelier.Chemin("parti/"), atelier.Dossier()}}) {
-        OptDosDefaut = option;
-        DosDefaut = dossier;
-        atelier.Fait("CommonDialog", [](QWidget &fenetre) {
-            DosDefaut = dynamic_cast<QFileDialog &>(fenetre).directory().path();
-            fenetre.close();
-        });
-        Operateur::Menu("Mnu_Ouvrir");
-        QCOMPARE(QDir(DosDefaut), QDir(propose));
-    }
-}
-
 // A file that the pane refuses: the former document stays, by its name, its text and its changes.
 void TestDocument::OuvertureRatee()
 {
@@ -223,7 +198,7 @@ void TestDocument::Ecrase()
         atelier.Choisit(autre);
         atelier.Fait("", Operateur::Clique(oui ? QMessageBox::Yes : QMessageBox::No));
         if (!oui)
-            atelier.AnnuleChoix();
+            atelier.Ferme("CommonDialog");
         Operateur::Menu("Mnu_EnregistrerSous");
         QCOMPARE(atelier.Lit("autre.iso"), QByteArray(oui ? "G1\r\n" : "M30 and a longer text than the new one"));
         QCOMPARE(TitreFichier, oui ? u"autre.iso"_s : Iso);
@@ -256,24 +231,6 @@ void TestDocument::Nouveau()
     QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
     QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
     QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
-}
-
-// A typed text without a name gets one in the current folder, and keeps it when the new file is refused.
-void TestDocument::NouveauSansNom()
-{
-    Atelier atelier;
-    QDir::setCurrent(atelier.Dossier());
-    QTest::keyClicks(frmPrinc->Text1, u"G0"_s);
-    QVERIFY(FichierModifie == Vrai && frmPrinc->Bouton(2)->isEnabled());
-    const QString chemin = atelier.Chemin("Nouveau.iso");
-    atelier.Repond("Fichier en cours modifié",
-                   u"Fichier %1 modifié !\r\n            Enregistrer le fichier ? "_s.arg(chemin),
-                   Operateur::DemandeSimple, QMessageBox::Yes);
-    atelier.Repond("Nouveau fichier ?", "Nouveau fichier\r\n        Confirmez ? ", Operateur::DemandeSimple,
-                   QMessageBox::No);
-    Operateur::Menu("Mnu_Nouveau");
-    QCOMPARE(NomFichier, chemin);
-    QCOMPARE(atelier.Lit("Nouveau.iso"), QByteArray("G0\r\n"));
 }
 
 QTEST_MAIN(TestDocument)

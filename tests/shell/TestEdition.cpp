@@ -40,10 +40,9 @@ private Q_SLOTS:
     void Commandes();
     void CopieVersAilleurs();
     void Raccourcis();
-    void BoutonDroit();
 };
 
-// What the menu offers follows the selection and the clipboard at the moment it opens.
+// What the menu offers follows the selection and the clipboard at the moment it opens, also under the right button.
 void TestEdition::Entrees()
 {
     const auto offres = [] {
@@ -59,6 +58,12 @@ void TestEdition::Entrees()
     image->setData(u"image/png"_s, "x");
     QGuiApplication::clipboard()->setMimeData(image);
     QCOMPARE(offres(), u"Couper Copier Supprimer"_s);
+    QWidget *const pane = frmPrinc->Text1->viewport();
+    QTest::mousePress(pane, Qt::RightButton, {}, QPoint(5, 5));
+    QVERIFY(frmPrinc->Mnu_Edition->isVisible() && frmPrinc->Mnu_Couper->isEnabled());
+    QVERIFY(!frmPrinc->Mnu_Coller->isEnabled() && frmPrinc->Text1->SelLength() == 3);
+    frmPrinc->Mnu_Edition->close();
+    QTest::mouseRelease(pane, Qt::RightButton, {}, QPoint(5, 5));
     QGuiApplication::clipboard()->setText(u"X"_s);
     Atelier::Selectionne(2, 0);
     QCOMPARE(offres(), u"Coller"_s);
@@ -122,21 +127,6 @@ void TestEdition::Raccourcis()
     });
     QTest::keyClick(frmPrinc->Text1, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QGuiApplication::clipboard()->text(), QString());
-}
-
-// The right button opens the menu where it was pressed, with its entries brought up to date; the left one does not.
-void TestEdition::BoutonDroit()
-{
-    const Atelier atelier(0, 3);
-    QWidget *const pane = frmPrinc->Text1->viewport();
-    QTest::mousePress(pane, Qt::RightButton, {}, QPoint(5, 5));
-    QVERIFY(frmPrinc->Mnu_Edition->isVisible() && frmPrinc->Mnu_Couper->isEnabled());
-    QVERIFY(!frmPrinc->Mnu_Coller->isEnabled());
-    QCOMPARE(frmPrinc->Text1->SelLength(), 3);
-    frmPrinc->Mnu_Edition->close();
-    QTest::mouseRelease(pane, Qt::RightButton, {}, QPoint(5, 5));
-    QTest::mouseClick(pane, Qt::LeftButton, {}, QPoint(5, 5));
-    QVERIFY(!frmPrinc->Mnu_Edition->isVisible());
 }
 
 QTEST_MAIN(TestEdition)

@@ -164,7 +164,7 @@ void TestExplorateur::OuvreUnProgramme()
     double_clic(liste.viewport()->rect().bottomRight()); // beside the names
     QCOMPARE(NomFichier, QString());
     double_clic(liste.visualRect(liste.model()->index(1, 0)).center());
-    QCOMPARE(NomFichier, atelier.Chemin(u"Pieces/PIECE.ISO"_s));
+    QCOMPARE(NomFichier, atelier.Chemin("Pieces/PIECE.ISO"));
     QCOMPARE(TitreFichier, u"PIECE.ISO"_s);
     QCOMPARE(frmPrinc->Text1->Text(), u"%1\r\nG0X1"_s);
     QCOMPARE(FichierModifie, 0);
@@ -180,7 +180,7 @@ void TestExplorateur::ListeSuitLaSelection()
     QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Right);
     QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Down);
     QCOMPARE(atelier.Montre(), u"Pieces/Tour: b.cn"_s);
-    QDir(atelier.Chemin(u"Pieces/Tour"_s)).removeRecursively();
+    QDir(atelier.Chemin("Pieces/Tour")).removeRecursively();
     QTRY_COMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 }
 
@@ -213,47 +213,46 @@ void TestExplorateur::Cree()
 void TestExplorateur::Supprime()
 {
     Atelier atelier;
-    atelier.Selectionne(u"Pieces/Tour"_s);
-    atelier.Ferme(u"MsgBox"_s);
+    atelier.Selectionne("Pieces/Tour");
+    atelier.Ferme("MsgBox");
     frmPrinc->Command2->click();
-    QCOMPARE(atelier.Poste::Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
     QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 
-    atelier.Repond(u"Supprimer un dossier"_s,
+    atelier.Repond("Supprimer un dossier",
                    u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
-                   u"Sous-dossiers : 1, fichiers : 3"_s.arg(atelier.Chemin(u"Pieces"_s)),
+                   u"Sous-dossiers : 1, fichiers : 3"_s.arg(atelier.Chemin("Pieces")),
                    Question, QMessageBox::Yes);
-    atelier.Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
+    atelier.Repond("Information", "Suppression de dossier réussi", Boite::Information, QMessageBox::Ok);
     frmPrinc->Command2->click();
-    QVERIFY(!QFileInfo::exists(atelier.Chemin(u"Pieces"_s)));
+    QVERIFY(!QFileInfo::exists(atelier.Chemin("Pieces")));
     QVERIFY(atelier.Montre().startsWith(u".: b.cn"_s));
 }
 
 void TestExplorateur::SupprimeUnLien()
 {
     Atelier atelier;
-    const QString lien = atelier.Chemin(u"Lien"_s);
-    QVERIFY(QFile::link(atelier.Chemin(u"Pieces"_s), lien));
-    atelier.Selectionne(u"Lien"_s);
-    atelier.Repond(u"Supprimer un dossier"_s,
-                   u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r"_s + lien, Question,
-                   QMessageBox::Yes);
-    atelier.Repond(u"Information"_s, u"Suppression de dossier réussi"_s, Boite::Information, QMessageBox::Ok);
+    const QString lien = atelier.Chemin("Lien");
+    QVERIFY(QFile::link(atelier.Chemin("Pieces"), lien));
+    atelier.Selectionne("Lien");
+    atelier.Repond("Supprimer un dossier", u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r"_s + lien,
+                   Question, QMessageBox::Yes);
+    atelier.Repond("Information", "Suppression de dossier réussi", Boite::Information, QMessageBox::Ok);
     frmPrinc->Command2->click();
     QVERIFY(!QFileInfo(lien).isSymLink());
-    QCOMPARE(atelier.Poste::Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
 }
 
 // What resists is named, with what is left.
 void TestExplorateur::SupprimeAMoitie()
 {
     Atelier atelier;
-    const QByteArray tour = atelier.Chemin(u"Pieces/Tour"_s).toUtf8();
+    const QByteArray tour = atelier.Chemin("Pieces/Tour").toUtf8();
     QCOMPARE(chmod(qPrintable(atelier.Dossier()), 0755), 0);
     QCOMPARE(chmod(tour.constData(), 0555), 0);
-    atelier.Selectionne(u"Pieces/Tour"_s);
+    atelier.Selectionne("Pieces/Tour");
     atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
-    atelier.Repond(u"Information"_s,
+    atelier.Repond("Information",
                    u"ERREUR N° 70\r%1/b.cn : Permission denied\r"
                    u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(QString::fromUtf8(tour)),
                    Boite::Information, QMessageBox::Ok);
@@ -262,7 +261,7 @@ void TestExplorateur::SupprimeAMoitie()
         frmPrinc->Command2->click();
     }
     QCOMPARE(chmod(tour.constData(), 0755), 0);
-    QCOMPARE(atelier.Poste::Lit(u"Pieces/Tour/b.cn"_s), QByteArray("%3"));
+    QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
 }
 
 void TestExplorateur::Renomme()
@@ -311,18 +310,18 @@ void TestExplorateur::Refus()
 void TestExplorateur::DossierDuDialogue()
 {
     Atelier atelier;
-    atelier.Selectionne(u"Pieces/Tour"_s);
+    atelier.Selectionne("Pieces/Tour");
     Operateur::Barre(15);
     for (const bool coche : {false, true}) {
         frmPrinc->CheckDOS->setChecked(coche);
-        atelier.Choisit(u"b.cn"_s);
-        Operateur::Menu(u"Mnu_Ouvrir"_s);
+        atelier.Choisit("b.cn");
+        Operateur::Menu("Mnu_Ouvrir");
         QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
-        QCOMPARE(DosDefaut, coche ? atelier.Chemin(u"Pieces/Tour/"_s) : atelier.Dossier());
+        QCOMPARE(DosDefaut, coche ? atelier.Chemin("Pieces/Tour/") : atelier.Dossier());
     }
-    atelier.Choisit(atelier.Chemin(u"Pieces/Tour/"_s));
-    QCOMPARE(ChoixDossier(frmPrinc), atelier.Chemin(u"Pieces/Tour"_s));
-    atelier.AnnuleChoix();
+    atelier.Choisit(atelier.Chemin("Pieces/Tour/"));
+    QCOMPARE(ChoixDossier(frmPrinc), atelier.Chemin("Pieces/Tour"));
+    atelier.Ferme("CommonDialog");
     QCOMPARE(ChoixDossier(frmPrinc), QString());
 }
 

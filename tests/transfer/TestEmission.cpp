@@ -137,6 +137,7 @@ void TestEmission::Octets()
         {ParLigne, "A\r\nB", "", 3, "A\r\r\nB\r\n\x04"},
         {ParLigne, "  A \r\n B \r\n C  ", "", 0, "A \r\n B \r\n C\n\x04"},
         {ParLigne, "A\r\n\r\n\r\nB\r\n", "", 0, "A\r\n\r\n\r\nB\r\n\n\x04"},
+        {ParLigne, "\tA\r\r\nB\rC\n\rD\t", "", 0, "\tA\r\r\nB\rC\n\rD\t\n\x04"},
         {ParLigne, "A\nB\n", "", 3, "A\nB\n\r\n\x04"}, // LF alone cuts no line
         {ParLigne, longue + "\r\nB", "", 0, longue + "\r\nB\n\x04"},
         {ParLigne, tous, "", 0, tous + "\n\x04"}};

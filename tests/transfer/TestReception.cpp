@@ -260,7 +260,7 @@ void TestReception::DossierDisparu()
             dynamic_cast<QDialog &>(fenetre).accept();
         });
         atelier.Reste();
-        atelier.operateur.AnnuleChoix();
+        atelier.operateur.Ferme("CommonDialog");
         atelier.Reste();
         atelier.operateur.Choisit(atelier.poste.Chemin("ailleurs.txt"));
         atelier.operateur.Presse(Dialogue, "Command1");
