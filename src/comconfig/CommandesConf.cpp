@@ -127,3 +127,8 @@ void ChargeAutreConfiguration(const std::function<void()> &montre)
         MontreEchec(erreur, MessageB);
     }
 }
+
+QString ConfigurationEnClair()
+{
+    return NomConf + QStringLiteral("  ") + ParamCom.Commentaire;
+}

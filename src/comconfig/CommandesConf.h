@@ -16,3 +16,6 @@ void Mnu_ChargeConf();
 /// The same from inside a dialog that transfers, without touching the menus. montre: shows the new configuration in
 /// that dialog, once it is in force.
 void ChargeAutreConfiguration(const std::function<void()> &montre);
+
+/// The current configuration as the dialogs that transfer name it: its file, two blanks, its comment.
+QString ConfigurationEnClair();

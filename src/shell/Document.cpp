@@ -14,7 +14,6 @@
 #include "shell/Reglages.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 QString NomFichier;
 QString TitreFichier;

@@ -175,7 +175,7 @@ void Em_Rc::CommenceReception()
 
 void Em_Rc::MontreConfigurationChoisie()
 {
-    Label5->setText(NomConf + QStringLiteral("  ") + ParamCom.Commentaire);
+    Label5->setText(ConfigurationEnClair());
 }
 
 void Em_Rc::Command1_Click()

@@ -106,7 +106,7 @@ void Rc_Fic::Form_Activate()
 
 void Rc_Fic::MontreConfigurationChoisie()
 {
-    Label4->setText(NomConf + QStringLiteral("  ") + ParamCom.Commentaire);
+    Label4->setText(ConfigurationEnClair());
     Frame5->setVisible(TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepFichier);
 }
 

@@ -70,7 +70,7 @@ struct Atelier
     {
         Envoi envoi;
         envoi.Texte = texte;
-        envoi.PauseLigneMs = ParamCom.TypeRecep == ParFichier ? 0 : 20;
+        envoi.PauseLigneMs = ParamCom.TypeRecep == ParFichier ? 0 : 150; // a stall of the PC may last longer than a short pause
         envoi.SansFin = sansFin;
         operateur.Fait(
             Dialogue, [this, envoi](QWidget &) { machine.Emet(envoi); }, [] { return PortOuvert; });
