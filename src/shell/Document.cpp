@@ -89,8 +89,8 @@ void ChoisitDosDefaut()
     QDir::setCurrent(DosDefaut);
     if (!ListeUnFichier(DosDefaut))
         DosDefaut = DossierApplication();
-    if (frmPrinc->CheckDOS->isChecked())
-        DosDefaut = frmPrinc->FolderTreeview1->SelectedFolder();
+    if (const auto applique = frmPrinc->DossierApplique())
+        DosDefaut = *applique;
 }
 
 void ProposeTraitementDeTexte()

@@ -184,7 +184,7 @@ void Em_Rc::Command1_Click()
         OuvreFichierRecu();
     reject();
     if (FinTransfert == 1)
-        frmPrinc->File1->Refresh();
+        frmPrinc->ActualiseFichiers();
 }
 
 void Em_Rc::Command2_Click()

@@ -79,8 +79,8 @@ void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
     QString &reception = Dossier();
-    if (frmPrinc->CheckDOS->isChecked())
-        reception = frmPrinc->FolderTreeview1->SelectedFolder();
+    if (const auto applique = frmPrinc->DossierApplique())
+        reception = *applique;
     // A configuration may name a folder beside the program, wherever that has been laid.
     Label3->setText(QDir::toNativeSeparators(QDir(DossierApplication()).absoluteFilePath(reception)));
 }
@@ -120,7 +120,7 @@ void Rc_Fic::Command1_Click()
 {
     reject();
     frmPrinc->Text2->hide();
-    frmPrinc->File1->Refresh();
+    frmPrinc->ActualiseFichiers();
 }
 
 void Rc_Fic::Command3_Click()

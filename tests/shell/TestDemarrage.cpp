@@ -60,7 +60,7 @@ void TestDemarrage::PremierDemarrage()
         QCOMPARE(poste.Lit(Ini), " 0 \r\n\"" + dossier + "\"\r\n 0 \r\n\"\"\r\n 1 \r\n" + dossier + "\r\n " +
                                      QByteArray::number(langue) + " \r\n");
         QVERIFY(!QFile::exists(poste.Chemin(Cfg)));
-        QVERIFY(frmPrinc->Frame1->isVisible() && frmPrinc->Mnu_AffichDOS->isChecked());
+        QVERIFY(frmPrinc->ExplorateurMontre() && frmPrinc->Mnu_AffichDOS->isChecked());
         QCOMPARE(frmPrinc->Mnu_Fichier->title(), menus[langue]);
         QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Mnu_EditProg->isEnabled());
     }
@@ -74,7 +74,7 @@ void TestDemarrage::IniNonInscriptible()
     Operateur operateur;
     operateur.Presse("FrmLangue", "Command1");
     poste.Demarre();
-    QVERIFY(frmPrinc->Frame1->isVisible());
+    QVERIFY(frmPrinc->ExplorateurMontre());
     QCOMPARE(DosAppli, poste.Dossier());
     Operateur::Menu("Mnu_Lang_0"); // no box: the writing failed before it
     Operateur::Menu("Mnu_Lang_2");
@@ -106,7 +106,7 @@ void TestDemarrage::IniCorrige()
         QCOMPARE(frmPrinc->Mnu_Fichier->title(),
                  QStringList({u"File"_s, u"Ficheros"_s}).value(langue - 1, u"&Fichier"_s));
         QCOMPARE(frmPrinc->Mnu_Lang_1->isChecked(), langue == 1);
-        QVERIFY(frmPrinc->Frame1->isHidden() && frmPrinc->Etat->isHidden());
+        QVERIFY(!frmPrinc->ExplorateurMontre() && frmPrinc->Etat->isHidden());
         QCOMPARE(NomFichier + TitreFichier + TexteAnnuler, QString());
         QVERIFY(!frmPrinc->Mnu_EnregistrerSous->isEnabled() && !frmPrinc->Mnu_Imprim->isEnabled());
     }

@@ -4,6 +4,7 @@
 
 #include "locale/Legendes.h"
 #include "platform/MSComm.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 
 #include <QTest>
@@ -28,7 +29,7 @@ void TestFrmPrinc::Taille()
     frmPrinc->resize(100, 100);
     QTRY_COMPARE(frmPrinc->size(), QSize(620, 547));
     Operateur::Menu("Mnu_AffichDOS");
-    QTRY_VERIFY(frmPrinc->Frame1->isVisible());
+    QTRY_VERIFY(frmPrinc->ExplorateurMontre());
     const int colonne = frmPrinc->Frame1->width();
     frmPrinc->resize(1200, 900);
     QTRY_VERIFY(frmPrinc->Text1->width() > 800 && frmPrinc->Picture11->width() > 1100);
