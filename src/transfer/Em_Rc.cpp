@@ -123,8 +123,9 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     QDialog::showEvent(evenement);
     if (evenement->spontaneous())
         return;
-    CentreFeuille(this);
     Form_Activate();
+    adjustSize(); // a long comment of the configuration takes lines
+    CentreFeuille(this);
 }
 
 void Em_Rc::Form_Activate()
@@ -208,6 +209,7 @@ void Em_Rc::Command3_Click()
 {
     ChargeAutreConfiguration([this] {
         MontreConfigurationChoisie();
+        adjustSize();
         ChoisitFinLigneRecep();
     });
 }
