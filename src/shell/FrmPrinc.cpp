@@ -72,6 +72,7 @@ FrmPrinc::FrmPrinc()
     UpdateTimer.start(1000ms);
     Timer2.start(5000ms);
     DitLampes();
+    Text1->setFocus(); // or the keys would first go to the explorer's buttons, and the space bar to the first of them
     frmPrinc = this;
 }
 

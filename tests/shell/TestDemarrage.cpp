@@ -61,6 +61,7 @@ void TestDemarrage::PremierDemarrage()
                                      QByteArray::number(langue) + " \r\n");
         QVERIFY(!QFile::exists(poste.Chemin(Cfg)));
         QVERIFY(frmPrinc->ExplorateurMontre() && frmPrinc->Mnu_AffichDOS->isChecked());
+        QCOMPARE(frmPrinc->focusWidget(), frmPrinc->Text1);
         QCOMPARE(frmPrinc->Mnu_Fichier->title(), menus[langue]);
         QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Mnu_EditProg->isEnabled());
     }
@@ -194,8 +195,8 @@ void TestDemarrage::MenuLangue()
     QVERIFY(frmPrinc->Mnu_Lang_0->isChecked() && poste.Lit(Ini).endsWith(" 0 \r\n"));
 }
 
-// The end by the button and by the window's close box: whether to save a changed text, and, of the button alone,
-// whether to go.
+// The end by the button and by the window's close box: whether to save a changed text, which only a button answers,
+// and, of the end by the button alone, whether to go.
 void TestDemarrage::Fin()
 {
     for (const auto &[ferme, change, nomme, oui, fichier, modifie] : {std::tuple{false, false, true, false, "G0", 0},
@@ -213,6 +214,10 @@ void TestDemarrage::Fin()
             OuvreDocument(chemin);
         if (change) {
             frmPrinc->Text1->setText(u"G1"_s);
+            operateur.Fait("MsgBox", [](QWidget &question) {
+                QTest::keyClick(&question, Qt::Key_Escape);
+                QVERIFY(!question.close());
+            });
             operateur.Repond(ferme ? u"Fermer le programme CN"_s : u"Quitter l'éditeur de programmes CN"_s,
                              u"Fichier %1 modifié !\r\n            Enregistrer le fichier ? "_s.arg(chemin),
                              Operateur::DemandeSimple, oui ? QMessageBox::Yes : QMessageBox::No);
