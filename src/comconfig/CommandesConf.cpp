@@ -50,16 +50,8 @@ constexpr MessagePar MessageB{
 /// Asks for a .par file, first in dossier; FicConf and NomConf then name the choice. Raises DialogueAnnule.
 void DemandeFichierPar(const QString &dossier)
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.CancelError = true;
-    dialogue.FileName.clear();
-    dialogue.InitDir = dossier;
-    dialogue.DialogTitle = Texte(TitreChoix);
-    dialogue.Filter = Texte(FiltrePar);
-    dialogue.FilterIndex = 1;
-    dialogue.ShowOpen();
-    FicConf = dialogue.FileName;
-    NomConf = dialogue.FileTitle;
+    FicConf = ChoisitFichierPar(dossier);
+    NomConf = NomSeul(FicConf);
 }
 
 void MontreConfiguration()
@@ -86,6 +78,19 @@ void MontreEchec(const Erreur &erreur, const MessagePar &message)
 }
 
 } // namespace
+
+QString ChoisitFichierPar(const QString &dossier)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.FileName.clear();
+    dialogue.InitDir = dossier;
+    dialogue.DialogTitle = Texte(TitreChoix);
+    dialogue.Filter = Texte(FiltrePar);
+    dialogue.FilterIndex = 1;
+    dialogue.ShowOpen();
+    return dialogue.FileName;
+}
 
 void ConfDefaut(const QString &fichier)
 {

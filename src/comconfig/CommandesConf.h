@@ -10,6 +10,9 @@
 /// the operator. Raises what LireFichierPar raises, with the transfer commands still disabled.
 void ConfDefaut(const QString &fichier);
 
+/// Asks the operator for a .par file, first in dossier, and gives its full path. Raises DialogueAnnule.
+QString ChoisitFichierPar(const QString &dossier);
+
 /// Asks the operator for a .par file and makes it the current configuration.
 void Mnu_ChargeConf();
 

@@ -1,6 +1,7 @@
 #include "shell/Menus.h"
 
 #include "comconfig/CommandesConf.h"
+#include "comconfig/FrmConfDem.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
 #include "shell/Demarrage.h"
@@ -26,6 +27,7 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_Nouveau, 0, Mnu_Nouveau},
     {&Ui_FrmPrinc::Mnu_Ouvrir, 1, Mnu_Ouvrir},
     {&Ui_FrmPrinc::Mnu_EnregistrerSous, 2, Mnu_EnregistrerSous},
+    {&Ui_FrmPrinc::Mnu_ConfigDemar, 0, Mnu_ConfigDemar},
     {&Ui_FrmPrinc::Mnu_AffichDOS, 15, Mnu_AffichDOS},
     {&Ui_FrmPrinc::Mnu_Quitter, 6, Mnu_Quitter},
     {&Ui_FrmPrinc::Mnu_Annuler, 0, Mnu_Annuler},
