@@ -3,6 +3,7 @@
 
 #include "comconfig/DosProg.h"
 #include "comconfig/ParamCom.h"
+#include "comconfig/Prop.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void SousDossier();
     void NonCree();
     void AvantUneReception();
+    void DepuisLeMenu();
     void NonEcrit();
 };
 
@@ -189,6 +191,36 @@ void TestDosProg::AvantUneReception()
         Operateur::Menu(entree);
         QCOMPARE(nom == u"Jau" ? DosJauge : ParamCom.DosRecep, atelier.Chemin("Prog/Tour/"));
     }
+}
+
+// The menu opens the folders and nothing else of the properties, which show a choice once it is applied.
+void TestDosProg::DepuisLeMenu()
+{
+    Atelier atelier(0);
+    QStringList montre;
+    for (const auto &[bouton, applique] :
+         {std::pair{"Command2", false}, {"Command2", true}, {"Command3", false}, {"Command3", true}}) {
+        atelier.Presse("Prop", bouton);
+        atelier.Fait(Fenetre, [&montre, applique = applique](QWidget &fenetre) {
+            auto &dialogue = dynamic_cast<DosProg &>(fenetre);
+            dialogue.FolderTreeview1->setSelectedFolder(applique ? u"/"_s : DosAppli);
+            if (applique)
+                dialogue.Command1->click();
+            const auto &prop = dynamic_cast<const Prop &>(*dialogue.parent());
+            montre << QStringList{prop.Label8->text(), prop.Label17->text(), prop.Label10->text()}.join(u'|');
+            dialogue.Command2->click();
+        });
+    }
+    atelier.Fait("Prop", [](QWidget &fenetre) {
+        const auto &prop = dynamic_cast<const Prop &>(fenetre);
+        QCOMPARE(prop.SSTab1->currentIndex(), 2);
+        QVERIFY(!prop.SSTab1->isTabEnabled(0) && !prop.SSTab1->isTabEnabled(1));
+        fenetre.close();
+    });
+    Operateur::Menu("Mnu_DosRecep");
+    const QString prog = atelier.Chemin("Prog");
+    const QString jau = atelier.Chemin("Jau");
+    QCOMPARE(montre, QStringList({prog + u'|' + prog + u'|' + jau, u"/|/|"_s + jau, u"/|/|"_s + jau, u"/|/|/"_s}));
 }
 
 // A file that cannot be written is told, and the folder holds for this run.
