@@ -33,7 +33,6 @@ class TestDemarrage : public QObject
 
 private Q_SLOTS:
     void PremierDemarrage();
-    void IniNonInscriptible();
     void IniCorrige();
     void IniIllisible();
     void Dossiers();
@@ -65,22 +64,6 @@ void TestDemarrage::PremierDemarrage()
         QCOMPARE(frmPrinc->Mnu_Fichier->title(), menus[langue]);
         QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Mnu_EditProg->isEnabled());
     }
-}
-
-// A folder of that name stands in the way: the choice holds for this run, without a message.
-void TestDemarrage::IniNonInscriptible()
-{
-    Poste poste;
-    QVERIFY(QDir(poste.Dossier()).mkdir(QLatin1String(Ini)));
-    Operateur operateur;
-    operateur.Presse("FrmLangue", "Command1");
-    poste.Demarre();
-    QVERIFY(frmPrinc->ExplorateurMontre());
-    QCOMPARE(DosAppli, poste.Dossier());
-    Operateur::Menu("Mnu_Lang_0"); // no box: the writing failed before it
-    Operateur::Menu("Mnu_Lang_2");
-    QCOMPARE(LangIndex, 2);
-    QVERIFY(frmPrinc->Mnu_Lang_2->isChecked() && !frmPrinc->Mnu_Lang_0->isChecked());
 }
 
 // What the settings file holds, and how the start writes it back. "@" stands for the application folder.
@@ -177,22 +160,22 @@ void TestDemarrage::ConfigurationParDefaut()
     }
 }
 
-// English and Spanish change at once; French needs a new start, and the box says so each time.
+// English and Spanish change at once; French needs a new start, and the box says so each time, but where the choice
+// could not be written.
 void TestDemarrage::MenuLangue()
 {
     const Poste poste(0);
     Operateur operateur;
     Operateur::Menu("Mnu_Lang_2");
-    QCOMPARE(frmPrinc->Mnu_Quitter->text(), u"Dejar"_s);
     QVERIFY(poste.Lit(Ini).endsWith(" 2 \r\n"));
-    Operateur::Menu("Mnu_Lang_1");
     for (int fois = 0; fois < 2; ++fois) {
         AnnonceRelance(operateur);
         Operateur::Menu("Mnu_Lang_0");
     }
-    QCOMPARE(frmPrinc->Mnu_Quitter->text(), u"Exit"_s);
-    QCOMPARE(frmPrinc->Mnu_Lang_2->text(), u"Espagnol"_s);
-    QVERIFY(frmPrinc->Mnu_Lang_0->isChecked() && poste.Lit(Ini).endsWith(" 0 \r\n"));
+    QCOMPARE(frmPrinc->Mnu_Quitter->text() + frmPrinc->Mnu_Lang_1->text(), u"DejarAnglais"_s);
+    QVERIFY(QFile::remove(poste.Chemin(Ini)) && QDir(DosAppli).mkdir(QLatin1String(Ini)));
+    Operateur::Menu("Mnu_Lang_0");
+    QVERIFY(LangIndex == 0 && frmPrinc->Mnu_Lang_0->isChecked());
 }
 
 // The end by the button and by the window's close box: whether to save a changed text, which only a button answers,
