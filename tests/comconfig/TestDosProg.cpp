@@ -4,6 +4,7 @@
 #include "comconfig/DosProg.h"
 #include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -125,7 +126,7 @@ void TestDosProg::SousDossier()
     const QString cree = atelier.Chemin(u"Prog/Fre-9_È/"_s);
     QCOMPARE(ParamCom.DosRecep, cree);
     QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), cree);
-    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder() + frmPrinc->File1->Path(), cree + cree);
+    QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder() + frmPrinc->Frame1->File1->Path(), cree + cree);
     QVERIFY(QFileInfo(cree).isDir() && dialogue.Frame1->isHidden() && dialogue.isVisible());
     QVERIFY(!QFile::exists(atelier.Chemin(Cfg)));
 }

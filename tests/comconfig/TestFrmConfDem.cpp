@@ -3,6 +3,7 @@
 
 #include "comconfig/FrmConfDem.h"
 #include "comconfig/ParamCom.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -103,7 +104,7 @@ void TestFrmConfDem::ProchainDemarrage()
     atelier.Redemarre();
     atelier.VerifieIni(ini);
     QVERIFY(frmPrinc->Frame1->isVisible() && Operateur::Offre("Mnu_RecepProg"));
-    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
+    QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
     QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
     atelier.Parcourt(nullptr, u"%1/Conf"_s, {});
     Operateur::Menu("Mnu_ChargeConf");
