@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGroupBox>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -36,6 +38,26 @@ int Place(const QStringList &filtres, const QString &choisi)
         return filtre == choisi || filtre.startsWith(choisi + QLatin1String(" ("));
     });
     return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
+}
+
+/// The toolkit proposes the folder of a PDF file and no name.
+void ProposeFichier(QPrintDialog &dialogue, const QString &document)
+{
+    auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
+    if (fichier != nullptr && fichier->text().endsWith(QDir::separator()))
+        fichier->setText(fichier->text() + QFileInfo(document).completeBaseName() + QLatin1String(".pdf"));
+}
+
+/// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted.
+void CacheEtendues(QPrintDialog &dialogue)
+{
+    const auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
+    const auto choix = etendues == nullptr ? QList<QWidget *>() : etendues->findChildren<QWidget *>();
+    for (QWidget *widget : choix) {
+        const QString nom = widget->objectName();
+        if (nom != QLatin1String("printAll") && nom != QLatin1String("printSelection"))
+            widget->hide();
+    }
 }
 
 } // namespace
@@ -98,6 +120,8 @@ void CommonDialog::DemandeCopies()
     QPrinter &imprimante = Imprimante();
     QPrintDialog dialogue(&imprimante, FenetreAppelante());
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
+    ProposeFichier(dialogue, imprimante.docName());
+    CacheEtendues(dialogue);
     if ((Flags & Selection) != 0) {
         dialogue.setOption(QAbstractPrintDialog::PrintSelection);
         dialogue.setPrintRange(QAbstractPrintDialog::Selection);
