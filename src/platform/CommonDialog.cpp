@@ -40,12 +40,15 @@ int Place(const QStringList &filtres, const QString &choisi)
     return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
 }
 
-/// The toolkit proposes the folder of a PDF file and no name.
+/// Proposes a PDF file that bears the document's name, in the folder of the last one: the toolkit proposes no name, or
+/// that of the document printed before.
 void ProposeFichier(QPrintDialog &dialogue, const QString &document)
 {
     auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
-    if (fichier != nullptr && fichier->text().endsWith(QDir::separator()))
-        fichier->setText(fichier->text() + QFileInfo(document).completeBaseName() + QLatin1String(".pdf"));
+    if (fichier == nullptr || document.isEmpty())
+        return;
+    const QString nom = QFileInfo(document).completeBaseName() + QLatin1String(".pdf");
+    fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
 }
 
 /// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted.

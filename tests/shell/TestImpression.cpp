@@ -19,13 +19,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Prints the program in the pane to a PDF file: "PDF" is the last of the printers, and there on every PC.
+/// Prints the program in the pane to a PDF file, "" for the one that is proposed. "PDF" is the last of the printers,
+/// and there on every PC.
 void Imprime(Operateur &operateur, const QString &fichier, int copies = 1)
 {
     operateur.Fait("CommonDialog", [fichier, copies](QWidget &fenetre) {
         auto *const imprimantes = fenetre.findChild<QComboBox *>(u"printers"_s);
         imprimantes->setCurrentIndex(imprimantes->count() - 1);
-        fenetre.findChild<QLineEdit *>(u"filename"_s)->setText(fichier);
+        if (!fichier.isEmpty())
+            fenetre.findChild<QLineEdit *>(u"filename"_s)->setText(fichier);
         fenetre.findChild<QSpinBox *>(u"copies"_s)->setValue(copies);
         QMetaObject::invokeMethod(&fenetre, "accept");
     });
@@ -105,7 +107,8 @@ void TestImpression::Copies()
         QCOMPARE(Pages(poste.Chemin(fichier)), attendu);
         QVERIFY(poste.Lit(fichier).contains("DejaVuSerif-Bold"));
     }
-    Imprime(operateur, poste.Chemin("Q.pdf"));
+    OuvreDocument(poste.Ecrit("Q.iso", "N10"));
+    Imprime(operateur, QString());
     QCOMPARE(QDir(poste.Dossier()).entryList({u"*.pdf"_s}), u"P.pdf P_2.pdf P_3.pdf P_4.pdf Q.pdf"_s.split(u' '));
 }
 
