@@ -112,6 +112,7 @@ void TestDosProg::DisparuOuNonCree()
 void TestDosProg::SousDossier()
 {
     const Atelier atelier(0);
+    Operateur::Menu("Mnu_AffichDOS");
     DosProg dialogue(DossierProgrammes, frmPrinc);
     dialogue.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialogue) && dialogue.Frame1->isHidden());

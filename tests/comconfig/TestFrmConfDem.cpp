@@ -100,10 +100,10 @@ void TestFrmConfDem::ProchainDemarrage()
     atelier.Ouvre();
     const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
     atelier.VerifieIni(ini);
-    QVERIFY(frmPrinc->Frame1->isHidden() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
     atelier.Redemarre();
     atelier.VerifieIni(ini);
-    QVERIFY(frmPrinc->Frame1->isVisible() && Operateur::Offre("Mnu_RecepProg"));
+    QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
     QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
     QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
     atelier.Parcourt(nullptr, u"%1/Conf"_s, {});
@@ -116,7 +116,7 @@ void TestFrmConfDem::ProchainDemarrage()
     atelier.Ouvre();
     atelier.Redemarre();
     atelier.VerifieIni(u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s);
-    QVERIFY(frmPrinc->Frame1->isHidden() && FicConf.isEmpty());
+    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
     atelier.Montre(u"%1||%1/Conf|-2-"_s);
     atelier.Ouvre();
 }
