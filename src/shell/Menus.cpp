@@ -1,6 +1,7 @@
 #include "shell/Menus.h"
 
 #include "comconfig/CommandesConf.h"
+#include "gauges/CommandesMac.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
 #include "shell/Demarrage.h"
@@ -39,6 +40,8 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
     {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
+    {&Ui_FrmPrinc::Mn_CreeConfMac, 0, Mn_CreeConfMac},
+    {&Ui_FrmPrinc::Mn_ModifConfMac, 0, Mn_ModifConfMac},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
     {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
     {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
