@@ -1,6 +1,8 @@
 #include "shell/Menus.h"
 
 #include "comconfig/CommandesConf.h"
+#include "gauges/CommandesBanc.h"
+#include "gauges/ReceptionJauge.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
 #include "shell/Demarrage.h"
@@ -9,6 +11,7 @@
 #include "shell/Explorateur.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/CommandesTransfert.h"
+#include "transfer/Em_Rc.h"
 #include "transfer/EvenementsCom.h"
 #include "transfer/PortCom.h"
 
@@ -39,6 +42,7 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
     {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
+    {&Ui_FrmPrinc::Mnu_RecepBanc, 13, Mnu_RecepBanc},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
     {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
     {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
@@ -51,6 +55,7 @@ void Branche()
     BrancheDocument();
     BrancheEdition();
     BrancheExplorateur();
+    Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))
