@@ -15,11 +15,11 @@
 #include "platform/Nombres.h"
 #include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/Em_Rc.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
-#include "ui_Em_Rc.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
