@@ -1,6 +1,6 @@
 #include "gauges/CommandesBanc.h"
 
-#include "gauges/CommandesMac.h"
+#include "gauges/ChoixMac.h"
 #include "gauges/Jauge.h"
 #include "locale/Legendes.h"
 #include "platform/Erreur.h"
