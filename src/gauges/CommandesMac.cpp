@@ -1,39 +1,26 @@
 #include "gauges/CommandesMac.h"
 
+#include "gauges/ChoixMac.h"
+#include "gauges/ConfMac.h"
 #include "gauges/ParamMac.h"
-#include "locale/Langue.h"
-#include "platform/CommonDialog.h"
+#include "locale/Legendes.h"
 #include "platform/Erreur.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
-namespace {
-
-constexpr Texte3 FiltreMac{u"Fichiers paramètres (*.mac)|*.MAC", u"Files parameters (*.mac)|*.MAC",
-                           u"Ficheros parámetros (*.mac)|*.MAC"};
-constexpr Texte3 TitreChoix{u"Ouvrir une configuration machine jauges outils",
-                            u"Open a configuration machine gauges tools ",
-                            u"Abrir una configuración máquina Cabidas instrumentos"};
-
-} // namespace
-
-void DemandeFichierMac()
+void Mn_CreeConfMac()
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    AppliqueLangue();
+    ParamMac = {};
+    ConfMac(frmPrinc).exec();
+}
+
+void Mn_ModifConfMac()
+{
+    AppliqueLangue();
     try {
-        dialogue.CancelError = true;
-        dialogue.FileName.clear();
-        dialogue.InitDir = DosConf;
-        dialogue.DialogTitle = Texte(TitreChoix);
-        dialogue.Filter = Texte(FiltreMac);
-        dialogue.FilterIndex = 1;
-        dialogue.Flags = CommonDialog::EcrasementDemande;
-        dialogue.ShowOpen();
-        NomCompletMac = dialogue.FileName;
-        NomMac = dialogue.FileTitle;
-        LitMac(NomCompletMac);
+        DemandeFichierMac();
+        ConfMac(frmPrinc, NomCompletMac).exec();
     } catch (const Erreur &) {
-        dialogue.CancelError = false;
-        throw;
+        // Cancelled, or no machine configuration: nothing opens.
     }
 }

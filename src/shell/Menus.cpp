@@ -2,6 +2,7 @@
 
 #include "comconfig/CommandesConf.h"
 #include "gauges/CommandesBanc.h"
+#include "gauges/CommandesMac.h"
 #include "gauges/ReceptionJauge.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
@@ -43,6 +44,8 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
     {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
     {&Ui_FrmPrinc::Mnu_RecepBanc, 13, Mnu_RecepBanc},
+    {&Ui_FrmPrinc::Mn_CreeConfMac, 0, Mn_CreeConfMac},
+    {&Ui_FrmPrinc::Mn_ModifConfMac, 0, Mn_ModifConfMac},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
     {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
     {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
