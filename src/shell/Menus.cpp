@@ -7,6 +7,7 @@
 #include "shell/Document.h"
 #include "shell/Edition.h"
 #include "shell/Explorateur.h"
+#include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/CommandesTransfert.h"
 #include "transfer/EvenementsCom.h"
@@ -39,6 +40,7 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
     {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
+    {&Ui_FrmPrinc::Mnu_Aide, 16, Mnu_Aide},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
     {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
     {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
@@ -51,6 +53,7 @@ void Branche()
     BrancheDocument();
     BrancheEdition();
     BrancheExplorateur();
+    BrancheAide();
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))

@@ -1,0 +1,71 @@
+#include "captures_prog/Vues.h"
+
+#include "comconfig/CommandesConf.h"
+#include "locale/FrmLangue.h"
+#include "shell/Chemins.h"
+#include "shell/Document.h"
+#include "shell/FrmAide.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/Em_Rc.h"
+#include "transfer/Rc_Fic.h"
+#include "transfer/Transfert.h"
+
+namespace {
+
+QString Exemple(const char *nom)
+{
+    return AjouteAntislash(DossierApplication()) + QLatin1String(nom);
+}
+
+QWidget *Principale(bool explorateur)
+{
+    frmPrinc->MontreExplorateur(explorateur);
+    frmPrinc->resize(860, 620);
+    return frmPrinc;
+}
+
+QWidget *Transfert(ModeTransfert mode)
+{
+    TypeTransfert = mode;
+    NomFicRecep = QStringLiteral("PIECE2.ISO");
+    return new Em_Rc(frmPrinc);
+}
+
+QWidget *Reception(ModeTransfert mode)
+{
+    TypeTransfert = mode;
+    auto *const fenetre = new Rc_Fic(frmPrinc);
+    fenetre->Text1->setText(QStringLiteral("PIECE2"));
+    return fenetre;
+}
+
+QWidget *Aide()
+{
+    Mnu_Aide();
+    auto *const fenetre = frmPrinc->findChild<FrmAide *>();
+    fenetre->resize(880, 620);
+    return fenetre;
+}
+
+constexpr Vue Toutes[] = {
+    {"frmPrinc", [] { return Principale(true); }},
+    {"frmPrinc_seule", [] { return Principale(false); }},
+    {"FrmLangue", []() -> QWidget * { return new FrmLangue(frmPrinc); }},
+    {"Em_Rc_1", [] { return Transfert(EmissionProgramme); }},
+    {"Em_Rc_2", [] { return Transfert(EmissionJauges); }},
+    {"Em_Rc_3", [] { return Transfert(ReceptionProgramme); }},
+    {"Em_Rc_4", [] { return Transfert(ReceptionJauges); }},
+    {"Rc_Fic_3", [] { return Reception(ReceptionProgramme); }},
+    {"Rc_Fic_4", [] { return Reception(ReceptionJauges); }},
+    {"FrmAide", Aide},
+};
+
+} // namespace
+
+const std::span<const Vue> Vues = Toutes;
+
+void ChargeExemples()
+{
+    ConfDefaut(Exemple("Conf/Machine_simulee.par"));
+    OuvreDocument(Exemple("Programmes/FRAISAGE.iso"));
+}
