@@ -13,8 +13,14 @@ void ConfDefaut(const QString &fichier);
 /// Asks the operator for a .par file and makes it the current configuration.
 void Mnu_ChargeConf();
 
-/// The same from inside a dialog that transfers, without touching the menus. montre: shows the new configuration in
-/// that dialog, once it is in force.
+/// Makes a new configuration, in the record only, and opens the properties dialog on it.
+void Mnu_CreConf();
+
+/// Asks the operator for a .par file, makes it the current configuration and opens the properties dialog on it.
+void Mnu_ModifConf();
+
+/// Mnu_ChargeConf() from inside a dialog that transfers, without touching the menus. montre: shows the new
+/// configuration in that dialog, once it is in force.
 void ChargeAutreConfiguration(const std::function<void()> &montre);
 
 /// The current configuration as the dialogs that transfer name it: its file, two blanks, its comment.

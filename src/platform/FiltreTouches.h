@@ -2,6 +2,10 @@
 
 #include <QValidator>
 
+/// Characters that the operator cannot put into the name of a file or folder: what a machine tool's control, or an
+/// older file system, stumbles over.
+inline constexpr char16_t InterditsNom[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
+
 /// Keeps characters out of a text box: a forbidden one is dropped, typed or pasted, and the rest goes in.
 class FiltreTouches : public QValidator
 {

@@ -35,6 +35,8 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_Coller, 0, Mnu_Coller},
     {&Ui_FrmPrinc::Mnu_Supprimer, 0, Mnu_Supprimer},
     {&Ui_FrmPrinc::Mnu_ChargeConf, 8, Mnu_ChargeConf},
+    {&Ui_FrmPrinc::Mnu_CreConf, 0, Mnu_CreConf},
+    {&Ui_FrmPrinc::Mnu_ModifConf, 0, Mnu_ModifConf},
     {&Ui_FrmPrinc::Mnu_FermePortCom, 0, Mnu_FermePortCom},
     {&Ui_FrmPrinc::Mnu_EmisProgCN, 9, Mnu_EmisProgCN},
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
