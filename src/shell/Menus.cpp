@@ -3,12 +3,17 @@
 #include "comconfig/CommandesConf.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
+#include "shell/AideEnLigne.h"
+#include "shell/Apropos.h"
 #include "shell/Demarrage.h"
 #include "shell/Document.h"
+#include "shell/Editeur.h"
 #include "shell/Edition.h"
 #include "shell/Explorateur.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
+#include "shell/Impression.h"
+#include "shell/Police.h"
 #include "transfer/CommandesTransfert.h"
 #include "transfer/EvenementsCom.h"
 #include "transfer/PortCom.h"
@@ -27,6 +32,10 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_Nouveau, 0, Mnu_Nouveau},
     {&Ui_FrmPrinc::Mnu_Ouvrir, 1, Mnu_Ouvrir},
     {&Ui_FrmPrinc::Mnu_EnregistrerSous, 2, Mnu_EnregistrerSous},
+    {&Ui_FrmPrinc::Mnu_Police, 3, Mnu_Police},
+    {&Ui_FrmPrinc::Mnu_EditProg, 4, Mnu_EditProg},
+    {&Ui_FrmPrinc::Mnu_Imprim, 5, Mnu_Imprim},
+    {&Ui_FrmPrinc::Mnu_ConfigIMP, 0, Mnu_ConfigIMP},
     {&Ui_FrmPrinc::Mnu_AffichDOS, 15, Mnu_AffichDOS},
     {&Ui_FrmPrinc::Mnu_Quitter, 6, Mnu_Quitter},
     {&Ui_FrmPrinc::Mnu_Annuler, 0, Mnu_Annuler},
@@ -43,6 +52,8 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
     {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
     {&Ui_FrmPrinc::Mnu_Aide, 16, Mnu_Aide},
+    {&Ui_FrmPrinc::Mnu_Apropos, 17, Mnu_Apropos},
+    {&Ui_FrmPrinc::Mnu_AideEnLigne, 0, Mnu_AideEnLigne},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
     {&Ui_FrmPrinc::Mnu_Lang_1, 0, [] { Mnu_Lang(1); }},
     {&Ui_FrmPrinc::Mnu_Lang_2, 0, [] { Mnu_Lang(2); }},
