@@ -1,6 +1,9 @@
 #include "shell/Menus.h"
 
 #include "comconfig/CommandesConf.h"
+#include "gauges/CommandesBanc.h"
+#include "gauges/CommandesMac.h"
+#include "gauges/ReceptionJauge.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
 #include "shell/AideEnLigne.h"
@@ -15,6 +18,7 @@
 #include "shell/Impression.h"
 #include "shell/Police.h"
 #include "transfer/CommandesTransfert.h"
+#include "transfer/Em_Rc.h"
 #include "transfer/EvenementsCom.h"
 #include "transfer/PortCom.h"
 
@@ -51,6 +55,9 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
     {&Ui_FrmPrinc::Mnu_RecepJauge, 12, Mnu_RecepJauge},
+    {&Ui_FrmPrinc::Mnu_RecepBanc, 13, Mnu_RecepBanc},
+    {&Ui_FrmPrinc::Mn_CreeConfMac, 0, Mn_CreeConfMac},
+    {&Ui_FrmPrinc::Mn_ModifConfMac, 0, Mn_ModifConfMac},
     {&Ui_FrmPrinc::Mnu_Aide, 16, Mnu_Aide},
     {&Ui_FrmPrinc::Mnu_Apropos, 17, Mnu_Apropos},
     {&Ui_FrmPrinc::Mnu_AideEnLigne, 0, Mnu_AideEnLigne},
@@ -67,6 +74,7 @@ void Branche()
     BrancheEdition();
     BrancheExplorateur();
     BrancheAide();
+    Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))

@@ -17,6 +17,10 @@ class Em_Rc : public QDialog, public Ui::Em_Rc
 public:
     explicit Em_Rc(QWidget *parent);
 
+    /// The reception from the bench, which stands on a floor above and is tied here at the start. It may return long
+    /// after the dialog has been closed.
+    static void (*RoutineBanc)(Ui::Em_Rc &dialogue);
+
     /// Closing, by whatever way: never on an open port. A routine of the dialog that still runs meets the closed port;
     /// the dialog lives, unseen, until that routine has returned.
     void done(int resultat) override;
@@ -29,6 +33,8 @@ private:
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
+    void Command5_Click();
+    void Command6_Click();
     void Command7_Click();
     void Form_Unload();
 

@@ -159,13 +159,13 @@ void FermePortCOM(Ui::Em_Rc &dialogue)
         PortOuvert = false;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreurPort(erreur));
-        BoutonFermer(dialogue);
+        BoutonFermer(*dialogue.Command1);
     }
 }
 
-void BoutonFermer(Ui::Em_Rc &dialogue)
+void BoutonFermer(QPushButton &bouton)
 {
-    PoseTexte(dialogue.Command1, Fermer);
+    PoseTexte(&bouton, Fermer);
 }
 
 void MontreLabelsEcho(Ui::Em_Rc &dialogue)

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QPushButton;
 namespace Ui {
 class Em_Rc;
 }
@@ -27,8 +28,8 @@ void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialog
 /// failure.
 void CoupePortCOM(Ui::Em_Rc &dialogue);
 
-/// Command1 of the dialog reads "Close" from now on.
-void BoutonFermer(Ui::Em_Rc &dialogue);
+/// The cancel button of a transfer that is over reads "Close" from now on.
+void BoutonFermer(QPushButton &bouton);
 
 /// Label3 and Label4 of the dialog are shown if the configuration asks for the echo.
 void MontreLabelsEcho(Ui::Em_Rc &dialogue);

@@ -38,11 +38,7 @@ private Q_SLOTS:
 // Nothing that the operator can choose is left without a routine, but for what is still to come.
 void TestMenus::ToutEstServi()
 {
-    const QStringList aVenir = QStringLiteral("Mn_CreeConfMac Mn_ModifConfMac Mnu_AideEnLigne Mnu_Apropos "
-                                              "Mnu_ConfigDemar Mnu_ConfigIMP Mnu_CreConf Mnu_DosRecep Mnu_EditProg "
-                                              "Mnu_Imprim Mnu_ModifConf Mnu_Police Mnu_RecepBanc Toolbar1_13 "
-                                              "Toolbar1_17 Toolbar1_3 Toolbar1_4 Toolbar1_5")
-                                   .split(u' ');
+    const QStringList aVenir = QStringLiteral("Mnu_ConfigDemar Mnu_DosRecep").split(u' ');
     const Poste poste;
     const FrmPrinc fenetre;
     const QMap<QString, int> avant = Auditeurs();
