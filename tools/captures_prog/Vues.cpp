@@ -1,7 +1,16 @@
 #include "captures_prog/Vues.h"
 
 #include "comconfig/CommandesConf.h"
+#include "comconfig/DosProg.h"
+#include "comconfig/FrmCaract.h"
+#include "comconfig/ParamCom.h"
+#include "comconfig/Prop.h"
+#include "gauges/ConfMac.h"
+#include "gauges/Jauge.h"
+#include "gauges/JauTour.h"
+#include "gauges/ParamMac.h"
 #include "locale/FrmLangue.h"
+#include "shell/Apropos.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmAide.h"
@@ -39,6 +48,31 @@ QWidget *Reception(ModeTransfert mode)
     return fenetre;
 }
 
+QWidget *Proprietes(int onglet)
+{
+    auto *const fenetre = new Prop(frmPrinc);
+    fenetre->Nomme(NomConf);
+    fenetre->SSTab1->setCurrentIndex(onglet);
+    return fenetre;
+}
+
+QWidget *ConfigurationMachine(int typeMachine, int typeJauge)
+{
+    ParamMac = {};
+    ParamMac.TypeMachine = typeMachine;
+    ParamMac.TypeJauge = typeJauge;
+    return new ConfMac(frmPrinc);
+}
+
+QWidget *Cadran(int tourelle)
+{
+    ParamMac = {};
+    ParamMac.TypeTourelle = tourelle;
+    NbJauges = 3;
+    Jauge[1].NumCorr = 7;
+    return new JauTour(frmPrinc);
+}
+
 QWidget *Aide()
 {
     Mnu_Aide();
@@ -57,6 +91,18 @@ constexpr Vue Toutes[] = {
     {"Em_Rc_4", [] { return Transfert(ReceptionJauges); }},
     {"Rc_Fic_3", [] { return Reception(ReceptionProgramme); }},
     {"Rc_Fic_4", [] { return Reception(ReceptionJauges); }},
+    {"Em_Rc_5", [] { return Transfert(ReceptionBanc); }},
+    {"Rc_Fic_5", [] { return Reception(ReceptionBanc); }},
+    {"Prop_0", [] { return Proprietes(0); }},
+    {"Prop_1", [] { return Proprietes(1); }},
+    {"Prop_2", [] { return Proprietes(2); }},
+    {"FrmCaract", []() -> QWidget * { return new FrmCaract(ChaineLigne, QStringLiteral("CRCRLF"), frmPrinc); }},
+    {"DosProg", []() -> QWidget * { return new DosProg(DossierProgrammes, frmPrinc); }},
+    {"ConfMac", [] { return ConfigurationMachine(0, 0); }},
+    {"ConfMac_fraise", [] { return ConfigurationMachine(1, 1); }},
+    {"JauTour", [] { return Cadran(0); }},
+    {"JauTour_avant", [] { return Cadran(1); }},
+    {"Apropos", []() -> QWidget * { return new Apropos(frmPrinc); }},
     {"FrmAide", Aide},
 };
 
