@@ -13,6 +13,7 @@
 #include "shell/Apropos.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
+#include "shell/Explorateur.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
@@ -29,6 +30,8 @@ QString Exemple(const char *nom)
 QWidget *Principale(bool explorateur)
 {
     frmPrinc->MontreExplorateur(explorateur);
+    frmPrinc->FolderTreeview1->setSelectedFolder(Exemple("Programmes"));
+    FolderTreeview1_Click();
     frmPrinc->resize(860, 620);
     return frmPrinc;
 }
@@ -43,6 +46,7 @@ QWidget *Transfert(ModeTransfert mode)
 QWidget *Reception(ModeTransfert mode)
 {
     TypeTransfert = mode;
+    ParamCom.TypeRecep = RecepLignes; // the one with every option of the dialog
     auto *const fenetre = new Rc_Fic(frmPrinc);
     fenetre->Text1->setText(QStringLiteral("PIECE2"));
     return fenetre;
@@ -77,7 +81,7 @@ QWidget *Aide()
 {
     Mnu_Aide();
     auto *const fenetre = frmPrinc->findChild<FrmAide *>();
-    fenetre->resize(880, 620);
+    fenetre->resize(960, 660);
     return fenetre;
 }
 

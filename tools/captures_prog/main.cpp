@@ -16,9 +16,11 @@
 
 namespace {
 
-constexpr char Usage[] = "captures_prog APPLICATION OUTPUT LANGUAGE [dark]\n"
-                         "Writes a PNG of every window into OUTPUT. APPLICATION: application folder with the samples;\n"
-                         "LANGUAGE: 0 French, 1 English, 2 Spanish. Needs no display (QT_QPA_PLATFORM=offscreen).\n";
+constexpr char Usage[] =
+    "captures_prog APPLICATION OUTPUT LANGUAGE [dark|manual]\n"
+    "Writes a PNG of every window into OUTPUT. APPLICATION: application folder with the samples;\n"
+    "LANGUAGE: 0 French, 1 English, 2 Spanish; manual: pictures as wide as a page of the manual at\n"
+    "most. Needs no display (QT_QPA_PLATFORM=offscreen).\n";
 
 QPalette Sombre()
 {
@@ -68,15 +70,19 @@ QPixmap Photographie(QWidget &fenetre)
     return image;
 }
 
-/// Opens the window of a view, writes its picture and closes it again; the main window stays.
-bool Prend(const Vue &vue, const QString &dossier)
+/// Opens the window of a view, writes its picture and closes it again; the main window stays. largeurMax: pixels; a
+/// wider picture is reduced.
+bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
 {
     QWidget *const fenetre = vue.ouvre();
     fenetre->show();
     // A reception begins, and asks, by itself once its dialog is on the screen; here nobody answers.
     QCoreApplication::removePostedEvents(fenetre, QEvent::MetaCall);
     QCoreApplication::processEvents();
-    const bool ecrit = Photographie(*fenetre).save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(vue.nom)));
+    QPixmap image = Photographie(*fenetre);
+    if (image.width() > largeurMax)
+        image = image.scaledToWidth(largeurMax, Qt::SmoothTransformation);
+    const bool ecrit = image.save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(vue.nom)));
     if (fenetre != frmPrinc)
         delete fenetre;
     return ecrit;
@@ -93,6 +99,8 @@ int main(int nombre, char *arguments[])
         return 2;
     }
     QApplication::setApplicationDisplayName(QString()); // as the program itself does
+    constexpr int page = 640;                           // pixels; what the help window has beside its contents
+    const int largeurMax = options.value(4) == QLatin1String("manual") ? page : QWIDGETSIZE_MAX;
     FixeApparence(options.value(4) == QLatin1String("dark"));
     FixeDossierApplication(options[1]);
     EcritReglages(options[1], options[3].toLatin1());
@@ -105,7 +113,7 @@ int main(int nombre, char *arguments[])
     Form_Load();
     ChargeExemples();
     for (const Vue &vue : Vues)
-        if (!Prend(vue, options[2])) {
+        if (!Prend(vue, options[2], largeurMax)) {
             QTextStream(stderr) << "no picture of " << vue.nom << '\n';
             return 1;
         }
