@@ -3,6 +3,7 @@
 #include "comconfig/CommandesConf.h"
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmCaract.h"
+#include "comconfig/FrmConfDem.h"
 #include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
 #include "gauges/ConfMac.h"
@@ -102,6 +103,7 @@ constexpr Vue Toutes[] = {
     {"Prop_2", [] { return Proprietes(2); }},
     {"FrmCaract", []() -> QWidget * { return new FrmCaract(ChaineLigne, QStringLiteral("CRCRLF"), frmPrinc); }},
     {"DosProg", []() -> QWidget * { return new DosProg(DossierProgrammes, frmPrinc); }},
+    {"FrmConfDem", []() -> QWidget * { return new FrmConfDem(frmPrinc); }},
     {"ConfMac", [] { return ConfigurationMachine(0, 0); }},
     {"ConfMac_fraise", [] { return ConfigurationMachine(1, 1); }},
     {"JauTour", [] { return Cadran(0); }},
