@@ -209,7 +209,7 @@ void FrmAide::DresseSommaire()
     TreeView1->expandToDepth(0);
 }
 
-/// The contents show where the reader is: at the last heading above the middle of what he sees.
+/// The contents show where the reader is: at the last heading in the upper third of what he sees, or above it.
 void FrmAide::SuitLecture()
 {
     const int position = TextBrowser1->cursorForPosition({0, TextBrowser1->viewport()->height() / 3}).position();
@@ -233,41 +233,57 @@ void FrmAide::Va(const QString &section)
 
 void FrmAide::Text1_Change()
 {
-    const int depart = TextBrowser1->textCursor().selectionStart();
     const QRegularExpression motif = Motif(Text1->text());
     m_resultats.clear();
-    m_resultat = -1;
     if (!motif.pattern().isEmpty()) {
         for (QTextCursor trouve = TextBrowser1->document()->find(motif); !trouve.isNull();
              trouve = TextBrowser1->document()->find(motif, trouve))
             m_resultats << trouve;
     }
-    qsizetype premier = 0; // from where the reader is
-    while (premier < m_resultats.size() && m_resultats[premier].selectionStart() < depart)
-        ++premier;
-    MontreResultat(premier);
-}
-
-/// Shows a match and marks them all. numero: from 0; past either end it goes on at the other.
-void FrmAide::MontreResultat(qsizetype numero)
-{
     const qsizetype nombre = m_resultats.size();
     Command3->setEnabled(nombre > 0);
     Command4->setEnabled(nombre > 0);
     Label2->setText(nombre > 0 || Text1->text().isEmpty() ? QString() : Texte(Introuvable));
+    const int lecture = PositionLecture();
+    qsizetype premier = 0;
+    while (premier < nombre && m_resultats[premier].selectionStart() < lecture)
+        ++premier;
+    MontreResultat(premier);
+}
+
+/// Where the reader is: at the match that he sees, or at the top of what he has scrolled to.
+int FrmAide::PositionLecture() const
+{
+    const bool voit = TextBrowser1->viewport()->rect().intersects(TextBrowser1->cursorRect());
+    return voit ? TextBrowser1->textCursor().position() : TextBrowser1->cursorForPosition({0, 0}).position();
+}
+
+/// Shows a match. numero: from 0; past either end it goes on at the other.
+void FrmAide::MontreResultat(qsizetype numero)
+{
+    const qsizetype nombre = m_resultats.size();
+    m_resultat = nombre == 0 ? 0 : (numero + nombre) % nombre;
+    MarqueResultats();
+    if (nombre == 0)
+        return;
+    Label2->setText(QStringLiteral("%1 / %2").arg(m_resultat + 1).arg(nombre));
+    QTextCursor debut = m_resultats[m_resultat];
+    debut.setPosition(debut.selectionStart()); // a selection would hide the mark
+    TextBrowser1->setTextCursor(debut);
+    // Not at the edge: what stands around it is to be read, and the contents name its section.
+    QScrollBar *const ascenseur = TextBrowser1->verticalScrollBar();
+    ascenseur->setValue(ascenseur->value() + TextBrowser1->cursorRect().top() - TextBrowser1->viewport()->height() / 4);
+}
+
+/// Marks all matches, and most the one that is shown; readable on light and dark themes.
+void FrmAide::MarqueResultats()
+{
     QList<QTextEdit::ExtraSelection> marques;
-    if (nombre > 0) {
-        m_resultat = (numero + nombre) % nombre;
-        Label2->setText(QStringLiteral("%1 / %2").arg(m_resultat + 1).arg(nombre));
+    for (qsizetype i = 0; i < m_resultats.size(); ++i) {
         QTextCharFormat surligne;
-        surligne.setBackground(QColor(255, 224, 120));
         surligne.setForeground(Qt::black);
-        for (const QTextCursor &resultat : std::as_const(m_resultats))
-            marques.append({resultat, surligne});
-        marques[m_resultat].format.setBackground(QColor(255, 150, 50));
-        QTextCursor debut = m_resultats[m_resultat];
-        debut.setPosition(debut.selectionStart()); // a selection would hide the mark
-        TextBrowser1->setTextCursor(debut);
+        surligne.setBackground(i == m_resultat ? QColor(255, 150, 50) : QColor(255, 224, 120));
+        marques.append({m_resultats[i], surligne});
     }
     TextBrowser1->setExtraSelections(marques);
 }

@@ -35,7 +35,9 @@ private:
     void Va(const QString &section);
 
     void Text1_Change();
+    int PositionLecture() const;
     void MontreResultat(qsizetype numero);
+    void MarqueResultats();
 
     /// A heading: where it stands in the text, and its line of the contents.
     struct Titre
@@ -46,7 +48,7 @@ private:
 
     QList<Titre> m_titres;          // in the order of the text
     QList<QTextCursor> m_resultats; // what the search has found, in the order of the text
-    qsizetype m_resultat = -1;      // the one that is shown
+    qsizetype m_resultat = 0;       // the one that is shown
 };
 
 /// Opens the manual of the language, at the section of the dialog that is open if there is one. A missing manual is

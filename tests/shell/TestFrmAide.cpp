@@ -39,15 +39,14 @@ struct PosteAide : Poste
     explicit PosteAide(int langue)
         : Poste(langue)
     {
-        for (const char *const dossier : {"aide", "exemples"})
-            for (const QString &nom :
-                 QDir(Ressources.filePath(QLatin1String(dossier))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
-                QFile::link(Ressources.absoluteFilePath(QLatin1String(dossier) + u'/' + nom), Chemin(nom));
+        for (const QDir livres : {Ressources.filePath(u"aide"_s), Ressources.filePath(u"exemples"_s)})
+            for (const QString &nom : livres.entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+                QFile::link(livres.absoluteFilePath(nom), Chemin(nom));
     }
 
     static FrmAide *Aide(const QWidget *appelante = frmPrinc)
     {
-        return appelante->findChild<FrmAide *>(Qt::FindDirectChildrenOnly);
+        return appelante->findChild<FrmAide *>({}, Qt::FindDirectChildrenOnly);
     }
 };
 

@@ -99,7 +99,7 @@ int main(int nombre, char *arguments[])
         return 2;
     }
     QApplication::setApplicationDisplayName(QString()); // as the program itself does
-    constexpr int page = 640;                           // pixels; what the help window has beside its contents
+    constexpr int page = 600;                           // pixels; what the help window has beside its contents
     const int largeurMax = options.value(4) == QLatin1String("manual") ? page : QWIDGETSIZE_MAX;
     FixeApparence(options.value(4) == QLatin1String("dark"));
     FixeDossierApplication(options[1]);
