@@ -14,6 +14,7 @@
 #include "shell/Editeur.h"
 #include "shell/Edition.h"
 #include "shell/Explorateur.h"
+#include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Impression.h"
 #include "shell/Police.h"
@@ -60,6 +61,7 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_RecepBanc, 13, Mnu_RecepBanc},
     {&Ui_FrmPrinc::Mn_CreeConfMac, 0, Mn_CreeConfMac},
     {&Ui_FrmPrinc::Mn_ModifConfMac, 0, Mn_ModifConfMac},
+    {&Ui_FrmPrinc::Mnu_Aide, 16, Mnu_Aide},
     {&Ui_FrmPrinc::Mnu_Apropos, 17, Mnu_Apropos},
     {&Ui_FrmPrinc::Mnu_AideEnLigne, 0, Mnu_AideEnLigne},
     {&Ui_FrmPrinc::Mnu_Lang_0, 0, [] { Mnu_Lang(0); }},
@@ -73,6 +75,7 @@ void Branche()
 {
     BrancheDocument();
     BrancheEdition();
+    BrancheAide();
     Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
