@@ -183,8 +183,6 @@ void Em_Rc::Command1_Click()
     if (FinTransfert == 1 && ParamCom.TypeRecep != RecepFichier)
         OuvreFichierRecu();
     reject();
-    if (FinTransfert == 1)
-        frmPrinc->File1->Refresh();
 }
 
 void Em_Rc::Command2_Click()
@@ -222,6 +220,8 @@ void Em_Rc::done(int resultat)
 {
     Form_Unload();
     QDialog::done(resultat);
+    if (FinTransfert == 1)
+        frmPrinc->File1->Refresh();
 }
 
 void Em_Rc::Form_Unload()
