@@ -210,8 +210,6 @@ void Em_Rc::Command1_Click()
     if (FinTransfert == 1 && ParamCom.TypeRecep != RecepFichier)
         OuvreFichierRecu();
     reject();
-    if (FinTransfert == 1)
-        frmPrinc->ActualiseFichiers();
 }
 
 void Em_Rc::Command2_Click()
@@ -292,6 +290,8 @@ void Em_Rc::done(int resultat)
         AnnuleRECEPT = 1;
     Form_Unload();
     QDialog::done(resultat);
+    if (FinTransfert == 1)
+        frmPrinc->ActualiseFichiers();
 }
 
 void Em_Rc::Form_Unload()

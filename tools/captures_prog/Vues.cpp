@@ -31,7 +31,7 @@ QString Exemple(const char *nom)
 QWidget *Principale(bool explorateur)
 {
     frmPrinc->MontreExplorateur(explorateur);
-    frmPrinc->FolderTreeview1->setSelectedFolder(Exemple("Programmes"));
+    frmPrinc->SelectionneDossier(Exemple("Programmes"));
     FolderTreeview1_Click();
     frmPrinc->resize(860, 620);
     return frmPrinc;
