@@ -17,6 +17,7 @@
 #include "shell/Explorateur.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
 #include "transfer/Transfert.h"
@@ -30,9 +31,9 @@ QString Exemple(const char *nom)
 
 QWidget *Principale(bool explorateur)
 {
-    frmPrinc->MontreExplorateur(explorateur);
-    frmPrinc->SelectionneDossier(Exemple("Programmes"));
-    FolderTreeview1_Click();
+    DosDefaut = Exemple("Programmes");
+    if (frmPrinc->ExplorateurMontre() != explorateur)
+        Mnu_AffichDOS();
     frmPrinc->resize(860, 620);
     return frmPrinc;
 }
