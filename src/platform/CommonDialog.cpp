@@ -48,7 +48,8 @@ void CommonDialog::ShowSave()
 
 void CommonDialog::Demande(bool enregistrement)
 {
-    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir);
+    // Without a folder this toolkit's dialog would open where it was last used.
+    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir.isEmpty() ? QDir::currentPath() : InitDir);
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
     // The system's own dialog would speak the system's language and not the operator's.
     dialogue.setOption(QFileDialog::DontUseNativeDialog);

@@ -55,7 +55,6 @@ void Branche()
 {
     BrancheDocument();
     BrancheEdition();
-    BrancheExplorateur();
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))

@@ -3,6 +3,7 @@
 
 #include "comconfig/FrmConfDem.h"
 #include "comconfig/ParamCom.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -99,11 +100,11 @@ void TestFrmConfDem::ProchainDemarrage()
     atelier.Ouvre();
     const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
     atelier.VerifieIni(ini);
-    QVERIFY(frmPrinc->Frame1->isHidden() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
     atelier.Redemarre();
     atelier.VerifieIni(ini);
-    QVERIFY(frmPrinc->Frame1->isVisible() && Operateur::Offre("Mnu_RecepProg"));
-    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
+    QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
+    QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
     QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
     atelier.Parcourt(nullptr, u"%1/Conf"_s, {});
     Operateur::Menu("Mnu_ChargeConf");
@@ -115,7 +116,7 @@ void TestFrmConfDem::ProchainDemarrage()
     atelier.Ouvre();
     atelier.Redemarre();
     atelier.VerifieIni(u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s);
-    QVERIFY(frmPrinc->Frame1->isHidden() && FicConf.isEmpty());
+    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
     atelier.Montre(u"%1||%1/Conf|-2-"_s);
     atelier.Ouvre();
 }

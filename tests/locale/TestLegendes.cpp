@@ -2,6 +2,7 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
 
@@ -31,6 +32,7 @@ void TestLegendes::Traduites()
     for (int langue = 0; langue < 3; ++langue) {
         const Poste poste(langue);
         const Em_Rc d(nullptr);
+        frmPrinc->CreeExplorateur();
         const FrmPrinc &f = *frmPrinc;
         QCOMPARE((QStringList{f.windowTitle(), f.Mnu_Fichier->title(), f.Mnu_EnregistrerSous->text(),
                               f.Bouton(17)->toolTip(), f.Frame1->title(), f.Label2->text(), f.Toolbar1->windowTitle()}

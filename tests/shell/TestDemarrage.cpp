@@ -59,7 +59,8 @@ void TestDemarrage::PremierDemarrage()
         QCOMPARE(poste.Lit(Ini), " 0 \r\n\"" + dossier + "\"\r\n 0 \r\n\"\"\r\n 1 \r\n" + dossier + "\r\n " +
                                      QByteArray::number(langue) + " \r\n");
         QVERIFY(!QFile::exists(poste.Chemin(Cfg)));
-        QVERIFY(frmPrinc->Frame1->isVisible() && frmPrinc->Mnu_AffichDOS->isChecked());
+        QVERIFY(frmPrinc->ExplorateurMontre() && frmPrinc->Mnu_AffichDOS->isChecked());
+        QCOMPARE(frmPrinc->focusWidget(), frmPrinc->Text1);
         QCOMPARE(frmPrinc->Mnu_Fichier->title(), menus[langue]);
         QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Mnu_EditProg->isEnabled());
     }
@@ -89,7 +90,7 @@ void TestDemarrage::IniCorrige()
         QCOMPARE(frmPrinc->Mnu_Fichier->title(),
                  QStringList({u"File"_s, u"Ficheros"_s}).value(langue - 1, u"&Fichier"_s));
         QCOMPARE(frmPrinc->Mnu_Lang_1->isChecked(), langue == 1);
-        QVERIFY(frmPrinc->Frame1->isHidden() && frmPrinc->Etat->isHidden());
+        QVERIFY(!frmPrinc->ExplorateurMontre() && frmPrinc->Etat->isHidden());
         QCOMPARE(NomFichier + TitreFichier + TexteAnnuler, QString());
         QVERIFY(!frmPrinc->Mnu_EnregistrerSous->isEnabled() && !frmPrinc->Mnu_Imprim->isEnabled());
     }
@@ -177,8 +178,8 @@ void TestDemarrage::MenuLangue()
     QVERIFY(LangIndex == 0 && frmPrinc->Mnu_Lang_0->isChecked());
 }
 
-// The end by the button and by the window's close box: whether to save a changed text, and, of the button alone,
-// whether to go.
+// The end by the button and by the window's close box: whether to save a changed text, which only a button answers,
+// and, of the end by the button alone, whether to go.
 void TestDemarrage::Fin()
 {
     for (const auto &[ferme, change, nomme, oui, fichier, modifie] : {std::tuple{false, false, true, false, "G0", 0},
@@ -196,6 +197,10 @@ void TestDemarrage::Fin()
             OuvreDocument(chemin);
         if (change) {
             frmPrinc->Text1->setText(u"G1"_s);
+            operateur.Fait("MsgBox", [](QWidget &question) {
+                QTest::keyClick(&question, Qt::Key_Escape);
+                QVERIFY(!question.close());
+            });
             operateur.Repond(ferme ? u"Fermer le programme CN"_s : u"Quitter l'éditeur de programmes CN"_s,
                              u"Fichier %1 modifié !\r\n            Enregistrer le fichier ? "_s.arg(chemin),
                              Operateur::DemandeSimple, oui ? QMessageBox::Yes : QMessageBox::No);

@@ -4,6 +4,7 @@
 #include "platform/CommonDialog.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -185,7 +186,8 @@ void TestDocument::Ecrase()
     }
 }
 
-// A changed text with a name: whether to save it, then whether to go on.
+// A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
+// programs, wherever the file dialog was last used.
 void TestDocument::Nouveau()
 {
     Atelier atelier(2);
@@ -211,6 +213,12 @@ void TestDocument::Nouveau()
     QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
     QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
     QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
+    frmPrinc->CommonDialog1->InitDir = u"/"_s;
+    atelier.Fait("CommonDialog", [](QWidget &fenetre) {
+        QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), DosDefaut);
+        fenetre.close();
+    });
+    Operateur::Menu("Mnu_EnregistrerSous");
 }
 
 QTEST_MAIN(TestDocument)
