@@ -148,14 +148,6 @@ std::optional<QString> FrmPrinc::DossierApplique() const
     return Frame1->FolderTreeview1->SelectedFolder();
 }
 
-void FrmPrinc::SelectionneDossier(const QString &dossier)
-{
-    if (Frame1 == nullptr)
-        return;
-    Frame1->FolderTreeview1->Refresh();
-    Frame1->FolderTreeview1->setSelectedFolder(dossier);
-}
-
 void FrmPrinc::ActualiseFichiers()
 {
     if (Frame1 != nullptr)

@@ -65,10 +65,6 @@ public:
     /// while he applies none.
     std::optional<QString> DossierApplique() const;
 
-    /// Takes the column to a folder, read anew; nothing while the column has not been made. Raises Erreur when there is
-    /// no such folder.
-    void SelectionneDossier(const QString &dossier);
-
     /// Reads the files of the column anew: a program has come in.
     void ActualiseFichiers();
 

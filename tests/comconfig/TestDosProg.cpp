@@ -107,29 +107,33 @@ void TestDosProg::DisparuOuNonCree()
     }
 }
 
-// The new folder is the reception folder at once, and both trees stand on it. What no name may hold is dropped, typed
-// or pasted; Enter makes the folder and applies nothing.
+// The new folder is the reception folder at once, and the tree stands on it, as the explorer does where it was opened.
+// What no name may hold is dropped, typed or pasted; Enter makes the folder and applies nothing.
 void TestDosProg::SousDossier()
 {
-    const Atelier atelier(0);
-    Operateur::Menu("Mnu_AffichDOS");
-    DosProg dialogue(DossierProgrammes, frmPrinc);
-    dialogue.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialogue) && dialogue.Frame1->isHidden());
-    dialogue.Command3->click();
-    QCOMPARE(dialogue.focusWidget(), dialogue.Text1);
-    const QString interdits = u"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|]}° \"\n\t"_s;
-    QTest::keyClicks(dialogue.Text1, u"../ .\\ \",("_s);
-    dialogue.Text1->insert(interdits);
-    QVERIFY(dialogue.Text1->text().isEmpty() && !dialogue.Command4->isEnabled());
-    dialogue.Text1->insert(u"../Fr"_s + interdits + u"e-9_È"_s);
-    QTest::keyClick(dialogue.Text1, Qt::Key_Return);
-    const QString cree = atelier.Chemin(u"Prog/Fre-9_È/"_s);
-    QCOMPARE(ParamCom.DosRecep, cree);
-    QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), cree);
-    QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder() + frmPrinc->Frame1->File1->Path(), cree + cree);
-    QVERIFY(QFileInfo(cree).isDir() && dialogue.Frame1->isHidden() && dialogue.isVisible());
-    QVERIFY(!QFile::exists(atelier.Chemin(Cfg)));
+    for (const bool explorateur : {false, true}) {
+        const Atelier atelier(0);
+        if (explorateur)
+            Operateur::Barre(15);
+        DosProg dialogue(DossierProgrammes, frmPrinc);
+        dialogue.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialogue) && dialogue.Frame1->isHidden());
+        dialogue.Command3->click();
+        QCOMPARE(dialogue.focusWidget(), dialogue.Text1);
+        const QString interdits = u"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|]}° \"\n\t"_s;
+        QTest::keyClicks(dialogue.Text1, u"../ .\\ \",("_s);
+        dialogue.Text1->insert(interdits);
+        QVERIFY(dialogue.Text1->text().isEmpty() && !dialogue.Command4->isEnabled());
+        dialogue.Text1->insert(u"../Fr"_s + interdits + u"e-9_È"_s);
+        QTest::keyClick(dialogue.Text1, Qt::Key_Return);
+        const QString cree = atelier.Chemin(u"Prog/Fre-9_È/"_s);
+        QCOMPARE(ParamCom.DosRecep, cree);
+        QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), cree);
+        if (const CadreExplorateur *const colonne = frmPrinc->Frame1)
+            QCOMPARE(colonne->FolderTreeview1->SelectedFolder() + colonne->File1->Path(), cree + cree);
+        QVERIFY(QFileInfo(cree).isDir() && dialogue.Frame1->isHidden() && dialogue.isVisible());
+        QVERIFY(!QFile::exists(atelier.Chemin(Cfg)));
+    }
 }
 
 // The reception dialog opens it for its own folder, under its own caption, and shows each choice behind it.

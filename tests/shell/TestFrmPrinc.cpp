@@ -3,7 +3,6 @@
 
 #include "locale/Legendes.h"
 #include "platform/MSComm.h"
-#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 
 #include <QTest>
