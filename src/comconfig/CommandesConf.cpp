@@ -2,7 +2,6 @@
 
 #include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
-#include "comconfig/TextesConf.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
@@ -51,16 +50,8 @@ constexpr MessagePar MessageB{
 /// Asks for a .par file, first in dossier; FicConf and NomConf then name the choice. Raises DialogueAnnule.
 void DemandeFichierPar(const QString &dossier, const Texte3 &filtre = FiltrePar)
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.CancelError = true;
-    dialogue.FileName.clear();
-    dialogue.InitDir = dossier;
-    dialogue.DialogTitle = Texte(TitreChoix);
-    dialogue.Filter = Texte(filtre);
-    dialogue.FilterIndex = 1;
-    dialogue.ShowOpen();
-    FicConf = dialogue.FileName;
-    NomConf = dialogue.FileTitle;
+    FicConf = ChoisitFichierPar(dossier, filtre);
+    NomConf = NomSeul(FicConf);
 }
 
 void MontreConfiguration()
@@ -133,6 +124,19 @@ void MontreEchec(const Erreur &erreur, const MessagePar &message)
 
 } // namespace
 
+QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.FileName.clear();
+    dialogue.InitDir = dossier;
+    dialogue.DialogTitle = Texte(TitreChoix);
+    dialogue.Filter = Texte(filtre);
+    dialogue.FilterIndex = 1;
+    dialogue.ShowOpen();
+    return dialogue.FileName;
+}
+
 void ConfDefaut(const QString &fichier)
 {
     FicConf = fichier;
@@ -184,6 +188,14 @@ void Mnu_ModifConf()
     Prop dialogue(frmPrinc);
     dialogue.Nomme(NomConf);
     dialogue.Text1->setText(ParamCom.Commentaire);
+    dialogue.exec();
+}
+
+void Mnu_DosRecep()
+{
+    AppliqueLangue();
+    Prop dialogue(frmPrinc);
+    dialogue.LimiteAuxDossiers();
     dialogue.exec();
 }
 

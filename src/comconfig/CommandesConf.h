@@ -1,5 +1,7 @@
 #pragma once
 
+#include "comconfig/TextesConf.h"
+
 #include <QString>
 
 #include <functional>
@@ -10,6 +12,10 @@
 /// the operator. Raises what LireFichierPar raises, with the transfer commands still disabled.
 void ConfDefaut(const QString &fichier);
 
+/// Asks the operator for a .par file, first in dossier, and gives its full path. filtre: "label|pattern" of the dialog.
+/// Raises DialogueAnnule.
+QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre = FiltrePar);
+
 /// Asks the operator for a .par file and makes it the current configuration.
 void Mnu_ChargeConf();
 
@@ -18,6 +24,9 @@ void Mnu_CreConf();
 
 /// Asks the operator for a .par file, makes it the current configuration and opens the properties dialog on it.
 void Mnu_ModifConf();
+
+/// Opens the properties dialog on its folders and editor, and nothing else of it.
+void Mnu_DosRecep();
 
 /// Mnu_ChargeConf() from inside a dialog that transfers, without touching the menus. montre: shows the new
 /// configuration in that dialog, once it is in force.

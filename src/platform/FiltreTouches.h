@@ -6,7 +6,8 @@
 /// older file system, stumbles over.
 inline constexpr char16_t InterditsNom[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
 
-/// Keeps characters out of a text box: a forbidden one is dropped, typed or pasted, and the rest goes in.
+/// Keeps characters out of a text box: a forbidden one is dropped, typed or pasted, and the rest goes in. A line end or
+/// tab, which only a paste can bring, is always dropped.
 class FiltreTouches : public QValidator
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "shell/Menus.h"
 
 #include "comconfig/CommandesConf.h"
+#include "comconfig/FrmConfDem.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
 #include "shell/Demarrage.h"
@@ -26,6 +27,7 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_Nouveau, 0, Mnu_Nouveau},
     {&Ui_FrmPrinc::Mnu_Ouvrir, 1, Mnu_Ouvrir},
     {&Ui_FrmPrinc::Mnu_EnregistrerSous, 2, Mnu_EnregistrerSous},
+    {&Ui_FrmPrinc::Mnu_ConfigDemar, 0, Mnu_ConfigDemar},
     {&Ui_FrmPrinc::Mnu_AffichDOS, 15, Mnu_AffichDOS},
     {&Ui_FrmPrinc::Mnu_Quitter, 6, Mnu_Quitter},
     {&Ui_FrmPrinc::Mnu_Annuler, 0, Mnu_Annuler},
@@ -36,6 +38,7 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_ChargeConf, 8, Mnu_ChargeConf},
     {&Ui_FrmPrinc::Mnu_CreConf, 0, Mnu_CreConf},
     {&Ui_FrmPrinc::Mnu_ModifConf, 0, Mnu_ModifConf},
+    {&Ui_FrmPrinc::Mnu_DosRecep, 0, Mnu_DosRecep},
     {&Ui_FrmPrinc::Mnu_FermePortCom, 0, Mnu_FermePortCom},
     {&Ui_FrmPrinc::Mnu_EmisProgCN, 9, Mnu_EmisProgCN},
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},

@@ -39,8 +39,8 @@ private Q_SLOTS:
 void TestMenus::ToutEstServi()
 {
     const QStringList aVenir = QStringLiteral("Mn_CreeConfMac Mn_ModifConfMac Mnu_Aide Mnu_AideEnLigne Mnu_Apropos "
-                                              "Mnu_ConfigDemar Mnu_ConfigIMP Mnu_CreConf Mnu_DosRecep Mnu_EditProg "
-                                              "Mnu_Imprim Mnu_ModifConf Mnu_Police Mnu_RecepBanc Toolbar1_13 "
+                                              "Mnu_ConfigIMP Mnu_EditProg "
+                                              "Mnu_Imprim Mnu_Police Mnu_RecepBanc Toolbar1_13 "
                                               "Toolbar1_16 Toolbar1_17 Toolbar1_3 Toolbar1_4 Toolbar1_5")
                                    .split(u' ');
     const Poste poste;
