@@ -36,7 +36,6 @@ LabelChaine::LabelChaine(QWidget *parent)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    ReserveLignes(1);
 }
 
 void LabelChaine::MontreChaine(const QString &libelle)
@@ -48,9 +47,21 @@ void LabelChaine::MontreChaine(const QString &libelle)
 
 void LabelChaine::ReserveLignes(int nombre)
 {
-    constexpr int caracteres = 6; // "CRLF" and more of the chains in use
-    setMinimumSize(caracteres * fontMetrics().maxWidth() / 2,
-                   nombre * fontMetrics().lineSpacing() + 2 * (margin() + frameWidth()));
+    m_lignes = nombre;
+    updateGeometry();
+}
+
+QSize LabelChaine::sizeHint() const
+{
+    return minimumSizeHint();
+}
+
+/// The length of a chain does not count: the window that shows it keeps its size.
+QSize LabelChaine::minimumSizeHint() const
+{
+    const int bords = 2 * (margin() + frameWidth());
+    return {fontMetrics().horizontalAdvance(QStringLiteral("CRCRLF")) + bords,
+            m_lignes * fontMetrics().lineSpacing() + bords};
 }
 
 QString LabelChaine::Visible(const QString &libelle)

@@ -13,8 +13,10 @@ public:
     explicit LabelChaine(QWidget *parent = nullptr);
 
     void MontreChaine(const QString &libelle);
-    /// Keeps room for that many lines.
+    /// Keeps room for that many lines; one to begin with.
     void ReserveLignes(int nombre);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
     /// The form in which the label shows libelle.
     static QString Visible(const QString &libelle);
@@ -23,4 +25,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    int m_lignes = 1;
 };
