@@ -103,10 +103,9 @@ void DosProg::Command4_Click()
     const QString nouveau = AjouteAntislash(FolderTreeview1->SelectedFolder()) + Text1->text();
     try {
         CreeDossier(nouveau);
-        for (FolderTreeview *arbre : {FolderTreeview1, frmPrinc->FolderTreeview1}) {
-            arbre->Refresh();
-            arbre->setSelectedFolder(nouveau);
-        }
+        FolderTreeview1->Refresh();
+        FolderTreeview1->setSelectedFolder(nouveau);
+        frmPrinc->SelectionneDossier(nouveau);
         MontreNouveau(false);
     } catch (const Erreur &) {
         MsgBox(Texte(NonCreeAvant) + nouveau + Texte(NonCreeApres), Boite::Critique, Texte(NonCreeTitre));

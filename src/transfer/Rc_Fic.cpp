@@ -3,6 +3,8 @@
 #include "comconfig/CommandesConf.h"
 #include "comconfig/DosProg.h"
 #include "comconfig/ParamCom.h"
+#include "gauges/Jauge.h"
+#include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
@@ -38,6 +40,11 @@ constexpr Mode Modes[] = {
      ":/icones/Mode_4.svg",
      {u"Réception d'un fichier jauges outils", u"Receiving of a file gauges tools",
       u"Recepción de un fichero Cabidas instrumentos"}},
+    {ReceptionBanc,
+     nullptr, // that of the machine's configuration
+     ":/icones/Mode_5.svg",
+     {u"Création d'un fichier jauges outils", u"Creation of a file gauges tools",
+      u"Creación de un fichero Cabidas instrumentos"}},
 };
 
 constexpr Texte3 ExisteTitre{u"Fichier existant !", u"Existing file !", u"Fichero existente !"};
@@ -81,8 +88,8 @@ void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
     QString &reception = Dossier();
-    if (frmPrinc->CheckDOS->isChecked())
-        reception = frmPrinc->FolderTreeview1->SelectedFolder();
+    if (const auto applique = frmPrinc->DossierApplique())
+        reception = *applique;
     MontreDossier();
 }
 
@@ -106,7 +113,8 @@ void Rc_Fic::Form_Activate()
     if (mode == std::end(Modes))
         return;
     PoseTexte(this, mode->titre);
-    Combo1->setCurrentText(QString::fromUtf16(mode->extension));
+    Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
+    Combo1->setEnabled(mode->extension != nullptr);
     Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
 }
 
@@ -126,7 +134,7 @@ void Rc_Fic::Command1_Click()
 {
     reject();
     frmPrinc->Text2->hide();
-    frmPrinc->File1->Refresh();
+    frmPrinc->ActualiseFichiers();
 }
 
 void Rc_Fic::Command3_Click()
@@ -143,6 +151,8 @@ void Rc_Fic::Command2_Click()
 {
     if (TransfertEnCours())
         return;
+    if (TypeTransfert == ReceptionBanc)
+        NbJauges = 0;
     NomFicRecep = (SansBlancs(Text1->text()) + u'.' + Combo1->currentText()).toUpper();
     DossierRecep = SansBlancs(Label3->text());
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
