@@ -66,6 +66,13 @@ void Poste::Demarre()
     m_fenetre->show();
 }
 
+void Poste::Redemarre()
+{
+    m_fenetre.reset();
+    RemetEnregistrements();
+    Demarre();
+}
+
 QString Poste::Ecrit(QAnyStringView nom, const QByteArray &octets) const
 {
     QFile fichier(Chemin(nom));

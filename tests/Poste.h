@@ -20,6 +20,8 @@ public:
 
     /// Starts the program as the process does. Without a "Dorvanel.ini" the language dialog comes.
     void Demarre();
+    /// Ends the program and starts it anew in the same application folder: it then knows what its files hold.
+    void Redemarre();
 
     QString Dossier() const { return m_dossier.path(); }
     /// Path of a file in the application folder.

@@ -1,7 +1,7 @@
 #include "comconfig/CommandesConf.h"
 
 #include "comconfig/ParamCom.h"
-#include "locale/Langue.h"
+#include "comconfig/Prop.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr Texte3 FiltrePar{u"Fichiers paramètres (*.par)|*.Par", u"Files parameters (*.par)|*.Par",
-                           u"Ficheros parámetros (*.par)|*.Par"};
+constexpr Texte3 FiltreParModif{u"Fichiers paramètres (*.par)|*.PAR", u"Files parameters (*.par)|*.PAR",
+                                u"Ficheros parámetros (*.par)|*.PAR"};
 constexpr Texte3 TitreChoix{u"Sélectionner une configuration de communication",
                             u"Select a configuration of communication",
                             u"Seleccionar una configuración de comunicación"};
@@ -48,18 +48,10 @@ constexpr MessagePar MessageB{
      u"Fichero de configuración de versión previa !\rModificarse registrar de nuevo."}};
 
 /// Asks for a .par file, first in dossier; FicConf and NomConf then name the choice. Raises DialogueAnnule.
-void DemandeFichierPar(const QString &dossier)
+void DemandeFichierPar(const QString &dossier, const Texte3 &filtre = FiltrePar)
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.CancelError = true;
-    dialogue.FileName.clear();
-    dialogue.InitDir = dossier;
-    dialogue.DialogTitle = Texte(TitreChoix);
-    dialogue.Filter = Texte(FiltrePar);
-    dialogue.FilterIndex = 1;
-    dialogue.ShowOpen();
-    FicConf = dialogue.FileName;
-    NomConf = dialogue.FileTitle;
+    FicConf = ChoisitFichierPar(dossier, filtre);
+    NomConf = NomSeul(FicConf);
 }
 
 void MontreConfiguration()
@@ -78,6 +70,51 @@ void MetEnService()
     BatirChaines();
 }
 
+/// What MetEnService() does, but for toolbar and derived strings, which follow when the operator applies his changes.
+void PrepareModification()
+{
+    LireFichierPar(FicConf);
+    for (QAction *entree : {frmPrinc->Mnu_RecepProg, frmPrinc->Mnu_RecepJauge, frmPrinc->Mnu_RecepBanc})
+        entree->setEnabled(true);
+    frmPrinc->Mnu_Transfert->setEnabled(true);
+    const bool emission = !NomFichier.isEmpty() && !FicConf.isEmpty();
+    for (QAction *entree : {frmPrinc->Mnu_EmisProgCN, frmPrinc->Mnu_EmisJauge})
+        entree->setEnabled(emission);
+    if (emission)
+        frmPrinc->Mnu_EnregistrerSous->setEnabled(true);
+    MontreConfiguration();
+}
+
+/// The settings of a configuration that nobody has made yet. Its chains are empty; the codes behind them, FinLigRecep,
+/// TypeEnvoi and the derived strings stay as they were.
+void MetConfigurationNeuve()
+{
+    ConfigurationCom &p = ParamCom;
+    p.NumPort = 2;
+    p.NomPort = QStringLiteral("Com2");
+    p.Commentaire.clear();
+    p.Vitesse = QStringLiteral("9600");
+    p.Parite = QStringLiteral("e");
+    p.BitsDonnees = QStringLiteral("7");
+    p.BitsArret = QStringLiteral("1");
+    p.Echo = 0;
+    p.ControleFlux = 2;
+    p.TypeFinTrans = p.TypeFinLig = 0;
+    p.NbCarLecture = 512;
+    p.CarRemplace = QStringLiteral("?");
+    p.TailleTamponRecep = 1024;
+    p.TailleTamponEmis = 512;
+    p.SeuilRecep = p.SeuilEmis = 0;
+    p.FiltreNul = 1;
+    p.LigneRTS = p.LigneDTR = 0;
+    p.DosRecep = DosAppli;
+    p.TypeRecep = RecepLignes;
+    p.TailleRecep = 0;
+    for (QString *const libelle : {&p.LibDebProg, &p.LibFinLig, &p.LibFinTrans})
+        libelle->clear();
+    p.NbCarDebProg = p.NbCarFinLig = p.NbCarFinTrans = 0;
+}
+
 /// A cancelled choice is no failure.
 void MontreEchec(const Erreur &erreur, const MessagePar &message)
 {
@@ -86,6 +123,19 @@ void MontreEchec(const Erreur &erreur, const MessagePar &message)
 }
 
 } // namespace
+
+QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.FileName.clear();
+    dialogue.InitDir = dossier;
+    dialogue.DialogTitle = Texte(TitreChoix);
+    dialogue.Filter = Texte(filtre);
+    dialogue.FilterIndex = 1;
+    dialogue.ShowOpen();
+    return dialogue.FileName;
+}
 
 void ConfDefaut(const QString &fichier)
 {
@@ -111,6 +161,42 @@ void Mnu_ChargeConf()
     } catch (const Erreur &erreur) {
         MontreEchec(erreur, MessageA);
     }
+}
+
+void Mnu_CreConf()
+{
+    AppliqueLangue();
+    MetConfigurationNeuve();
+    Prop dialogue(frmPrinc);
+    dialogue.NommeNouvelle();
+    dialogue.exec();
+}
+
+/// A file that breaks off is told, and opened all the same: the operator completes it and saves it again.
+void Mnu_ModifConf()
+{
+    AppliqueLangue();
+    try {
+        DemandeFichierPar(DosConf, FiltreParModif);
+        if (!FicConf.isEmpty())
+            PrepareModification();
+    } catch (const Erreur &erreur) {
+        MontreEchec(erreur, MessageA);
+        if (erreur.Numero() == Erreur::DialogueAnnule)
+            return;
+    }
+    Prop dialogue(frmPrinc);
+    dialogue.Nomme(NomConf);
+    dialogue.Text1->setText(ParamCom.Commentaire);
+    dialogue.exec();
+}
+
+void Mnu_DosRecep()
+{
+    AppliqueLangue();
+    Prop dialogue(frmPrinc);
+    dialogue.LimiteAuxDossiers();
+    dialogue.exec();
 }
 
 void ChargeAutreConfiguration(const std::function<void()> &montre)

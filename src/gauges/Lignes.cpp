@@ -2,6 +2,8 @@
 
 #include "platform/Nombres.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 std::vector<QString> Lignes(CapaciteLignes + 1);
@@ -35,4 +37,16 @@ void CalculeMaxi()
         return std::any_of(ligne.begin(), ligne.end(), [](QChar caractere) { return caractere != u' '; });
     });
     LigneMaxi = static_cast<int>(Lignes.rend() - 1 - derniere);
+}
+
+QString TexteLignes()
+{
+    QStringList textes;
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(LigneMaxi); ++i) {
+        QString ligne = Lignes[i];
+        while (ligne.endsWith(u' '))
+            ligne.chop(1);
+        textes << ligne;
+    }
+    return textes.join(QLatin1String("\r\n"));
 }

@@ -21,3 +21,6 @@ void CalculeLigne(const QString &texte);
 
 /// Finds the last entry that holds more than blanks; LigneMaxi is 0 when there is none.
 void CalculeMaxi();
+
+/// The entries 1 to LigneMaxi as one text: without the blanks at their ends, with a CR LF between them.
+QString TexteLignes();

@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QFileDialog>
 
-QString ChoixDossier(QWidget *fenetre)
+QString ChoixDossier(QWidget *fenetre, const QString &depart)
 {
-    QFileDialog dialogue(fenetre, QStringLiteral("Choix du dossier"));
+    QFileDialog dialogue(fenetre, QStringLiteral("Choix du dossier"), depart);
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
     // The system's own dialog would speak the system's language and not the operator's.
     dialogue.setOption(QFileDialog::DontUseNativeDialog);

@@ -1,11 +1,17 @@
 #include "platform/CommonDialog.h"
 
+#include "platform/DialogueImprimante.h"
+#include "platform/DialoguePolice.h"
 #include "platform/Erreur.h"
 #include "platform/FenetreAppelante.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrinter>
 
 #include <algorithm>
 
@@ -34,22 +40,52 @@ int Place(const QStringList &filtres, const QString &choisi)
     return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
 }
 
+/// Proposes a PDF file that bears the document's name, in the folder of the last one: the toolkit proposes no name, or
+/// that of the document printed before.
+void ProposeFichier(QPrintDialog &dialogue, const QString &document)
+{
+    auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
+    if (fichier == nullptr || document.isEmpty())
+        return;
+    const QString nom = QFileInfo(document).completeBaseName() + QLatin1String(".pdf");
+    fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
+}
+
+/// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted.
+void CacheEtendues(QPrintDialog &dialogue)
+{
+    const auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
+    const auto choix = etendues == nullptr ? QList<QWidget *>() : etendues->findChildren<QWidget *>();
+    for (QWidget *widget : choix) {
+        const QString nom = widget->objectName();
+        if (nom != QLatin1String("printAll") && nom != QLatin1String("printSelection"))
+            widget->hide();
+    }
+}
+
 } // namespace
+
+CommonDialog::CommonDialog(QObject *parent)
+    : QObject(parent)
+{
+}
+
+CommonDialog::~CommonDialog() = default;
 
 void CommonDialog::ShowOpen()
 {
-    Demande(false);
+    DemandeFichier(false);
 }
 
 void CommonDialog::ShowSave()
 {
-    Demande(true);
+    DemandeFichier(true);
 }
 
-void CommonDialog::Demande(bool enregistrement)
+void CommonDialog::DemandeFichier(bool enregistrement)
 {
-    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir);
-    dialogue.setObjectName(QStringLiteral("CommonDialog"));
+    // Without a folder this toolkit's dialog would open where it was last used.
+    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir.isEmpty() ? QDir::currentPath() : InitDir);
     // The system's own dialog would speak the system's language and not the operator's.
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
@@ -64,12 +100,77 @@ void CommonDialog::Demande(bool enregistrement)
     if (!FileName.isEmpty())
         dialogue.selectFile(FileName);
 
-    if (dialogue.exec() != QDialog::Accepted) {
-        if (CancelError)
-            throw Erreur(Erreur::DialogueAnnule, QStringLiteral("Cancel was selected."));
+    if (!Accepte(dialogue))
         return;
-    }
     FileName = QDir::toNativeSeparators(dialogue.selectedFiles().constFirst());
     FileTitle = QFileInfo(FileName).fileName();
     FilterIndex = Place(filtres, dialogue.selectedNameFilter());
+}
+
+void CommonDialog::ShowPrinter()
+{
+    if ((Flags & ReglageImprimante) == 0) {
+        DemandeCopies();
+        return;
+    }
+    DialogueImprimante dialogue(Imprimante(), FenetreAppelante());
+    dialogue.setWindowTitle(DialogTitle);
+    if (Accepte(dialogue))
+        dialogue.Applique();
+}
+
+void CommonDialog::DemandeCopies()
+{
+    QPrinter &imprimante = Imprimante();
+    QPrintDialog dialogue(&imprimante, FenetreAppelante());
+    dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
+    ProposeFichier(dialogue, imprimante.docName());
+    CacheEtendues(dialogue);
+    if ((Flags & Selection) != 0) {
+        dialogue.setOption(QAbstractPrintDialog::PrintSelection);
+        dialogue.setPrintRange(QAbstractPrintDialog::Selection);
+    }
+    if (!Accepte(dialogue))
+        return;
+    Copies = imprimante.copyCount();
+    imprimante.setCopyCount(1);
+}
+
+void CommonDialog::ShowFont()
+{
+    QFont police(FontName);
+    police.setPointSizeF(FontSize);
+    police.setBold(FontBold);
+    police.setItalic(FontItalic);
+    police.setStrikeOut(FontStrikeThru);
+    police.setUnderline(FontUnderline);
+    DialoguePolice dialogue(police, Color, FenetreAppelante());
+    if (!Accepte(dialogue))
+        return;
+    police = dialogue.selectedFont();
+    FontName = police.family();
+    FontSize = police.pointSizeF();
+    FontBold = police.bold();
+    FontItalic = police.italic();
+    FontStrikeThru = police.strikeOut();
+    FontUnderline = police.underline();
+    Color = dialogue.Couleur();
+}
+
+QPrinter &CommonDialog::Imprimante()
+{
+    if (m_imprimante == nullptr)
+        m_imprimante = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *m_imprimante;
+}
+
+/// Shows a dialog of any kind; false when the operator cancels and that is no error.
+bool CommonDialog::Accepte(QDialog &dialogue) const
+{
+    dialogue.setObjectName(QStringLiteral("CommonDialog"));
+    if (dialogue.exec() == QDialog::Accepted)
+        return true;
+    if (CancelError)
+        throw Erreur(Erreur::DialogueAnnule, QStringLiteral("Cancel was selected."));
+    return false;
 }

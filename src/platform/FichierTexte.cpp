@@ -29,6 +29,21 @@ void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
         Echoue(fichier, errno);
 }
 
+void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QString &texte)
+{
+    QFile fichier(chemin);
+    Ouvre(fichier, mode | QIODevice::Unbuffered);
+    const QByteArray octets = OctetsEn1252(texte);
+    errno = 0;
+    if (fichier.write(octets) != octets.size())
+        Echoue(fichier, errno);
+    // A network drive may find out only here that it has no room.
+    errno = 0;
+    fichier.close();
+    if (fichier.error() != QFileDevice::NoError)
+        Echoue(fichier, errno);
+}
+
 } // namespace
 
 QByteArray LitOctets(const QString &chemin, qint64 tailleMax)
@@ -58,17 +73,12 @@ try {
 
 void EcritFichierTexte(const QString &chemin, const QString &texte)
 {
-    QFile fichier(chemin);
-    Ouvre(fichier, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
-    const QByteArray octets = OctetsEn1252(texte);
-    errno = 0;
-    if (fichier.write(octets) != octets.size())
-        Echoue(fichier, errno);
-    // A network drive may find out only here that it has no room.
-    errno = 0;
-    fichier.close();
-    if (fichier.error() != QFileDevice::NoError)
-        Echoue(fichier, errno);
+    Ecrit(chemin, QIODevice::WriteOnly | QIODevice::Truncate, texte);
+}
+
+void AjouteFichierTexte(const QString &chemin, const QString &texte)
+{
+    Ecrit(chemin, QIODevice::Append | QIODevice::ExistingOnly, texte);
 }
 
 bool FichierExiste(const QString &chemin)

@@ -20,5 +20,9 @@ QString LitFichierTexte(const QString &chemin, qint64 tailleMax = TailleMaxOctet
 /// Raises FichierIntrouvable, AccesRefuse, DisqueSature, ErreurFichier.
 void EcritFichierTexte(const QString &chemin, const QString &texte);
 
+/// Adds texte at the end of the file at chemin, which must exist; what it held is not touched. Raises as
+/// EcritFichierTexte().
+void AjouteFichierTexte(const QString &chemin, const QString &texte);
+
 /// True when chemin names a plain file; any failure gives False.
 bool FichierExiste(const QString &chemin);

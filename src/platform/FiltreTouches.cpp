@@ -10,7 +10,9 @@ FiltreTouches::FiltreTouches(const QString &interdits, QObject *parent)
 
 QValidator::State FiltreTouches::validate(QString &texte, int &curseur) const
 {
-    const auto interdit = [this](QChar caractere) { return m_interdits.contains(caractere); };
+    const auto interdit = [this](QChar caractere) {
+        return m_interdits.contains(caractere) || caractere.category() == QChar::Other_Control;
+    };
     curseur -= static_cast<int>(std::count_if(texte.begin(), texte.begin() + curseur, interdit));
     texte.removeIf(interdit);
     return Acceptable;

@@ -2,7 +2,12 @@
 
 #include <QValidator>
 
-/// Keeps characters out of a text box: a forbidden one is dropped, typed or pasted, and the rest goes in.
+/// Characters that the operator cannot put into the name of a file or folder: what a machine tool's control, or an
+/// older file system, stumbles over.
+inline constexpr char16_t InterditsNom[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
+
+/// Keeps characters out of a text box: a forbidden one is dropped, typed or pasted, and the rest goes in. A line end or
+/// tab, which only a paste can bring, is always dropped.
 class FiltreTouches : public QValidator
 {
     Q_OBJECT

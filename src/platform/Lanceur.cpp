@@ -60,14 +60,22 @@ std::span<const Remplacant> Remplacants(const QString &programme)
     return {};
 }
 
+bool Lance(const QString &programme, const QString &arguments, const QString &fichier)
+{
+    if (const auto remplacants = Remplacants(programme); !remplacants.empty())
+        return LancePremier(remplacants, fichier);
+    const QString chemin = QStandardPaths::findExecutable(programme);
+    return !chemin.isEmpty() && QProcess::startDetached(chemin, QProcess::splitCommand(arguments) << fichier);
+}
+
 } // namespace
 
-void LanceProgramme(const QString &programme, const QString &fichier)
+void LanceProgramme(const QString &commande, const QString &fichier)
 {
-    const std::span<const Remplacant> remplacants = Remplacants(programme);
-    const QString chemin = QStandardPaths::findExecutable(programme);
-    const bool lance = !remplacants.empty() ? LancePremier(remplacants, fichier)
-                                            : !chemin.isEmpty() && QProcess::startDetached(chemin, {fichier});
-    if (!lance)
-        throw Erreur(Erreur::FichierIntrouvable, programme);
+    // The longest beginning that names a program is the program: "/opt/CN editor" goes before "/opt/CN".
+    for (qsizetype fin = commande.size(); fin > 0; fin = commande.lastIndexOf(u' ', fin - 1)) {
+        if (Lance(commande.left(fin), commande.mid(fin), fichier))
+            return;
+    }
+    throw Erreur(Erreur::FichierIntrouvable, commande);
 }

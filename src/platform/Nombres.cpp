@@ -2,6 +2,8 @@
 
 #include "platform/Erreur.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -31,19 +33,18 @@ QString TexteReel(float valeur)
 {
     if (!std::isfinite(valeur))
         throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
-    if (valeur == 0.0F)
-        return QStringLiteral("0");
     constexpr int chiffres = 7;
-    const int ordre = static_cast<int>(std::floor(std::log10(std::fabs(valeur))));
-    // Rounded to 7 significant digits first, so that the fixed form below shows no digit beyond them.
-    const double arrondi = QString::number(static_cast<double>(valeur), 'e', chiffres - 1).toDouble();
-    QString texte = QString::number(arrondi, 'f', std::max(0, chiffres - 1 - ordre));
-    if (texte.contains(u'.')) {
-        while (texte.endsWith(u'0'))
-            texte.chop(1);
-        if (texte.endsWith(u'.'))
-            texte.chop(1);
-    }
+    // Rounded to 7 significant digits first, so that the shortest text of what is left shows no digit beyond them.
+    return TexteDouble(QString::number(static_cast<double>(valeur), 'e', chiffres - 1).toDouble());
+}
+
+QString TexteDouble(double valeur)
+{
+    if (!std::isfinite(valeur))
+        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+    if (valeur == 0)
+        return QStringLiteral("0"); // also for the zero with a minus sign
+    QString texte = QString::number(valeur, 'f', QLocale::FloatingPointShortest);
     if (texte.startsWith(QLatin1String("0.")))
         texte.remove(0, 1);
     else if (texte.startsWith(QLatin1String("-0.")))

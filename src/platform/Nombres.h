@@ -16,6 +16,9 @@ QString TexteNombre(qint64 nombre);
 /// exponent, and no leading blank. An infinite or undefined value raises Depassement.
 QString TexteReel(float valeur);
 
+/// Shortest text of a double-precision value, in the same form.
+QString TexteDouble(double valeur);
+
 /// The nearest whole number of 16 bits, a tie going to the even one. Raises Depassement outside -32768 to 32767.
 int EnEntier(double valeur);
 

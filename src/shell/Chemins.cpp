@@ -63,6 +63,11 @@ QString NomSeul(const QString &chemin)
     return chemin.mid(chemin.lastIndexOf(QDir::separator()) + 1);
 }
 
+QString DepuisDossierApplication(const QString &chemin)
+{
+    return QDir::toNativeSeparators(QDir(DossierApplication()).absoluteFilePath(chemin));
+}
+
 QString EnMajuscules(const QString &chemin)
 {
     const QString majuscules = chemin.toUpper();

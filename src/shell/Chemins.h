@@ -18,6 +18,9 @@ QString AjouteAntislash(const QString &chemin);
 /// What follows the last separator; the whole of chemin when there is none.
 QString NomSeul(const QString &chemin);
 
+/// chemin in full. A settings or configuration file may name a folder beside the program, wherever that has been laid.
+QString DepuisDossierApplication(const QString &chemin);
+
 /// chemin in upper case where the file system takes that for the same folder, else as it stands: on a file system that
 /// tells case apart the upper-case form names nothing.
 QString EnMajuscules(const QString &chemin);

@@ -14,11 +14,16 @@ constexpr Texte3 EditeurIntrouvable{u"Erreur pendant l'ouverture du fichier ou\r
 
 } // namespace
 
-void OuvreAvecTraitementDeTexte(const QString &chemin)
+void OuvreAvecEditeur(const QString &commande, const QString &chemin)
 {
     try {
-        LanceProgramme(QStringLiteral("write.exe"), chemin);
+        LanceProgramme(commande, chemin);
     } catch (const Erreur &) {
         MsgBox(Texte(EditeurIntrouvable), Boite::Critique, Texte(ErreurTitre));
     }
+}
+
+void OuvreAvecTraitementDeTexte(const QString &chemin)
+{
+    OuvreAvecEditeur(QStringLiteral("write"), chemin);
 }

@@ -89,6 +89,11 @@ void LisCfg(QString &dosRecep)
         *variable = champs.Chaine();
 }
 
+void SauveCfg(const QString &dosRecep)
+{
+    EcritFichierTexte(CheminCfg(), LigneCitee(dosRecep) + LigneCitee(DosJauge) + LigneCitee(EditeurCN));
+}
+
 void CfgParDefaut(QString &dosRecep)
 {
     dosRecep = EnMajuscules(DosAppli);

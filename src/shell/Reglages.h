@@ -34,5 +34,8 @@ void IniParDefaut();
 /// Reads "Dorvanel.CFG" into dosRecep (the reception folder of programs), DosJauge and EditeurCN. Raises as LisIni().
 void LisCfg(QString &dosRecep);
 
+/// Writes "Dorvanel.CFG" whole. dosRecep: the reception folder of programs. Raises as SauveIni().
+void SauveCfg(const QString &dosRecep);
+
 /// The values of a run without "Dorvanel.CFG".
 void CfgParDefaut(QString &dosRecep);

@@ -34,6 +34,12 @@ constexpr Question Questions[] = {
      {u"Réception d'un fichier jauge", u"Receiving of a file measures", u"Recepción de un fichero mide"},
      {u"Confirmez la réception du fichier jauge ", u"Confirm the receiving of the file measures ",
       u"Confirme la recepción del fichero mide "}},
+    {ReceptionBanc,
+     {u"Réception des jauges outils à partir du banc de préréglage",
+      u"Receiving of the gauges tools starting from the bench of presetting",
+      u"Recepción de las Cabidas instrumentos a partir del banco de reglaje previo"},
+     {u"Confirmez la réception des jauges outils ", u"Confirm the receiving of the gauges tools ",
+      u"Confirme la recepción de las Cabidas instrumentos "}},
 };
 constexpr Texte3 SurLePort{u" sur le port ", u" on the port ", u" sobre el puerto "};
 
@@ -46,8 +52,10 @@ bool ConfirmeTransfert(int mode)
             continue;
         const bool emission = question.type == EmissionProgramme || question.type == EmissionJauges;
         const QString titre = Texte(question.titre);
-        return Confirme(titre + u'\r' + Texte(question.texte) + (emission ? TitreFichier : NomFicRecep) +
-                            Texte(SurLePort) + ParamCom.NomPort + QStringLiteral(" ?"),
+        // The title of the bench is too long to be said twice.
+        return Confirme((question.type == ReceptionBanc ? QString() : titre) + u'\r' + Texte(question.texte) +
+                            (emission ? TitreFichier : NomFicRecep) + Texte(SurLePort) + ParamCom.NomPort +
+                            QStringLiteral(" ?"),
                         Boite::Question | Boite::SecondBouton, titre);
     }
     return false;

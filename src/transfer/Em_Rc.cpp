@@ -2,6 +2,7 @@
 
 #include "comconfig/CommandesConf.h"
 #include "comconfig/ParamCom.h"
+#include "gauges/Jauge.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
@@ -14,8 +15,10 @@
 #include "transfer/PortCom.h"
 #include "transfer/Reception.h"
 #include "transfer/ReceptionFichier.h"
+#include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
 
+#include <QKeyEvent>
 #include <QShowEvent>
 
 #include <algorithm>
@@ -42,7 +45,7 @@ struct Mode
 constexpr Texte3 PuisCliquez{u"Puis cliquez sur le bouton < Emission... >", u"Then click on the button < Emission... >",
                              u"Luego presionan el botón < Emisión... >"};
 
-constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receive", u"En espera de recepción"};
+constexpr Texte3 AttenteReception{u"En attente de réception", u"On standby of receive", u"En espera de recepción"};
 
 constexpr Mode Modes[] = {
     {EmissionProgramme,
@@ -71,7 +74,7 @@ constexpr Mode Modes[] = {
       u"\rOn machine to make Restoring\r\rValidate the Déchargement mode Programs\r\rSupport on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga Programa\r\r"
       u"Apoyar en Salida de Ciclo"},
-     EnAttente,
+     AttenteReception,
      ":/icones/Mode_3.svg"},
     {ReceptionJauges,
      false,
@@ -81,8 +84,17 @@ constexpr Mode Modes[] = {
       u"Support on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga de las Cabidas instrumentos\r\r"
       u"Apoyar en Salida de Ciclo"},
-     EnAttente,
+     AttenteReception,
      ":/icones/Mode_4.svg"},
+    {ReceptionBanc,
+     false,
+     {u"Réception des jauges outils à partir du banc", u"Receiving of the gauges tools starting from the bench ",
+      u"Recepción de las Cabidas instrumentos a partir del banco"},
+     {u"\rPrérégler le premier outil\r\r", u"\rPreset the first tool\r\r",
+      u"\rPreestablecer la primer instrumentos\r\r"},
+     {u"En attente de réception Correcteur N°1", u"On standby of reception Corrector N°1",
+      u"En espera de recepción Corrector N°1"},
+     ":/icones/Mode_5.svg"},
 };
 
 constexpr Texte3 ForcerTitre{u"Forcer la fin de réception", u"Force the end of receiving",
@@ -96,6 +108,8 @@ constexpr int CoteImage = 64; // pixels
 
 } // namespace
 
+void (*Em_Rc::RoutineBanc)(Ui::Em_Rc &) = nullptr;
+
 Em_Rc::Em_Rc(QWidget *parent)
     : QDialog(parent)
 {
@@ -108,9 +122,13 @@ Em_Rc::Em_Rc(QWidget *parent)
         politique.setRetainSizeWhenHidden(true);
         passager->setSizePolicy(politique);
     }
+    Command2->installEventFilter(this);
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
+    connect(Command4, &QPushButton::clicked, this, &Em_Rc::reject);
+    connect(Command5, &QPushButton::clicked, this, &Em_Rc::Command5_Click);
+    connect(Command6, &QPushButton::clicked, this, &Em_Rc::Command6_Click);
     connect(Command7, &QPushButton::clicked, this, &Em_Rc::Command7_Click);
 }
 
@@ -121,8 +139,9 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     QDialog::showEvent(evenement);
     if (evenement->spontaneous())
         return;
-    CentreFeuille(this);
     Form_Activate();
+    adjustSize(); // a long comment of the configuration takes lines
+    CentreFeuille(this);
 }
 
 void Em_Rc::Form_Activate()
@@ -146,15 +165,19 @@ void Em_Rc::MontreMode()
         std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
     if (mode == std::end(Modes))
         return;
+    const bool banc = mode->type == ReceptionBanc;
     PoseTexte(this, mode->titre);
-    Label1->setText(PourAffichage(Texte(mode->consignes)));
+    Label1->setText(PourAffichage(Texte(mode->consignes) + (banc ? Texte(TouchesBanc) : QString())));
     PoseTexte(Label2, mode->statut);
-    Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
+    const QPixmap image = QIcon(QLatin1String(mode->image)).pixmap(CoteImage);
+    Picture1->setPixmap(image);
+    Picture2->setPixmap(image);
     Command2->setVisible(mode->emission);
-    Command7->setVisible(!mode->emission);
-    Frame1->show();
-    Frame4->hide();
+    Command7->setVisible(!mode->emission && !banc);
+    Frame1->setVisible(!banc);
+    Frame4->setVisible(banc);
     Frame2->setVisible(mode->emission);
+    (banc ? Command5 : Command2)->setDefault(true);
     if (mode->emission)
         Command2->setFocus();
     else
@@ -166,6 +189,10 @@ void Em_Rc::CommenceReception()
     const EnTransfert enTransfert;
     if (!ConfirmeTransfert(TypeTransfert)) {
         reject();
+        return;
+    }
+    if (TypeTransfert == ReceptionBanc) {
+        RoutineBanc(*this);
         return;
     }
     constexpr void (*receptions[])(Ui::Em_Rc &) = {ReceptionLigne, ReceptionCar, ReceptionFichier};
@@ -204,8 +231,20 @@ void Em_Rc::Command3_Click()
 {
     ChargeAutreConfiguration([this] {
         MontreConfigurationChoisie();
+        adjustSize();
         ChoisitFinLigneRecep();
     });
+}
+
+void Em_Rc::Command5_Click()
+{
+    JaugeSuivante = 1;
+}
+
+void Em_Rc::Command6_Click()
+{
+    FinJauges = 1;
+    accept();
 }
 
 void Em_Rc::Command7_Click()
@@ -216,17 +255,47 @@ void Em_Rc::Command7_Click()
         ForceRECEPT = 1;
 }
 
+/// A stroke that follows another within a second is the same heavy hand. The system does not mark every repetition as
+/// one.
+bool Em_Rc::MainLourde(const QKeyEvent &touche)
+{
+    constexpr qint64 repos = 1000; // milliseconds; a keyboard begins to repeat after some 600
+    if (touche.key() != Qt::Key_Return && touche.key() != Qt::Key_Enter && touche.key() != Qt::Key_Space)
+        return false;
+    const bool repetee = touche.isAutoRepeat() || (m_coup.isValid() && !m_coup.hasExpired(repos));
+    m_coup.start();
+    return repetee;
+}
+
+/// A short program has gone between the two strokes of a double click, and would go many times over while a hand leans
+/// on Enter.
+bool Em_Rc::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const bool encore = evenement->type() == QEvent::MouseButtonDblClick ||
+                        (evenement->type() == QEvent::KeyPress && MainLourde(*static_cast<QKeyEvent *>(evenement)));
+    return (objet == Command2 && encore) || QDialog::eventFilter(objet, evenement);
+}
+
+/// From any other place of the dialog Enter means Command2 too.
+void Em_Rc::keyPressEvent(QKeyEvent *evenement)
+{
+    if (!MainLourde(*evenement))
+        QDialog::keyPressEvent(evenement);
+}
+
 void Em_Rc::done(int resultat)
 {
+    // The end of a bench reception is the one close that does not cancel.
+    if (resultat == Rejected)
+        AnnuleRECEPT = 1;
     Form_Unload();
     QDialog::done(resultat);
     if (FinTransfert == 1)
-        frmPrinc->File1->Refresh();
+        frmPrinc->ActualiseFichiers();
 }
 
 void Em_Rc::Form_Unload()
 {
-    AnnuleRECEPT = 1;
     frmPrinc->EteintTransfert();
     CoupePortCOM(*this);
     if (ParamCom.TypeRecep == RecepFichier)

@@ -3,6 +3,7 @@
 #include "ui_Em_Rc.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 
 /// The modal dialog in which every transfer runs: it tells the operator what to do at the machine, starts the transfer
 /// and shows it.
@@ -17,18 +18,28 @@ class Em_Rc : public QDialog, public Ui::Em_Rc
 public:
     explicit Em_Rc(QWidget *parent);
 
+    /// The reception from the bench, which stands on a floor above and is tied here at the start. It may return long
+    /// after the dialog has been closed.
+    static void (*RoutineBanc)(Ui::Em_Rc &dialogue);
+
     /// Closing, by whatever way: never on an open port. A routine of the dialog that still runs meets the closed port;
     /// the dialog lives, unseen, until that routine has returned.
     void done(int resultat) override;
 
 protected:
     void showEvent(QShowEvent *evenement) override;
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
+    bool MainLourde(const QKeyEvent &touche);
+
     void Form_Activate();
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
+    void Command5_Click();
+    void Command6_Click();
     void Command7_Click();
     void Form_Unload();
 
@@ -37,4 +48,6 @@ private:
     /// has been closed.
     void CommenceReception();
     void MontreConfigurationChoisie();
+
+    QElapsedTimer m_coup; // since a key last pressed a button
 };

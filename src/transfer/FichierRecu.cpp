@@ -66,6 +66,20 @@ void EcritFichierRecu(const QString &texte)
     ecritEntier = true;
 }
 
+void CreeFichierRecu()
+{
+    ecritEntier = false;
+    EcritFichierTexte(CheminRecep(), QString());
+    ecritEntier = true;
+}
+
+void AjouteFichierRecu(const QString &texte)
+{
+    ecritEntier = false;
+    AjouteFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"));
+    ecritEntier = true;
+}
+
 void OuvreFichierRecu()
 {
     if (!ecritEntier)

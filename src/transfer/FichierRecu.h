@@ -7,6 +7,11 @@
 /// Writes texte and one CR LF to CheminRecep(), replacing what was there. Raises what EcritFichierTexte raises.
 void EcritFichierRecu(const QString &texte);
 
+/// Creates or empties CheminRecep(), for a reception that writes as it goes; AjouteFichierRecu() then adds texte and
+/// one CR LF. Raise as EcritFichierRecu().
+void CreeFichierRecu();
+void AjouteFichierRecu(const QString &texte);
+
 /// Makes the file of the last reception the document. One of 65536 bytes or more is not shown: the pane empties and the
 /// operator may open it with the word processor. When it was not written whole, or cannot be read, nothing changes.
 void OuvreFichierRecu();

@@ -159,13 +159,13 @@ void FermePortCOM(Ui::Em_Rc &dialogue)
         PortOuvert = false;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreurPort(erreur));
-        BoutonFermer(dialogue);
+        BoutonFermer(*dialogue.Command1);
     }
 }
 
-void BoutonFermer(Ui::Em_Rc &dialogue)
+void BoutonFermer(QPushButton &bouton)
 {
-    PoseTexte(dialogue.Command1, Fermer);
+    PoseTexte(&bouton, Fermer);
 }
 
 void MontreLabelsEcho(Ui::Em_Rc &dialogue)
@@ -176,12 +176,7 @@ void MontreLabelsEcho(Ui::Em_Rc &dialogue)
 
 void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue)
 {
-    ErreurPortCOM(erreur, TexteErreurPort(erreur), dialogue);
-}
-
-void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialogue)
-{
-    MontreErreur(erreur, texte);
+    MontreErreur(erreur, TexteErreurPort(erreur));
     FermePortCOM(dialogue);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QPushButton;
 namespace Ui {
 class Em_Rc;
 }
@@ -20,15 +21,12 @@ void FermePortCOM(Ui::Em_Rc &dialogue);
 /// The end of a transfer routine that failed: tells the operator and closes the port.
 void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue);
 
-/// Same, with another text than the number's own.
-void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialogue);
-
 /// The operator's cancel: if the port is open, closes it and says so in Label2 of the dialog. Nothing is told of a
 /// failure.
 void CoupePortCOM(Ui::Em_Rc &dialogue);
 
-/// Command1 of the dialog reads "Close" from now on.
-void BoutonFermer(Ui::Em_Rc &dialogue);
+/// The cancel button of a transfer that is over reads "Close" from now on.
+void BoutonFermer(QPushButton &bouton);
 
 /// Label3 and Label4 of the dialog are shown if the configuration asks for the echo.
 void MontreLabelsEcho(Ui::Em_Rc &dialogue);

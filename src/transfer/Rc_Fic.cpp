@@ -1,11 +1,13 @@
 #include "transfer/Rc_Fic.h"
 
 #include "comconfig/CommandesConf.h"
+#include "comconfig/DosProg.h"
 #include "comconfig/ParamCom.h"
+#include "gauges/Jauge.h"
+#include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
-#include "platform/ChoixDossier.h"
 #include "platform/FichierTexte.h"
 #include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
@@ -14,8 +16,6 @@
 #include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Transfert.h"
-
-#include <QDir>
 
 #include <algorithm>
 
@@ -40,6 +40,11 @@ constexpr Mode Modes[] = {
      ":/icones/Mode_4.svg",
      {u"Réception d'un fichier jauges outils", u"Receiving of a file gauges tools",
       u"Recepción de un fichero Cabidas instrumentos"}},
+    {ReceptionBanc,
+     nullptr, // that of the machine's configuration
+     ":/icones/Mode_5.svg",
+     {u"Création d'un fichier jauges outils", u"Creation of a file gauges tools",
+      u"Creación de un fichero Cabidas instrumentos"}},
 };
 
 constexpr Texte3 ExisteTitre{u"Fichier existant !", u"Existing file !", u"Fichero existente !"};
@@ -47,8 +52,12 @@ constexpr Texte3 ExisteFichier{u"Remplacer le fichier ", u"Replace the file ", u
 constexpr Texte3 ExisteDossier{u"Dans le dossier ", u"In the directory ", u"En el directorio "};
 constexpr Texte3 ExisteQuestion{u"Confirmez  ?", u"Confirm  ?", u"Confirme  ?"};
 
-/// Characters that must not enter a file name.
-constexpr char16_t Interdits[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
+constexpr Texte3 DossierDeProgrammes{u"Choix du dossier de réception des Programmes CN",
+                                     u"Choice of the directory of receiving of the Programs NC",
+                                     u"Elección del expediente de recepción de los Programas CN"};
+constexpr Texte3 DossierDeJauges{u"Choix du dossier de réception des Jauges Outils",
+                                 u"Choice of the directory of receiving of the Gauges Tools",
+                                 u"Elección del directorio de recepción de las Cabidas instrumentos"};
 
 constexpr int CoteImage = 64; // pixels
 
@@ -59,7 +68,7 @@ Rc_Fic::Rc_Fic(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    Text1->setValidator(new FiltreTouches(QString::fromUtf16(Interdits), Text1));
+    Text1->setValidator(new FiltreTouches(QString::fromUtf16(InterditsNom), Text1));
     connect(Text1, &QLineEdit::textChanged, this,
             [this](const QString &texte) { Command2->setEnabled(!texte.isEmpty()); });
     QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};
@@ -79,10 +88,14 @@ void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
     QString &reception = Dossier();
-    if (frmPrinc->CheckDOS->isChecked())
-        reception = frmPrinc->FolderTreeview1->SelectedFolder();
-    // A configuration may name a folder beside the program, wherever that has been laid.
-    Label3->setText(QDir::toNativeSeparators(QDir(DossierApplication()).absoluteFilePath(reception)));
+    if (const auto applique = frmPrinc->DossierApplique())
+        reception = *applique;
+    MontreDossier();
+}
+
+void Rc_Fic::MontreDossier()
+{
+    Label3->setText(DepuisDossierApplication(Dossier()));
 }
 
 void Rc_Fic::MontreFinLigne()
@@ -100,7 +113,8 @@ void Rc_Fic::Form_Activate()
     if (mode == std::end(Modes))
         return;
     PoseTexte(this, mode->titre);
-    Combo1->setCurrentText(QString::fromUtf16(mode->extension));
+    Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
+    Combo1->setEnabled(mode->extension != nullptr);
     Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
 }
 
@@ -120,22 +134,25 @@ void Rc_Fic::Command1_Click()
 {
     reject();
     frmPrinc->Text2->hide();
-    frmPrinc->File1->Refresh();
+    frmPrinc->ActualiseFichiers();
 }
 
 void Rc_Fic::Command3_Click()
 {
-    const QString choisi = ChoixDossier(this);
-    if (choisi.isEmpty())
-        return;
-    Dossier() = choisi;
-    Label3->setText(choisi);
+    const bool programmes = TypeTransfert == ReceptionProgramme;
+    DosProg dialogue(programmes ? DossierProgrammes : DossierJauges, this);
+    MontreDossier(); // one that has gone has been replaced
+    PoseTexte(&dialogue, programmes ? DossierDeProgrammes : DossierDeJauges);
+    connect(&dialogue, &DosProg::DossierChoisi, this, &Rc_Fic::MontreDossier);
+    dialogue.exec();
 }
 
 void Rc_Fic::Command2_Click()
 {
     if (TransfertEnCours())
         return;
+    if (TypeTransfert == ReceptionBanc)
+        NbJauges = 0;
     NomFicRecep = (SansBlancs(Text1->text()) + u'.' + Combo1->currentText()).toUpper();
     DossierRecep = SansBlancs(Label3->text());
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())

@@ -26,6 +26,7 @@ private:
     void Command4_Click();
 
     void MontreConfigurationChoisie();
+    void MontreDossier();
     void MontreFinLigne();
     bool ConfirmeRemplacement() const;
     static QString &Dossier();

@@ -18,9 +18,6 @@
 
 namespace {
 
-constexpr Texte3 CarParCar{u"Réception caractère par caractère", u"Receiving character by character",
-                           u"Recepción carácter por carácter"};
-constexpr Texte3 ParLigne{u"Réception par ligne", u"Receiving by line", u"Recepción por línea"};
 constexpr Texte3 TropDeLignes{u"La réception dépasse 25000 lignes.", u"The reception exceeds 25000 lines.",
                               u"La recepción sobrepasa 25000 líneas."};
 
@@ -131,7 +128,7 @@ void Remplissage::Termine()
     OuvreFichierRecu();
     if (FinTransfert == 1) {
         PoseTexte(m_dialogue.Label2, Reussi);
-        BoutonFermer(m_dialogue);
+        BoutonFermer(*m_dialogue.Command1);
     }
 }
 
@@ -265,11 +262,11 @@ void Mene(Ui::Em_Rc &dialogue, const Texte3 &genre, void (*corps)(Remplissage &)
 
 void ReceptionCar(Ui::Em_Rc &dialogue)
 {
-    Mene(dialogue, CarParCar, EmplitParCaractere);
+    Mene(dialogue, GenresReception[RecepCaracteres], EmplitParCaractere);
 }
 
 void ReceptionLigne(Ui::Em_Rc &dialogue)
 {
     ChoisitChaineFinLigRecep();
-    Mene(dialogue, ParLigne, EmplitParLigne);
+    Mene(dialogue, GenresReception[RecepLignes], EmplitParLigne);
 }

@@ -1,3 +1,4 @@
+#include "machine/Banc.h"
 #include "machine/MachineSimulee.h"
 #include "machine/Options.h"
 #include "platform/Essais.h"
@@ -64,8 +65,9 @@ private Q_SLOTS:
         QCOMPARE(machine.Tampon.MarqueBasse, 25);
         QCOMPARE(machine.Tampon.Arrets[0].Apres, 9); // in the order in which they come
         QCOMPARE(machine.Tampon.Arrets[1].DureeMs, 20);
-        for (const char *faux : {"--fin 256", "--fin 4,", "--vitesse -1", "--bits 0", "--reglage 9600", "--retient 0",
-                                 "--retient 5,x", "--tampon 10 --haut 11", "--bas 800", "--coupe x"})
+        for (const char *faux :
+             {"--fin 256", "--fin 4,", "--vitesse -1", "--bits 0", "--reglage 9600", "--retient 0", "--retient 5,x",
+              "--cloche 0", "--morceaux 8", "--morceaux 0,5", "--tampon 10 --haut 11", "--bas 800", "--coupe x"})
             QVERIFY_THROWS_EXCEPTION(OptionFausse, lit(faux));
         for (const char *faux : {"9600,n,8", "9600,x,8,1", "9600,n,9,1", "0,n,8,1", "9600,n,8,3", "9600,,8,1"})
             QVERIFY(!LitReglageLigne(QLatin1String(faux)));
@@ -116,14 +118,55 @@ private Q_SLOTS:
         QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Envoi.Reponse == Retour::Faux; }));
     }
 
+    // What the bench's list says stands in the columns that the program reads; after the last tool comes the first.
+    void ListeDuBanc()
+    {
+        Banc banc("# outils\r\n\r\n  7   102.36 -12.5 D\r\n\"BANC PRET\"\n99999 1234567890 x R");
+        QCOMPARE(banc.Nombre(), 3);
+        const QByteArray salve = banc.Mesure();
+        QCOMPARE(salve.left(8) + salve.mid(24, 9) + salve.mid(49, 9) + salve.mid(58),
+                 "TN:    7   102.36    -12.5   D" + QByteArray(6, ' ') + "\r\n");
+        QCOMPARE(banc.Mesure(), QByteArray("BANC PRET").leftJustified(68) + "\r\n");
+        QCOMPARE(banc.Mesure().left(33).right(9), "123456789");
+        QCOMPARE(banc.Mesure(), salve);
+        QCOMPARE(banc.Numero(), 1);
+        for (const char *fausse : {"", "# rien", "1 2 3", "1 2 3 R D", "\"non"})
+            QVERIFY_THROWS_EXCEPTION(ListeFausse, Banc{fausse});
+    }
+
+    // A burst goes in its pieces and without the machine's chains, and is not waited for: the next thing that comes is
+    // a program.
+    void SalveParMorceaux()
+    {
+        ReglageMachine reglage;
+        reglage.Ligne.Vitesse = 0;
+        reglage.Debut = "%";
+        MachineSimulee machine(reglage);
+        LignePosix pc(machine.Chemin());
+        Envoi salve{Banc::Salve("1", "2", "3", "R")};
+        salve.Salve = true;
+        salve.Morceau = 30;
+        salve.PauseLigneMs = 60'000;
+        machine.Emet(salve);
+        QCOMPARE(Lit(pc, 30), salve.Texte.left(30));
+        QCOMPARE(machine.Etat().Envoi.Emis, 30);
+        salve.PauseLigneMs = 1;
+        machine.Emet(salve);
+        QCOMPARE(Lit(pc, Banc::TailleSalve), salve.Texte);
+        QVERIFY(machine.Attend([](const EtatMachine &etat) { return !etat.Envoi.EnCours; }));
+        QVERIFY(Ecrit(pc, "%N1\4"));
+        QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
+    }
+
     // The program, as an operator uses it: a link, keys, stored files, and a clean end.
     void ProgrammeEntier()
     {
         const QTemporaryDir dossier;
         const QString lien = dossier.filePath(QStringLiteral("Com2"));
-        for (const char *nom : {"001.txt", "piece.txt"}) {
+        for (const auto &[nom, texte] :
+             {std::pair("001.txt", "N1\r\n"), {"piece.txt", "N1\r\n"}, {"outils.txt", "5 1 2 D"}}) {
             QFile fichier(dossier.filePath(QLatin1String(nom)));
-            QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write("N1\r\n") == 4);
+            QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write(texte) > 0);
         }
         QProcess machine;
         QByteArray sortie;
@@ -134,7 +177,9 @@ private Q_SLOTS:
         machine.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../tools/machine/machine"),
                       {QStringLiteral("--lien"), lien, QStringLiteral("--stockage"), dossier.path(),
                        QStringLiteral("--envoie"), dossier.filePath(QStringLiteral("piece.txt")),
-                       QStringLiteral("--vitesse"), QStringLiteral("115200")});
+                       QStringLiteral("--banc"), dossier.filePath(QStringLiteral("outils.txt")),
+                       QStringLiteral("--cloche"), QStringLiteral("4"), QStringLiteral("--vitesse"),
+                       QStringLiteral("115200")});
         QTRY_VERIFY(dit("Keys"));
         LignePosix pc(lien);
         QVERIFY(Ecrit(pc, "%\r\nN2\4"));
@@ -144,6 +189,10 @@ private Q_SLOTS:
         QCOMPARE(Lit(pc, 7), "\x13\x11N1\r\n\4");
         QVERIFY(Ecrit(pc, "\4"));
         QTRY_VERIFY(dit("came back right"));
+        machine.write("b\n");
+        QVERIFY(machine.waitForBytesWritten());
+        QCOMPARE(Lit(pc, Banc::TailleSalve + 1), Banc::Salve("5", "1", "2", "D").insert(3, '\a'));
+        QVERIFY(dit("Tool 1 of 1: TN: 5"));
         machine.closeWriteChannel();
         machine.terminate();
         QVERIFY(machine.waitForFinished());

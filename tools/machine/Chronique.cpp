@@ -51,9 +51,11 @@ void Chronique::ProgrammeComplet(const ProgrammeRecu &programme)
     Dit(ligne);
 }
 
-void Chronique::EmissionFinie(qint64 emis)
+void Chronique::EmissionFinie(const EtatEnvoi &envoi)
 {
-    Dit(QStringLiteral("Sent: %1 characters; waiting for the end of transfer to come back").arg(emis));
+    const bool attend = envoi.Reponse == Retour::Attendu;
+    Dit(QStringLiteral("Sent: %1 characters").arg(envoi.Emis) +
+        (attend ? QStringLiteral("; waiting for the end of transfer to come back") : QString()));
 }
 
 void Chronique::ReponseVenue(Retour reponse, const QByteArray &octets)

@@ -16,7 +16,7 @@ public:
     void XonDit(qint64 suite) override;
     void Deborde(qint64 recus) override;
     void ProgrammeComplet(const ProgrammeRecu &programme) override;
-    void EmissionFinie(qint64 emis) override;
+    void EmissionFinie(const EtatEnvoi &envoi) override;
     void ReponseVenue(Retour reponse, const QByteArray &octets) override;
 
 private:

@@ -4,8 +4,9 @@
 
 Emission::Emission(const Envoi &envoi, const QByteArray &debut, const QByteArray &fin, const ReglageLigne &ligne,
                    Instant t)
-    : m_flot(debut + envoi.Texte + (envoi.SansFin ? QByteArray() : fin))
+    : m_flot(envoi.Salve ? envoi.Texte : debut + envoi.Texte + (envoi.SansFin ? QByteArray() : fin))
     , m_finLigne(envoi.FinLigne)
+    , m_morceau(envoi.Morceau)
     , m_pause(envoi.PauseLigneMs)
     , m_cadence(ligne)
 {
@@ -48,6 +49,8 @@ std::optional<Instant> Emission::Echeance() const
 
 qsizetype Emission::FinTroncon() const
 {
+    if (m_pause.count() > 0 && m_morceau > 0)
+        return std::min(m_position + m_morceau, m_flot.size());
     const qsizetype fin = m_pause.count() == 0 ? -1 : m_flot.indexOf(m_finLigne, m_position);
     return fin < 0 ? m_flot.size() : fin + m_finLigne.size();
 }

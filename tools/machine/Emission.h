@@ -10,10 +10,12 @@
 struct Envoi
 {
     QByteArray Texte;           ///< goes between the machine's two chains, byte for byte
-    int PauseLigneMs = 0;       ///< silence behind each line; 0: one stream
+    int PauseLigneMs = 0;       ///< silence behind each line, or each piece; 0: one stream
     QByteArray FinLigne = "\n"; ///< where a line ends, for the pause only
     qint64 CoupeApres = -1;     ///< the machine falls silent after so many characters, in mid-line or not; -1: never
     bool SansFin = false;       ///< the end-of-transfer chain is not sent
+    int Morceau = 0;            ///< characters of a piece, which then stands for a line; 0: lines
+    bool Salve = false;         ///< a burst of a bench: goes without the chains, and nothing is to come back
 };
 
 /// A sending under way: which characters are due when. Knows no clock and no line: times come from outside.
@@ -41,6 +43,7 @@ private:
 
     QByteArray m_flot;
     QByteArray m_finLigne;
+    qsizetype m_morceau;
     std::chrono::milliseconds m_pause;
     Cadence m_cadence;
     qsizetype m_position = 0;

@@ -57,7 +57,7 @@ void MachineSimulee::Emet(const Envoi &envoi)
     {
         const std::lock_guard verrou(m_verrou);
         m_emission.emplace(envoi, m_reglage.Debut, m_reglage.Fin, m_reglage.Ligne, Horloge::now());
-        m_envoi = {true, 0, 0, Retour::Attendu, {}};
+        m_envoi = {true, 0, 0, envoi.Salve ? Retour::Aucun : Retour::Attendu, {}};
         m_bloquee = false;
     }
     m_reveil.Sonne();
@@ -206,7 +206,7 @@ void MachineSimulee::Envoie(Instant t)
         return;
     m_emission.reset();
     m_envoi.EnCours = false;
-    Annonce([emis = m_envoi.Emis](TemoinMachine &temoin) { temoin.EmissionFinie(emis); });
+    Annonce([envoi = m_envoi](TemoinMachine &temoin) { temoin.EmissionFinie(envoi); });
 }
 
 void MachineSimulee::Parle()

@@ -36,7 +36,7 @@ struct ProgrammeRecu
 
 /// What the PC answered to a sending of the machine: it gives the end-of-transfer chain back.
 enum class Retour {
-    Aucun,   ///< the machine has sent nothing yet
+    Aucun,   ///< the machine has sent nothing yet, or a burst of a bench, which has no answer
     Attendu, ///< the chain has not, or not wholly, come back
     Juste,   ///< exactly the chain came back
     Faux     ///< something else came
@@ -77,7 +77,7 @@ public:
     virtual void XonDit(qint64 /*suite: characters that came after the XOFF*/) {}
     virtual void Deborde(qint64 /*recus*/) {} ///< once for each run of lost characters
     virtual void ProgrammeComplet(const ProgrammeRecu & /*programme*/) {}
-    virtual void EmissionFinie(qint64 /*emis*/) {}
+    virtual void EmissionFinie(const EtatEnvoi & /*envoi*/) {}
     virtual void ReponseVenue(Retour /*reponse*/, const QByteArray & /*octets*/) {}
 };
 
@@ -105,7 +105,8 @@ public:
     void Reprend();
     /// The operator's reset: what the line has brought of an unfinished program is dropped, a sending ends.
     void RemiseAZero();
-    /// Sends, from now on; a sending under way ends. What the PC answers is compared with the end-of-transfer chain.
+    /// Sends, from now on; a sending under way ends. What the PC answers to a program is compared with the
+    /// end-of-transfer chain.
     void Emet(const Envoi &envoi);
     /// Switches the machine off: the line is dead for the PC. What was received stays readable here.
     void Arrete();

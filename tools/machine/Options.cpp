@@ -31,6 +31,9 @@ constexpr Description Descriptions[] = {
     {"pause", "ms", "0", "Silence behind each line that the machine sends."},
     {"coupe", "n", "", "The machine falls silent after n characters of what it sends."},
     {"sans-fin", nullptr, "", "The machine does not send the end-of-transfer chain."},
+    {"banc", "file", "", "The tools of a presetting bench, which sends the next one at the key b."},
+    {"cloche", "n", "", "The bench rings (character 7) before character n of each burst; 1: before the burst."},
+    {"morceaux", "n,ms", "", "The bench sends its bursts in pieces of n characters, with so many ms between them."},
 };
 
 [[noreturn]] void Refuse(const char *option, const QString &valeur)
@@ -41,8 +44,8 @@ constexpr Description Descriptions[] = {
 
 void DecritOptions(QCommandLineParser &lecteur)
 {
-    lecteur.setApplicationDescription(
-        QStringLiteral("A machine tool control at the end of a serial line, on a pseudo-terminal."));
+    lecteur.setApplicationDescription(QStringLiteral(
+        "A machine tool control, and a presetting bench, at the end of a serial line, on a pseudo-terminal."));
     lecteur.addHelpOption();
     for (const Description &option : Descriptions) {
         lecteur.addOption({QString::fromLatin1(option.Nom), QString::fromLatin1(option.Texte),
@@ -109,6 +112,21 @@ Arret LitArret(const QString &texte)
     return arret;
 }
 
+Envoi Salves(const Valeurs &valeurs)
+{
+    Envoi salve;
+    salve.Salve = true;
+    const QString texte = valeurs.Texte("morceaux");
+    if (texte.isEmpty())
+        return salve;
+    const QStringList champs = texte.split(u',');
+    salve.Morceau = champs[0].toInt();
+    salve.PauseLigneMs = champs.size() == 2 ? champs[1].toInt() : 0;
+    if (salve.Morceau < 1 || salve.PauseLigneMs < 1)
+        Refuse("morceaux", texte);
+    return salve;
+}
+
 ReglageTampon Tampon(const Valeurs &valeurs)
 {
     ReglageTampon tampon;
@@ -144,6 +162,9 @@ Options LitOptions(const QStringList &arguments)
     options.ModeleEnvoi.PauseLigneMs = valeurs.Entier("pause", 0);
     options.ModeleEnvoi.CoupeApres = valeurs.Entier("coupe", 0, -1);
     options.ModeleEnvoi.SansFin = valeurs.Mis("sans-fin");
+    options.Banc = valeurs.Texte("banc");
+    options.ModeleSalve = Salves(valeurs);
+    options.Cloche = valeurs.Entier("cloche", 1);
     return options;
 }
 

@@ -1,3 +1,4 @@
+#include "machine/Banc.h"
 #include "machine/Chronique.h"
 #include "machine/Lien.h"
 #include "machine/Options.h"
@@ -30,11 +31,8 @@ void PrendSignaux(Reveil &reveil)
 class Operateur
 {
 public:
-    Operateur(MachineSimulee &machine, const Options &options)
-        : m_machine(machine)
-        , m_options(options)
-    {
-    }
+    /// Raises ListeFausse.
+    Operateur(MachineSimulee &machine, const Options &options);
 
     /// Follows the keyboard until the key q or a signal. Without a keyboard only the signal ends it.
     void Travaille(const Reveil &reveil);
@@ -42,14 +40,34 @@ public:
 private:
     bool Execute(const QByteArray &ordre);
     void Envoie();
+    void Mesure();
 
     MachineSimulee &m_machine;
     const Options &m_options;
+    std::optional<Banc> m_banc;
 };
+
+QByteArray Contenu(const QString &chemin)
+{
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::ReadOnly))
+        throw std::runtime_error((chemin + QStringLiteral(": ") + fichier.errorString()).toStdString());
+    return fichier.readAll();
+}
+
+Operateur::Operateur(MachineSimulee &machine, const Options &options)
+    : m_machine(machine)
+    , m_options(options)
+{
+    if (!options.Banc.isEmpty())
+        m_banc.emplace(Contenu(options.Banc));
+}
 
 void Operateur::Travaille(const Reveil &reveil)
 {
-    Chronique::Dit(QStringLiteral("Keys, each with Enter: h hold (XOFF), r resume (XON), z reset, e send, q quit"));
+    Chronique::Dit(
+        QStringLiteral("Keys, each with Enter: h hold (XOFF), r resume (XON), z reset, e send, b next tool of "
+                       "the bench, q quit"));
     std::array<pollfd, 2> attentes{{{STDIN_FILENO, POLLIN, 0}, {reveil.Descripteur(), POLLIN, 0}}};
     QByteArray saisie;
     while (attentes[1].revents == 0) {
@@ -83,6 +101,8 @@ bool Operateur::Execute(const QByteArray &ordre)
         m_machine.RemiseAZero();
     else if (ordre == "e")
         Envoie();
+    else if (ordre == "b")
+        Mesure();
     else if (!ordre.isEmpty())
         Chronique::Dit(QStringLiteral("No such key"));
     return true;
@@ -98,6 +118,23 @@ void Operateur::Envoie()
     Envoi envoi = m_options.ModeleEnvoi;
     envoi.Texte = fichier.readAll();
     m_machine.Emet(envoi);
+}
+
+void Operateur::Mesure()
+{
+    if (!m_banc) {
+        Chronique::Dit(QStringLiteral("No tool to measure (--banc)"));
+        return;
+    }
+    Envoi salve = m_options.ModeleSalve;
+    salve.Texte = m_banc->Mesure();
+    Chronique::Dit(QStringLiteral("Tool %1 of %2: %3")
+                       .arg(m_banc->Numero())
+                       .arg(m_banc->Nombre())
+                       .arg(QString::fromLatin1(salve.Texte.simplified())));
+    if (m_options.Cloche > 0)
+        salve.Texte.insert(std::min<qsizetype>(m_options.Cloche - 1, salve.Texte.size()), '\a');
+    m_machine.Emet(salve);
 }
 
 void Sert(const Options &options, const Reveil &fin)

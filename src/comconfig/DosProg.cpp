@@ -1,0 +1,113 @@
+#include "comconfig/DosProg.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/Dossiers.h"
+#include "platform/Erreur.h"
+#include "platform/FiltreTouches.h"
+#include "shell/Chemins.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+namespace {
+
+constexpr Texte3 AbsentTitre{u"Erreur", u"Error", u"Error"};
+constexpr Texte3 AbsentProgrammes{u"Le dossier <", u"The directory  <", u"El directorio <"};
+constexpr Texte3 AbsentJauges{u"Le dossier <", u"The directory <", u"El directorio <"};
+constexpr Texte3 AbsentApres{u"> n'existe plus !", u"> does not exist any more !", u"> no existe ya !"};
+
+constexpr Texte3 NonCreeTitre{u"Erreur", u"Erreur", u"Erreur"};
+constexpr Texte3 NonCreeAvant{u"Le dossier <", u"The directory <", u"El directorio <"};
+constexpr Texte3 NonCreeApres{u"> n'a pas pu être créé !", u"> could not be created !", u">  no pudo crearse !"};
+
+} // namespace
+
+DosProg::DosProg(TypeDossier type, QWidget *parent)
+    : QDialog(parent)
+    , m_type(type)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    MontreNouveau(false);
+    Text1->setValidator(new FiltreTouches(QString::fromUtf16(InterditsNom), Text1));
+    Form_Load();
+    connect(FolderTreeview1, &FolderTreeview::SelectionChange, this, &DosProg::FolderTreeview1_SelectionChange);
+    connect(Command1, &QPushButton::clicked, this, &DosProg::Command1_Click);
+    connect(Command2, &QPushButton::clicked, this, &DosProg::reject);
+    connect(Command3, &QPushButton::clicked, this, &DosProg::Command3_Click);
+    connect(Text1, &QLineEdit::textChanged, this, [this](const QString &nom) { Command4->setEnabled(!nom.isEmpty()); });
+    connect(Command4, &QPushButton::clicked, this, &DosProg::Command4_Click);
+}
+
+/// Looking at a folder changes nothing: one that a configuration names beside the program stays so.
+void DosProg::Form_Load()
+{
+    const QString dossier = DepuisDossierApplication(Dossier());
+    try {
+        FolderTreeview1->setSelectedFolder(dossier);
+    } catch (const Erreur &) {
+        MsgBox(Texte(m_type == DossierProgrammes ? AbsentProgrammes : AbsentJauges) + dossier + Texte(AbsentApres),
+               Boite::Exclamation, Texte(AbsentTitre));
+        Dossier() = DosAppli;
+        Saute([this] { FolderTreeview1->setSelectedFolder(DosAppli); });
+    }
+}
+
+QString &DosProg::Dossier() const
+{
+    return m_type == DossierProgrammes ? ParamCom.DosRecep : DosJauge;
+}
+
+void DosProg::FolderTreeview1_SelectionChange()
+{
+    const QString choisi = FolderTreeview1->SelectedFolder();
+    if (choisi.isEmpty()) // the volume that held the folder has been taken out
+        return;
+    Dossier() = choisi;
+    Q_EMIT DossierChoisi();
+}
+
+/// A file that cannot be written is told in the system's words; the folder is in force for this run all the same.
+void DosProg::Command1_Click()
+{
+    FolderTreeview1_SelectionChange();
+    try {
+        SauveCfg(ParamCom.DosRecep);
+    } catch (const Erreur &erreur) {
+        MsgBox(erreur.Description(), Boite::Exclamation, Texte(AbsentTitre));
+    }
+    Q_EMIT DossierApplique();
+}
+
+void DosProg::Command3_Click()
+{
+    MontreNouveau(true);
+    Text1->setFocus();
+    Text1->selectAll();
+}
+
+/// Enter creates the folder whose name is being typed; otherwise it applies the choice.
+void DosProg::MontreNouveau(bool montre)
+{
+    Frame1->setVisible(montre);
+    (montre ? Command4 : Command1)->setDefault(true);
+}
+
+/// The explorer of the main window goes to the new folder too.
+void DosProg::Command4_Click()
+{
+    if (FolderTreeview1->SelectedFolder().isEmpty())
+        return;
+    const QString nouveau = AjouteAntislash(FolderTreeview1->SelectedFolder()) + Text1->text();
+    try {
+        CreeDossier(nouveau);
+        FolderTreeview1->Refresh();
+        FolderTreeview1->setSelectedFolder(nouveau);
+        frmPrinc->SelectionneDossier(nouveau);
+        MontreNouveau(false);
+    } catch (const Erreur &) {
+        MsgBox(Texte(NonCreeAvant) + nouveau + Texte(NonCreeApres), Boite::Critique, Texte(NonCreeTitre));
+    }
+}

@@ -1,0 +1,207 @@
+#include "comconfig/FrmCaract.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/PageCode1252.h"
+
+#include <algorithm>
+
+namespace {
+
+using C = ConfigurationCom;
+
+/// A chain: its count and its codes.
+struct Chaine
+{
+    int C::*nombre;
+    C::Codes C::*codes;
+};
+
+// By TypeChaine.
+constexpr Chaine Chaines[] = {
+    {&C::NbCarDebProg, &C::CarDebProg}, {&C::NbCarFinLig, &C::CarFinLig}, {&C::NbCarFinTrans, &C::CarFinTrans}};
+
+constexpr int NombreCaracteres = 128;
+constexpr int ParRangee = 16; // one row for each first digit of the code in base 16, as tables of characters have it
+constexpr int RangeesControle = 2;
+constexpr int Stx = 2;
+constexpr int Etx = 3;
+
+// What the buttons of the codes 0 to 32 bear. The chain's label is made of them; those of 30 and 31 have always stood
+// the other way round in stored labels, and a button's code is its place whatever it bears.
+constexpr const char16_t *Legendes[] = {u"Nul", u"soh",  u"stx", u"etx", u"eot", u"enq", u"ack", u"bel", u"bs",
+                                        u"ht",  u"LF",   u"vt",  u"ff",  u"CR",  u"so",  u"si",  u"dle", u"Xon",
+                                        u"dc2", u"Xoff", u"dc4", u"nak", u"syn", u"etb", u"Can", u"em",  u"eof",
+                                        u"Esc", u"fs",   u"gs",  u"us",  u"rs",  u"Esp"};
+
+// The same characters as manuals of controls name them.
+constexpr const char *NomsCourants[] = {"NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT",  "LF",
+                                        "VT",  "FF",  "CR",  "SO",  "SI",  "DLE", "DC1", "DC2", "DC3", "DC4", "NAK",
+                                        "SYN", "ETB", "CAN", "EM",  "SUB", "ESC", "FS",  "GS",  "RS",  "US",  "SP"};
+static_assert(std::size(Legendes) == std::size(NomsCourants));
+
+constexpr Texte3 AideTitre{u"Caractère personnalisé", u"Personalized character", u"Carácter personalizado"};
+constexpr Texte3 AideTexte{u"Ajout d'un caractère personnalisé.\r\n\r\n"
+                           u"1 - Coller ou tapez votre caractère personnalisé dans la zone de texte.\r\n"
+                           u"Vous pouvez taper le code ANSI du caractère. (ALT + Code)\r\n"
+                           u"Un seul caractère peut être inséré à la fois.\r\n\r\n"
+                           u"2 - Cliquez sur le bouton <Appliquer...>",
+                           u"Addition of a personalized character.\r\n\r\n"
+                           u"1 - Paste or type your character personalized in the zone of text.\r\n"
+                           u"You can type code ANSI of the character. (ALT + Code)\r\n"
+                           u"Only one character can be inserted at the same time.\r\n\r\n"
+                           u"2 - Click on the button <Apply...>",
+                           u"Adición de un carácter personalizado.\r\n\r\n"
+                           u"1 - Clavar o mecanografían su carácter personalizado en la zona de texto.\r\n"
+                           u"Pueden mecanografiar el código ANSI del carácter. (ALT + Código)\r\n"
+                           u"Un único carácter puede insertarse a la vez.\r\n\r\n"
+                           u"2 - Presione el botón <Aplicarse...>"};
+
+/// What the button of a code bears, and what it adds to the label. A "&" is doubled so that a caption shows it.
+QString Legende(int code)
+{
+    if (code < static_cast<int>(std::size(Legendes)))
+        return QString::fromUtf16(Legendes[code]);
+    return code == '&' ? QStringLiteral("&&") : QString(QChar(code));
+}
+
+/// The code as manuals write it: decimal, in base 16, and the name of a character that has no picture.
+QString Bulle(int code)
+{
+    constexpr int suppression = 127;
+    constexpr int base = 16;
+    QString bulle = QStringLiteral("%1 = %2h").arg(code).arg(code, 2, base, QLatin1Char('0')).toUpper();
+    bulle.back() = u'h';
+    if (code < static_cast<int>(std::size(NomsCourants)))
+        bulle += QStringLiteral("  ") + QLatin1String(NomsCourants[code]);
+    else if (code == suppression)
+        bulle += QStringLiteral("  DEL");
+    return bulle;
+}
+
+} // namespace
+
+FrmCaract::FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent)
+    : QDialog(parent)
+    , m_type(type)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    Form_Load();
+    Label1->MontreChaine(libelle);
+    // A configuration of which only the beginning could be read may hold any count.
+    Nombre() = std::clamp(Nombre(), 0, C::CapaciteChaine);
+    SuitChaine();
+}
+
+void FrmCaract::Form_Load()
+{
+    constexpr int lignes = 4; // a full chain
+    Label1->ReserveLignes(lignes);
+    Text1->setAccessibleName(Frame3->title());
+    PoseCaracteres();
+    connect(Text1, &QLineEdit::textChanged, this, &FrmCaract::SuitChaine);
+    connect(Command6, &QPushButton::clicked, this, &FrmCaract::Command6_Click);
+    connect(Command7, &QPushButton::clicked, this, &FrmCaract::Command7_Click);
+    connect(Command2, &QPushButton::clicked, this, &FrmCaract::Command2_Click);
+    connect(Command3, &QPushButton::clicked, this, &FrmCaract::Command3_Click);
+    connect(Command1, &QPushButton::clicked, this, &FrmCaract::accept);
+}
+
+/// The control characters stand apart, above the printable ones.
+void FrmCaract::PoseCaracteres()
+{
+    constexpr int ecart = 10; // pixels
+    grille->setRowMinimumHeight(RangeesControle, ecart);
+    for (int code = 0; code < NombreCaracteres; ++code) {
+        const int rangee = code / ParRangee;
+        grille->addWidget(CreeBouton(code), rangee < RangeesControle ? rangee : rangee + 1, code % ParRangee);
+    }
+    ChoisitBouton(Command4, Stx, QString(QChar(Stx)));
+    ChoisitBouton(Command5, Etx, QString(QChar(Etx)));
+}
+
+QPushButton *FrmCaract::CreeBouton(int code)
+{
+    auto *const bouton = new QPushButton(Frame1);
+    bouton->setObjectName(QStringLiteral("Car_%1").arg(code));
+    bouton->setAutoDefault(false);
+    ChoisitBouton(bouton, code, Legende(code));
+    return bouton;
+}
+
+/// A click on bouton adds that character. What has no picture of its own is shown by the one that stands for it.
+void FrmCaract::ChoisitBouton(QPushButton *bouton, int code, const QString &legende)
+{
+    constexpr int marge = 16; // pixels
+    bouton->setText(legende == QLatin1String("&&") ? legende : LabelChaine::Visible(legende));
+    bouton->setToolTip(Bulle(code));
+    bouton->setMinimumWidth(bouton->fontMetrics().horizontalAdvance(QStringLiteral("Xoff")) + marge);
+    connect(bouton, &QPushButton::clicked, this, [this, code, legende] { Ajoute(code, legende); });
+    m_caracteres << bouton;
+}
+
+int &FrmCaract::Nombre() const
+{
+    return ParamCom.*Chaines[m_type].nombre;
+}
+
+int &FrmCaract::Code(int position) const
+{
+    return (ParamCom.*Chaines[m_type].codes)[static_cast<std::size_t>(position)];
+}
+
+void FrmCaract::Ajoute(int code, const QString &legende)
+{
+    if (Nombre() >= C::CapaciteChaine)
+        return;
+    Code(++Nombre()) = code;
+    m_precedent = Label1->text();
+    Command3->setEnabled(true);
+    Label1->MontreChaine(m_precedent + legende);
+    SuitChaine();
+}
+
+void FrmCaract::Command6_Click()
+{
+    const QString caractere = Text1->text();
+    Ajoute(static_cast<unsigned char>(OctetsEn1252(caractere).at(0)), caractere);
+    Text1->clear();
+}
+
+/// A full chain takes no more. A free character can be added when the line can carry it; Enter then adds it, and
+/// otherwise closes.
+void FrmCaract::SuitChaine()
+{
+    const bool place = Nombre() < C::CapaciteChaine;
+    for (QPushButton *const bouton : std::as_const(m_caracteres))
+        bouton->setEnabled(place);
+    Command6->setEnabled(place && !Text1->text().isEmpty() && EstEn1252(Text1->text().at(0)));
+    (Command6->isEnabled() ? Command6 : Command1)->setDefault(true);
+}
+
+void FrmCaract::Command3_Click()
+{
+    Label1->MontreChaine(m_precedent);
+    Command3->setEnabled(false);
+    Code(Nombre()) = 0;
+    --Nombre();
+    SuitChaine();
+}
+
+/// After it there is nothing to undo.
+void FrmCaract::Command2_Click()
+{
+    Label1->MontreChaine(QString());
+    for (; Nombre() > 0; --Nombre())
+        Code(Nombre()) = 0;
+    Command3->setEnabled(false);
+    SuitChaine();
+}
+
+void FrmCaract::Command7_Click()
+{
+    MsgBox(Texte(AideTexte), Boite::Information, Texte(AideTitre));
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ui_FrmCaract.h"
+
+#include <QDialog>
+#include <QList>
+
+/// The chains of ParamCom that the operator composes.
+enum TypeChaine {
+    ChaineDebut = 0,    ///< beginning of program
+    ChaineLigne = 1,    ///< end of line
+    ChaineTransfert = 2 ///< end of transfer
+};
+
+/// The modal dialog in which the operator composes a chain, one click for each character: controls expect characters
+/// there that no keyboard has. Each click changes the codes in ParamCom at once; Label1 is the chain's label, which
+/// whoever opened the dialog takes when it closes, however it was closed.
+///
+/// Car_0 to Car_127: a character each, by its code; Command4, Command5: the codes 2 and 3; Text1 with Command6: a free
+/// character; Command7: its help; Command1: close; Command2: clear; Command3: undo the last insertion.
+class FrmCaract : public QDialog, public Ui::FrmCaract
+{
+    Q_OBJECT
+
+public:
+    /// type: the chain to compose; libelle: its label as it stands. New characters come behind the old ones.
+    FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent);
+
+private:
+    void Form_Load();
+    void PoseCaracteres();
+    void Command2_Click();
+    void Command3_Click();
+    void Command6_Click();
+    void Command7_Click();
+
+    QPushButton *CreeBouton(int code);
+    void ChoisitBouton(QPushButton *bouton, int code, const QString &legende);
+    void Ajoute(int code, const QString &legende);
+    void SuitChaine();
+    int &Nombre() const;
+    int &Code(int position) const;
+
+    TypeChaine m_type;
+    QString m_precedent; ///< label before the last insertion
+    QList<QPushButton *> m_caracteres;
+};

@@ -1,0 +1,75 @@
+#include "comconfig/FrmConfDem.h"
+
+#include "comconfig/CommandesConf.h"
+#include "locale/FrmLangue.h"
+#include "locale/Legendes.h"
+#include "platform/ChoixDossier.h"
+#include "platform/Erreur.h"
+#include "platform/FenetreAppelante.h"
+#include "platform/Icone.h"
+#include "shell/Chemins.h"
+#include "shell/Reglages.h"
+
+FrmConfDem::FrmConfDem(QWidget *parent)
+    : QDialog(parent)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    for (QPushButton *bouton : {Command1, Command2, Command5})
+        bouton->setIcon(Icone(QStringLiteral(":/icones/Mnu_Ouvrir.svg")));
+    connect(Command1, &QPushButton::clicked, this, [this] { ChoisitDossier(LblDos); });
+    connect(Command2, &QPushButton::clicked, this, &FrmConfDem::Command2_Click);
+    connect(Command5, &QPushButton::clicked, this, [this] { ChoisitDossier(LabelDosConf); });
+    connect(Command6, &QPushButton::clicked, this, &FrmConfDem::Command6_Click);
+    connect(Command4, &QPushButton::clicked, this, &FrmConfDem::Command4_Click);
+    connect(Command3, &QPushButton::clicked, this, &FrmConfDem::reject);
+    Form_Activate();
+}
+
+void FrmConfDem::Form_Activate()
+{
+    LblDos->setText(DosDefaut);
+    Check1->setChecked(OptDosDefaut == 1);
+    LblNomConf->setText(FicConfDefaut);
+    Check2->setChecked(OptConfDefaut == 1);
+    Check3->setChecked(OptExplorateur == 1);
+    if (DosConf.isEmpty())
+        DosConf = DossierApplication();
+    LabelDosConf->setText(DosConf);
+}
+
+void FrmConfDem::ChoisitDossier(QLabel *montre)
+{
+    const QString choisi = ChoixDossier(this, montre->text());
+    if (!choisi.isEmpty())
+        montre->setText(choisi);
+}
+
+void FrmConfDem::Command2_Click()
+{
+    Saute([this] { LblNomConf->setText(ChoisitFichierPar(DosConf)); });
+}
+
+/// The language starts the settings anew, so what stood here unsaved gives way to them.
+void FrmConfDem::Command6_Click()
+{
+    FrmLangue(this).exec();
+    Form_Activate();
+}
+
+void FrmConfDem::Command4_Click()
+{
+    OptDosDefaut = Check1->isChecked() ? 1 : 0;
+    DosDefaut = Check1->isChecked() ? LblDos->text() : DossierApplication();
+    OptConfDefaut = Check2->isChecked() ? 1 : 0;
+    FicConfDefaut = LblNomConf->text();
+    OptExplorateur = Check3->isChecked() ? 1 : 0;
+    DosConf = LabelDosConf->text();
+    Saute(SauveIni);
+}
+
+void Mnu_ConfigDemar()
+{
+    AppliqueLangue();
+    FrmConfDem(FenetreAppelante()).exec();
+}

@@ -1,0 +1,285 @@
+#include "comconfig/Prop.h"
+
+#include "comconfig/AidesProp.h"
+#include "comconfig/ApplicationPort.h"
+#include "comconfig/DosProg.h"
+#include "comconfig/FrmCaract.h"
+#include "comconfig/ParamCom.h"
+#include "comconfig/TextesConf.h"
+#include "comconfig/VueProp.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/CommonDialog.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+#include "transfer/PortCom.h"
+
+#include <QDir>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace {
+
+using U = Ui_Prop;
+
+constexpr Texte3 TitreFichier{u"Propriétés et configuration de la communication - Fichier : ",
+                              u"Properties and configuration of the communication - File : ",
+                              u"Propiedades y configuración de la comunicación - Fichero : "};
+constexpr Texte3 TitreNouveau{u"Propriétés et configuration de la communication - Fichier : Nouveau",
+                              u"Properties and configuration of the communication - File: New",
+                              u"Propiedades y configuración de la comunicación - Fichero: Nuevo"};
+constexpr Texte3 Nouveau{u"Nouveau", u"New", u"Nuevo"};
+constexpr Texte3 TitreEnregistre{u"Enregistrer la configuration de communication",
+                                 u"Save a configuration of communication",
+                                 u"Registrar la configuración de comunicación"};
+constexpr char16_t Programme[] = u"Dorvanel Pro";
+
+constexpr char16_t TitreEditeur[] = u"Choix de l'éditeur de programmes CN";
+constexpr char16_t FiltreEditeur[] = u"Fichiers EXE |*.exe|Fichiers COM |*.com|Fichiers BAT |*.bat|Fichiers PIF |*.pif"
+#ifndef Q_OS_WIN
+                                     u"|*|*.*" // programs have no ending of their own there
+#endif
+    ;
+
+/// The button that opens the chooser on a chain, the label that shows it.
+struct EditionChaine
+{
+    QPushButton *U::*bouton;
+    LabelChaine *U::*label;
+    TypeChaine type;
+    QString ConfigurationCom::*libelle;
+    Texte3 titre;
+};
+
+constexpr EditionChaine Chaines[] = {{&U::Command20,
+                                      &U::LabelFinTrans,
+                                      ChaineTransfert,
+                                      &ConfigurationCom::LibFinTrans,
+                                      {u"Affecter un caratère ou une chaîne de caratères de fin de transfert",
+                                       u"Affect a caratère or a chain of caratères of end of transfer",
+                                       u"Afectar del caratère o una cadena de caratères de final de transferencia"}},
+                                     {&U::Command21,
+                                      &U::LabelFinLigne,
+                                      ChaineLigne,
+                                      &ConfigurationCom::LibFinLig,
+                                      {u"Affecter un caratère ou une chaîne de caratères de fin de ligne",
+                                       u"Affect a caratère or a chain of caratères of end of line",
+                                       u"Afectar del caratère o una cadena de caratères de final de línea"}},
+                                     {&U::Command22,
+                                      &U::LabelDebProg,
+                                      ChaineDebut,
+                                      &ConfigurationCom::LibDebProg,
+                                      {u"Affecter un caratère ou une chaîne de caratères en début de programme",
+                                       u"Affect a caratère or a chain of caratères at the beginning of program",
+                                       u"Afectar del caratère o una cadena de caratères al principio de programa "}}};
+
+/// The button that opens the tree on a reception folder.
+struct ChoixReception
+{
+    QPushButton *U::*bouton;
+    TypeDossier type;
+    Texte3 titre;
+};
+
+constexpr char16_t DossierCN[] = u"Choix du dossier de réception des Programmes CN";
+constexpr char16_t DossierBanc[] = u"Choix du dossier de réception des Jauges Outils";
+
+constexpr ChoixReception Receptions[] = {{&U::Command16,
+                                          DossierProgrammes,
+                                          {DossierCN, u"Selection of the repertory of reception of the Programs NC",
+                                           u"Selección del directorio de recepción de los Programas CN"}},
+                                         {&U::Command2, DossierProgrammes, {DossierCN, DossierCN, DossierCN}},
+                                         {&U::Command3, DossierJauges, {DossierBanc, DossierBanc, DossierBanc}}};
+
+/// The text for the number, and what the system says beside it: the device, or the value refused.
+void MontreErreur(const Erreur &erreur)
+{
+    QString texte = TexteErreurPort(erreur);
+    if (texte != erreur.Description())
+        texte += u'\r' + erreur.Description();
+    MsgBox(texte, Boite::Exclamation, QString::fromUtf16(Programme));
+}
+
+bool SansChiffre(const QString &frappe)
+{
+    return std::any_of(frappe.begin(), frappe.end(), [](QChar c) { return c.isPrint() && (c < u'0' || c > u'9'); });
+}
+
+} // namespace
+
+Prop::Prop(QWidget *parent)
+    : QDialog(parent)
+    , CommonDialog1(new CommonDialog(this))
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    RemplitListes(*this);
+    BrancheOptions(*this);
+    BrancheCommandes();
+    BrancheChaines();
+    BrancheDossiers();
+    BrancheAides(*this);
+    Form_Load();
+    Form_Activate();
+}
+
+void Prop::BrancheCommandes()
+{
+    for (QLineEdit *const boite : {Text2, Text4, Text5, Text6, Text7, Text8})
+        boite->installEventFilter(this);
+    connect(cboPort, &QComboBox::currentIndexChanged, cboPort,
+            [this](int place) { cboPort->setToolTip(cboPort->itemData(place, Qt::ToolTipRole).toString()); });
+    connect(cmdOK, &QPushButton::clicked, this, &Prop::cmdOK_Click);
+    for (QPushButton *const enregistre : {Command1, Command17})
+        connect(enregistre, &QPushButton::clicked, this, &Prop::Command1_Click);
+    for (QPushButton *const ferme : {cmdCancel, Command18, Command4})
+        connect(ferme, &QPushButton::clicked, this, &Prop::reject);
+    connect(Command5, &QPushButton::clicked, this, &Prop::Command5_Click);
+}
+
+/// The label that the chooser leaves fits the codes, however it was closed.
+void Prop::BrancheChaines()
+{
+    for (const EditionChaine &chaine : Chaines)
+        connect(this->*chaine.bouton, &QPushButton::clicked, this, [this, &chaine] {
+            FrmCaract dialogue(chaine.type, ParamCom.*chaine.libelle, this);
+            PoseTexte(&dialogue, chaine.titre);
+            dialogue.exec();
+            ParamCom.*chaine.libelle = dialogue.Label1->text();
+            Form_Activate();
+        });
+}
+
+void Prop::BrancheDossiers()
+{
+    for (const ChoixReception &choix : Receptions)
+        connect(this->*choix.bouton, &QPushButton::clicked, this, [this, &choix] {
+            DosProg dialogue(choix.type, this);
+            PoseTexte(&dialogue, choix.titre);
+            connect(&dialogue, &DosProg::DossierApplique, this, [this] { MontreDossiers(*this); });
+            dialogue.exec();
+            Form_Activate();
+        });
+}
+
+void Prop::Form_Load()
+{
+    MontreDossiers(*this);
+    MontreChoixInitiaux(*this);
+}
+
+/// Also when a dialog that this one opened has closed.
+void Prop::Form_Activate()
+{
+    ParamDefaut(*this);
+}
+
+void Prop::NommeNouvelle()
+{
+    PoseTexte(Label6, Nouveau);
+    PoseTexte(this, TitreNouveau);
+}
+
+void Prop::Nomme(const QString &nom)
+{
+    Label6->setText(nom);
+    PoseTexte(this, TitreFichier, nom);
+}
+
+void Prop::LimiteAuxDossiers()
+{
+    SSTab1->setCurrentWidget(editeur);
+    for (QWidget *const onglet : {fraSettings, divers})
+        SSTab1->setTabEnabled(SSTab1->indexOf(onglet), false);
+}
+
+/// Boxes whose caption is that of their frame say it to an assistive program.
+void Prop::changeEvent(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::LanguageChange)
+        cboSpeed->setAccessibleName(Frame1->title());
+    QDialog::changeEvent(evenement);
+}
+
+/// Nothing but digits can be typed into the boxes of numbers.
+bool Prop::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (evenement->type() == QEvent::KeyPress)
+        return SansChiffre(static_cast<QKeyEvent *>(evenement)->text());
+    if (evenement->type() == QEvent::InputMethod)
+        return SansChiffre(static_cast<QInputMethodEvent *>(evenement)->commitString());
+    return QDialog::eventFilter(objet, evenement);
+}
+
+void Prop::cmdOK_Click()
+{
+    EnAttente erreur = PrendControles(*this);
+    AppliqueAuPort(erreur);
+    if (erreur) {
+        MontreErreur(*erreur);
+        return;
+    }
+    BatirChaines();
+    if (!NomConf.isEmpty())
+        MontreDonnee(frmPrinc->Label4, NomConf);
+    MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
+    AppliqueResteAuPort();
+}
+
+/// A number that the file cannot hold is refused before anything is taken. Giving the dialog up, and a file that cannot
+/// be written, end the command without a word.
+void Prop::Command1_Click()
+{
+    if (const auto refus = NombreTropGrand(*this)) {
+        MontreSaisieRefusee(refus->boite, refus->raison);
+        return;
+    }
+    PrendControles(*this);
+    PrendTransferts(*this);
+    Saute([this] {
+        QDir::setCurrent(DosAppli);
+        CommonDialog1->CancelError = true;
+        CommonDialog1->Flags = CommonDialog::EcrasementDemande;
+        CommonDialog1->DialogTitle = Texte(TitreEnregistre);
+        CommonDialog1->Filter = Texte(FiltrePar);
+        CommonDialog1->FilterIndex = 1;
+        CommonDialog1->InitDir = DosConf;
+        CommonDialog1->FileName = Label6->text();
+        CommonDialog1->ShowSave();
+        FicConf = CommonDialog1->FileName;
+        NomConf = CommonDialog1->FileTitle;
+        if (!FicConf.isEmpty())
+            EcrireFichierPar(FicConf);
+        Nomme(NomConf);
+    });
+}
+
+void Prop::MontreSaisieRefusee(QWidget *boite, const QString &raison)
+{
+    MsgBox(raison, Boite::Exclamation, QString::fromUtf16(Programme));
+    SSTab1->setCurrentWidget(divers);
+    boite->setFocus();
+}
+
+/// A "Dorvanel.CFG" that cannot be written is told in the system's words; the editor is in force for this run all the
+/// same.
+void Prop::Command5_Click()
+{
+    CommonDialog1->CancelError = true;
+    CommonDialog1->Flags = 0;
+    CommonDialog1->DialogTitle = QString::fromUtf16(TitreEditeur);
+    CommonDialog1->Filter = QString::fromUtf16(FiltreEditeur);
+    CommonDialog1->FilterIndex = 1;
+    CommonDialog1->InitDir.clear();
+    CommonDialog1->FileName.clear();
+    try {
+        CommonDialog1->ShowOpen();
+        EditeurCN = CommonDialog1->FileName;
+        Label12->setText(EditeurCN);
+        SauveCfg(ParamCom.DosRecep);
+    } catch (const Erreur &erreur) {
+        if (erreur.Numero() != Erreur::DialogueAnnule)
+            MsgBox(erreur.Description(), Boite::Exclamation, QString::fromUtf16(Programme));
+    }
+}

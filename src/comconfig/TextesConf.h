@@ -1,0 +1,9 @@
+#pragma once
+
+#include "locale/Langue.h"
+
+// Texts that the commands of the configuration and the properties dialog share.
+
+/// Filter of the file dialogs for .par files.
+inline constexpr Texte3 FiltrePar{u"Fichiers paramètres (*.par)|*.Par", u"Files parameters (*.par)|*.Par",
+                                  u"Ficheros parámetros (*.par)|*.Par"};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QAbstractButton>
+
+// The pictures of the dial dialog, drawn for any size and any theme. A tile is clicked or, with the keyboard, stepped
+// to and pressed with the space bar; a click leaves the keyboard where it is.
+
+/// A tile that gives a value to a box.
+class Tuile : public QAbstractButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QString valeur MEMBER m_valeur) ///< what it gives
+
+public:
+    explicit Tuile(QWidget *parent);
+
+    const QString &Valeur() const { return m_valeur; }
+    /// Shows the tile as the one whose value stands in the box, or as any other.
+    void Designe(bool designee);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+    /// Draws the figure, in a square of Cote units around (0, 0).
+    virtual void Dessine(QPainter &dessin) const = 0;
+
+    static constexpr double Cote = 56;
+
+private:
+    QString m_valeur;
+    bool m_designee = false;
+};
+
+/// A cutting plate with its nose radius, in mm, written on it: the rounder the larger.
+class TuilePlaquette : public Tuile
+{
+    Q_OBJECT
+
+public:
+    using Tuile::Tuile;
+
+protected:
+    void Dessine(QPainter &dessin) const override;
+};
+
+/// A tool at work in the quadrant of its locator: the holder comes from outside the dial, the nose points at the
+/// crossing of the axes. Locator 0 is a round plate, which cuts on every side.
+class TuileOutil : public Tuile
+{
+    Q_OBJECT
+    Q_PROPERTY(bool avant MEMBER m_avant) ///< on the dial of the front turret
+
+public:
+    using Tuile::Tuile;
+
+protected:
+    void Dessine(QPainter &dessin) const override;
+
+private:
+    bool m_avant = false;
+};
+
+/// A dial: the axes X and Z, crossing at its centre, behind the tiles. X points away from the operator for a back
+/// turret and towards him for a front one.
+class Cadran : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(bool avant MEMBER m_avant) ///< of the front turret
+
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+
+private:
+    bool m_avant = false;
+};

@@ -1,0 +1,57 @@
+#include "gauges/ChoixMac.h"
+
+#include "gauges/ParamMac.h"
+#include "locale/Langue.h"
+#include "platform/CommonDialog.h"
+#include "platform/Erreur.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr Texte3 FiltreMac{u"Fichiers paramètres (*.mac)|*.MAC", u"Files parameters (*.mac)|*.MAC",
+                           u"Ficheros parámetros (*.mac)|*.MAC"};
+constexpr Texte3 TitreChoix{u"Ouvrir une configuration machine jauges outils",
+                            u"Open a configuration machine gauges tools ",
+                            u"Abrir una configuración máquina Cabidas instrumentos"};
+
+constexpr Texte3 TitreEnregistrement{u"Enregistrer la configuration jauges outils",
+                                     u"Record the configuration gauges tools",
+                                     u"Registrar la configuración Cabidas instrumentos"};
+
+/// Shows the file dialog for .mac files, which offers chemin first. Raises DialogueAnnule.
+void Demande(void (CommonDialog::*montre)(), const Texte3 &titre, const QString &chemin)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.FileName = chemin;
+    dialogue.InitDir = DosConf;
+    dialogue.DialogTitle = Texte(titre);
+    dialogue.Filter = Texte(FiltreMac);
+    dialogue.FilterIndex = 1;
+    dialogue.Flags = CommonDialog::EcrasementDemande;
+    try {
+        (dialogue.*montre)();
+    } catch (const Erreur &) {
+        dialogue.CancelError = false;
+        throw;
+    }
+    NomCompletMac = dialogue.FileName;
+    NomMac = dialogue.FileTitle;
+}
+
+} // namespace
+
+void DemandeFichierMac()
+{
+    Demande(&CommonDialog::ShowOpen, TitreChoix, QString());
+    LitMac(NomCompletMac);
+}
+
+void DemandeNomMac(const QString &chemin)
+{
+    QDir::setCurrent(DosAppli);
+    Demande(&CommonDialog::ShowSave, TitreEnregistrement, chemin);
+}

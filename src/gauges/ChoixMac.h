@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+// The file dialogs for machine configurations. NomCompletMac and NomMac name the choice. Both raise DialogueAnnule; the
+// dialog's CancelError is reset then.
+
+/// Asks for a .mac file and reads it into ParamMac. Also raises what LitMac raises.
+void DemandeFichierMac();
+
+/// Asks for the .mac file to write, first offering chemin ("" for none).
+void DemandeNomMac(const QString &chemin);

@@ -1,0 +1,26 @@
+#include "gauges/CommandesBanc.h"
+
+#include "gauges/ChoixMac.h"
+#include "gauges/Jauge.h"
+#include "locale/Legendes.h"
+#include "platform/Erreur.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/Rc_Fic.h"
+#include "transfer/Transfert.h"
+
+void Mnu_RecepBanc()
+{
+    if (TransfertEnCours())
+        return;
+    AppliqueLangue();
+    TypeTransfert = ReceptionBanc;
+    try {
+        DemandeFichierMac();
+    } catch (const Erreur &) {
+        return;
+    }
+    VideJauges();
+    FinTransfert = 0;
+    ForceRECEPT = 0;
+    Rc_Fic(frmPrinc).exec();
+}

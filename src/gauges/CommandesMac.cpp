@@ -1,0 +1,26 @@
+#include "gauges/CommandesMac.h"
+
+#include "gauges/ChoixMac.h"
+#include "gauges/ConfMac.h"
+#include "gauges/ParamMac.h"
+#include "locale/Legendes.h"
+#include "platform/Erreur.h"
+#include "shell/FrmPrinc.h"
+
+void Mn_CreeConfMac()
+{
+    AppliqueLangue();
+    ParamMac = {};
+    ConfMac(frmPrinc).exec();
+}
+
+void Mn_ModifConfMac()
+{
+    AppliqueLangue();
+    try {
+        DemandeFichierMac();
+        ConfMac(frmPrinc, NomCompletMac).exec();
+    } catch (const Erreur &) {
+        // Cancelled, or no machine configuration: nothing opens.
+    }
+}

@@ -1,0 +1,147 @@
+#include "gauges/ConfMac.h"
+
+#include "gauges/ChoixMac.h"
+#include "gauges/ParamMac.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/CentreFeuille.h"
+#include "platform/Erreur.h"
+#include "platform/Nombres.h"
+
+#include <QRegularExpressionValidator>
+
+namespace {
+
+constexpr Texte3 PrefixeTitre{u"Configuration machine : ", u"Configuration machine : ", u"Configuración máquina : "};
+
+/// A pair of option buttons and the field that holds the one chosen.
+struct Options
+{
+    QRadioButton *Ui::ConfMac::*boutons[2];
+    int ConfigurationMac::*champ;
+};
+
+constexpr Options ToutesOptions[] = {
+    {{&Ui::ConfMac::OptMac_0, &Ui::ConfMac::OptMac_1}, &ConfigurationMac::TypeMachine},
+    {{&Ui::ConfMac::OptTour_0, &Ui::ConfMac::OptTour_1}, &ConfigurationMac::TypeTourelle},
+    {{&Ui::ConfMac::OptJauge_0, &Ui::ConfMac::OptJauge_1}, &ConfigurationMac::TypeJauge},
+    {{&Ui::ConfMac::OptionX_0, &Ui::ConfMac::OptionX_1}, &ConfigurationMac::ModeX},
+    {{&Ui::ConfMac::OptionRAZ_0, &Ui::ConfMac::OptionRAZ_1}, &ConfigurationMac::RazDynamique},
+};
+
+/// A box that takes a number in mm, and its field.
+struct Longueur
+{
+    QLineEdit *Ui::ConfMac::*saisie;
+    double ConfigurationMac::*champ;
+};
+
+constexpr Longueur Longueurs[] = {{&Ui::ConfMac::Text4, &ConfigurationMac::DiffPoches},
+                                  {&Ui::ConfMac::Text1, &ConfigurationMac::JaugeMaxiX},
+                                  {&Ui::ConfMac::Text2, &ConfigurationMac::JaugeMaxiZ}};
+
+void LimiteTouches(QLineEdit *saisie, const QString &motif)
+{
+    saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
+}
+
+/// Hides it without closing up the place, so that what the operator is about to click stays where it is.
+void GardePlace(QWidget *controle)
+{
+    QSizePolicy politique = controle->sizePolicy();
+    politique.setRetainSizeWhenHidden(true);
+    controle->setSizePolicy(politique);
+}
+
+} // namespace
+
+ConfMac::ConfMac(QWidget *parent, const QString &chemin)
+    : QDialog(parent)
+    , m_chemin(chemin)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    for (QWidget *controle : std::initializer_list<QWidget *>{Frame2, Label6, Text6, Frame7})
+        GardePlace(controle);
+    for (const Longueur &longueur : Longueurs)
+        LimiteTouches(this->*longueur.saisie, QStringLiteral("[-.0-9]*"));
+    LimiteTouches(Text3, QStringLiteral("[0-9]*"));
+    Form_Load();
+    BrancheOptions();
+    connect(Command1, &QPushButton::clicked, this, &ConfMac::reject);
+    connect(Command2, &QPushButton::clicked, this, &ConfMac::Command2_Click);
+}
+
+void ConfMac::showEvent(QShowEvent *evenement)
+{
+    QDialog::showEvent(evenement);
+    CentreFeuille(this);
+}
+
+void ConfMac::Form_Load()
+{
+    for (const Options &options : ToutesOptions) {
+        const int choix = ParamMac.*options.champ;
+        if (choix == 0 || choix == 1)
+            (this->*options.boutons[choix])->setChecked(true);
+    }
+    MontreSelonChoix();
+    MontreTextes();
+    MontreNom();
+}
+
+void ConfMac::BrancheOptions()
+{
+    for (const Options &options : ToutesOptions) {
+        for (const int choix : {0, 1})
+            connect(this->*options.boutons[choix], &QRadioButton::clicked, this, [=, this] {
+                ParamMac.*options.champ = choix;
+                MontreSelonChoix();
+            });
+    }
+}
+
+void ConfMac::MontreSelonChoix()
+{
+    Frame2->setVisible(ParamMac.EstTour());
+    for (QWidget *controle : std::initializer_list<QWidget *>{Label6, Text6, Frame7})
+        controle->setVisible(ParamMac.EnParametresE());
+}
+
+void ConfMac::MontreTextes()
+{
+    for (const Longueur &longueur : Longueurs)
+        (this->*longueur.saisie)->setText(TexteDouble(ParamMac.*longueur.champ));
+    Text3->setText(QString::number(ParamMac.NbCorrecteurs));
+    Text5->setText(ParamMac.ExtJauge);
+    Text6->setText(ParamMac.NumProgJauge);
+}
+
+void ConfMac::PrendTextes()
+{
+    for (const Longueur &longueur : Longueurs)
+        ParamMac.*longueur.champ = Val((this->*longueur.saisie)->text());
+    ParamMac.NbCorrecteurs = CorrecteursTenus(EnEntier(Val(Text3->text())));
+    ParamMac.ExtJauge = SansBlancs(Text5->text()).toUpper();
+    ParamMac.NumProgJauge = SansBlancs(Text6->text());
+}
+
+void ConfMac::MontreNom()
+{
+    if (!m_chemin.isEmpty())
+        MontreDonnee(this, Texte(PrefixeTitre) + NomMac);
+}
+
+void ConfMac::Command2_Click()
+{
+    PrendTextes();
+    MontreTextes(); // the values as they are held now
+    try {
+        DemandeNomMac(m_chemin);
+        EcritMac(NomCompletMac);
+        m_chemin = NomCompletMac;
+        MontreNom();
+    } catch (const Erreur &) {
+        // Cancelled or not written: the dialog stays open and keeps the name of its former file.
+    }
+}

@@ -1,0 +1,17 @@
+#include "gauges/Filtrage.h"
+
+#include "gauges/Lignes.h"
+#include "platform/Nombres.h"
+
+#include <algorithm>
+
+void Filtrage()
+{
+    CalculeMaxi();
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(LigneMaxi); ++i) {
+        QString &ligne = Lignes[i];
+        std::replace_if(
+            ligne.begin(), ligne.end(), [](QChar caractere) { return caractere < u' '; }, QChar(u' '));
+        ligne = SansBlancs(ligne);
+    }
+}

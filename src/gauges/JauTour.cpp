@@ -1,0 +1,123 @@
+#include "gauges/JauTour.h"
+
+#include "gauges/Jauge.h"
+#include "gauges/ParamMac.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/CentreFeuille.h"
+#include "platform/Nombres.h"
+
+#include <QKeyEvent>
+#include <QRegularExpressionValidator>
+
+namespace {
+
+constexpr Texte3 OutilTexte{u"Outil mesuré N° : ", u"Measured tool N° : ", u"instrumentos medida N° : "};
+constexpr Texte3 CorrecteurTexte{u"Correcteur N° : ", u"Corrector N° : ", u"Corrector N° : "};
+constexpr Texte3 TourelleArriere{u"Tourelle Arrière", u"Back Turret", u"Torreta Posterior"};
+constexpr Texte3 TourelleAvant{u"Tourelle Avant", u"Front Turret", u"Torreta Antes"};
+
+void LimiteTouches(QLineEdit *saisie, const QString &motif)
+{
+    saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
+}
+
+/// A click on a tile of panneau, or on its label, writes its value to saisie.
+void EcritAuClic(const QWidget *panneau, QLineEdit *saisie)
+{
+    const auto boutons = panneau->findChildren<QAbstractButton *>();
+    for (const QAbstractButton *bouton : boutons) {
+        const QString valeur = bouton->property("valeur").toString();
+        QObject::connect(bouton, &QAbstractButton::clicked, saisie, [=] { saisie->setText(valeur); });
+    }
+}
+
+} // namespace
+
+JauTour::JauTour(QWidget *parent)
+    : QDialog(parent)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    LimiteTouches(Text1, QStringLiteral("[0-9.]*"));
+    LimiteTouches(Text2, QStringLiteral("[0-9]*"));
+    BrancheTuiles();
+    connect(Command1, &QPushButton::clicked, this, &JauTour::Command1_Click);
+    Form_Activate();
+}
+
+void JauTour::BrancheTuiles()
+{
+    EcritAuClic(Picture21, Text1);
+    EcritAuClic(Picture1, Text2);
+    EcritAuClic(Picture11, Text2);
+    // A round plate has no nose: on the front dial its locator takes the radius back as well.
+    for (const QAbstractButton *bouton :
+         {static_cast<QAbstractButton *>(Picture20), static_cast<QAbstractButton *>(Label8)})
+        connect(bouton, &QAbstractButton::clicked, Text1, [this] { Text1->setText(QStringLiteral("0")); });
+    connect(Text1, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
+    connect(Text2, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
+}
+
+void JauTour::showEvent(QShowEvent *evenement)
+{
+    QDialog::showEvent(evenement);
+    CentreFeuille(this);
+}
+
+void JauTour::Form_Activate()
+{
+    const bool avant = ParamMac.TypeTourelle == 1;
+    Picture1->setVisible(!avant);
+    Picture11->setVisible(avant);
+    PoseTexte(Label7, avant ? TourelleAvant : TourelleArriere);
+    MontreMesure(QStringLiteral("   "));
+}
+
+/// intervalle: the blanks between the two parts of the caption.
+void JauTour::MontreMesure(const QString &intervalle)
+{
+    const JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(OutilCadran));
+    PoseTexte(Frame1, OutilTexte,
+              QString::number(OutilCadran) + intervalle + Texte(CorrecteurTexte) + QString::number(jauge.NumCorr));
+    Text1->setText(QStringLiteral("0"));
+    Text2->setText(QStringLiteral("0"));
+    DesigneTuiles();
+    Text1->setFocus();
+    Text1->selectAll();
+}
+
+/// The tiles whose values stand in the boxes, however the operator put them there.
+void JauTour::DesigneTuiles()
+{
+    const auto tuiles = findChildren<Tuile *>();
+    for (Tuile *tuile : tuiles) {
+        const bool estPlaquette = tuile->parentWidget() == Picture21;
+        const QString saisi = (estPlaquette ? Text1 : Text2)->text();
+        tuile->Designe(!saisi.isEmpty() && Val(saisi) == Val(tuile->Valeur()));
+    }
+}
+
+/// Escape would leave the dial with tools that have neither radius nor quadrant, which the machine would then use.
+void JauTour::keyPressEvent(QKeyEvent *touche)
+{
+    if (touche->key() != Qt::Key_Escape)
+        QDialog::keyPressEvent(touche);
+}
+
+void JauTour::Command1_Click()
+{
+    JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(OutilCadran));
+    jauge.Rayon = static_cast<float>(Val(Text1->text()));
+    jauge.Localisateur = EnEntier(Val(Text2->text()));
+    // These quadrants lie on the other side of the spindle axis.
+    if (jauge.Localisateur >= 5 && jauge.Localisateur <= 7)
+        jauge.JaugeX = -jauge.JaugeX;
+    ++OutilCadran;
+    if (OutilCadran > NbJauges) {
+        accept();
+        JauTourFait = 1;
+    } else {
+        MontreMesure(QStringLiteral("  "));
+    }
+}

@@ -1,0 +1,83 @@
+#include "gauges/ParamMac.h"
+
+#include "gauges/Jauge.h"
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "platform/LecteurChamps.h"
+#include "platform/Nombres.h"
+
+#include <algorithm>
+#include <cmath>
+
+ConfigurationMac ParamMac;
+QString NomCompletMac;
+QString NomMac;
+
+namespace {
+
+/// Eleven short lines; a file beyond this size, in bytes, is no configuration.
+constexpr qint64 TailleMaxMac = qint64{64} * 1024;
+
+/// The next value, which must be a number and nothing else.
+double LisReel(LecteurChamps &champs)
+{
+    const QString valeur = champs.Chaine();
+    bool estNombre = false;
+    const double nombre = valeur.toDouble(&estNombre);
+    if (!estNombre || !std::isfinite(nombre))
+        throw Erreur(Erreur::TypeIncompatible, valeur);
+    return nombre;
+}
+
+int LisEntier(LecteurChamps &champs)
+{
+    return EnEntier(LisReel(champs));
+}
+
+QString Ligne(const QString &valeur)
+{
+    return valeur + QStringLiteral("\r\n");
+}
+
+QString Ligne(int nombre)
+{
+    return Ligne(QString::number(nombre));
+}
+
+/// A double quote inside a text would end it for the reader and shift every field behind it; an apostrophe stands in.
+QString LigneChaine(QString texte)
+{
+    return Ligne(u'"' + texte.replace(u'"', u'\'') + u'"');
+}
+
+} // namespace
+
+int CorrecteursTenus(int nombre)
+{
+    return std::clamp(nombre, 0, CapaciteJauges);
+}
+
+void LitMac(const QString &chemin)
+{
+    LecteurChamps champs(LitFichierTexte(chemin, TailleMaxMac));
+    ParamMac.TypeMachine = LisEntier(champs);
+    ParamMac.TypeTourelle = LisEntier(champs);
+    ParamMac.DiffPoches = LisReel(champs);
+    ParamMac.TypeJauge = LisEntier(champs);
+    ParamMac.ModeX = LisEntier(champs);
+    ParamMac.JaugeMaxiX = LisReel(champs);
+    ParamMac.JaugeMaxiZ = LisReel(champs);
+    ParamMac.NbCorrecteurs = CorrecteursTenus(LisEntier(champs));
+    ParamMac.ExtJauge = champs.Chaine();
+    ParamMac.NumProgJauge = champs.Chaine();
+    ParamMac.RazDynamique = LisEntier(champs);
+}
+
+void EcritMac(const QString &chemin)
+{
+    const ConfigurationMac &p = ParamMac;
+    EcritFichierTexte(chemin, Ligne(p.TypeMachine) + Ligne(p.TypeTourelle) + Ligne(TexteDouble(p.DiffPoches)) +
+                                  Ligne(p.TypeJauge) + Ligne(p.ModeX) + Ligne(TexteDouble(p.JaugeMaxiX)) +
+                                  Ligne(TexteDouble(p.JaugeMaxiZ)) + Ligne(p.NbCorrecteurs) + LigneChaine(p.ExtJauge) +
+                                  LigneChaine(p.NumProgJauge) + Ligne(p.RazDynamique));
+}

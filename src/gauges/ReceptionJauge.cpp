@@ -1,0 +1,255 @@
+#include "gauges/ReceptionJauge.h"
+
+#include "comconfig/ParamCom.h"
+#include "gauges/FiltreJauge.h"
+#include "gauges/Jauge.h"
+#include "gauges/Lignes.h"
+#include "gauges/ParamMac.h"
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/CedeLaMain.h"
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "platform/MSComm.h"
+#include "platform/Nombres.h"
+#include "platform/PageCode1252.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/Em_Rc.h"
+#include "transfer/FichierRecu.h"
+#include "transfer/PortCom.h"
+#include "transfer/TextesReception.h"
+#include "transfer/Transfert.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr Texte3 Attente{u"En attente de réception Jauges Outil N° ", u"On standby of receiving Gauges Tool N° ",
+                         u"En espera de recepción Cabidas instrumentos N° "};
+constexpr Texte3 OutilSuivant{u"Prérégler l'outil N° ", u"Preset the tool N° ", u"Preestablecer la instrumentos N° "};
+constexpr Texte3 RecueDebut{u"Jauges Outil N° ", u"Gauges Tool N° ", u"Cabidas instrumentos N° "};
+constexpr Texte3 RecueFin{u" reçues", u" received", u" recibidas"};
+constexpr Texte3 RecueSuite{u"\rCliquez sur le bouton\r < Jauge suivante... >\rPour recevoir de nouvelles jauges",
+                            u"\rClick on the button\r < Following gauge... >\rTo receive new gauges",
+                            u"\rPresione el botón\r < Capacidad siguiente... >\rPara recibir nuevas Cabidas"};
+constexpr Texte3 Limite{u"Nombre de correcteurs reçus > à ", u"A number of received correctors > with ",
+                        u"Muchos correctores recibidos > a "};
+constexpr Texte3 LimiteTitre{u"Avertissement", u"Warning", u"Advertencia"};
+
+MSComm &Controle()
+{
+    return *frmPrinc->MSComm1;
+}
+
+/// One session at the bench, from the first tool to the gauge file.
+class Seance
+{
+public:
+    explicit Seance(Ui::Em_Rc &dialogue)
+        : m_dialogue(dialogue)
+    {
+    }
+
+    void Prepare();
+    void PrendOutils();
+    void Termine();
+    /// After a failure: what the disk does not hold may be saved elsewhere.
+    void SauveReste() const;
+
+private:
+    void Reception1Jauge();
+    QString RecoitSalve();
+    void AnnonceMesure();
+    void AttendOperateur() const;
+    void DemandeSuivante();
+    void AnnonceLimite();
+    void PermetSuite(bool permis);
+
+    Ui::Em_Rc &m_dialogue;
+    QString m_brut; ///< all that has come, as the file holds it
+};
+
+void Seance::Prepare()
+{
+    ForceRECEPT = 0;
+    FinTransfert = 0;
+    AnnuleRECEPT = 0;
+    VideJauges();
+    NbJauges = 1;
+    LigneJauge = 1;
+    VideLignes();
+    PermetSuite(false);
+    MontreLabelsEcho(m_dialogue);
+    const int genre = ParamCom.TypeRecep;
+    if (ParamCom.Echo == 1 && genre >= 0 && genre < static_cast<int>(std::size(GenresReception)))
+        PoseTexte(m_dialogue.Label4, GenresReception[genre]);
+    OuvrePortCOM();
+    CreeFichierRecu();
+    PoseTexte(m_dialogue.Label2, Attente, TexteNombre(NbJauges));
+}
+
+void Seance::PrendOutils()
+{
+    while (NbJauges <= ParamMac.NbCorrecteurs) {
+        Reception1Jauge();
+        if (AnnuleRECEPT == 1)
+            return;
+        AnnonceMesure();
+        AttendOperateur();
+        if (FinJauges == 1 || AnnuleRECEPT == 1)
+            return;
+        DemandeSuivante();
+    }
+    AnnonceLimite();
+}
+
+/// Waits for one measure and stores it; the operator may cancel meanwhile.
+void Seance::Reception1Jauge()
+{
+    ForceRECEPT = 0;
+    JaugeRecue = 0;
+    m_dialogue.Label3->clear();
+    frmPrinc->shpReceive->setFillColor(Lampe::Verte);
+    const QString recu = RecoitSalve();
+    if (AnnuleRECEPT == 1)
+        return;
+    Lignes[static_cast<std::size_t>(LigneJauge)] = recu;
+    m_brut += recu + QStringLiteral("\r\n");
+    AjouteFichierRecu(recu);
+    Controle().ViderReception();
+    JaugeRecue = 1;
+    ++LigneJauge;
+}
+
+/// How long the line is silent behind the last character of a burst: a few characters at its speed, and longer than an
+/// adapter holds characters back before it hands them over. Without it each character that the PC has read before the
+/// next one comes would be the end of a burst without a fixed size, and what follows the fixed size would begin the
+/// measure of the next tool.
+qint64 Silence()
+{
+    constexpr double Caracteres = 4;
+    constexpr double MinimumMs = 20;
+    return std::lround(std::max(MinimumMs, 1000 * Caracteres / Controle().CaracteresParSeconde()));
+}
+
+/// One burst: at least TailleRecep characters, and then silence. A bell that is read alone is not part of it. A closed
+/// port gives none: the operator cancels.
+QString Seance::RecoitSalve()
+{
+    const QString cloche(QChar(7));
+    QString recu;
+    QDeadlineTimer silence;
+    while (true) {
+        CedeLaMain();
+        if (AnnuleRECEPT == 1)
+            return recu;
+        if (!Controle().PortOpen())
+            continue;
+        const QString lu = Controle().Input();
+        if (lu.isEmpty()) {
+            if (!recu.isEmpty() && recu.size() >= ParamCom.TailleRecep && silence.hasExpired())
+                return recu;
+            continue;
+        }
+        silence.setRemainingTime(Silence());
+        if (lu != cloche)
+            recu += lu;
+        if (ParamCom.Echo == 1)
+            m_dialogue.Label3->setText(ControlesVisibles(recu));
+    }
+}
+
+void Seance::AnnonceMesure()
+{
+    JaugeRecue = 0;
+    JaugeSuivante = 0;
+    PermetSuite(true);
+    frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
+    const QString recue = TexteNombre(NbJauges) + Texte(RecueFin);
+    PoseTexte(m_dialogue.Label2, RecueDebut, recue);
+    m_dialogue.Label1->setText(PourAffichage(u'\r' + Texte(RecueDebut) + recue + Texte(RecueSuite)));
+}
+
+void Seance::AttendOperateur() const
+{
+    while (JaugeSuivante != 1 && FinJauges != 1 && AnnuleRECEPT != 1)
+        CedeLaMain();
+}
+
+void Seance::DemandeSuivante()
+{
+    JaugeRecue = 0;
+    JaugeSuivante = 0;
+    ++NbJauges;
+    PermetSuite(false);
+    const QString numero = TexteNombre(NbJauges);
+    m_dialogue.Label1->setText(
+        PourAffichage(u'\r' + Texte(OutilSuivant) + numero + QStringLiteral("\r\r") + Texte(TouchesBanc)));
+    PoseTexte(m_dialogue.Label2, Attente, numero);
+}
+
+void Seance::AnnonceLimite()
+{
+    QApplication::beep();
+    const QString fin = QString::number(ParamMac.NbCorrecteurs) + QStringLiteral(" !");
+    PoseTexte(m_dialogue.Label2, Limite, fin);
+    MsgBox(Texte(Limite) + fin, Boite::Critique, Texte(LimiteTitre));
+}
+
+/// permis: a measure stands, so that the operator may ask for the next one or end the reception.
+void Seance::PermetSuite(bool permis)
+{
+    // The focus of a button that is disabled passes to the next one, which cancels: a second stroke of the space bar
+    // would throw the session away.
+    if (QWidget *const foyer = m_dialogue.Frame4->window()->focusWidget())
+        foyer->clearFocus();
+    m_dialogue.Command5->setEnabled(permis);
+    m_dialogue.Command6->setEnabled(permis);
+    if (permis)
+        m_dialogue.Command5->setFocus();
+}
+
+void Seance::Termine()
+{
+    FermePortCOM(m_dialogue);
+    frmPrinc->shpReceive->setFillColor(Lampe::Verte);
+    if (AnnuleRECEPT == 1) {
+        NbJauges = 0;
+        return;
+    }
+    OuvreFichierRecu();
+    if (FinJauges == 1 && NbJauges >= 1) {
+        FiltreJauge();
+        FinTransfert = 1;
+        BoutonFermer(*m_dialogue.Command4);
+    }
+    frmPrinc->ActualiseFichiers();
+}
+
+void Seance::SauveReste() const
+{
+    QString surDisque;
+    Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
+    if (surDisque != m_brut)
+        SauveAilleurs(m_brut);
+}
+
+} // namespace
+
+void ReceptionJauge(Ui::Em_Rc &dialogue)
+{
+    Seance seance(dialogue);
+    try {
+        seance.Prepare();
+        seance.PrendOutils();
+        seance.Termine();
+    } catch (const Erreur &erreur) {
+        ErreurPortCOM(erreur, dialogue);
+        seance.SauveReste();
+    }
+}

@@ -1,0 +1,75 @@
+#include "shell/Apropos.h"
+
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "platform/CentreFeuille.h"
+#include "platform/Icone.h"
+#include "shell/AideEnLigne.h"
+#include "shell/FrmPrinc.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace {
+
+constexpr Texte3 Programme{u"Dorvanel Pro Version 2.7.0\r\rLogiciel de Chargement/Déchargement\r"
+                           u"de fichiers Commande Numérique",
+                           u"Dorvanel Pro Version 2.7.0\r\rSoftware of Load / dumping\rof files Digital control",
+                           u"Dorvanel Pro Version 2.7.0\r\rSoftware de Carga / descarga\rde ficheros Mando numérico"};
+
+constexpr int CoteImage = 96; // pixels
+
+/// A button that looks like a link: it takes the keyboard like any other.
+void HabilleEnLien(QPushButton *bouton)
+{
+    QPalette palette = bouton->palette();
+    palette.setColor(QPalette::ButtonText, palette.color(QPalette::Link));
+    bouton->setPalette(palette);
+    QFont police = bouton->font();
+    police.setUnderline(true);
+    bouton->setFont(police);
+}
+
+} // namespace
+
+Apropos::Apropos(QWidget *parent)
+    : QDialog(parent)
+{
+    setupUi(this);
+    AppliqueLegendes(this);
+    const QString programme = Texte(Programme);
+    if (!programme.isNull())
+        Label1->setText(PourAffichage(programme));
+    Label4->setText(QString::fromUtf16(AdresseCourrier));
+    Label5->setText(QString::fromUtf16(AdresseSite));
+    Image1->setPixmap(Icone(QStringLiteral(":/icones/Dorvanel.svg")).pixmap(CoteImage));
+    for (QPushButton *lien : {Label8, Label4, Label5})
+        HabilleEnLien(lien);
+    connect(Label8, &QPushButton::clicked, this, Mnu_AideEnLigne);
+    connect(Label4, &QPushButton::clicked, this, &Apropos::Label4_Click);
+    connect(Label5, &QPushButton::clicked, this, &Apropos::Label5_Click);
+    connect(Command1, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+void Apropos::showEvent(QShowEvent *evenement)
+{
+    QDialog::showEvent(evenement);
+    if (!evenement->spontaneous())
+        CentreFeuille(this);
+}
+
+void Apropos::Label4_Click()
+{
+    QDesktopServices::openUrl(QUrl(QStringLiteral("mailto:") + Label4->text()));
+}
+
+void Apropos::Label5_Click()
+{
+    QDesktopServices::openUrl(QUrl(Label5->text()));
+}
+
+void Mnu_Apropos()
+{
+    Apropos(frmPrinc).exec();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui_Apropos.h"
+
+#include <QDialog>
+
+/// The about window. Image1: picture; Label1: program and version; Label8, Label4 and Label5: links to the lessons on
+/// line, the maker's mail and the maker's site; Command1 closes it.
+class Apropos : public QDialog, public Ui::Apropos
+{
+    Q_OBJECT
+
+public:
+    explicit Apropos(QWidget *parent);
+
+protected:
+    void showEvent(QShowEvent *evenement) override;
+
+private:
+    void Label4_Click();
+    void Label5_Click();
+};
+
+void Mnu_Apropos();

@@ -1,0 +1,16 @@
+#include "shell/Editeur.h"
+
+#include "locale/Legendes.h"
+#include "shell/Document.h"
+#include "shell/ProgrammesExternes.h"
+#include "shell/Reglages.h"
+
+void Mnu_EditProg()
+{
+    AppliqueLangue();
+    const QString editeur = EditeurCN.toLower();
+    if (editeur.endsWith(QLatin1String("wordpad.exe")) || editeur.endsWith(QLatin1String("write.exe")))
+        OuvreAvecTraitementDeTexte(NomFichier);
+    else
+        OuvreAvecEditeur(EditeurCN, NomFichier);
+}

@@ -1,0 +1,298 @@
+#include "shell/FrmAide.h"
+
+#include "locale/Langue.h"
+#include "locale/Legendes.h"
+#include "platform/Boites.h"
+#include "shell/Chemins.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBlock>
+
+namespace {
+
+constexpr Texte3 Manuel{u"DORVANEL.HLP", u"DORVANEL_EN.HLP", u"DORVANEL_ES.HLP"};
+constexpr Texte3 TitreAide{u"Aide de Dorvanel Pro", u"Dorvanel Pro help", u"Ayuda de Dorvanel Pro"};
+constexpr Texte3 ManuelAbsent{u"Le fichier d'aide n'existe pas :\r", u"The help file does not exist:\r",
+                              u"El fichero de ayuda no existe:\r"};
+
+constexpr Texte3 Precedent{u"&Précédent", u"&Back", u"&Atrás"};
+constexpr Texte3 Suivant{u"&Suivant", u"&Forward", u"A&delante"};
+constexpr Texte3 Rechercher{u"&Rechercher :", u"&Search:", u"&Buscar:"};
+constexpr Texte3 ResultatPrecedent{u"Résultat précédent (Maj+F3)", u"Previous match (Shift+F3)",
+                                   u"Resultado anterior (Mayús+F3)"};
+constexpr Texte3 ResultatSuivant{u"Résultat suivant (F3)", u"Next match (F3)", u"Resultado siguiente (F3)"};
+constexpr Texte3 Introuvable{u"Introuvable", u"Not found", u"No encontrado"};
+constexpr Texte3 Sommaire{u"Sommaire", u"Contents", u"Índice"};
+
+/// Letters that count as one in a search: who looks for "reception" need not find the accents on the keyboard.
+constexpr const char16_t *LettresEgales[] = {u"aàâäá", u"cç", u"eéèêë", u"iîïí", u"nñ", u"oôöó", u"uùûüú"};
+
+/// The pattern of a text to search, with any blanks between its words.
+QRegularExpression Motif(const QString &cherche)
+{
+    QString motif;
+    for (const QChar lettre : cherche.simplified()) {
+        QString classe = QRegularExpression::escape(QString(lettre));
+        for (const char16_t *const egales : LettresEgales)
+            if (QString::fromUtf16(egales).contains(lettre, Qt::CaseInsensitive))
+                classe = u'[' + QString::fromUtf16(egales) + u']';
+        motif += lettre == u' ' ? QStringLiteral("\\s+") : classe;
+    }
+    return QRegularExpression(motif, QRegularExpression::CaseInsensitiveOption |
+                                         QRegularExpression::UseUnicodePropertiesOption);
+}
+
+/// The id of a heading; its first letters bear it.
+QString Ancre(const QTextBlock &bloc)
+{
+    return bloc.begin().atEnd() ? QString() : bloc.begin().fragment().charFormat().anchorNames().value(0);
+}
+
+/// Moves a window beside the one that it explains, as far as the screen has room.
+void PlaceACote(QWidget *fenetre, const QWidget *appelante)
+{
+    const QRect ecran = appelante->screen()->availableGeometry();
+    const QRect occupe = appelante->frameGeometry();
+    QRect place(QPoint(occupe.right() + 1, occupe.top()), fenetre->frameGeometry().size());
+    if (place.right() > ecran.right() && occupe.left() - place.width() >= ecran.left())
+        place.moveRight(occupe.left() - 1);
+    place.moveRight(std::min(place.right(), ecran.right()));
+    place.moveBottom(std::min(place.bottom(), ecran.bottom()));
+    place.moveTopLeft({std::max(place.left(), ecran.left()), std::max(place.top(), ecran.top())});
+    fenetre->move(place.topLeft());
+}
+
+/// Where the manual lies: in the application folder, or beside the program where that is another place.
+QString CheminManuel()
+{
+    const QString voulu = AjouteAntislash(DosAppli) + Texte(Manuel);
+    const QString livre = AjouteAntislash(QCoreApplication::applicationDirPath()) + Texte(Manuel);
+    return !QFileInfo::exists(voulu) && QFileInfo::exists(livre) ? livre : voulu;
+}
+
+class ToucheF1 : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *objet, QEvent *evenement) override
+    {
+        if (evenement->type() != QEvent::KeyPress || !objet->isWidgetType() || !QApplication::activeModalWidget())
+            return false;
+        const auto *const touche = static_cast<QKeyEvent *>(evenement);
+        if (touche->key() != Qt::Key_F1 || touche->modifiers() != Qt::NoModifier)
+            return false;
+        Mnu_Aide();
+        return true;
+    }
+};
+
+} // namespace
+
+void Mnu_Aide()
+{
+    static QPointer<FrmAide> ouverte; // the one help window
+    if (Texte(Manuel).isNull())
+        return;
+    const QString manuel = CheminManuel();
+    if (!QFileInfo(manuel).isFile()) {
+        MsgBox(Texte(ManuelAbsent) + manuel, Boite::Exclamation, Texte(TitreAide));
+        return;
+    }
+    // A modal dialog blocks every window but its own: its help belongs to it.
+    QWidget *const modale = QApplication::activeModalWidget();
+    QWidget *const appelante = modale == nullptr ? frmPrinc : modale;
+    if (ouverte != nullptr && ouverte->parent() != appelante)
+        ouverte->close();
+    if (ouverte == nullptr || ouverte->parent() != appelante || !ouverte->isVisible())
+        ouverte = new FrmAide(appelante);
+    ouverte->Montre(manuel, modale == nullptr ? QString() : modale->objectName());
+}
+
+void BrancheAide()
+{
+    qApp->installEventFilter(new ToucheF1(frmPrinc));
+}
+
+FrmAide::FrmAide(QWidget *parent)
+    : QDialog(parent, Qt::Window)
+{
+    setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    Command1->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    Command2->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+    disposition_aide->setStretchFactor(1, 1);
+    PoseRaccourcis();
+    connect(Command1, &QPushButton::clicked, TextBrowser1, &QTextBrowser::backward);
+    connect(Command2, &QPushButton::clicked, TextBrowser1, &QTextBrowser::forward);
+    connect(TextBrowser1, &QTextBrowser::backwardAvailable, Command1, &QPushButton::setEnabled);
+    connect(TextBrowser1, &QTextBrowser::forwardAvailable, Command2, &QPushButton::setEnabled);
+    connect(TextBrowser1->verticalScrollBar(), &QScrollBar::valueChanged, this, &FrmAide::SuitLecture);
+    const auto vaALaLigne = [this](const QTreeWidgetItem *ligne) { Va(ligne->data(0, Qt::UserRole).toString()); };
+    connect(TreeView1, &QTreeWidget::itemClicked, this, vaALaLigne);
+    connect(TreeView1, &QTreeWidget::itemActivated, this, vaALaLigne);
+    connect(Text1, &QLineEdit::textChanged, this, &FrmAide::Text1_Change);
+    connect(Text1, &QLineEdit::returnPressed, Command4, &QToolButton::click);
+    connect(Command3, &QToolButton::clicked, this, [this] { MontreResultat(m_resultat - 1); });
+    connect(Command4, &QToolButton::clicked, this, [this] { MontreResultat(m_resultat + 1); });
+}
+
+void FrmAide::PoseRaccourcis()
+{
+    const auto bouton = [this](QKeySequence::StandardKey touche, QAbstractButton *presse) {
+        connect(new QShortcut(touche, this), &QShortcut::activated, presse, [presse] { presse->click(); });
+    };
+    bouton(QKeySequence::Back, Command1);
+    bouton(QKeySequence::Forward, Command2);
+    bouton(QKeySequence::FindPrevious, Command3);
+    bouton(QKeySequence::FindNext, Command4);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, Text1, [this] {
+        Text1->setFocus();
+        Text1->selectAll();
+    });
+}
+
+void FrmAide::Montre(const QString &manuel, const QString &section)
+{
+    PoseTextes();
+    const QUrl source = QUrl::fromLocalFile(manuel);
+    if (TextBrowser1->source().adjusted(QUrl::RemoveFragment) != source) {
+        TextBrowser1->setSource(source, QTextDocument::HtmlResource);
+        TextBrowser1->clearHistory();
+        DresseSommaire();
+        Text1_Change();
+    }
+    if (!section.isEmpty())
+        Va(section);
+    show();
+    raise();
+    activateWindow();
+}
+
+void FrmAide::PoseTextes()
+{
+    PoseTexte(this, TitreAide);
+    PoseTexte(Command1, Precedent);
+    PoseTexte(Command2, Suivant);
+    PoseTexte(Label1, Rechercher);
+    PoseBulle(Command3, Texte(ResultatPrecedent));
+    PoseBulle(Command4, Texte(ResultatSuivant));
+    TreeView1->setAccessibleName(Texte(Sommaire));
+    TextBrowser1->setAccessibleName(Texte(TitreAide));
+}
+
+/// The contents are the headings of the text: a heading stands below the last one of a higher level.
+void FrmAide::DresseSommaire()
+{
+    m_titres.clear();
+    TreeView1->clear();
+    QTreeWidgetItem *parents[7] = {};
+    for (QTextBlock bloc = TextBrowser1->document()->begin(); bloc.isValid(); bloc = bloc.next()) {
+        const int niveau = bloc.blockFormat().headingLevel();
+        if (niveau < 1 || niveau > 6)
+            continue;
+        QTreeWidgetItem *const parent = parents[niveau - 1];
+        auto *const ligne = parent == nullptr ? new QTreeWidgetItem(TreeView1) : new QTreeWidgetItem(parent);
+        ligne->setText(0, bloc.text());
+        ligne->setData(0, Qt::UserRole, Ancre(bloc));
+        std::fill(std::begin(parents) + niveau, std::end(parents), ligne);
+        m_titres.append({bloc.position(), ligne});
+    }
+    TreeView1->expandToDepth(0);
+}
+
+/// The contents show where the reader is: at the last heading in the upper third of what he sees, or above it.
+void FrmAide::SuitLecture()
+{
+    const int position = TextBrowser1->cursorForPosition({0, TextBrowser1->viewport()->height() / 3}).position();
+    QTreeWidgetItem *lue = nullptr;
+    for (const Titre &titre : m_titres)
+        if (titre.position <= position)
+            lue = titre.ligne;
+    if (lue != nullptr)
+        TreeView1->setCurrentItem(lue);
+}
+
+void FrmAide::Va(const QString &section)
+{
+    for (const Titre &titre : m_titres) {
+        if (titre.ligne->data(0, Qt::UserRole).toString() != section)
+            continue;
+        TextBrowser1->setSource(QUrl(u'#' + section));
+        TreeView1->setCurrentItem(titre.ligne);
+    }
+}
+
+void FrmAide::Text1_Change()
+{
+    const QRegularExpression motif = Motif(Text1->text());
+    m_resultats.clear();
+    if (!motif.pattern().isEmpty()) {
+        for (QTextCursor trouve = TextBrowser1->document()->find(motif); !trouve.isNull();
+             trouve = TextBrowser1->document()->find(motif, trouve))
+            m_resultats << trouve;
+    }
+    const qsizetype nombre = m_resultats.size();
+    Command3->setEnabled(nombre > 0);
+    Command4->setEnabled(nombre > 0);
+    Label2->setText(nombre > 0 || Text1->text().isEmpty() ? QString() : Texte(Introuvable));
+    const int lecture = PositionLecture();
+    qsizetype premier = 0;
+    while (premier < nombre && m_resultats[premier].selectionStart() < lecture)
+        ++premier;
+    MontreResultat(premier);
+}
+
+/// Where the reader is: at the match that he sees, or at the top of what he has scrolled to.
+int FrmAide::PositionLecture() const
+{
+    const bool voit = TextBrowser1->viewport()->rect().intersects(TextBrowser1->cursorRect());
+    return voit ? TextBrowser1->textCursor().position() : TextBrowser1->cursorForPosition({0, 0}).position();
+}
+
+/// Shows a match. numero: from 0; past either end it goes on at the other.
+void FrmAide::MontreResultat(qsizetype numero)
+{
+    const qsizetype nombre = m_resultats.size();
+    m_resultat = nombre == 0 ? 0 : (numero + nombre) % nombre;
+    MarqueResultats();
+    if (nombre == 0)
+        return;
+    Label2->setText(QStringLiteral("%1 / %2").arg(m_resultat + 1).arg(nombre));
+    QTextCursor debut = m_resultats[m_resultat];
+    debut.setPosition(debut.selectionStart()); // a selection would hide the mark
+    TextBrowser1->setTextCursor(debut);
+    // Not at the edge: what stands around it is to be read, and the contents name its section.
+    QScrollBar *const ascenseur = TextBrowser1->verticalScrollBar();
+    ascenseur->setValue(ascenseur->value() + TextBrowser1->cursorRect().top() - TextBrowser1->viewport()->height() / 4);
+}
+
+/// Marks all matches, and most the one that is shown; readable on light and dark themes.
+void FrmAide::MarqueResultats()
+{
+    QList<QTextEdit::ExtraSelection> marques;
+    for (qsizetype i = 0; i < m_resultats.size(); ++i) {
+        QTextCharFormat surligne;
+        surligne.setForeground(Qt::black);
+        surligne.setBackground(i == m_resultat ? QColor(255, 150, 50) : QColor(255, 224, 120));
+        marques.append({m_resultats[i], surligne});
+    }
+    TextBrowser1->setExtraSelections(marques);
+}
+
+void FrmAide::showEvent(QShowEvent *evenement)
+{
+    QDialog::showEvent(evenement);
+    if (evenement->spontaneous())
+        return;
+    PlaceACote(this, parentWidget());
+    TreeView1->setFocus();
+}

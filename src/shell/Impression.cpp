@@ -1,0 +1,101 @@
+#include "shell/Impression.h"
+
+#include "locale/Langue.h"
+#include "platform/CommonDialog.h"
+#include "platform/Erreur.h"
+#include "platform/Printer.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+
+#include <QPrinter>
+#include <QProgressDialog>
+
+namespace {
+
+constexpr Texte3 TitreReglage{u"Configurer l'imprimante", u"Print setup", u"Configurar la impresiôn"};
+constexpr Texte3 EnCours{u"Impression en cours...", u"Printing...", u"Impresión en curso..."};
+
+QFont PoliceDuTexte()
+{
+    const RichTextBox &volet = *frmPrinc->Text1;
+    QFont police = volet.font();
+    police.setBold(volet.SelBold());
+    police.setItalic(volet.SelItalic());
+    police.setFamily(volet.SelFontName());
+    police.setPointSizeF(volet.SelFontSize());
+    police.setStrikeOut(volet.SelStrikeThru());
+    police.setUnderline(volet.SelUnderline());
+    return police;
+}
+
+/// Where a printing has got to, for the operator, once it lasts. While it is on the screen the main window waits.
+class Avancement : public QProgressDialog
+{
+public:
+    Avancement(int copies, qsizetype caracteres)
+        : QProgressDialog(frmPrinc)
+        , m_caracteres(caracteres)
+    {
+        setObjectName(QStringLiteral("Impression"));
+        setWindowTitle(TitreFichier);
+        setLabelText(Texte(EnCours));
+        setWindowModality(Qt::WindowModal);
+        setMinimumDuration(1500);
+        setRange(0, copies * Pas);
+        setValue(0);
+    }
+
+    /// copie: from 0; faits: characters of it that are printed. Raises DialogueAnnule when the operator gives up.
+    void Montre(int copie, qsizetype faits)
+    {
+        setValue(copie * Pas + static_cast<int>(faits * Pas / m_caracteres));
+        if (wasCanceled())
+            throw Erreur(Erreur::DialogueAnnule, QStringLiteral("Cancel was selected."));
+    }
+
+private:
+    static constexpr int Pas = 1000; // of the bar, for one copy
+
+    qsizetype m_caracteres;
+};
+
+void Imprime(QPrinter &reglages, int copies)
+{
+    const QString texte = frmPrinc->Text1->Text();
+    Avancement avancement(copies, texte.size());
+    Printer imprimante(reglages);
+    imprimante.Print();
+    imprimante.Font = PoliceDuTexte();
+    for (int copie = 0; copie < copies; ++copie) {
+        imprimante.Print();
+        imprimante.Print(QStringLiteral("Programme : ") + NomFichier);
+        imprimante.Print(QStringLiteral("\r"));
+        imprimante.Suivi = [&avancement, copie](qsizetype faits) { avancement.Montre(copie, faits); };
+        imprimante.Print(texte);
+        imprimante.Suivi = {};
+        imprimante.EndDoc();
+    }
+}
+
+} // namespace
+
+void Mnu_Imprim()
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.CancelError = true;
+    dialogue.Flags = frmPrinc->Text1->SelLength() > 0 ? CommonDialog::Selection : 0;
+    Saute([&dialogue] {
+        dialogue.Imprimante().setDocName(TitreFichier);
+        dialogue.ShowPrinter();
+        frmPrinc->Text1->setSelLength(0); // whatever was chosen, the whole text is printed
+        Imprime(dialogue.Imprimante(), dialogue.Copies);
+    });
+}
+
+void Mnu_ConfigIMP()
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.DialogTitle = Texte(TitreReglage);
+    dialogue.Flags = CommonDialog::ReglageImprimante;
+    Saute([&dialogue] { dialogue.ShowPrinter(); });
+}

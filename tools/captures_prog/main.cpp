@@ -1,0 +1,121 @@
+#include "captures_prog/Vues.h"
+#include "locale/Langue.h"
+#include "platform/MSComm.h"
+#include "shell/Chemins.h"
+#include "shell/Demarrage.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Menus.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QTextStream>
+
+namespace {
+
+constexpr char Usage[] =
+    "captures_prog APPLICATION OUTPUT LANGUAGE [dark|manual]\n"
+    "Writes a PNG of every window into OUTPUT. APPLICATION: application folder with the samples;\n"
+    "LANGUAGE: 0 French, 1 English, 2 Spanish; manual: pictures as wide as a page of the manual at\n"
+    "most. Needs no display (QT_QPA_PLATFORM=offscreen).\n";
+
+QPalette Sombre()
+{
+    const QColor fond(45, 47, 51);
+    QPalette palette(QColor(62, 65, 70), fond);
+    palette.setColor(QPalette::Base, QColor(32, 33, 36));
+    palette.setColor(QPalette::AlternateBase, fond);
+    palette.setColor(QPalette::Highlight, QColor(42, 110, 180));
+    palette.setColor(QPalette::Link, QColor(120, 180, 255));
+    return palette;
+}
+
+/// The same picture on every PC: one style, one font, no blinking.
+void FixeApparence(bool sombre)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(sombre ? Sombre() : QApplication::style()->standardPalette());
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    QApplication::setCursorFlashTime(0);
+}
+
+void EcritReglages(const QString &application, const QByteArray &langue)
+{
+    QFile ini(application + QStringLiteral("/Dorvanel.ini"));
+    if (!ini.open(QIODevice::WriteOnly))
+        qFatal("%s cannot be written", qPrintable(ini.fileName()));
+    ini.write(" 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 1 \r\n\r\n " + langue + " \r\n");
+}
+
+/// What a window shows, under a title bar as a desktop draws one: a window's title belongs to its picture.
+QPixmap Photographie(QWidget &fenetre)
+{
+    constexpr int hauteurTitre = 28;
+    constexpr int marge = 10;
+    const QPixmap contenu = fenetre.grab();
+    const QSize taille = contenu.deviceIndependentSize().toSize() + QSize(2, hauteurTitre + 1);
+    QPixmap image(taille * contenu.devicePixelRatio());
+    image.setDevicePixelRatio(contenu.devicePixelRatio());
+    image.fill(QColor(70, 90, 115));
+    QPainter peintre(&image);
+    peintre.setPen(Qt::white);
+    peintre.setFont(QApplication::font());
+    const QRect titre(marge, 0, taille.width() - 2 * marge, hauteurTitre);
+    peintre.drawText(titre, Qt::AlignVCenter | Qt::AlignLeft,
+                     peintre.fontMetrics().elidedText(fenetre.windowTitle(), Qt::ElideMiddle, titre.width()));
+    peintre.drawPixmap(1, hauteurTitre, contenu);
+    return image;
+}
+
+/// Opens the window of a view, writes its picture and closes it again; the main window stays. largeurMax: pixels; a
+/// wider picture is reduced.
+bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
+{
+    QWidget *const fenetre = vue.ouvre();
+    fenetre->show();
+    // A reception begins, and asks, by itself once its dialog is on the screen; here nobody answers.
+    QCoreApplication::removePostedEvents(fenetre, QEvent::MetaCall);
+    QCoreApplication::processEvents();
+    QPixmap image = Photographie(*fenetre);
+    if (image.width() > largeurMax)
+        image = image.scaledToWidth(largeurMax, Qt::SmoothTransformation);
+    const bool ecrit = image.save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(vue.nom)));
+    if (fenetre != frmPrinc)
+        delete fenetre;
+    return ecrit;
+}
+
+} // namespace
+
+int main(int nombre, char *arguments[])
+{
+    QApplication application(nombre, arguments);
+    const QStringList options = QApplication::arguments();
+    if (options.size() < 4 || options.size() > 5) {
+        QTextStream(stderr) << Usage;
+        return 2;
+    }
+    QApplication::setApplicationDisplayName(QString()); // as the program itself does
+    constexpr int page = 600;                           // pixels; what the help window has beside its contents
+    const int largeurMax = options.value(4) == QLatin1String("manual") ? page : QWIDGETSIZE_MAX;
+    FixeApparence(options.value(4) == QLatin1String("dark"));
+    FixeDossierApplication(options[1]);
+    EcritReglages(options[1], options[3].toLatin1());
+    QDir::setCurrent(options[1]);
+    AppliqueLangueSysteme();
+
+    FrmPrinc fenetre;
+    fenetre.MSComm1->setDossierPorts(options[1] + QStringLiteral("/Ports"));
+    Branche();
+    Form_Load();
+    ChargeExemples();
+    for (const Vue &vue : Vues)
+        if (!Prend(vue, options[2], largeurMax)) {
+            QTextStream(stderr) << "no picture of " << vue.nom << '\n';
+            return 1;
+        }
+    return 0;
+}
