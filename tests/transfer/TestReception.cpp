@@ -70,8 +70,8 @@ struct Atelier
     {
         Envoi envoi;
         envoi.Texte = texte;
-        envoi.PauseLigneMs =
-            ParamCom.TypeRecep == ParFichier ? 0 : 150; // a stall of the PC may last longer than a short pause
+        // The PC may stall for longer than a short pause.
+        envoi.PauseLigneMs = ParamCom.TypeRecep == ParFichier ? 0 : 150;
         envoi.SansFin = sansFin;
         operateur.Fait(
             Dialogue, [this, envoi](QWidget &) { machine.Emet(envoi); }, [] { return PortOuvert; });
