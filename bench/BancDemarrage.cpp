@@ -4,6 +4,7 @@
 #include "Mesure.h"
 
 #include "locale/Langue.h"
+#include "platform/Polices.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/FrmPrinc.h"
@@ -37,10 +38,13 @@ int Ouvre(QWidget &fenetre)
     return QApplication::exec();
 }
 
-int OuvreProgramme(const QString &dossier)
+int OuvreProgramme(int nombre, char *arguments[])
 {
-    FixeDossierApplication(dossier);
+    const std::future<void> polices = LisPolices();
+    const QApplication application(nombre, arguments);
+    FixeDossierApplication(QString::fromLocal8Bit(arguments[2]));
     AppliqueLangueSysteme();
+    polices.wait();
     FrmPrinc fenetre;
     QApplication::setWindowIcon(fenetre.windowIcon());
     Branche();
@@ -48,8 +52,9 @@ int OuvreProgramme(const QString &dossier)
     return Ouvre(fenetre);
 }
 
-int OuvreFenetreVide()
+int OuvreFenetreVide(int nombre, char *arguments[])
 {
+    const QApplication application(nombre, arguments);
     QWidget fenetre;
     fenetre.resize(900, 640);
     return Ouvre(fenetre);
@@ -64,10 +69,10 @@ double Demarre(const QString &role, const QString &dossier)
 
 int main(int nombre, char *arguments[])
 {
-    QApplication application(nombre, arguments);
     if (nombre == 3)
-        return qstrcmp(arguments[1], "programme") == 0 ? OuvreProgramme(QString::fromLocal8Bit(arguments[2]))
-                                                       : OuvreFenetreVide();
+        return qstrcmp(arguments[1], "programme") == 0 ? OuvreProgramme(nombre, arguments)
+                                                       : OuvreFenetreVide(nombre, arguments);
+    const QCoreApplication application(nombre, arguments);
     const QTemporaryDir dossier;
     FixeDossierApplication(dossier.path());
     SauveIni();

@@ -1,5 +1,6 @@
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
+#include "platform/Polices.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/FrmPrinc.h"
@@ -9,11 +10,13 @@
 
 int main(int nombre, char *arguments[])
 {
+    const std::future<void> polices = LisPolices();
     QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
     QApplication::setApplicationDisplayName(QString()); // or each title would end in the program's name
     AppliqueLangueSysteme();
 
+    polices.wait();
     FrmPrinc fenetre;
     QApplication::setWindowIcon(fenetre.windowIcon());
     fenetre.MSComm1->setDossierPorts(AjouteAntislash(DossierApplication()) + QStringLiteral("Ports"));

@@ -7,6 +7,7 @@
 #include "platform/Dossiers.h"
 #include "platform/Erreur.h"
 #include "platform/FiltreTouches.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
@@ -21,6 +22,12 @@ constexpr Texte3 AbsentApres{u"> n'existe plus !", u"> does not exist any more !
 constexpr Texte3 NonCreeTitre{u"Erreur", u"Erreur", u"Erreur"};
 constexpr Texte3 NonCreeAvant{u"Le dossier <", u"The directory <", u"El directorio <"};
 constexpr Texte3 NonCreeApres{u"> n'a pas pu être créé !", u"> could not be created !", u">  no pudo crearse !"};
+
+void Montre(FolderTreeview &arbre, const QString &nouveau)
+{
+    arbre.Refresh();
+    arbre.setSelectedFolder(nouveau);
+}
 
 } // namespace
 
@@ -95,7 +102,7 @@ void DosProg::MontreNouveau(bool montre)
     (montre ? Command4 : Command1)->setDefault(true);
 }
 
-/// The explorer of the main window goes to the new folder too.
+/// The explorer of the main window, once it has been opened, goes to the new folder too.
 void DosProg::Command4_Click()
 {
     if (FolderTreeview1->SelectedFolder().isEmpty())
@@ -103,10 +110,9 @@ void DosProg::Command4_Click()
     const QString nouveau = AjouteAntislash(FolderTreeview1->SelectedFolder()) + Text1->text();
     try {
         CreeDossier(nouveau);
-        for (FolderTreeview *arbre : {FolderTreeview1, frmPrinc->FolderTreeview1}) {
-            arbre->Refresh();
-            arbre->setSelectedFolder(nouveau);
-        }
+        Montre(*FolderTreeview1, nouveau);
+        if (frmPrinc->Frame1 != nullptr)
+            Montre(*frmPrinc->Frame1->FolderTreeview1, nouveau);
         MontreNouveau(false);
     } catch (const Erreur &) {
         MsgBox(Texte(NonCreeAvant) + nouveau + Texte(NonCreeApres), Boite::Critique, Texte(NonCreeTitre));

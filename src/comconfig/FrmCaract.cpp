@@ -36,12 +36,6 @@ constexpr const char16_t *Legendes[] = {u"Nul", u"soh",  u"stx", u"etx", u"eot",
                                         u"dc2", u"Xoff", u"dc4", u"nak", u"syn", u"etb", u"Can", u"em",  u"eof",
                                         u"Esc", u"fs",   u"gs",  u"us",  u"rs",  u"Esp"};
 
-// The same characters as manuals of controls name them.
-constexpr const char *NomsCourants[] = {"NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT",  "LF",
-                                        "VT",  "FF",  "CR",  "SO",  "SI",  "DLE", "DC1", "DC2", "DC3", "DC4", "NAK",
-                                        "SYN", "ETB", "CAN", "EM",  "SUB", "ESC", "FS",  "GS",  "RS",  "US",  "SP"};
-static_assert(std::size(Legendes) == std::size(NomsCourants));
-
 constexpr Texte3 AideTitre{u"Caractère personnalisé", u"Personalized character", u"Carácter personalizado"};
 constexpr Texte3 AideTexte{u"Ajout d'un caractère personnalisé.\r\n\r\n"
                            u"1 - Coller ou tapez votre caractère personnalisé dans la zone de texte.\r\n"
@@ -67,18 +61,12 @@ QString Legende(int code)
     return code == '&' ? QStringLiteral("&&") : QString(QChar(code));
 }
 
-/// The code as manuals write it: decimal, in base 16, and the name of a character that has no picture.
+/// The code as manuals write it, decimal and in base 16, and the name of a character that shows nothing.
 QString Bulle(int code)
 {
-    constexpr int suppression = 127;
     constexpr int base = 16;
-    QString bulle = QStringLiteral("%1 = %2h").arg(code).arg(code, 2, base, QLatin1Char('0')).toUpper();
-    bulle.back() = u'h';
-    if (code < static_cast<int>(std::size(NomsCourants)))
-        bulle += QStringLiteral("  ") + QLatin1String(NomsCourants[code]);
-    else if (code == suppression)
-        bulle += QStringLiteral("  DEL");
-    return bulle;
+    const QString hexa = QStringLiteral("%1").arg(code, 2, base, QLatin1Char('0')).toUpper();
+    return QStringLiteral("%1 = %2h  %3").arg(code).arg(hexa, LabelChaine::NomCaractere(code)).trimmed();
 }
 
 } // namespace
@@ -121,6 +109,11 @@ void FrmCaract::PoseCaracteres()
     }
     ChoisitBouton(Command4, Stx, QString(QChar(Stx)));
     ChoisitBouton(Command5, Etx, QString(QChar(Etx)));
+    QList<QWidget *> ordre(m_caracteres.begin(), m_caracteres.end());
+    ordre << Text1 << Command6 << Command7 << Command2 << Command3 << Command1;
+    for (qsizetype i = 1; i < ordre.size(); ++i)
+        setTabOrder(ordre[i - 1], ordre[i]);
+    Command1->setFocus(); // a blank bar touched by accident must not add a character
 }
 
 QPushButton *FrmCaract::CreeBouton(int code)
@@ -132,11 +125,12 @@ QPushButton *FrmCaract::CreeBouton(int code)
     return bouton;
 }
 
-/// A click on bouton adds that character. What has no picture of its own is shown by the one that stands for it.
+/// A click on bouton adds that character. One that shows nothing is shown by its name.
 void FrmCaract::ChoisitBouton(QPushButton *bouton, int code, const QString &legende)
 {
     constexpr int marge = 16; // pixels
-    bouton->setText(legende == QLatin1String("&&") ? legende : LabelChaine::Visible(legende));
+    const bool muet = legende == QString(QChar(code)) && !legende.at(0).isPrint();
+    bouton->setText(muet ? LabelChaine::NomCaractere(code) : legende);
     bouton->setToolTip(Bulle(code));
     bouton->setMinimumWidth(bouton->fontMetrics().horizontalAdvance(QStringLiteral("Xoff")) + marge);
     connect(bouton, &QPushButton::clicked, this, [this, code, legende] { Ajoute(code, legende); });

@@ -1,16 +1,41 @@
 #include "comconfig/LabelChaine.h"
 
-#include "platform/PageCode1252.h"
-
 #include <QPainter>
 #include <QTextLayout>
+
+#include <utility>
+
+namespace {
+
+// As manuals of controls name them, by their code.
+constexpr const char *Noms[] = {"NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT",  "LF",
+                                "VT",  "FF",  "CR",  "SO",  "SI",  "DLE", "DC1", "DC2", "DC3", "DC4", "NAK",
+                                "SYN", "ETB", "CAN", "EM",  "SUB", "ESC", "FS",  "GS",  "RS",  "US",  "SP"};
+
+/// The lines, each as its place in texte and its length, into which a width cuts it.
+QList<std::pair<int, int>> Lignes(const QString &texte, const QFont &police, int largeur)
+{
+    QTextLayout page(texte, police);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAnywhere);
+    page.setTextOption(option);
+    QList<std::pair<int, int>> lignes;
+    page.beginLayout();
+    for (QTextLine ligne = page.createLine(); ligne.isValid(); ligne = page.createLine()) {
+        ligne.setLineWidth(largeur);
+        lignes.append({ligne.textStart(), ligne.textLength()});
+    }
+    page.endLayout();
+    return lignes;
+}
+
+} // namespace
 
 LabelChaine::LabelChaine(QWidget *parent)
     : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    ReserveLignes(1);
 }
 
 void LabelChaine::MontreChaine(const QString &libelle)
@@ -22,45 +47,61 @@ void LabelChaine::MontreChaine(const QString &libelle)
 
 void LabelChaine::ReserveLignes(int nombre)
 {
-    constexpr int caracteres = 6; // "CRLF" and more of the chains in use
-    setMinimumSize(caracteres * fontMetrics().maxWidth() / 2,
-                   nombre * fontMetrics().lineSpacing() + 2 * (margin() + frameWidth()));
+    m_lignes = nombre;
+    updateGeometry();
+}
+
+QSize LabelChaine::sizeHint() const
+{
+    return minimumSizeHint();
+}
+
+/// The length of a chain does not count: the window that shows it keeps its size.
+QSize LabelChaine::minimumSizeHint() const
+{
+    const int bords = 2 * (margin() + frameWidth());
+    return {fontMetrics().horizontalAdvance(QStringLiteral("CRCRLF")) + bords,
+            m_lignes * fontMetrics().lineSpacing() + bords};
 }
 
 QString LabelChaine::Visible(const QString &libelle)
 {
-    constexpr char16_t suppression = 0x7F;
-    constexpr char16_t imageSuppression = 0x2421;
-    QString visible = ControlesVisibles(libelle);
-    visible.replace(QChar(suppression), QChar(imageSuppression));
+    QString visible;
+    for (const QChar caractere : libelle) {
+        const QString nom = caractere == u' ' ? QString() : NomCaractere(caractere.unicode());
+        visible += nom.isEmpty() ? QString(caractere) : u'<' + nom + u'>';
+    }
     return visible.replace(QLatin1String("&&"), QLatin1String("&"));
+}
+
+QString LabelChaine::NomCaractere(int code)
+{
+    constexpr int suppression = 127;
+    if (code < static_cast<int>(std::size(Noms)))
+        return QLatin1String(Noms[code]);
+    return code == suppression ? QStringLiteral("DEL") : QString();
 }
 
 void LabelChaine::paintEvent(QPaintEvent *evenement)
 {
     QFrame::paintEvent(evenement);
-    QPainter peintre(this);
-    peintre.setPen(palette().color(foregroundRole()));
     const QRect cadre = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     const QString visible = Visible(text());
+    const auto lignes = Lignes(visible, font(), cadre.width());
     const int pas = fontMetrics().lineSpacing();
-
-    QTextLayout page(visible, font());
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAnywhere);
-    page.setTextOption(option);
-    page.beginLayout();
+    const int tiennent = qMax(1, cadre.height() / pas);
+    const int montrees = qMin(tiennent, static_cast<int>(lignes.size()));
     int haut = cadre.top();
-    for (QTextLine ligne = page.createLine(); ligne.isValid(); ligne = page.createLine()) {
-        ligne.setLineWidth(cadre.width());
-        const bool derniere = haut + 2 * pas > cadre.bottom() + 1;
-        const QString morceau =
-            derniere ? fontMetrics().elidedText(visible.mid(ligne.textStart()), Qt::ElideRight, cadre.width())
-                     : visible.mid(ligne.textStart(), ligne.textLength());
-        peintre.drawText(cadre.left(), haut + fontMetrics().ascent(), morceau);
-        haut += pas;
-        if (derniere)
-            break;
+    if (alignment() & Qt::AlignVCenter)
+        haut += qMax(0, cadre.height() - montrees * pas) / 2;
+
+    QPainter peintre(this);
+    peintre.setPen(palette().color(foregroundRole()));
+    for (int i = 0; i < montrees; ++i, haut += pas) {
+        const auto &[debut, longueur] = lignes[i];
+        const bool coupe = i + 1 == montrees && montrees < lignes.size();
+        peintre.drawText(cadre.left(), haut + fontMetrics().ascent(),
+                         coupe ? fontMetrics().elidedText(visible.mid(debut), Qt::ElideRight, cadre.width())
+                               : visible.mid(debut, longueur));
     }
-    page.endLayout();
 }

@@ -228,7 +228,7 @@ void Seance::Termine()
         FinTransfert = 1;
         BoutonFermer(*m_dialogue.Command4);
     }
-    frmPrinc->File1->Refresh();
+    frmPrinc->ActualiseFichiers();
 }
 
 void Seance::SauveReste() const

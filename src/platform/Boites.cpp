@@ -6,6 +6,7 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -50,6 +51,22 @@ void Elargit(QMessageBox &boite)
                     grille->columnCount());
 }
 
+/// Keeps Escape and the close button from a box.
+class SansEchappatoire : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *evenement) override
+    {
+        const bool echap =
+            evenement->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Escape;
+        if (evenement->type() == QEvent::Close)
+            evenement->ignore();
+        return echap || evenement->type() == QEvent::Close;
+    }
+};
+
 } // namespace
 
 Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
@@ -67,6 +84,8 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
         boite.setDefaultButton((drapeaux & Boite::SecondBouton) != 0 ? QMessageBox::No : QMessageBox::Yes);
         boite.setEscapeButton(QMessageBox::No);
     }
+    if ((drapeaux & Boite::ChoixExige) != 0)
+        boite.installEventFilter(new SansEchappatoire(&boite));
     Elargit(boite);
     const int choix = boite.exec();
     return !ouiNon ? Reponse::Ok : choix == QMessageBox::Yes ? Reponse::Oui : Reponse::Non;

@@ -13,13 +13,13 @@ constexpr int Question = 32;      ///< question icon
 constexpr int Exclamation = 48;   ///< exclamation icon
 constexpr int Information = 64;   ///< information icon
 constexpr int SecondBouton = 256; ///< the second button is the default one
+constexpr int ChoixExige = 1024;  ///< Escape and the close button answer nothing: one of the buttons has to
 } // namespace Boite
 
 enum class Reponse { Ok, Oui, Non };
 
 /// Shows texte in a box named "MsgBox" and waits for the answer. drapeaux: constants of Boite, added up.
-/// A line end in texte is CR LF or a single CR. Closing the box by its close button answers No, or OK where there is no
-/// No.
+/// A line end in texte is CR LF or a single CR. Escape and the close button answer No, or OK where there is no No.
 Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre);
 
 /// True when the operator answers Yes to a box with Yes and No. drapeaux: icon and default button.

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGroupBox>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -38,6 +40,29 @@ int Place(const QStringList &filtres, const QString &choisi)
     return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
 }
 
+/// Proposes a PDF file that bears the document's name, in the folder of the last one: the toolkit proposes no name, or
+/// that of the document printed before.
+void ProposeFichier(QPrintDialog &dialogue, const QString &document)
+{
+    auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
+    if (fichier == nullptr || document.isEmpty())
+        return;
+    const QString nom = QFileInfo(document).completeBaseName() + QLatin1String(".pdf");
+    fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
+}
+
+/// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted.
+void CacheEtendues(QPrintDialog &dialogue)
+{
+    const auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
+    const auto choix = etendues == nullptr ? QList<QWidget *>() : etendues->findChildren<QWidget *>();
+    for (QWidget *widget : choix) {
+        const QString nom = widget->objectName();
+        if (nom != QLatin1String("printAll") && nom != QLatin1String("printSelection"))
+            widget->hide();
+    }
+}
+
 } // namespace
 
 CommonDialog::CommonDialog(QObject *parent)
@@ -59,7 +84,8 @@ void CommonDialog::ShowSave()
 
 void CommonDialog::DemandeFichier(bool enregistrement)
 {
-    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir);
+    // Without a folder this toolkit's dialog would open where it was last used.
+    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir.isEmpty() ? QDir::currentPath() : InitDir);
     // The system's own dialog would speak the system's language and not the operator's.
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
@@ -98,6 +124,8 @@ void CommonDialog::DemandeCopies()
     QPrinter &imprimante = Imprimante();
     QPrintDialog dialogue(&imprimante, FenetreAppelante());
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
+    ProposeFichier(dialogue, imprimante.docName());
+    CacheEtendues(dialogue);
     if ((Flags & Selection) != 0) {
         dialogue.setOption(QAbstractPrintDialog::PrintSelection);
         dialogue.setPrintRange(QAbstractPrintDialog::Selection);

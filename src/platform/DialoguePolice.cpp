@@ -2,12 +2,25 @@
 
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QFontInfo>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
+namespace {
+
+/// police under the name that it has in the list of fonts: "monospace" and the like are names for another one, and
+/// would lose their style there.
+QFont Nommee(QFont police)
+{
+    police.setFamily(QFontInfo(police).family());
+    return police;
+}
+
+} // namespace
+
 DialoguePolice::DialoguePolice(const QFont &police, const QColor &couleur, QWidget *parent)
-    : QFontDialog(police, parent)
+    : QFontDialog(Nommee(police), parent)
     , m_bouton(new QPushButton(QColorDialog::tr("Select Color")))
 {
     // The system's own dialog would speak the system's language, and has no room for the colour.
@@ -21,9 +34,11 @@ DialoguePolice::DialoguePolice(const QFont &police, const QColor &couleur, QWidg
 
 void DialoguePolice::DemandeCouleur()
 {
-    const QColor choisie = QColorDialog::getColor(m_couleur, this, m_bouton->text(), QColorDialog::DontUseNativeDialog);
-    if (choisie.isValid())
-        MontreCouleur(choisie);
+    QColorDialog dialogue(m_couleur, this);
+    dialogue.setObjectName(QStringLiteral("ChoixCouleur"));
+    dialogue.setOption(QColorDialog::DontUseNativeDialog);
+    if (dialogue.exec() == Accepted)
+        MontreCouleur(dialogue.selectedColor());
 }
 
 void DialoguePolice::MontreCouleur(const QColor &couleur)

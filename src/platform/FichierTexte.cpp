@@ -56,7 +56,7 @@ try {
     if (fichier.size() > tailleMax)
         throw Erreur(Erreur::MemoireInsuffisante, chemin);
     errno = 0;
-    const QByteArray octets = fichier.readAll();
+    QByteArray octets = fichier.readAll();
     if (fichier.error() != QFileDevice::NoError)
         Echoue(fichier, errno);
     return octets;

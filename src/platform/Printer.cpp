@@ -7,7 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPrinter>
+#include <QScreen>
 #include <QTextLayout>
 
 namespace {
@@ -44,7 +46,9 @@ void Printer::Print(const QString &texte)
     CommenceTravail();
     const QFontMetricsF metrique(Font, &m_reglages);
     m_hauteur = metrique.lineSpacing();
-    m_option.setTabStopDistance(colonnesTabulation * metrique.horizontalAdvance(u' '));
+    // The layout of text wants its tab stops in the screen's dots and makes them the printer's itself.
+    const double echelle = QGuiApplication::primaryScreen()->logicalDotsPerInchY() / m_reglages.logicalDpiY();
+    m_option.setTabStopDistance(colonnesTabulation * metrique.horizontalAdvance(u' ') * echelle);
     const QString lignes = PourAffichage(texte);
     int numero = 0;
     for (const QStringView ligne : qTokenize(lignes, u'\n')) {

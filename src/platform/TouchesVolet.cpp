@@ -5,19 +5,22 @@
 
 namespace {
 
-/// AltGr, which types characters, comes as Ctrl with Alt on some systems.
-bool EstAvecCtrl(const QKeyEvent &touche)
+/// Ctrl or Alt alone. AltGr, which types characters, comes as both on some systems.
+bool EstAvec(const QKeyEvent &touche, Qt::KeyboardModifier seul)
 {
-    return (touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
+    return (touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == seul;
 }
 
 } // namespace
 
 bool EstRaccourciDuMenu(const QKeyEvent &touche)
 {
+    if (EstAvec(touche, Qt::AltModifier))
+        return !touche.text().isEmpty() && touche.text().front().isPrint();
     constexpr std::array DuVolet{Qt::Key_A, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
     const bool lettre = touche.key() >= Qt::Key_A && touche.key() <= Qt::Key_Z;
-    return EstAvecCtrl(touche) && lettre && std::find(DuVolet.begin(), DuVolet.end(), touche.key()) == DuVolet.end();
+    return EstAvec(touche, Qt::ControlModifier) && lettre &&
+           std::find(DuVolet.begin(), DuVolet.end(), touche.key()) == DuVolet.end();
 }
 
 bool EstEntree(const QKeyEvent &touche)
@@ -29,7 +32,7 @@ bool EstEntree(const QKeyEvent &touche)
 bool DonneUnCaractere(const QKeyEvent &touche)
 {
     constexpr std::array<char16_t, 4> Commandes{u'\r', u'\n', u'\t', u'\b'};
-    if (touche.text().isEmpty() || EstAvecCtrl(touche))
+    if (touche.text().isEmpty() || EstAvec(touche, Qt::ControlModifier))
         return false;
     const QChar c = touche.text().front();
     return c.isPrint() || std::find(Commandes.begin(), Commandes.end(), c.unicode()) != Commandes.end();

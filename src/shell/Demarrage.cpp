@@ -45,6 +45,7 @@ void LisReglages()
 {
     if (FichierExiste(CheminIni())) {
         LisIni();
+        AppliqueLangueSysteme(); // for the buttons of a box that the start itself may show
         return;
     }
     IniParDefaut();
@@ -74,11 +75,12 @@ bool TexteModifie()
     return !frmPrinc->Text1->EstVide() && FichierModifie == Vrai;
 }
 
+/// Nothing more is asked when the window closes: a stroke of Escape must not be what loses the text.
 bool DemandeEnregistrement(const QuestionFin &question)
 {
     return Confirme(Texte(FichierAvant) + NomFichier + Texte(FichierApres) + QStringLiteral("\r\n") +
                         Texte(question.question),
-                    Boite::Exclamation, Texte(question.titre));
+                    Boite::Exclamation | Boite::ChoixExige, Texte(question.titre));
 }
 
 /// Saves under the document's own name; a text without one cannot be saved here.

@@ -89,8 +89,8 @@ void ChoisitDosDefaut()
     QDir::setCurrent(DosDefaut);
     if (!ListeUnFichier(DosDefaut))
         DosDefaut = DossierApplication();
-    if (frmPrinc->CheckDOS->isChecked())
-        DosDefaut = frmPrinc->FolderTreeview1->SelectedFolder();
+    if (const auto applique = frmPrinc->DossierApplique())
+        DosDefaut = *applique;
 }
 
 void ProposeTraitementDeTexte()
@@ -200,6 +200,7 @@ void Mnu_EnregistrerSous()
     const Noms anciens;
     try {
         dialogue.FileName = NomFichier;
+        dialogue.InitDir = DosDefaut; // for a name without a folder; the last choice may have been a configuration's
         dialogue.CancelError = true;
         dialogue.DialogTitle = Texte(TitreEnregistrer);
         dialogue.Filter = Texte(FiltreEnregistrer);

@@ -5,6 +5,7 @@
 #include "platform/Boites.h"
 #include "platform/Dossiers.h"
 #include "platform/Erreur.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
@@ -14,11 +15,6 @@
 #include <QDir>
 
 namespace {
-
-/// The filters offered; the first is in force when the window is made.
-const QStringList Motifs =
-    QStringLiteral("*.* *.iso *.rub *.cn *.xcn *.txt *.asc *.xpi *.jau *.cor *.prg *.cnc *.rrr *.qqq *.h *.rtf")
-        .split(u' ');
 
 constexpr Texte3 BulleFerme{u"Afficher l'explorateur de fichiers", u"View explorer files",
                             u"Indicar el explorador de ficheros"};
@@ -55,13 +51,19 @@ QString SansSeparateur(const QString &dossier)
     return QDir::toNativeSeparators(QDir::cleanPath(dossier));
 }
 
+/// Shows the files of the selected folder, read anew; where that cannot be listed, the files shown stay.
+void FolderTreeview1_Click()
+{
+    Saute([] { frmPrinc->Frame1->File1->setPath(frmPrinc->Frame1->FolderTreeview1->SelectedFolder()); });
+}
+
 /// The column starts in the folder where programs are opened; when that has gone (a USB key), in the application
 /// folder.
 void PointeDossier()
 {
     if (DosDefaut.isEmpty())
         DosDefaut = DossierApplication();
-    FolderTreeview &arbre = *frmPrinc->FolderTreeview1;
+    FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
     arbre.Refresh();
     try {
         arbre.setSelectedFolder(DosDefaut);
@@ -73,9 +75,9 @@ void PointeDossier()
 
 void Combo1_Change()
 {
-    FileListBox &fichiers = *frmPrinc->File1;
+    FileListBox &fichiers = *frmPrinc->Frame1->File1;
     try {
-        fichiers.setPattern(frmPrinc->Combo1->currentText());
+        fichiers.setPattern(frmPrinc->Frame1->Combo1->currentText());
     } catch (const Erreur &) {
         MsgBox(Texte(FiltreIncorrect), Boite::Exclamation, Texte(ErreurTitre));
         fichiers.setPattern(QStringLiteral("*.*"));
@@ -85,13 +87,13 @@ void Combo1_Change()
 /// Opens the file that the list shows: its own folder is the selected one, but where that could not be listed.
 void File1_DblClick()
 {
-    OuvreDocument(AjouteAntislash(frmPrinc->File1->Path()) + frmPrinc->File1->FileName());
+    OuvreDocument(AjouteAntislash(frmPrinc->Frame1->File1->Path()) + frmPrinc->Frame1->File1->FileName());
 }
 
 /// Creates a folder in the selected one.
 void Command1_Click()
 {
-    FolderTreeview &arbre = *frmPrinc->FolderTreeview1;
+    FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
     const QString dossier = arbre.SelectedFolder();
     if (dossier.isEmpty())
         return;
@@ -111,7 +113,7 @@ void Command1_Click()
 /// Deletes the selected folder. The folder above is selected afterwards, whatever the operator answered.
 void Command2_Click()
 {
-    FolderTreeview &arbre = *frmPrinc->FolderTreeview1;
+    FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
     const QString dossier = arbre.SelectedFolder();
     if (dossier.isEmpty()) {
         MsgBox(Texte(AucunDossier), Boite::Exclamation, Texte(ErreurTitre));
@@ -134,7 +136,7 @@ void Command2_Click()
 /// Renames the selected folder: the operator edits its whole path.
 void Command4_Click()
 {
-    FolderTreeview &arbre = *frmPrinc->FolderTreeview1;
+    FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
     const QString dossier = SansSeparateur(arbre.SelectedFolder());
     if (dossier.isEmpty() || EstRacine(dossier)) {
         MsgBox(Texte(NonRenommable), Boite::Information, Texte(NonRenommableTitre));
@@ -154,37 +156,34 @@ void Command4_Click()
     }
 }
 
-} // namespace
-
-void BrancheExplorateur()
+/// Makes the column and ties its controls to its commands.
+void CreeColonne()
 {
-    const auto branche = [](QPushButton *bouton, void (*routine)()) {
-        QObject::connect(bouton, &QPushButton::clicked, frmPrinc, routine);
+    const CadreExplorateur *const colonne = frmPrinc->CreeExplorateur();
+    const std::pair<QPushButton *, void (*)()> boutons[] = {
+        {colonne->Command1, Command1_Click},
+        {colonne->Command2, Command2_Click},
+        {colonne->Command3, [] { frmPrinc->MontreExplorateur(false); }},
+        {colonne->Command4, Command4_Click},
     };
-    branche(frmPrinc->Command1, Command1_Click);
-    branche(frmPrinc->Command2, Command2_Click);
-    branche(frmPrinc->Command3, [] { frmPrinc->MontreExplorateur(false); });
-    branche(frmPrinc->Command4, Command4_Click);
-    QObject::connect(frmPrinc->FolderTreeview1, &FolderTreeview::SelectionChange, frmPrinc, FolderTreeview1_Click);
-    QObject::connect(frmPrinc->FolderTreeview1, &FolderTreeview::Click, frmPrinc, FolderTreeview1_Click);
-    QObject::connect(frmPrinc->File1, &FileListBox::DblClick, frmPrinc, File1_DblClick);
-    frmPrinc->Combo1->addItems(Motifs);
-    // A completion would put a filter in force that the operator has not typed.
-    frmPrinc->Combo1->setCompleter(nullptr);
-    QObject::connect(frmPrinc->Combo1, &QComboBox::editTextChanged, frmPrinc, Combo1_Change);
+    for (const auto &[bouton, routine] : boutons)
+        QObject::connect(bouton, &QPushButton::clicked, frmPrinc, routine);
+    QObject::connect(colonne->FolderTreeview1, &FolderTreeview::SelectionChange, frmPrinc, FolderTreeview1_Click);
+    QObject::connect(colonne->FolderTreeview1, &FolderTreeview::Click, frmPrinc, FolderTreeview1_Click);
+    QObject::connect(colonne->File1, &FileListBox::DblClick, frmPrinc, File1_DblClick);
+    QObject::connect(colonne->Combo1, &QComboBox::editTextChanged, frmPrinc, Combo1_Change);
 }
+
+} // namespace
 
 void Mnu_AffichDOS()
 {
     AppliqueLangue();
-    const bool montre = frmPrinc->Frame1->isHidden();
+    const bool montre = !frmPrinc->ExplorateurMontre();
+    if (frmPrinc->Frame1 == nullptr)
+        CreeColonne();
     if (montre)
         PointeDossier();
     frmPrinc->MontreExplorateur(montre);
     PoseBulle(frmPrinc->Bouton(15), Texte(montre ? BulleOuvert : BulleFerme));
-}
-
-void FolderTreeview1_Click()
-{
-    Saute([] { frmPrinc->File1->setPath(frmPrinc->FolderTreeview1->SelectedFolder()); });
 }

@@ -1,9 +1,11 @@
 #include "shell/FrmPrinc.h"
 
 #include "locale/Langue.h"
+#include "locale/Legendes.h"
 #include "platform/CommonDialog.h"
 #include "platform/Icone.h"
 #include "platform/MSComm.h"
+#include "shell/CadreExplorateur.h"
 
 #include <QCloseEvent>
 #include <QToolButton>
@@ -34,13 +36,6 @@ constexpr const char *IconesBoutons[] = {"Mnu_Ouvrir",     "Mnu_EnregistrerSous"
                                          "Mnu_RecepBanc",  nullptr,
                                          "Mnu_AffichDOS",  "Mnu_Aide",
                                          "Mnu_Apropos"};
-
-// The buttons of the explorer column, which have no entry in the menus.
-constexpr std::pair<QPushButton * Ui_FrmPrinc::*, const char *> IconesExplorateur[] = {
-    {&Ui_FrmPrinc::Command1, "Dossier_Creer"},
-    {&Ui_FrmPrinc::Command2, "Dossier_Supprimer"},
-    {&Ui_FrmPrinc::Command3, "Explorateur_Fermer"},
-    {&Ui_FrmPrinc::Command4, "Dossier_Renommer"}};
 
 QIcon IconeProgramme(const char *nom)
 {
@@ -77,6 +72,7 @@ FrmPrinc::FrmPrinc()
     UpdateTimer.start(1000ms);
     Timer2.start(5000ms);
     DitLampes();
+    Text1->setFocus(); // or the keys would first go to the explorer's buttons, and the space bar to the first of them
     frmPrinc = this;
 }
 
@@ -105,8 +101,6 @@ void FrmPrinc::PoseIcones()
         if (QAction *const bouton = Bouton(++position))
             bouton->setIcon(IconeProgramme(icone));
     }
-    for (const auto &[bouton, icone] : IconesExplorateur)
-        (this->*bouton)->setIcon(IconeProgramme(icone));
 }
 
 QAction *FrmPrinc::Bouton(int position) const
@@ -132,6 +126,32 @@ void FrmPrinc::ActiveReception()
     Mnu_Transfert->setEnabled(true);
     for (QAction *action : {Mnu_RecepProg, Mnu_RecepJauge, Mnu_RecepBanc, Bouton(10), Bouton(12), Bouton(13)})
         action->setEnabled(true);
+}
+
+CadreExplorateur *FrmPrinc::CreeExplorateur()
+{
+    Frame1 = new CadreExplorateur(Centre);
+    milieu->insertWidget(0, Frame1);
+    AppliqueLegendes(this);
+    return Frame1;
+}
+
+bool FrmPrinc::ExplorateurMontre() const
+{
+    return Frame1 != nullptr && !Frame1->isHidden();
+}
+
+std::optional<QString> FrmPrinc::DossierApplique() const
+{
+    if (Frame1 == nullptr || !Frame1->CheckDOS->isChecked())
+        return std::nullopt;
+    return Frame1->FolderTreeview1->SelectedFolder();
+}
+
+void FrmPrinc::ActualiseFichiers()
+{
+    if (Frame1 != nullptr)
+        Frame1->File1->Refresh();
 }
 
 void FrmPrinc::MontreExplorateur(bool montre)

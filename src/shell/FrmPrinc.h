@@ -5,6 +5,9 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <optional>
+
+class CadreExplorateur;
 class CommonDialog;
 class MSComm;
 
@@ -15,7 +18,7 @@ extern bool PortOuvert;
 /// Its commands are tied to it from above (Menus). Its controls are read by name from the whole program.
 ///
 /// Label1, Label3, Label5 are the captions of Label2 (file), Label4 (configuration) and Label6 (its comment); Text1 is
-/// the program, Text2 what a reception by file has gathered; Picture11 is the status panel, Frame1 the explorer column.
+/// the program, Text2 what a reception by file has gathered; Picture11 is the status panel.
 class FrmPrinc : public QMainWindow, public Ui::FrmPrinc
 {
     Q_OBJECT
@@ -24,10 +27,11 @@ public:
     FrmPrinc();
     ~FrmPrinc() override;
 
-    MSComm *const MSComm1;             ///< the one serial line
-    CommonDialog *const CommonDialog1; ///< the file dialog that all commands share
-    QTimer UpdateTimer;                ///< 1000 ms: the lamps follow the port
-    QTimer Timer2;                     ///< 5000 ms, once: clears Etat
+    MSComm *const MSComm1;              ///< the one serial line
+    CommonDialog *const CommonDialog1;  ///< the file dialog that all commands share
+    CadreExplorateur *Frame1 = nullptr; ///< the explorer column; none before CreeExplorateur
+    QTimer UpdateTimer;                 ///< 1000 ms: the lamps follow the port
+    QTimer Timer2;                      ///< 5000 ms, once: clears Etat
 
     /// Shows a state of the port in Etat; Timer2 clears it.
     void MontreEtat(const QString &message);
@@ -51,7 +55,20 @@ public:
     /// The toolbar button at a position, 1 to 17; nullptr for the separators 7 and 14 and for any other number.
     QAction *Bouton(int position) const;
 
-    /// Opens or closes the explorer column, with the menu entry and button 15 that follow it.
+    /// Makes the explorer column, in the language. Its first opening does so, since many operators never open it and
+    /// the program starts the sooner without it.
+    CadreExplorateur *CreeExplorateur();
+
+    bool ExplorateurMontre() const;
+
+    /// The folder of the column that the operator applies to the opening and the reception of programs (CheckDOS); none
+    /// while he applies none.
+    std::optional<QString> DossierApplique() const;
+
+    /// Reads the files of the column anew: a program has come in.
+    void ActualiseFichiers();
+
+    /// Shows or hides the explorer column, which has been made, with the menu entry and button 15 that follow it.
     void MontreExplorateur(bool montre);
 
     /// Checks the entry of LangIndex in the language menu and names the three languages in that language.

@@ -52,8 +52,8 @@ constexpr Commande Commandes[] = {
     {&Ui_FrmPrinc::Mnu_ChargeConf, 8, Mnu_ChargeConf},
     {&Ui_FrmPrinc::Mnu_CreConf, 0, Mnu_CreConf},
     {&Ui_FrmPrinc::Mnu_ModifConf, 0, Mnu_ModifConf},
-    {&Ui_FrmPrinc::Mnu_DosRecep, 0, Mnu_DosRecep},
     {&Ui_FrmPrinc::Mnu_FermePortCom, 0, Mnu_FermePortCom},
+    {&Ui_FrmPrinc::Mnu_DosRecep, 0, Mnu_DosRecep},
     {&Ui_FrmPrinc::Mnu_EmisProgCN, 9, Mnu_EmisProgCN},
     {&Ui_FrmPrinc::Mnu_EmisJauge, 11, Mnu_EmisJauge},
     {&Ui_FrmPrinc::Mnu_RecepProg, 10, Mnu_RecepProg},
@@ -75,7 +75,6 @@ void Branche()
 {
     BrancheDocument();
     BrancheEdition();
-    BrancheExplorateur();
     BrancheAide();
     Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {

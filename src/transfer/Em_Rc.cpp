@@ -18,6 +18,7 @@
 #include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
 
+#include <QKeyEvent>
 #include <QShowEvent>
 
 #include <algorithm>
@@ -121,6 +122,7 @@ Em_Rc::Em_Rc(QWidget *parent)
         politique.setRetainSizeWhenHidden(true);
         passager->setSizePolicy(politique);
     }
+    Command2->installEventFilter(this);
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
@@ -137,8 +139,9 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     QDialog::showEvent(evenement);
     if (evenement->spontaneous())
         return;
-    CentreFeuille(this);
     Form_Activate();
+    adjustSize(); // a long comment of the configuration takes lines
+    CentreFeuille(this);
 }
 
 void Em_Rc::Form_Activate()
@@ -207,8 +210,6 @@ void Em_Rc::Command1_Click()
     if (FinTransfert == 1 && ParamCom.TypeRecep != RecepFichier)
         OuvreFichierRecu();
     reject();
-    if (FinTransfert == 1)
-        frmPrinc->File1->Refresh();
 }
 
 void Em_Rc::Command2_Click()
@@ -230,6 +231,7 @@ void Em_Rc::Command3_Click()
 {
     ChargeAutreConfiguration([this] {
         MontreConfigurationChoisie();
+        adjustSize();
         ChoisitFinLigneRecep();
     });
 }
@@ -253,6 +255,34 @@ void Em_Rc::Command7_Click()
         ForceRECEPT = 1;
 }
 
+/// A stroke that follows another within a second is the same heavy hand. The system does not mark every repetition as
+/// one.
+bool Em_Rc::MainLourde(const QKeyEvent &touche)
+{
+    constexpr qint64 repos = 1000; // milliseconds; a keyboard begins to repeat after some 600
+    if (touche.key() != Qt::Key_Return && touche.key() != Qt::Key_Enter && touche.key() != Qt::Key_Space)
+        return false;
+    const bool repetee = touche.isAutoRepeat() || (m_coup.isValid() && !m_coup.hasExpired(repos));
+    m_coup.start();
+    return repetee;
+}
+
+/// A short program has gone between the two strokes of a double click, and would go many times over while a hand leans
+/// on Enter.
+bool Em_Rc::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const bool encore = evenement->type() == QEvent::MouseButtonDblClick ||
+                        (evenement->type() == QEvent::KeyPress && MainLourde(*static_cast<QKeyEvent *>(evenement)));
+    return (objet == Command2 && encore) || QDialog::eventFilter(objet, evenement);
+}
+
+/// From any other place of the dialog Enter means Command2 too.
+void Em_Rc::keyPressEvent(QKeyEvent *evenement)
+{
+    if (!MainLourde(*evenement))
+        QDialog::keyPressEvent(evenement);
+}
+
 void Em_Rc::done(int resultat)
 {
     // The end of a bench reception is the one close that does not cancel.
@@ -260,6 +290,8 @@ void Em_Rc::done(int resultat)
         AnnuleRECEPT = 1;
     Form_Unload();
     QDialog::done(resultat);
+    if (FinTransfert == 1)
+        frmPrinc->ActualiseFichiers();
 }
 
 void Em_Rc::Form_Unload()

@@ -5,6 +5,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/CedeLaMain.h"
+#include "platform/Erreur.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
 #include "platform/PageCode1252.h"
@@ -25,7 +26,6 @@ constexpr Texte3 FinDeTransfert{u"Emission fin de transfert", u"Sending end of t
 constexpr Texte3 Succes{u"Transfert terminé avec succès !", u"Transfer finished successfully !",
                         u"Transferencia terminada con éxito !"};
 
-constexpr int DebordementReception = 1008;
 constexpr int BlocParDefaut = 512; // for a configuration whose transmit buffer holds nothing
 
 /// One sending: the steps that both ways share, and the progress that the operator sees.
@@ -179,12 +179,7 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
         emission.Fin();
         Termine(dialogue);
     } catch (const Erreur &erreur) {
-        // This road alone writes the word with a capital.
-        constexpr char16_t debordement[] = u"Capacity overshooting of the buffer zone of Receiving.";
-        if (erreur.Numero() == DebordementReception && LangIndex == 1)
-            ErreurPortCOM(erreur, QString::fromUtf16(debordement), dialogue);
-        else
-            ErreurPortCOM(erreur, dialogue);
+        ErreurPortCOM(erreur, dialogue);
     }
 }
 

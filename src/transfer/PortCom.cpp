@@ -176,12 +176,7 @@ void MontreLabelsEcho(Ui::Em_Rc &dialogue)
 
 void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue)
 {
-    ErreurPortCOM(erreur, TexteErreurPort(erreur), dialogue);
-}
-
-void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialogue)
-{
-    MontreErreur(erreur, texte);
+    MontreErreur(erreur, TexteErreurPort(erreur));
     FermePortCOM(dialogue);
 }
 

@@ -21,9 +21,6 @@ void FermePortCOM(Ui::Em_Rc &dialogue);
 /// The end of a transfer routine that failed: tells the operator and closes the port.
 void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue);
 
-/// Same, with another text than the number's own.
-void ErreurPortCOM(const Erreur &erreur, const QString &texte, Ui::Em_Rc &dialogue);
-
 /// The operator's cancel: if the port is open, closes it and says so in Label2 of the dialog. Nothing is told of a
 /// failure.
 void CoupePortCOM(Ui::Em_Rc &dialogue);

@@ -88,8 +88,8 @@ void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
     QString &reception = Dossier();
-    if (frmPrinc->CheckDOS->isChecked())
-        reception = frmPrinc->FolderTreeview1->SelectedFolder();
+    if (const auto applique = frmPrinc->DossierApplique())
+        reception = *applique;
     MontreDossier();
 }
 
@@ -134,7 +134,7 @@ void Rc_Fic::Command1_Click()
 {
     reject();
     frmPrinc->Text2->hide();
-    frmPrinc->File1->Refresh();
+    frmPrinc->ActualiseFichiers();
 }
 
 void Rc_Fic::Command3_Click()

@@ -125,21 +125,25 @@ void PrepareFichier(Ui::Em_Rc &dialogue)
 void AttendFichier(Ui::Em_Rc &dialogue)
 {
     const QScopedValueRollback<Ui::Em_Rc *> ecoute(enAttente, &dialogue);
-    do {
+    while (true) {
         CedeLaMain();
+        if (FinTransfert == 1 || AnnuleRECEPT == 1)
+            return;
         if (ForceRECEPT == 1) {
             // What is too little to raise an event has come all the same.
             Prend();
-            FinTrouvee();
             Controle().ViderReception();
+            FinTrouvee();
             FinTransfert = 1;
-        } else if (Controle().PortOpen()) {
-            Controle().ExigeVivant();
-            // The event of characters that came before this wait has gone by.
-            if (ParamCom.SeuilRecep > 0 && Controle().InBufferCount() >= ParamCom.SeuilRecep)
-                RecolteFichier();
+            return;
         }
-    } while (FinTransfert != 1 && AnnuleRECEPT != 1);
+        if (!Controle().PortOpen())
+            continue;
+        Controle().ExigeVivant();
+        // The event of characters that came before this wait has gone by.
+        if (ParamCom.SeuilRecep > 0 && Controle().InBufferCount() >= ParamCom.SeuilRecep)
+            RecolteFichier();
+    }
 }
 
 /// panneau: where the received text stands.
@@ -166,6 +170,10 @@ void TermineFichier(Ui::Em_Rc &dialogue)
     frmPrinc->EteintTransfert();
     PoseTexte(dialogue.Label2, Reussi);
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
+    // A file that was too large to be shown may have hidden the pane and its commands.
+    frmPrinc->Text1->show();
+    if (!NomFichier.isEmpty())
+        frmPrinc->ActiveFichier(true);
     try {
         EcritFichierRecu(frmPrinc->Text1->Text());
     } catch (const Erreur &erreur) {
@@ -179,6 +187,7 @@ void TermineFichier(Ui::Em_Rc &dialogue)
 
 void AnnuleFichier(Ui::Em_Rc &dialogue)
 {
+    FinTransfert = 0; // the end may have been found just before
     MsgBox(QStringLiteral("AnnuleRECEPT% = 1"), 0, Texte(BoiteAnnulation));
     FermePortCOM(dialogue);
     PoseTexte(dialogue.Label2, Annule2);
@@ -209,7 +218,7 @@ void ReceptionFichier(Ui::Em_Rc &dialogue)
 
 void RecolteFichier()
 {
-    if (ParamCom.TypeRecep != RecepFichier || enAttente == nullptr || enRecolte)
+    if (ParamCom.TypeRecep != RecepFichier || enAttente == nullptr || enRecolte || FinTransfert == 1)
         return;
     const QScopedValueRollback<bool> recolte(enRecolte, true);
     Recolte(*enAttente);

@@ -13,5 +13,6 @@ class Em_Rc;
 void ReceptionFichier(Ui::Em_Rc &dialogue);
 
 /// A receive event has come: gathers all that arrives until the end-of-transfer string, a forced end or a cancel, and
-/// returns. It does nothing unless ReceptionFichier() waits, nor while it is already gathering further down the stack.
+/// returns. It does nothing unless ReceptionFichier() waits, nor while it is already gathering further down the stack,
+/// nor behind the end: what a machine sends after its end-of-transfer string is no part of the file.
 void RecolteFichier();

@@ -3,7 +3,7 @@
 
 #include "comconfig/FrmConfDem.h"
 #include "comconfig/ParamCom.h"
-#include "locale/Langue.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -16,33 +16,63 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr char Ini[] = "Dorvanel.ini";
-constexpr char Fenetre[] = "FrmConfDem";
 
-/// What the dialog shows: the two folders and the configuration, and which boxes are ticked.
-QString Montre(const QWidget &fenetre)
+/// A workstation and its operator at the start-up options. "%1" in a text stands for the application folder.
+struct Atelier : Poste, Operateur
 {
-    const auto &dialogue = dynamic_cast<const FrmConfDem &>(fenetre);
-    const QCheckBox *const cases[] = {dialogue.Check1, dialogue.Check2, dialogue.Check3};
-    QStringList montre{dialogue.LblDos->text(), dialogue.LblNomConf->text(), dialogue.LabelDosConf->text()};
-    for (const QCheckBox *coche : cases)
-        montre << (coche->isChecked() ? u"oui"_s : u"non"_s);
-    return montre.join(u'|');
-}
+    Atelier()
+        : Poste(0)
+    {
+        for (const QString &nom : {u"Pieces"_s, u"Conf"_s})
+            QDir(Dossier()).mkpath(nom);
+    }
 
-void Coche(QWidget &fenetre, bool cochees)
-{
-    for (QCheckBox *coche : fenetre.findChildren<QCheckBox *>())
-        coche->setChecked(cochees);
-}
+    void Coche(const QString &cases)
+    {
+        Fait("FrmConfDem", [cases](QWidget &fenetre) {
+            for (QCheckBox *coche : fenetre.findChildren<QCheckBox *>())
+                coche->setChecked(cases.contains(coche->objectName().back()));
+        });
+    }
 
-/// The folder on which the next file dialog opens; it is cancelled.
-void LitDossierOffert(Operateur &operateur, QString &offert)
-{
-    operateur.Fait("CommonDialog", [&offert](QWidget &dialogue) {
-        offert = dynamic_cast<QFileDialog &>(dialogue).directory().path();
-        dynamic_cast<QDialog &>(dialogue).reject();
-    });
-}
+    /// What the dialog shows: its two folders and the configuration, and the numbers of the boxes that are ticked.
+    void Montre(const QString &attendu)
+    {
+        Fait("FrmConfDem", [this, attendu](QWidget &fenetre) {
+            const auto &d = dynamic_cast<const FrmConfDem &>(fenetre);
+            QString montre = d.LblDos->text() + u'|' + d.LblNomConf->text() + u'|' + d.LabelDosConf->text() + u'|';
+            for (const QCheckBox *coche : {d.Check1, d.Check2, d.Check3})
+                montre += coche->isChecked() ? coche->objectName().back() : QChar(u'-');
+            QCOMPARE(montre, attendu.arg(Dossier()));
+        });
+    }
+
+    /// Presses a button whose file dialog opens on a folder, and takes a path there; "" cancels.
+    void Parcourt(const char *bouton, const QString &offert, const QString &prend)
+    {
+        if (bouton != nullptr)
+            Presse("FrmConfDem", bouton);
+        Fait("CommonDialog", [this, offert, prend](QWidget &fenetre) {
+            auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
+            QCOMPARE(dialogue.directory().path(), offert.arg(Dossier()));
+            if (prend.isEmpty())
+                dialogue.reject();
+        });
+        if (!prend.isEmpty())
+            Choisit(Chemin(prend));
+    }
+
+    void Ouvre()
+    {
+        Presse("FrmConfDem", "Command3");
+        Menu("Mnu_ConfigDemar");
+    }
+
+    void VerifieIni(QString attendu) const
+    {
+        QCOMPARE(Poste::Lit(Ini), attendu.replace(u"%1"_s, Dossier()).toLatin1());
+    }
+};
 
 } // namespace
 
@@ -52,135 +82,76 @@ class TestFrmConfDem : public QObject
 
 private Q_SLOTS:
     void ProchainDemarrage();
-    void Decoche();
-    void FermeSansEnregistrer();
-    void Langue();
+    void SansEnregistrer();
     void IniNonInscriptible();
 };
 
-// Everything chosen and saved: the running program goes on as it is, the next start does all of it.
+// Everything chosen and saved: the running program goes on as it is, the next start does all of it. Then all but the
+// configuration given up: a folder goes with its box, and an option without a file does nothing and says nothing.
 void TestFrmConfDem::ProchainDemarrage()
 {
-    Poste poste(0);
-    Operateur operateur;
-    for (const QString &nom : {u"Pieces été"_s, u"Conf"_s})
-        QDir(poste.Dossier()).mkpath(nom);
-    const QString complet = poste.Chemin("Conf/Tour.par");
-    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, complet));
-    const QString pieces = poste.Chemin(u"Pieces été"_s);
-
-    const std::pair<const char *, QString> choix[] = {
-        {"Command1", pieces}, {"Command2", complet}, {"Command5", poste.Chemin("Conf")}};
-    for (const auto &[bouton, chemin] : choix) {
-        operateur.Presse(Fenetre, bouton);
-        operateur.Choisit(chemin);
-    }
-    operateur.Fait(Fenetre, [](QWidget &fenetre) { Coche(fenetre, true); });
-    operateur.Presse(Fenetre, "Command4");
-    operateur.Fait(Fenetre, [&](QWidget &fenetre) {
-        QCOMPARE(Montre(fenetre), pieces + u'|' + complet + u'|' + poste.Chemin("Conf") + u"|oui|oui|oui"_s);
-    });
-    operateur.Presse(Fenetre, "Command3");
-    Operateur::Menu("Mnu_ConfigDemar");
-    const QByteArray ini =
-        u" 1 \r\n\"%1\"\r\n 1 \r\n\"%2\"\r\n 1 \r\n%3\r\n 0 \r\n"_s.arg(pieces, complet, poste.Chemin("Conf"))
-            .toLatin1();
-    QCOMPARE(poste.Lit(Ini), ini);
-    QVERIFY(frmPrinc->Frame1->isHidden() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
-
-    poste.Redemarre();
-    QCOMPARE(poste.Lit(Ini), ini);
-    QVERIFY(frmPrinc->Frame1->isVisible() && Operateur::Offre("Mnu_RecepProg"));
-    QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), pieces + u'/');
-    QCOMPARE(FicConf + u'|' + ParamCom.NomPort, complet + u"|Com3"_s);
-    QString offert;
-    LitDossierOffert(operateur, offert);
+    Atelier atelier;
+    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, atelier.Chemin("Conf/Tour.par")));
+    atelier.Parcourt("Command1", u"%1"_s, u"Pieces"_s);
+    atelier.Parcourt("Command2", u"%1"_s, u"Conf/Tour.par"_s);
+    atelier.Parcourt("Command5", u"%1"_s, u"Conf"_s);
+    atelier.Coche(u"123"_s);
+    atelier.Presse("FrmConfDem", "Command4");
+    atelier.Ouvre();
+    const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
+    atelier.VerifieIni(ini);
+    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+    atelier.Redemarre();
+    atelier.VerifieIni(ini);
+    QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
+    QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
+    QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
+    atelier.Parcourt(nullptr, u"%1/Conf"_s, {});
     Operateur::Menu("Mnu_ChargeConf");
-    QCOMPARE(offert, poste.Chemin("Conf"));
+
+    FicConfDefaut.clear();
+    atelier.Montre(u"%1/Pieces||%1/Conf|123"_s);
+    atelier.Coche(u"2"_s);
+    atelier.Presse("FrmConfDem", "Command4");
+    atelier.Ouvre();
+    atelier.Redemarre();
+    atelier.VerifieIni(u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s);
+    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
+    atelier.Montre(u"%1||%1/Conf|-2-"_s);
+    atelier.Ouvre();
 }
 
-// Without its box a folder is given up when it is saved; an option without a file does nothing, and says nothing.
-void TestFrmConfDem::Decoche()
+// Cancelled choices leave what stood there, and closing changes no setting. The language dialog starts the settings
+// anew: the controls then show them.
+void TestFrmConfDem::SansEnregistrer()
 {
-    Poste poste(0);
-    Operateur operateur;
-    DosDefaut = u"/x"_s;
-    OptDosDefaut = OptExplorateur = 1;
-    operateur.Fait(Fenetre, [](QWidget &fenetre) {
-        Coche(fenetre, false);
-        dynamic_cast<FrmConfDem &>(fenetre).Check2->setChecked(true);
-    });
-    operateur.Presse(Fenetre, "Command4");
-    operateur.Presse(Fenetre, "Command3");
-    Operateur::Menu("Mnu_ConfigDemar");
-    const QString dossier = poste.Dossier();
-    const QByteArray ini = u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1\r\n 0 \r\n"_s.arg(dossier).toLatin1();
-    QCOMPARE(poste.Lit(Ini), ini);
-    poste.Redemarre();
-    QCOMPARE(poste.Lit(Ini), ini);
-    QVERIFY(frmPrinc->Frame1->isHidden() && FicConf.isEmpty());
-    operateur.Fait(Fenetre, [&](QWidget &fenetre) {
-        QCOMPARE(Montre(fenetre), dossier + u"||"_s + dossier + u"|non|oui|non"_s);
-        fenetre.close();
-    });
-    Operateur::Menu("Mnu_ConfigDemar");
-}
-
-// Cancelled choices leave what stood there; closing changes no setting. A folder chooser opens where its folder is.
-void TestFrmConfDem::FermeSansEnregistrer()
-{
-    const Poste poste(0);
-    Operateur operateur;
-    QDir(poste.Dossier()).mkpath(u"Conf"_s);
-    DosConf = poste.Chemin("Conf");
-    const QByteArray ini = poste.Lit(Ini);
-    operateur.Fait(Fenetre, [](QWidget &fenetre) { Coche(fenetre, true); });
-    const std::pair<const char *, QString> choix[] = {
-        {"Command1", poste.Dossier()}, {"Command2", DosConf}, {"Command5", DosConf}};
-    QString offerts[3];
-    for (int i = 0; i < 3; ++i) {
-        operateur.Presse(Fenetre, choix[i].first);
-        LitDossierOffert(operateur, offerts[i]);
-    }
-    operateur.Fait(Fenetre, [&](QWidget &fenetre) {
-        QCOMPARE(Montre(fenetre), poste.Dossier() + u"||"_s + DosConf + u"|oui|oui|oui"_s);
-        fenetre.close();
-    });
-    Operateur::Menu("Mnu_ConfigDemar");
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(offerts[i], choix[i].second);
-    QCOMPARE(poste.Lit(Ini), ini);
-    QCOMPARE(OptDosDefaut + OptConfDefaut + OptExplorateur, 0);
-}
-
-// The language dialog starts the settings anew: the controls then show them, and what was ticked is lost.
-void TestFrmConfDem::Langue()
-{
-    const Poste poste(1);
-    Operateur operateur;
-    operateur.Fait(Fenetre, [](QWidget &fenetre) { Coche(fenetre, true); });
-    operateur.Presse(Fenetre, "Command6");
-    operateur.Presse("FrmLangue", "Option3");
-    operateur.Presse("FrmLangue", "Command1");
-    operateur.Fait(Fenetre, [&](QWidget &fenetre) {
-        QCOMPARE(Montre(fenetre), poste.Dossier() + u"||"_s + poste.Dossier() + u"|non|non|oui"_s);
-        fenetre.close();
-    });
-    Operateur::Menu("Mnu_ConfigDemar");
-    QCOMPARE(LangIndex, 2);
-    QVERIFY(poste.Lit(Ini).endsWith(" 2 \r\n"));
+    Atelier atelier;
+    DosConf = atelier.Chemin("Conf");
+    const QString ini = QString::fromLatin1(atelier.Poste::Lit(Ini));
+    atelier.Coche(u"123"_s);
+    atelier.Parcourt("Command1", u"%1"_s, {});
+    atelier.Parcourt("Command2", u"%1/Conf"_s, {});
+    atelier.Parcourt("Command5", u"%1/Conf"_s, {});
+    atelier.Montre(u"%1||%1/Conf|123"_s);
+    atelier.Ouvre();
+    atelier.VerifieIni(ini);
+    atelier.Montre(u"%1||%1/Conf|---"_s);
+    atelier.Presse("FrmConfDem", "Command6");
+    atelier.Presse("FrmLangue", "Option3");
+    atelier.Presse("FrmLangue", "Command1");
+    atelier.Montre(u"%1||%1|--3"_s);
+    atelier.Ouvre();
+    atelier.VerifieIni(u" 0 \r\n\"%1\"\r\n 0 \r\n\"\"\r\n 1 \r\n%1\r\n 2 \r\n"_s);
 }
 
 // The settings hold for the run; nothing is said.
 void TestFrmConfDem::IniNonInscriptible()
 {
-    const Poste poste(0);
-    Operateur operateur;
-    QVERIFY(QFile::remove(poste.Chemin(Ini)) && QDir(poste.Dossier()).mkdir(QLatin1String(Ini)));
-    operateur.Fait(Fenetre, [](QWidget &fenetre) { Coche(fenetre, true); });
-    operateur.Presse(Fenetre, "Command4");
-    operateur.Presse(Fenetre, "Command3");
-    Operateur::Menu("Mnu_ConfigDemar");
+    Atelier atelier;
+    QVERIFY(QFile::remove(atelier.Chemin(Ini)) && QDir(DosAppli).mkdir(QLatin1String(Ini)));
+    atelier.Coche(u"123"_s);
+    atelier.Presse("FrmConfDem", "Command4");
+    atelier.Ouvre();
     QCOMPARE(OptDosDefaut + OptConfDefaut + OptExplorateur, 3);
 }
 

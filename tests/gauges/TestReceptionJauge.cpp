@@ -32,7 +32,7 @@ QByteArray Outil(int k)
     return Banc::Salve(QByteArray::number(k), QByteArray::number(100 + k) + ".5", QByteArray::number(k), "D");
 }
 
-QByteArray LigneJauge(int k)
+QByteArray LigneD(int k)
 {
     const QByteArray n = QByteArray::number(k);
     return "D" + n + " L" + QByteArray::number(100 + k) + ".5 R" + n + "\r\n";
@@ -67,8 +67,12 @@ struct Atelier
             QCOMPARE(fenetre.windowTitle(), u"Création d'un fichier jauges outils"_s);
             QVERIFY(!fenetre.findChild<QComboBox *>(u"Combo1"_s)->isEnabled());
             fenetre.findChild<QLineEdit *>(u"Text1"_s)->setText(u"jauges"_s);
-            fenetre.findChild<QPushButton *>(u"Command2"_s)->click();
         });
+        Recoit(reponse);
+    }
+    void Recoit(QMessageBox::StandardButton reponse)
+    {
+        operateur.Presse(Fichier, "Command2");
         operateur.Repond("Réception des jauges outils à partir du banc de préréglage",
                          "\rConfirmez la réception des jauges outils JAUGES.COR sur le port Com2 ?", Operateur::Demande,
                          reponse);
@@ -165,10 +169,10 @@ void TestReceptionJauge::Guide()
                 QCOMPARE(Operateur::Lu("Label4"), u"Réception par ligne"_s);
                 const auto *const suivante = fenetre.findChild<QPushButton *>(u"Command5"_s);
                 QCOMPARE(suivante->isEnabled(), etape.suite);
-                QCOMPARE(suivante->hasFocus(), etape.suite);
+                QCOMPARE(fenetre.focusWidget() == suivante, etape.suite);
                 QCOMPARE(fenetre.findChild<QWidget *>(u"Command6"_s)->isEnabled(), etape.suite);
                 const auto *const annuler = fenetre.findChild<QWidget *>(u"Command4"_s);
-                QVERIFY(annuler->isEnabled() && !annuler->hasFocus()); // a stroke of the space bar too many
+                QVERIFY(annuler->isEnabled() && fenetre.focusWidget() != annuler); // a stroke of the space bar too many
                 for (const char *cache : {"Frame1", "Frame2", "Command2", "Command7"})
                     QVERIFY2(!fenetre.findChild<QWidget *>(QLatin1String(cache))->isVisible(), cache);
                 QCOMPARE(frmPrinc->shpReceive->FillColor(), etape.lampe);
@@ -180,7 +184,7 @@ void TestReceptionJauge::Guide()
             [&etape] { return PortOuvert && Operateur::Lu("Label2") == etape.statut; });
     }
     Operateur::Barre(13);
-    QCOMPARE(atelier.Disque(), "%\r\n" + LigneJauge(1) + LigneJauge(2));
+    QCOMPARE(atelier.Disque(), "%\r\n" + LigneD(1) + LigneD(2));
     QCOMPARE(frmPrinc->Text1->Text().toLatin1(), atelier.Disque());
     QCOMPARE(NomFichier + u'|' + TitreFichier, atelier.poste.Chemin("JAUGES.COR") + u"|JAUGES.COR"_s);
     QCOMPARE(FichierModifie, 0);
@@ -231,35 +235,31 @@ void TestReceptionJauge::Salves()
 // stays, and the file dialog waits for another try.
 void TestReceptionJauge::Annule()
 {
-    for (const int etape : {0, 1, 2, 3}) {
-        for (const int geste : {0, 1, 2}) {
+    enum Etape { AttendPremiere, EnSalve, Mesuree, AttendSuivante };
+    const std::function<void(QWidget &)> gestes[] = {
+        [](QWidget &fenetre) { fenetre.findChild<QPushButton *>(u"Command4"_s)->click(); },
+        [](QWidget &fenetre) { fenetre.close(); }, [](QWidget &fenetre) { QTest::keyClick(&fenetre, Qt::Key_Escape); }};
+    for (const Etape etape : {AttendPremiere, EnSalve, Mesuree, AttendSuivante}) {
+        for (const auto &geste : gestes) {
             Atelier atelier;
-            atelier.Nomme(etape == 0 ? QMessageBox::No : QMessageBox::Yes);
-            if (etape == 2)
+            atelier.Nomme(QMessageBox::No);
+            atelier.Recoit(QMessageBox::Yes);
+            if (etape >= Mesuree)
                 atelier.Outils(1);
-            if (etape == 3)
+            if (etape == AttendSuivante)
+                atelier.Puis(1, "Command5");
+            if (etape == EnSalve)
                 atelier.Envoie(Outil(1).left(69));
-            atelier.operateur.Fait(
-                etape == 0 ? Fichier : Dialogue,
-                [geste](QWidget &fenetre) {
-                    if (geste == 0)
-                        QTest::keyClick(&fenetre, Qt::Key_Escape);
-                    else if (geste == 1 || fenetre.objectName() == QLatin1String(Fichier))
-                        fenetre.close();
-                    else
-                        fenetre.findChild<QPushButton *>(u"Command4"_s)->click();
-                },
-                [&atelier, etape] { return etape == 0 || (atelier.Lu() && (etape != 2 || JaugeRecue == 0)); });
-            if (etape > 0)
-                atelier.Abandonne();
-            else
-                Operateur::Menu("Mnu_RecepBanc");
+            atelier.operateur.Fait(Dialogue, geste, [&atelier, etape] {
+                return atelier.Lu() && (etape != Mesuree || Operateur::Lu("Label2") == Recue(1));
+            });
+            atelier.Abandonne();
             QVERIFY(!PortOuvert && !TransfertEnCours());
             QCOMPARE(NbJauges, 0);
             QCOMPARE(FinTransfert, 0);
             QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
-            QCOMPARE(QFile::exists(atelier.poste.Chemin("JAUGES.COR")), etape > 0);
-            QCOMPARE(atelier.Disque(), etape == 2 ? Outil(1) + "\r\n" : QByteArray());
+            QVERIFY(QFile::exists(atelier.poste.Chemin("JAUGES.COR")));
+            QCOMPARE(atelier.Disque(), etape >= Mesuree ? Outil(1) + "\r\n" : QByteArray());
         }
     }
 }
@@ -287,7 +287,7 @@ void TestReceptionJauge::Debranche()
         if (ou == "at the end") {
             atelier.Puis(1, "Command6");
             Operateur::Menu("Mnu_RecepBanc");
-            QCOMPARE(atelier.Disque(), "%\r\n" + LigneJauge(1));
+            QCOMPARE(atelier.Disque(), "%\r\n" + LigneD(1));
             continue;
         }
         if (ou == "before the next")
@@ -332,7 +332,7 @@ void TestReceptionJauge::Limite()
     Operateur::Menu("Mnu_RecepBanc");
     QByteArray attendu = "%\r\n";
     for (int k = 1; k <= CapaciteJauges; ++k)
-        attendu += LigneJauge(k);
+        attendu += LigneD(k);
     QCOMPARE(atelier.Disque(), attendu);
 }
 
@@ -353,7 +353,10 @@ void TestReceptionJauge::DossierDisparu()
             });
             atelier.Envoie(Outil(2));
         }
-        atelier.operateur.LitErreur(Erreur::FichierIntrouvable, u"No such file or directory"_s);
+        atelier.operateur.Fait("MsgBox", [](QWidget &boite) {
+            QCOMPARE(boite.windowTitle(), u"Erreur N°:  53Fermeture du port de communication"_s);
+            Operateur::Clique(QMessageBox::Ok)(boite);
+        });
         if (mesures > 0) {
             atelier.operateur.Repond("Enregistrer les lignes reçues",
                                      "La réception n'a pas abouti, les lignes déjà reçues ne sont pas enregistrées.\r"

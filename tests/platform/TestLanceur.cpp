@@ -25,6 +25,14 @@ void TestLanceur::Lance_data()
                                            << "write to|@|";
     QTest::newRow("by its name") << "gedit"
                                  << "gedit|@|";
+    QTest::newRow("with arguments") << "#/write to -n \"a b\""
+                                    << "write to|-n|a b|@|";
+    QTest::newRow("by its name, with an argument") << "gedit --wait"
+                                                   << "gedit|--wait|@|";
+    QTest::newRow("a folder") << "#"
+                              << "";
+    QTest::newRow("none") << ""
+                          << "";
     for (const char *const nom : {"write", "write.exe", "C:\\WINDOWS\\WRITE.EXE", "/mnt/c/wordpad.exe"})
         QTest::newRow(nom) << nom << "soffice|--writer|@|"; // and never the terminal's own "write"
     QTest::newRow("notepad") << "C:\\WINDOWS\\NOTEPAD.EXE"

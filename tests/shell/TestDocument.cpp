@@ -4,6 +4,7 @@
 #include "platform/CommonDialog.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -62,7 +63,6 @@ class TestDocument : public QObject
 
 private Q_SLOTS:
     void AllerRetour();
-    void TexteRiche();
     void DialogueOuvrir();
     void OuvertureRatee();
     void EnregistrementRate();
@@ -83,7 +83,7 @@ void TestDocument::AllerRetour()
          {QByteArray(), QByteArray("%\nN10\nM30\n"), QByteArray("%\rN10\rM30\r"),
           QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
           QByteArray(tous).replace("", "\r\n"), QByteArray(3, '\0'), QByteArray(100'000, 'X'),
-          QByteArray("M30\r\n\x1A"), gros}) {
+          QByteArray("M30\r\n\x1A"), QByteArray("{\\rtf1 G0}"), gros}) {
         Atelier atelier;
         const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
         atelier.Ouvre(chemin);
@@ -103,49 +103,30 @@ void TestDocument::AllerRetour()
     }
 }
 
-// Rich text is known by its name.
-void TestDocument::TexteRiche()
-{
-    Atelier atelier;
-    const QByteArray riche = "{\\rtf1\\ansi {\\b G0} X1\\par M30\\par}";
-    atelier.Ouvre(atelier.Ecrit("P.RTF", riche));
-    QVERIFY(frmPrinc->Text1->Text().startsWith(u"G0 X1\r\nM30"_s));
-    atelier.Ouvre(atelier.Ecrit(Iso, riche));
-    QCOMPARE(frmPrinc->Text1->Text(), QString::fromLatin1(riche));
-}
-
 // The filter last used comes back, also into the saving dialog with its other list; cancelling changes nothing.
 void TestDocument::DialogueOuvrir()
 {
     Atelier atelier;
-    atelier.Ecrit("P.xcn", "G0");
-    const auto dialogue = [&atelier](int filtres, const QString &titre, const QString &montre, const QString &prend,
-                                     bool annule) {
+    const QString programme = atelier.Ecrit("P.xcn", "G0");
+    for (const auto &[entree, filtres, montre, prend, fichier] :
+         {std::tuple{"Mnu_Ouvrir", 16, "*.iso", "*.h", QString()},
+          {"Mnu_Ouvrir", 16, "*.iso", "*.xcn", programme},
+          {"Mnu_EnregistrerSous", 14, "*.xcn", "*.iso", QString()},
+          {"Mnu_Ouvrir", 16, "*.xcn", "*.iso", QString()}}) {
         atelier.Fait("CommonDialog", [=](QWidget &fenetre) {
-            auto &ouvert = dynamic_cast<QFileDialog &>(fenetre);
-            QCOMPARE(ouvert.windowTitle(), titre);
-            QCOMPARE(ouvert.nameFilters().size(), filtres);
-            QVERIFY2(ouvert.selectedNameFilter().contains(montre), qPrintable(ouvert.selectedNameFilter()));
-            ouvert.selectNameFilter(ouvert.nameFilters().filter(prend).value(0));
-            if (annule)
-                ouvert.reject();
+            auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
+            QCOMPARE(dialogue.nameFilters().size(), filtres);
+            QVERIFY2(dialogue.selectedNameFilter().contains(QLatin1String(montre)), montre);
+            dialogue.selectNameFilter(dialogue.nameFilters().filter(QLatin1String(prend)).value(0));
+            if (fichier.isEmpty())
+                dialogue.reject();
         });
-    };
-    dialogue(16, u"Ouvrir"_s, u"*.iso"_s, u"*.h"_s, true);
-    Operateur::Menu("Mnu_Ouvrir");
-    QCOMPARE(IndexFiltre, 1);
-    QCOMPARE(NomFichier + frmPrinc->Text1->Text(), QString());
-    QVERIFY(!frmPrinc->CommonDialog1->CancelError);
-
-    dialogue(16, u"Ouvrir"_s, u"*.iso"_s, u"*.xcn"_s, false);
-    atelier.Choisit(atelier.Chemin("P.xcn"));
-    Operateur::Barre(1);
-    QCOMPARE(IndexFiltre, 3);
-    dialogue(14, u"Enregistrer Sous"_s, u"*.xcn"_s, {}, true);
-    Operateur::Barre(2);
-    dialogue(16, u"Ouvrir"_s, u"*.xcn"_s, {}, true);
-    Operateur::Menu("Mnu_Ouvrir");
+        if (!fichier.isEmpty())
+            atelier.Choisit(fichier);
+        Operateur::Menu(entree);
+    }
     QCOMPARE(frmPrinc->Text1->Text() + TitreFichier, u"G0P.xcn"_s);
+    QVERIFY(!frmPrinc->CommonDialog1->CancelError);
 }
 
 // A file that the pane refuses: the former document stays, by its name, its text and its changes.
@@ -153,8 +134,8 @@ void TestDocument::OuvertureRatee()
 {
     Atelier atelier(2);
     const QString chemin = atelier.Change();
-    atelier.Ecrit("Faux.rtf", "G0 X1\r\n");
-    for (const QString &refuse : {atelier.Chemin("Faux.rtf"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
+    atelier.Ecrit("Faux.RTF", "G0 X1\r\n");
+    for (const QString &refuse : {atelier.Chemin("Faux.RTF"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
         atelier.Repond("Mensaje",
                        u"Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
                        "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
@@ -164,7 +145,7 @@ void TestDocument::OuvertureRatee()
         OuvreDocument(refuse);
         VerifieChange(chemin);
     }
-    QCOMPARE(atelier.Lit("Faux.rtf"), QByteArray("G0 X1\r\n"));
+    QCOMPARE(atelier.Lit("Faux.RTF"), QByteArray("G0 X1\r\n"));
 }
 
 // A full disk, a place under a file, a folder that goes while the dialog is open: told once, and nothing of the
@@ -205,7 +186,8 @@ void TestDocument::Ecrase()
     }
 }
 
-// A changed text with a name: whether to save it, then whether to go on.
+// A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
+// programs, wherever the file dialog was last used.
 void TestDocument::Nouveau()
 {
     Atelier atelier(2);
@@ -231,6 +213,12 @@ void TestDocument::Nouveau()
     QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
     QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
     QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
+    frmPrinc->CommonDialog1->InitDir = u"/"_s;
+    atelier.Fait("CommonDialog", [](QWidget &fenetre) {
+        QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), DosDefaut);
+        fenetre.close();
+    });
+    Operateur::Menu("Mnu_EnregistrerSous");
 }
 
 QTEST_MAIN(TestDocument)

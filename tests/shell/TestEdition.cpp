@@ -113,7 +113,8 @@ void TestEdition::CopieVersAilleurs()
     QVERIFY(frmPrinc->Text1->EstVide());
 }
 
-// Ctrl+C loads a configuration, also while the keyboard is in the text.
+// Ctrl+C loads a configuration, also while the keyboard is in the text. Alt with a letter that no menu bears types
+// nothing into the program.
 void TestEdition::Raccourcis()
 {
     const Atelier atelier(0, 3);
@@ -127,6 +128,11 @@ void TestEdition::Raccourcis()
     });
     QTest::keyClick(frmPrinc->Text1, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QGuiApplication::clipboard()->text(), QString());
+    const QString programme = frmPrinc->Text1->Text();
+    for (const Qt::KeyboardModifiers touches : {Qt::AltModifier | Qt::NoModifier, Qt::AltModifier | Qt::ShiftModifier})
+        QTest::keyClick(frmPrinc->Text1, Qt::Key_H, touches);
+    QCOMPARE(frmPrinc->Text1->Text(), programme);
+    QCOMPARE(FichierModifie, 0);
 }
 
 QTEST_MAIN(TestEdition)

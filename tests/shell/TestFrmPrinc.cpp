@@ -1,5 +1,4 @@
 #include "LigneScenario.h"
-#include "Operateur.h"
 #include "Poste.h"
 
 #include "locale/Legendes.h"
@@ -15,37 +14,19 @@ class TestFrmPrinc : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Taille();
     void RienNEstCoupe();
     void Lampes();
-    void MessageEtat();
 };
 
-// Too small a window springs back; the pane and the status panel follow a larger one, the column keeps its width.
-void TestFrmPrinc::Taille()
-{
-    const Poste poste(0);
-    frmPrinc->resize(100, 100);
-    QTRY_COMPARE(frmPrinc->size(), QSize(620, 547));
-    Operateur::Menu("Mnu_AffichDOS");
-    QTRY_VERIFY(frmPrinc->Frame1->isVisible());
-    const int colonne = frmPrinc->Frame1->width();
-    frmPrinc->resize(1200, 900);
-    QTRY_VERIFY(frmPrinc->Text1->width() > 800 && frmPrinc->Picture11->width() > 1100);
-    QCOMPARE(frmPrinc->Frame1->width(), colonne);
-    QVERIFY(frmPrinc->Frame1->mapTo(frmPrinc, QPoint()).x() < frmPrinc->Text1->mapTo(frmPrinc, QPoint()).x());
-    QVERIFY(frmPrinc->Text1->mapTo(frmPrinc, QPoint()).y() < frmPrinc->Picture11->mapTo(frmPrinc, QPoint()).y());
-}
-
-// In the smallest window every word of the status panel has its room but for the data, which are cut with an ellipsis;
-// the panel keeps its height whatever is shown above it or written in it.
+// Too small a window springs back. In the smallest one every word of the status panel has its room but for the data,
+// which are cut with an ellipsis; the panel keeps its height whatever is shown above it or written in it.
 void TestFrmPrinc::RienNEstCoupe()
 {
     for (int langue = 0; langue < 3; ++langue) {
         const Poste poste(langue);
         poste.Charge("G0");
-        frmPrinc->resize(frmPrinc->minimumSize());
-        QCoreApplication::processEvents();
+        frmPrinc->resize(100, 100);
+        QTRY_COMPARE(frmPrinc->size(), QSize(620, 547));
         const int hauteur = frmPrinc->Picture11->height();
         frmPrinc->MontrePort(true);
         frmPrinc->MontreEtat(u"CTS"_s);
@@ -97,23 +78,6 @@ void TestFrmPrinc::Lampes()
     QTRY_COMPARE(frmPrinc->shpCD->FillColor(), Lampe::Verte);
     QTRY_COMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
     QVERIFY(PortOuvert);
-}
-
-// A message hides again; a second one meanwhile does not prolong the first one's time.
-void TestFrmPrinc::MessageEtat()
-{
-    const Poste poste(0);
-    frmPrinc->Timer2.stop();
-    frmPrinc->MontreEtat(u"CTS"_s);
-    QCOMPARE(frmPrinc->Etat->text(), u"État : CTS"_s);
-    QVERIFY(frmPrinc->Etat->isVisible() && frmPrinc->Timer2.isActive());
-    const int minuterie = frmPrinc->Timer2.timerId();
-    frmPrinc->MontreEtat(u"DSR"_s);
-    QCOMPARE(frmPrinc->Timer2.timerId(), minuterie); // not started anew
-    frmPrinc->Timer2.setInterval(1);
-    QTRY_VERIFY(frmPrinc->Etat->isHidden());
-    QCOMPARE(frmPrinc->Etat->text(), u"État : "_s);
-    QVERIFY(!frmPrinc->Timer2.isActive());
 }
 
 QTEST_MAIN(TestFrmPrinc)

@@ -131,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(banc.Mesure(), salve);
         QCOMPARE(banc.Numero(), 1);
         for (const char *fausse : {"", "# rien", "1 2 3", "1 2 3 R D", "\"non"})
-            QVERIFY_THROWS_EXCEPTION(ListeFausse, Banc(fausse));
+            QVERIFY_THROWS_EXCEPTION(ListeFausse, Banc{fausse});
     }
 
     // A burst goes in its pieces and without the machine's chains, and is not waited for: the next thing that comes is

@@ -72,12 +72,23 @@ struct Atelier
         ParamCom.TypeEnvoi = typeEnvoi;
     }
 
+    /// Yes, and a double click on the button that sends, with a hand left on Enter: all that sends once.
     void Confirme()
     {
         operateur.Repond("Emission d'un programme CN",
                          "Emission d'un programme CN\rConfirmez l'émission du programme PIECE.iso sur le port Com2 ?",
                          Operateur::Demande, QMessageBox::Yes);
-        operateur.Presse(Dialogue, Demarre);
+        operateur.Fait(Dialogue, [](QWidget &fenetre) {
+            auto *const bouton = fenetre.findChild<QPushButton *>(Demarre);
+            QTest::mouseClick(bouton, Qt::LeftButton);
+            QTest::mouseDClick(bouton, Qt::LeftButton);
+            QTest::mouseRelease(bouton, Qt::LeftButton);
+            for (const bool marquee : {true, false}) {
+                QKeyEvent entree(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, marquee);
+                QApplication::sendEvent(bouton, &entree);
+                QApplication::sendEvent(&fenetre, &entree);
+            }
+        });
     }
 
     /// The last gesture of a sending; then the sending begins.

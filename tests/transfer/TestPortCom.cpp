@@ -38,10 +38,8 @@ class TestPortCom : public QObject
 
 private Q_SLOTS:
     void Ouvre();
-    void OuvreOuvert();
     void OuvreRate();
     void MenuFermeture();
-    void Textes();
 };
 
 // All settings of the record reach the control, and the line has them from its first moment. A configuration loaded
@@ -86,26 +84,8 @@ void TestPortCom::Ouvre()
     QVERIFY(!PortOuvert && !atelier.ligne->ouverte);
 }
 
-// On an open port nothing but the settings changes; a buffer size cannot, and what stands behind it is not applied.
-void TestPortCom::OuvreOuvert()
-{
-    Atelier atelier;
-    OuvrePortCOM();
-    ParamCom.NumPort = 9;
-    ParamCom.Vitesse = u"4800"_s;
-    OuvrePortCOM();
-    QCOMPARE(atelier.controle.CommPort(), 2);
-    QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
-
-    ParamCom.TailleTamponRecep = 99;
-    ParamCom.Vitesse = u"9600"_s;
-    atelier.operateur.LitErreur(ErreurPort::DejaOuvert, u"Opération non valide quand le port est ouvert"_s);
-    OuvrePortCOM();
-    QVERIFY(atelier.controle.PortOpen());
-    QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
-}
-
-// The first step that fails is told once, and the steps behind it do not run.
+// The first step that fails is told once, in the language, and the steps behind it do not run. A port that was open
+// takes the settings, and then stays as it is behind a buffer size that it cannot take.
 void TestPortCom::OuvreRate()
 {
     Atelier atelier;
@@ -123,9 +103,28 @@ void TestPortCom::OuvreRate()
         atelier.operateur.LitErreur(numero, texte);
         OuvrePortCOM();
         QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
-        QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Rouge);
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Fermé"_s);
     }
+
+    atelier.ligne->refusReglage = 0;
+    OuvrePortCOM();
+    ParamCom.Vitesse = u"4800"_s;
+    ParamCom.NumPort = 9;
+    OuvrePortCOM();
+    ParamCom.Vitesse = u"2400"_s;
+    ParamCom.TailleTamponRecep = 99;
+    LangIndex = 1;
+    atelier.operateur.Repond(u"Error N°:  8000Closing of the port of communication"_s,
+                             u"Nonvalid operation when the port is open"_s, Boite::Critique, QMessageBox::Ok);
+    OuvrePortCOM();
+    QVERIFY(atelier.controle.PortOpen() && atelier.controle.CommPort() == 2);
+    QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
+    LangIndex = 2; // a number without a text of ours bears the platform's
+    atelier.operateur.Repond(u"Error N°:  70Cierre del puerto de comunicación"_s, u"Permission denied"_s,
+                             Boite::Critique, QMessageBox::Ok);
+    Em_Rc dialogue(frmPrinc);
+    ErreurPortCOM(Erreur(70, u"Permission denied"_s), dialogue);
+    QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
 }
 
 // A port that stayed open can be closed from the menu; the lamp follows by itself.
@@ -138,24 +137,6 @@ void TestPortCom::MenuFermeture()
     PortOuvert = false;
     Operateur::Menu("Mnu_FermePortCom");
     QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
-}
-
-// What the operator reads: our text in his language, or the platform's for a number without one.
-void TestPortCom::Textes()
-{
-    Atelier atelier;
-    Em_Rc dialogue(frmPrinc);
-    for (const auto &[langue, numero, titre, texte] :
-         {std::tuple{0, 1001, "Erreur N°:  1001Fermeture du port de communication",
-                     "Réception d'un signal d'interruption."},
-          {1, 8086, "Error N°:  8086Closing of the port of communication", "Number of invalid port of communication."},
-          {2, 70, "Error N°:  70Cierre del puerto de comunicación", "Permission denied"}}) {
-        LangIndex = langue;
-        OuvrePortCOM();
-        atelier.operateur.Repond(titre, texte, Boite::Critique, QMessageBox::Ok);
-        ErreurPortCOM(Erreur(numero, u"Permission denied"_s), dialogue);
-        QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
-    }
 }
 
 QTEST_MAIN(TestPortCom)

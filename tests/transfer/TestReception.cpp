@@ -70,7 +70,8 @@ struct Atelier
     {
         Envoi envoi;
         envoi.Texte = texte;
-        envoi.PauseLigneMs = ParamCom.TypeRecep == ParFichier ? 0 : 150; // a stall of the PC may last longer than a short pause
+        // The PC may stall for longer than a short pause.
+        envoi.PauseLigneMs = ParamCom.TypeRecep == ParFichier ? 0 : 150;
         envoi.SansFin = sansFin;
         operateur.Fait(
             Dialogue, [this, envoi](QWidget &) { machine.Emet(envoi); }, [] { return PortOuvert; });
@@ -121,8 +122,6 @@ class TestReception : public QObject
 
 private Q_SLOTS:
     void Recoit();
-    void Force();
-    void Annule();
     void Debranche();
     void DossierDisparu();
     void TropDeLignes();
@@ -172,55 +171,6 @@ void TestReception::Recoit()
         QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
         QVERIFY(atelier.machine.Attend([](const EtatMachine &etat) { return etat.Envoi.Reponse == Retour::Juste; }));
         QVERIFY(frmPrinc->Text2->isHidden());
-    }
-}
-
-// The operator ends what the machine does not end. By line and by character the unfinished line goes; of a file all
-// stays.
-void TestReception::Force()
-{
-    for (const int genre : {ParLigne, ParCaractere, ParFichier}) {
-        Atelier atelier(genre);
-        atelier.Nomme();
-        atelier.Envoie("A\r\nB\r\nC\r\nmoit", true);
-        atelier.operateur.Presse(Dialogue, "Command7", [&atelier, genre] {
-            return !atelier.machine.Etat().Envoi.EnCours &&
-                   (genre == ParFichier ? frmPrinc->Text2->FinitPar(u"moit"_s)
-                                        : Operateur::Lu("Label2").contains(genre == ParLigne ? u'4' : u'3'));
-        });
-        atelier.operateur.Repond(
-            "Forcer la fin de réception",
-            "Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
-            Operateur::Demande, QMessageBox::Yes);
-        atelier.Sort();
-        QCOMPARE(atelier.poste.Lit("PIECE.ISO"),
-                 genre == ParFichier ? QByteArray("A\r\nB\r\nC\r\nmoit\r\n") : QByteArray("A\r\nB\r\nC\r\n\r\n"));
-    }
-}
-
-// Cancelled by the button or the close box: nothing is stored, the machine gets nothing, the file dialog waits for
-// another try.
-void TestReception::Annule()
-{
-    for (const int genre : {ParLigne, ParCaractere, ParFichier}) {
-        for (const bool boiteDeFermeture : {false, true}) {
-            Atelier atelier(genre);
-            atelier.Nomme();
-            atelier.Envoie("A\r\nB\r\n", true);
-            const auto venu = [&atelier] { return atelier.machine.Etat().Envoi.Emis == 6; };
-            if (boiteDeFermeture)
-                atelier.operateur.Ferme(Dialogue, venu);
-            else
-                atelier.operateur.Presse(Dialogue, "Command1", venu);
-            if (genre == ParFichier)
-                atelier.operateur.Repond("Bouton Annuler cliqué", "AnnuleRECEPT% = 1", 0, QMessageBox::Ok);
-            atelier.Abandonne();
-            QVERIFY(!QFile::exists(atelier.poste.Chemin("PIECE.ISO")));
-            QVERIFY(!PortOuvert && frmPrinc->Text2->isHidden());
-            QCOMPARE(frmPrinc->shpReceive->FillColor(), int(Lampe::Rouge));
-            QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
-            QCOMPARE(atelier.machine.Etat().Envoi.Octets, QByteArray());
-        }
     }
 }
 

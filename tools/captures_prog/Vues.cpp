@@ -17,6 +17,7 @@
 #include "shell/Explorateur.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
 #include "transfer/Transfert.h"
@@ -35,9 +36,9 @@ void ChargeConfiguration()
 
 QWidget *Principale(bool explorateur)
 {
-    frmPrinc->MontreExplorateur(explorateur);
-    frmPrinc->FolderTreeview1->setSelectedFolder(Exemple("Programmes"));
-    FolderTreeview1_Click();
+    DosDefaut = Exemple("Programmes");
+    if (frmPrinc->ExplorateurMontre() != explorateur)
+        Mnu_AffichDOS();
     frmPrinc->resize(860, 620);
     return frmPrinc;
 }

@@ -44,6 +44,7 @@ void MachineSimulee::Reprend()
 void MachineSimulee::RemiseAZero()
 {
     const std::lock_guard verrou(m_verrou);
+    Recoit(Horloge::now()); // the machine's thread may be late: what the line has brought came before the reset
     m_decoupe.Vide();
     m_enCours = {};
     m_emission.reset();

@@ -103,7 +103,7 @@ public:
     void Retient();
     /// The operator lets it go on; XON follows once the buffer has emptied to its low mark.
     void Reprend();
-    /// The operator's reset: what has come of an unfinished program is dropped, a sending ends.
+    /// The operator's reset: what the line has brought of an unfinished program is dropped, a sending ends.
     void RemiseAZero();
     /// Sends, from now on; a sending under way ends. What the PC answers to a program is compared with the
     /// end-of-transfer chain.

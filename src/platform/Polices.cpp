@@ -1,0 +1,14 @@
+#include "platform/Polices.h"
+
+#ifdef AVEC_FONTCONFIG
+#include <fontconfig/fontconfig.h>
+#endif
+
+std::future<void> LisPolices()
+{
+#ifdef AVEC_FONTCONFIG
+    return std::async(std::launch::async, [] { FcInit(); });
+#else
+    return std::async(std::launch::deferred, [] {});
+#endif
+}

@@ -1,0 +1,27 @@
+#include "shell/CadreExplorateur.h"
+
+#include "platform/Icone.h"
+
+namespace {
+
+/// The filters offered; the first is in force when the column is made.
+const QStringList Motifs =
+    QStringLiteral("*.* *.iso *.rub *.cn *.xcn *.txt *.asc *.xpi *.jau *.cor *.prg *.cnc *.rrr *.qqq *.h *.rtf")
+        .split(u' ');
+
+} // namespace
+
+CadreExplorateur::CadreExplorateur(QWidget *parent)
+    : QGroupBox(parent)
+{
+    setupUi(this);
+    const std::pair<QPushButton *, const char *> icones[] = {{Command1, "Dossier_Creer"},
+                                                             {Command2, "Dossier_Supprimer"},
+                                                             {Command3, "Explorateur_Fermer"},
+                                                             {Command4, "Dossier_Renommer"}};
+    for (const auto &[bouton, icone] : icones)
+        bouton->setIcon(Icone(QStringLiteral(":/icones/%1.svg").arg(QLatin1String(icone))));
+    Combo1->addItems(Motifs);
+    // A completion would put a filter in force that the operator has not typed.
+    Combo1->setCompleter(nullptr);
+}

@@ -1,0 +1,165 @@
+#include "Operateur.h"
+#include "Poste.h"
+
+#include "gauges/FiltreJauge.h"
+#include "gauges/Jauge.h"
+#include "gauges/Lignes.h"
+#include "gauges/ParamMac.h"
+#include "platform/Erreur.h"
+#include "transfer/Transfert.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A burst of the bench: the texts at their columns.
+QString Mesure(const QString &correcteur, const QString &z, const QString &x, const QString &mode)
+{
+    return u"TN:"_s + correcteur.leftJustified(21) + z.leftJustified(25) + x.leftJustified(12) + mode;
+}
+
+/// The bursts of a reception of as many tools.
+void Recoit(const QStringList &rafales, int outils)
+{
+    VideLignes();
+    VideJauges();
+    std::copy(rafales.begin(), rafales.end(), Lignes.begin() + 1);
+    NbJauges = outils;
+}
+
+} // namespace
+
+class TestFiltreJauge : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { ParamMac = {}; }
+    void Colonnes();
+    void Suite();
+    void HorsPlage();
+    void Tour();
+
+private:
+    /// The gauge file that a mill gets, and what FiltreJauge left in it for its time.
+    static QByteArray Fraise(const Poste &poste)
+    {
+        ParamMac.TypeMachine = 1;
+        DossierRecep = poste.Dossier();
+        NomFicRecep = u"A.JAU"_s;
+        FiltreJauge();
+        return poste.Lit("A.JAU");
+    }
+};
+
+// What one burst gives on a mill.
+void TestFiltreJauge::Colonnes()
+{
+    const Poste poste(0);
+    const QString bonne = Mesure(u"   12"_s, u"  120.450"_s, u"    8.250"_s, u"R"_s);
+    for (const auto &[rafale, ligne] : {
+             std::pair{bonne, "D12 L120.45 R8.25"},
+             {bonne + u" 99 mm\r\n"_s, "D12 L120.45 R8.25"},
+             {u"\a\r\n"_s + bonne, "D12 L120.45 R8.25"}, // the columns move back
+             {QString(bonne).replace(u' ', u'\t').insert(3, u'\0').remove(4, 1), "D12 L120.45 R8.25"},
+             {bonne.left(60), "D12 L120.45 R8.25"}, // the machine's own mode
+             {bonne.left(61) + u'D', "D12 L120.45 R4.125"},
+             {bonne.left(52), "D12 L120.45 R0"},
+             {bonne.left(5), "D0 L0 R0"},
+             {Mesure(u"1 2"_s, u"- 1 . 5"_s, u"+2.5"_s, u"R"_s), "D12 L-1.5 R2.5"},
+             {Mesure(u"A2"_s, u"12.5mm"_s, u"x8"_s, u"R"_s), "D0 L12.5 R0"},
+             {Mesure(u"2.5"_s, u"1.2.3"_s, u"123456789999"_s, u"r"_s), "D2 L1.2 R123456800"}, // ties to the even one
+             {Mesure(u"-7"_s, u"5,5"_s, u"1E1"_s, u"D"_s), "D-7 L5 R5"},
+             {u"tn:   12 "_s, "D0 L0 R0"},
+         }) {
+        ParamMac.JaugeMaxiX = 1e9;
+        Recoit({rafale}, 1);
+        QCOMPARE(Fraise(poste), "%\r\n"_ba + ligne + "\r\n");
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+    }
+}
+
+// Lines ahead of the measures and between them are passed over; each measure takes the next one, and the last of the
+// tools, for which none is left, stays empty.
+void TestFiltreJauge::Suite()
+{
+    const Poste poste(0);
+    Recoit({u"EPB\r"_s, u"\r\n"_s, u"\a"_s, u" TN:    3 \u20AC "_s, u"\x1b"_s, u"TOTAL"_s, u"TN:    4"_s}, 3);
+    ParamMac.JaugeMaxiZ = -1; // its box stops the work while the cleaned text stands in the file
+    Operateur operateur;
+    QByteArray nettoye;
+    for (int i = 0; i < 3; ++i)
+        operateur.Fait("MsgBox", [&](QWidget &boite) {
+            nettoye = poste.Lit("A.JAU");
+            QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+            dynamic_cast<QMessageBox &>(boite).accept();
+        });
+    QCOMPARE(Fraise(poste), "%\r\nD3 L0 R0\r\nD4 L0 R0\r\nD0 L0 R0\r\n");
+    QCOMPARE(nettoye, "EPB\r\n\r\nTN:    3 \x80\r\nTOTAL\r\nTN:    4\r\n"); // of two blank lines in a row one stays
+}
+
+// A corrector number that the machine does not have is asked again until it fits; giving up means 0.
+void TestFiltreJauge::HorsPlage()
+{
+    for (const auto &[langue, texte, titre, invite, titreInvite] :
+         {std::tuple{0, u"Attention numéro de correcteur %1|   interdit pour l'outil Nø: 2"_s,
+                     u"Erreur de numéro de correcteur"_s, u"Nouvelle valeur du correcteur (0 -  32)"_s,
+                     u"Valeur du correcteur"_s},
+          {1, u"Warning Number of corrector %1|   interdict for the tool Nø: 2"_s, u"Error of number of corrector"_s,
+           u"New value of the corrector (0 -  32)"_s, u"Value of the corrector"_s},
+          {2, u"Atención número de corrector %1|   prohibición para la instrumentos Nø: 2"_s,
+           u"Error de número de corrector"_s, u"Nuevo valor del corrector (0 -  32)"_s, u"Valor del corrector"_s}}) {
+        const Poste poste(langue);
+        for (const auto &[recu, reponses, numero] : {std::tuple{u"33"_s, u"33|99999|12"_s.split(u'|'), "12"},
+                                                     {u"99999"_s, {u" 32"_s}, "32"},
+                                                     {u"-9E4"_s, {u"-40000"_s, u"-1"_s}, "-1"},
+                                                     {u"300"_s, {QString()}, "0"}}) {
+            Recoit({Mesure(u"32"_s, u"1"_s, u"1"_s, u"R"_s), Mesure(recu, u"2"_s, u"2"_s, u"R"_s)}, 2);
+            Operateur operateur;
+            operateur.Repond(titre, texte.arg(recu == u"-9E4" ? u"-90000"_s : recu), Boite::Critique, QMessageBox::Ok);
+            for (const QString &reponse : reponses)
+                operateur.Fait("InputBox", [=](QWidget &boite) {
+                    QCOMPARE(boite.windowTitle(), titreInvite);
+                    QCOMPARE(boite.findChild<QLabel *>()->text(), invite);
+                    auto *const saisie = boite.findChild<QLineEdit *>();
+                    QCOMPARE(saisie->text(), u" 32"_s);
+                    saisie->setText(reponse);
+                    reponse.isEmpty() ? dynamic_cast<QDialog &>(boite).reject()
+                                      : dynamic_cast<QDialog &>(boite).accept();
+                });
+            QCOMPARE(Fraise(poste), "%\r\nD32 L1 R1\r\nD"_ba + numero + " L2 R2\r\n");
+        }
+    }
+}
+
+// On a lathe the dial comes between, without the hourglass; closing it lets the file be made all the same. A value
+// beyond single precision and a folder that has gone end the work before the dial.
+void TestFiltreJauge::Tour()
+{
+    const Poste poste(0);
+    DossierRecep = poste.Dossier();
+    NomFicRecep = u"A.JAU"_s;
+    Recoit({Mesure(u"1"_s, u"102.36"_s, u"51"_s, u"D"_s), Mesure(u"2"_s, u"98.12"_s, u"26"_s, u"R"_s)}, 2);
+    Operateur operateur;
+    operateur.Presse("JauTour", "Picture25", [] { return QApplication::overrideCursor() == nullptr; });
+    operateur.Presse("JauTour", "Label22");
+    operateur.Presse("JauTour", "Command1");
+    operateur.Ferme("JauTour");
+    FiltreJauge();
+    QCOMPARE(poste.Lit("A.JAU"), "%\r\nD1 X-25.5 Z102.36 R.8 C5\r\nD2 X26 Z98.12 R0 C0\r\n");
+
+    Recoit({Mesure(u"1"_s, u"1E39"_s, u"1"_s, u"R"_s)}, 1);
+    QVERIFY_EXCEPTION_THROWN(FiltreJauge(), Erreur);
+    Recoit({Mesure(u"1"_s, u"1"_s, u"1"_s, u"R"_s)}, 1);
+    DossierRecep = poste.Chemin("parti");
+    QVERIFY_EXCEPTION_THROWN(FiltreJauge(), Erreur);
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+}
+
+QTEST_MAIN(TestFiltreJauge)
+#include "TestFiltreJauge.moc"
