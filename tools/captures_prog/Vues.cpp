@@ -29,6 +29,11 @@ QString Exemple(const char *nom)
     return AjouteAntislash(DossierApplication()) + QLatin1String(nom);
 }
 
+void ChargeConfiguration()
+{
+    ConfDefaut(Exemple("Conf/Machine_simulee.par"));
+}
+
 QWidget *Principale(bool explorateur)
 {
     DosDefaut = Exemple("Programmes");
@@ -56,6 +61,7 @@ QWidget *Reception(ModeTransfert mode)
 
 QWidget *Proprietes(int onglet)
 {
+    ChargeConfiguration();
     auto *const fenetre = new Prop(frmPrinc);
     fenetre->Nomme(NomConf);
     fenetre->SSTab1->setCurrentIndex(onglet);
@@ -119,6 +125,6 @@ const std::span<const Vue> Vues = Toutes;
 
 void ChargeExemples()
 {
-    ConfDefaut(Exemple("Conf/Machine_simulee.par"));
+    ChargeConfiguration();
     OuvreDocument(Exemple("Programmes/FRAISAGE.iso"));
 }
