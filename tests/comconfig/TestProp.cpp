@@ -285,7 +285,7 @@ void TestProp::Commandes()
     for (const QByteArray &octets : {entier, autre, autre.chopped(5)}) {
         QFile::remove(e.Chemin("Sans suffixe"));
         e.Choisit(e.Ecrit("Ancien.par", octets));
-        if (!octets.endsWith('\n'))
+        if (octets.size() < entier.size())
             e.Repond("Fichier de configuration erroné ou de version antérieure !",
                      "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
                      Boite::Exclamation, QMessageBox::Ok);
