@@ -16,6 +16,8 @@
 #include <QShortcut>
 #include <QTextBlock>
 
+#include <algorithm>
+
 namespace {
 
 constexpr Texte3 Manuel{u"DORVANEL.HLP", u"DORVANEL_EN.HLP", u"DORVANEL_ES.HLP"};
@@ -56,18 +58,20 @@ QString Ancre(const QTextBlock &bloc)
     return bloc.begin().atEnd() ? QString() : bloc.begin().fragment().charFormat().anchorNames().value(0);
 }
 
-/// Moves a window beside the one that it explains, as far as the screen has room.
+/// Puts a window beside the one that it explains, on the side with more room, and narrower where that lets both be
+/// seen.
 void PlaceACote(QWidget *fenetre, const QWidget *appelante)
 {
+    constexpr int largeurMin = 640; // pixels; narrower than that it covers the other one instead
     const QRect ecran = appelante->screen()->availableGeometry();
     const QRect occupe = appelante->frameGeometry();
-    QRect place(QPoint(occupe.right() + 1, occupe.top()), fenetre->frameGeometry().size());
-    if (place.right() > ecran.right() && occupe.left() - place.width() >= ecran.left())
-        place.moveRight(occupe.left() - 1);
-    place.moveRight(std::min(place.right(), ecran.right()));
-    place.moveBottom(std::min(place.bottom(), ecran.bottom()));
-    place.moveTopLeft({std::max(place.left(), ecran.left()), std::max(place.top(), ecran.top())});
-    fenetre->move(place.topLeft());
+    const int gauche = occupe.left() - ecran.left();
+    const int droite = ecran.right() - occupe.right();
+    const int largeur = std::min(fenetre->width(), std::max({gauche, droite, largeurMin}));
+    fenetre->resize(largeur, std::min(fenetre->height(), ecran.height()));
+    const int x = droite >= gauche ? occupe.right() + 1 : occupe.left() - largeur;
+    fenetre->move(std::clamp(x, ecran.left(), std::max(ecran.left(), ecran.right() + 1 - largeur)),
+                  std::clamp(occupe.top(), ecran.top(), ecran.bottom() + 1 - fenetre->height()));
 }
 
 /// Where the manual lies: in the application folder, or beside the program where that is another place.
@@ -209,16 +213,19 @@ void FrmAide::DresseSommaire()
     TreeView1->expandToDepth(0);
 }
 
-/// The contents show where the reader is: at the last heading in the upper third of what he sees, or above it.
+/// The contents show where the reader is: at the heading that begins the page, or the last one above it.
 void FrmAide::SuitLecture()
 {
-    const int position = TextBrowser1->cursorForPosition({0, TextBrowser1->viewport()->height() / 3}).position();
-    QTreeWidgetItem *lue = nullptr;
-    for (const Titre &titre : m_titres)
-        if (titre.position <= position)
-            lue = titre.ligne;
-    if (lue != nullptr)
-        TreeView1->setCurrentItem(lue);
+    constexpr int unTitre = 24; // pixels; about the height of a heading
+    Designe(TextBrowser1->cursorForPosition({0, unTitre}).position());
+}
+
+void FrmAide::Designe(int position)
+{
+    const auto suivant =
+        std::find_if(m_titres.cbegin(), m_titres.cend(), [=](const Titre &titre) { return titre.position > position; });
+    if (suivant != m_titres.cbegin())
+        TreeView1->setCurrentItem(std::prev(suivant)->ligne);
 }
 
 void FrmAide::Va(const QString &section)
@@ -226,7 +233,9 @@ void FrmAide::Va(const QString &section)
     for (const Titre &titre : m_titres) {
         if (titre.ligne->data(0, Qt::UserRole).toString() != section)
             continue;
-        TextBrowser1->setSource(QUrl(u'#' + section));
+        QUrl lieu = TextBrowser1->source();
+        lieu.setFragment(section);
+        TextBrowser1->setSource(lieu);
         TreeView1->setCurrentItem(titre.ligne);
     }
 }
@@ -270,9 +279,10 @@ void FrmAide::MontreResultat(qsizetype numero)
     QTextCursor debut = m_resultats[m_resultat];
     debut.setPosition(debut.selectionStart()); // a selection would hide the mark
     TextBrowser1->setTextCursor(debut);
-    // Not at the edge: what stands around it is to be read, and the contents name its section.
+    // Not at the edge: what stands around it is to be read.
     QScrollBar *const ascenseur = TextBrowser1->verticalScrollBar();
     ascenseur->setValue(ascenseur->value() + TextBrowser1->cursorRect().top() - TextBrowser1->viewport()->height() / 4);
+    Designe(debut.position());
 }
 
 /// Marks all matches, and most the one that is shown; readable on light and dark themes.

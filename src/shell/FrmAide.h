@@ -32,6 +32,7 @@ private:
     void PoseRaccourcis();
     void DresseSommaire();
     void SuitLecture();
+    void Designe(int position);
     void Va(const QString &section);
 
     void Text1_Change();

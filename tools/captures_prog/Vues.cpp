@@ -29,10 +29,17 @@ QString Exemple(const char *nom)
     return AjouteAntislash(DossierApplication()) + QLatin1String(nom);
 }
 
+void ChargeConfiguration()
+{
+    ConfDefaut(Exemple("Conf/Machine_simulee.par"));
+}
+
 QWidget *Principale(bool explorateur)
 {
     DosDefaut = Exemple("Programmes");
-    if (frmPrinc->ExplorateurMontre() != explorateur)
+    if (frmPrinc->ExplorateurMontre())
+        Mnu_AffichDOS();
+    if (explorateur)
         Mnu_AffichDOS();
     frmPrinc->resize(860, 620);
     return frmPrinc;
@@ -56,6 +63,7 @@ QWidget *Reception(ModeTransfert mode)
 
 QWidget *Proprietes(int onglet)
 {
+    ChargeConfiguration();
     auto *const fenetre = new Prop(frmPrinc);
     fenetre->Nomme(NomConf);
     fenetre->SSTab1->setCurrentIndex(onglet);
@@ -119,6 +127,6 @@ const std::span<const Vue> Vues = Toutes;
 
 void ChargeExemples()
 {
-    ConfDefaut(Exemple("Conf/Machine_simulee.par"));
+    ChargeConfiguration();
     OuvreDocument(Exemple("Programmes/FRAISAGE.iso"));
 }
