@@ -54,6 +54,7 @@ void TestSessionConfiguration::CommandeInconnue()
     PortOuvert = true;
 
     Operateur operateur;
+    LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s); // of which the new one keeps nothing that is seen
     operateur.Presse("Prop", "OptFinLig_4");
     Compose(operateur, "Command21", {u"Car_13"_s, u"Car_13"_s, u"Car_17"_s, u"Command3"_s, u"Car_10"_s});
     operateur.Presse("Prop", "OptFinTrans_2");
@@ -61,6 +62,9 @@ void TestSessionConfiguration::CommandeInconnue()
     Compose(operateur, "Command22", {u"Car_37"_s});
     operateur.Fait("Prop", [](QWidget &fenetre) {
         auto &prop = dynamic_cast<Prop &>(fenetre);
+        QCOMPARE(prop.windowTitle(), u"Propriétés et configuration de la communication - Fichier : Nouveau"_s);
+        QCOMPARE(prop.Label6->text() + prop.Text1->text(), u"Nouveau"_s);
+        prop.OptionEnvoi_0->click();
         prop.Text1->setText(u"Commande inconnue"_s);
         prop.cboSpeed->setCurrentText(u"115200"_s);
         prop.cboDataBits->setCurrentText(u"8"_s);
