@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTextStream>
 
