@@ -4,6 +4,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
+#include "platform/FolderTreeview.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"

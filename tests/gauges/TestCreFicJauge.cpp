@@ -4,7 +4,6 @@
 #include "gauges/CreFicJauge.h"
 #include "gauges/Jauge.h"
 #include "gauges/ParamMac.h"
-#include "locale/Langue.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
 #include "shell/Document.h"
@@ -73,73 +72,58 @@ class TestCreFicJauge : public QObject
 private Q_SLOTS:
     void cleanup() { VideJauges(); }
     void Calculees();
-    void Langues();
     void Echec();
 };
 
-// Every form of file, to the byte, against measures that were calculated apart. The alarms come one by one, X first,
-// and stop nothing.
+// Every form of file, to the byte, against measures that were calculated apart; each form in another language. The
+// alarms come one by one, X first, and stop nothing.
 void TestCreFicJauge::Calculees()
 {
-    const Poste poste(0);
-    DossierRecep = poste.Dossier();
-    NomFicRecep = u"OUTILS.JAU"_s;
+    struct Forme
+    {
+        int langue, typeJauge, razDynamique;
+        QString titre, texte; // of an alarm
+    };
+    const Forme formes[] = {
+        {0, 0, 0, u"Alarme jauge en %1"_s, u"Alarme Jauge en %1!\rJauge en %1 du correcteur N°: \r"_s},
+        {1, 1, 0, u"Alarm gauge tool in %1"_s, u"Alarm gauge tool in %1!\rMeasure in %1 of corrector N°: \r"_s},
+        {2, 1, 1, u"Alarma mide instrumentos en %1"_s,
+         u"Alarma mide instrumentos en %1!\rCapacidad en %1 del corrector N°: \r"_s}};
     const QList<QList<QStringList>> table = Table();
     QVERIFY(std::accumulate(table.begin(), table.end(), 0, [](int n, const auto &f) { return n + f.size(); }) >= 60);
-    for (const QList<QStringList> &fichier : table) {
-        for (const auto &[type, raz] : {std::pair{0, 0}, {1, 0}, {1, 1}}) {
+    for (const Forme &forme : formes) {
+        const Poste poste(forme.langue);
+        DossierRecep = poste.Dossier();
+        NomFicRecep = u"OUTILS.JAU"_s;
+        for (const QList<QStringList> &fichier : table) {
             Operateur operateur;
             Configure(fichier.first());
-            ParamMac.TypeJauge = type;
-            ParamMac.RazDynamique = raz;
-            const bool tour = ParamMac.EstTour();
-            QString attendu = type == 0 ? u"%\r\n"_s
-                                        : u"%7999 (JAUGES OUTILS LE:"_s + Date() + u")\r\n"_s +
-                                              (tour ? u"(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)\r\n"_s
-                                                    : u"(JAUGE L     JAUGE R)\r\n"_s);
+            ParamMac.TypeJauge = forme.typeJauge;
+            ParamMac.RazDynamique = forme.razDynamique;
+            QStringList attendu{u"%"_s};
+            if (forme.typeJauge == 1)
+                attendu = {u"%7999 (JAUGES OUTILS LE:"_s + Date() + u')',
+                           ParamMac.EstTour() ? u"(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)"_s
+                                              : u"(JAUGE L     JAUGE R)"_s};
             for (const QStringList &ligne : fichier) {
                 Mesure(ligne);
-                attendu += ligne[type == 0 ? FormeD : FormeE] + u"\r\n"_s;
-                if (type == 1 && raz == 0)
-                    attendu += ligne[Raz] + u"\r\n"_s;
-                for (const auto &[sonne, axe] : {std::pair{RingX, u'X'}, {RingZ, u'Z'}}) {
+                attendu << ligne[forme.typeJauge == 0 ? FormeD : FormeE];
+                if (forme.typeJauge == 1 && forme.razDynamique == 0)
+                    attendu << ligne[Raz];
+                for (const auto &[sonne, axe] : {std::pair{RingX, u"X"_s}, {RingZ, u"Z"_s}}) {
                     if (!ligne[sonne].isEmpty())
-                        operateur.Repond(u"Alarme jauge en "_s + axe,
-                                         u"Alarme Jauge en "_s + axe + u"!\rJauge en "_s + axe +
-                                             u" du correcteur N°: \r"_s + ligne[sonne],
-                                         Boite::Critique, QMessageBox::Ok);
+                        operateur.Repond(forme.titre.arg(axe), forme.texte.arg(axe) + ligne[sonne], Boite::Critique,
+                                         QMessageBox::Ok);
                 }
             }
-            attendu += type == 0 ? QString() : u"\r\nM02\r\n"_s;
+            attendu << (forme.typeJauge == 0 ? QStringList() : QStringList{QString(), u"M02"_s}) << QString();
             FichierModifie = Vrai;
             CreFicJauge();
-            QCOMPARE(QString::fromLatin1(poste.Lit("OUTILS.JAU")), attendu);
-            QCOMPARE(frmPrinc->Text1->Text(), attendu);
+            QCOMPARE(QString::fromLatin1(poste.Lit("OUTILS.JAU")), attendu.join(u"\r\n"_s));
+            QCOMPARE(frmPrinc->Text1->Text(), attendu.join(u"\r\n"_s));
             QCOMPARE(NomFichier + TitreFichier, poste.Chemin("OUTILS.JAU") + NomFicRecep);
             QCOMPARE(FichierModifie, 0);
         }
-    }
-}
-
-// The alarm in the other languages; the words of its third line are the same.
-void TestCreFicJauge::Langues()
-{
-    for (const auto &[langue, titre, texte] :
-         {std::tuple{1, u"Alarm gauge tool in "_s, u"Alarm gauge tool in %1!\rMeasure in %1 of corrector N°: "_s},
-          {2, u"Alarma mide instrumentos en "_s,
-           u"Alarma mide instrumentos en %1!\rCapacidad en %1 del corrector N°: "_s}}) {
-        const Poste poste(langue);
-        DossierRecep = poste.Dossier();
-        NomFicRecep = u"A.JAU"_s;
-        ParamMac = {};
-        ParamMac.JaugeMaxiX = .5;
-        NbJauges = 1;
-        Jauge[1] = {7, 201, 1, 0, 0, u'R'};
-        Operateur operateur;
-        operateur.Repond(titre + u'X', texte.arg(QChar(u'X')) + u"\r7 > à .5 mm"_s, Boite::Critique, QMessageBox::Ok);
-        operateur.Repond(titre + u'Z', texte.arg(QChar(u'Z')) + u"\r7 > à 200 mm"_s, Boite::Critique, QMessageBox::Ok);
-        CreFicJauge();
-        QCOMPARE(poste.Lit("A.JAU"), "%\r\nD7 X1 Z201 R0 C0\r\n");
     }
 }
 

@@ -151,6 +151,7 @@ void TestFiltreJauge::Tour()
     operateur.Presse("JauTour", "Command1");
     operateur.Ferme("JauTour");
     FiltreJauge();
+    QCOMPARE(JauTourFait, 0);
     QCOMPARE(poste.Lit("A.JAU"), "%\r\nD1 X-25.5 Z102.36 R.8 C5\r\nD2 X26 Z98.12 R0 C0\r\n");
 
     Recoit({Mesure(u"1"_s, u"1E39"_s, u"1"_s, u"R"_s)}, 1);

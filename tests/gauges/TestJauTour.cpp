@@ -1,4 +1,3 @@
-#include "Operateur.h"
 #include "Poste.h"
 
 #include "gauges/Jauge.h"
@@ -40,7 +39,6 @@ private Q_SLOTS:
     void Tuiles_data();
     void Tuiles();
     void Mesures();
-    void Ferme();
 };
 
 void TestJauTour::Tuiles_data()
@@ -139,21 +137,6 @@ void TestJauTour::Mesures()
         lues += u"%1/%2/%3 "_s.arg(jauge.Rayon).arg(jauge.Localisateur).arg(jauge.JaugeX);
     }
     QCOMPARE(lues, u"0.8/3/2.5 1234/5/2.5 0/6/-2.5 0/7/-2.5 0.8/8/2.5 0/9/2.5 "_s);
-}
-
-// Closed before its end it leaves what was not validated.
-void TestJauTour::Ferme()
-{
-    const Poste poste(0);
-    NbJauges = 2;
-    Jauge[2] = {1, 1, 1, 9, 8, u'R'};
-    Operateur operateur;
-    operateur.Presse("JauTour", "Command1");
-    operateur.Ferme("JauTour");
-    JauTour(frmPrinc).exec();
-    QCOMPARE(JauTourFait, 0);
-    QCOMPARE(Jauge[1].Rayon + Jauge[2].Rayon, 9.0F);
-    QCOMPARE(Jauge[2].Localisateur, 8);
 }
 
 QTEST_MAIN(TestJauTour)
