@@ -126,6 +126,12 @@ void TestServices::AideEtApropos()
         operateur.Fait("Apropos", [&mots = mots](QWidget &fenetre) {
             const QStringList lus{fenetre.windowTitle(), Operateur::Lu("Label1"), Operateur::Lu("Label8")};
             QCOMPARE(lus.join(u'|').replace(u'\n', u'|'), mots);
+            for (const char *const lien : {"Label8", "Label4", "Label5"}) { // the keyboard's place is to be seen
+                auto *const bouton = fenetre.findChild<QPushButton *>(QLatin1String(lien));
+                const QImage sans = bouton->grab().toImage();
+                bouton->setFocus();
+                QVERIFY2(bouton->grab().toImage() != sans, lien);
+            }
         });
         for (const char *const bouton : {"Label8", "Label4", "Label5", "Command1"})
             operateur.Presse("Apropos", bouton);
