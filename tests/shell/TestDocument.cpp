@@ -1,4 +1,5 @@
 #include "Operateur.h"
+#include "platform/Essais.h"
 #include "Poste.h"
 
 #include "platform/CommonDialog.h"
@@ -25,23 +26,17 @@ struct Atelier : Poste, Operateur
     {
     }
 
-    void Ouvre(const QString &chemin)
+    void Choisit(const char *entree, const QString &chemin)
     {
-        Choisit(chemin);
-        Menu("Mnu_Ouvrir");
-    }
-
-    void Enregistre(const QString &chemin)
-    {
-        Choisit(chemin);
-        Menu("Mnu_EnregistrerSous");
+        Operateur::Choisit(chemin);
+        Menu(entree);
     }
 
     /// Opens "P.iso", which holds G0, and types G1 instead.
     QString Change()
     {
         const QString chemin = Poste::Ecrit(Iso, "G0");
-        Ouvre(chemin);
+        OuvreDocument(chemin);
         frmPrinc->Text1->setText(u"G1"_s);
         return chemin;
     }
@@ -66,16 +61,14 @@ private Q_SLOTS:
     void DialogueOuvrir();
     void OuvertureRatee();
     void EnregistrementRate();
-    void Ecrase();
     void Nouveau();
 };
 
-// Through the two commands a program keeps every byte; the saving adds one CR LF.
+// Through the two commands a program keeps every byte, whatever stood in the pane; the saving adds one CR LF.
 void TestDocument::AllerRetour()
 {
-    QByteArray tous;
-    for (int code = 0; code < 256; ++code)
-        tous += static_cast<char>(code);
+    Atelier atelier;
+    const QByteArray tous = TousLesOctets();
     QByteArray gros;
     for (int bloc = 0; gros.size() < 10'000'000; ++bloc)
         gros += "N" + QByteArray::number(bloc) + " G1 X12.345 Y-6.789 F1000" + (bloc % 3 == 0 ? "\n" : "\r\n");
@@ -84,9 +77,8 @@ void TestDocument::AllerRetour()
           QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
           QByteArray(tous).replace("", "\r\n"), QByteArray(3, '\0'), QByteArray(100'000, 'X'),
           QByteArray("M30\r\n\x1A"), QByteArray("{\\rtf1 G0}"), gros}) {
-        Atelier atelier;
         const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
-        atelier.Ouvre(chemin);
+        atelier.Choisit("Mnu_Ouvrir", chemin);
         QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
         QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
         QCOMPARE(frmPrinc->Label2->text(), u"Pièce n° 1.iso"_s);
@@ -95,11 +87,12 @@ void TestDocument::AllerRetour()
         for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
             QVERIFY(Operateur::Offre(entree));
 
-        atelier.Enregistre(atelier.Chemin("copie.iso"));
+        atelier.Choisit("Mnu_EnregistrerSous", atelier.Chemin("copie.iso"));
         QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
         QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
         QCOMPARE(frmPrinc->windowTitle(), Version + atelier.Chemin("copie.iso"));
         QCOMPARE(frmPrinc->Label2->text() + TitreFichier, u"copie.isocopie.iso"_s);
+        QFile::remove(atelier.Chemin("copie.iso"));
     }
 }
 
@@ -122,7 +115,7 @@ void TestDocument::DialogueOuvrir()
                 dialogue.reject();
         });
         if (!fichier.isEmpty())
-            atelier.Choisit(fichier);
+            atelier.Operateur::Choisit(fichier);
         Operateur::Menu(entree);
     }
     QCOMPARE(frmPrinc->Text1->Text() + TitreFichier, u"G0P.xcn"_s);
@@ -159,7 +152,7 @@ void TestDocument::EnregistrementRate()
         Atelier atelier(langue);
         const QString chemin = atelier.Change();
         QFile::link(u"/dev/full"_s, atelier.Chemin("plein.iso"));
-        atelier.Choisit(atelier.Chemin(ou));
+        atelier.Operateur::Choisit(atelier.Chemin(ou));
         if (langue == 0)
             atelier.Fait("", Operateur::Clique(QMessageBox::Yes)); // replace the file of that name
         atelier.Repond(titre, texte, Boite::Critique, QMessageBox::Ok);
@@ -169,30 +162,13 @@ void TestDocument::EnregistrementRate()
     }
 }
 
-// Another file of that name is replaced only after a Yes.
-void TestDocument::Ecrase()
-{
-    Atelier atelier;
-    atelier.Change();
-    for (const bool oui : {false, true}) {
-        const QString autre = atelier.Ecrit("autre.iso", "M30 and a longer text than the new one");
-        atelier.Choisit(autre);
-        atelier.Fait("", Operateur::Clique(oui ? QMessageBox::Yes : QMessageBox::No));
-        if (!oui)
-            atelier.Ferme("CommonDialog");
-        Operateur::Menu("Mnu_EnregistrerSous");
-        QCOMPARE(atelier.Lit("autre.iso"), QByteArray(oui ? "G1\r\n" : "M30 and a longer text than the new one"));
-        QCOMPARE(TitreFichier, oui ? u"autre.iso"_s : Iso);
-    }
-}
-
 // A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
 // programs, wherever the file dialog was last used.
 void TestDocument::Nouveau()
 {
     Atelier atelier(2);
     const QString chemin = atelier.Ecrit(Iso, "G0");
-    atelier.Ouvre(chemin);
+    atelier.Choisit("Mnu_Ouvrir", chemin);
     for (const auto &[tape, enregistre, va, fichier] : {std::tuple{u""_s, QMessageBox::NoButton, QMessageBox::No, "G0"},
                                                         {u"G1"_s, QMessageBox::No, QMessageBox::No, "G0"},
                                                         {u"G2"_s, QMessageBox::Yes, QMessageBox::No, "G2\r\n"},

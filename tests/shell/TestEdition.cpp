@@ -38,7 +38,6 @@ class TestEdition : public QObject
 private Q_SLOTS:
     void Entrees();
     void Commandes();
-    void CopieVersAilleurs();
     void Raccourcis();
 };
 
@@ -95,22 +94,6 @@ void TestEdition::Commandes()
         QCOMPARE(frmPrinc->Text1->Text(), avant);
         QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
     }
-}
-
-// Bytes that are no ordinary text survive the clipboard; typing leaves the undo copy alone.
-void TestEdition::CopieVersAilleurs()
-{
-    const Atelier atelier(0, 0, "%\f\t\r\xE9\x80\x81\nFIN");
-    const QString texte = frmPrinc->Text1->Text();
-    Atelier::Selectionne(0, int(texte.size()));
-    Operateur::Menu("Mnu_Couper");
-    QVERIFY(frmPrinc->Text1->EstVide());
-    Operateur::Menu("Mnu_Coller");
-    QCOMPARE(frmPrinc->Text1->Text(), texte);
-    QTest::keyClicks(frmPrinc->Text1, u"abc"_s);
-    QCOMPARE(TexteAnnuler, QString());
-    Operateur::Menu("Mnu_Annuler");
-    QVERIFY(frmPrinc->Text1->EstVide());
 }
 
 // Ctrl+C loads a configuration, also while the keyboard is in the text. Alt with a letter that no menu bears types

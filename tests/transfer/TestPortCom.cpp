@@ -58,25 +58,14 @@ void TestPortCom::Ouvre()
     Em_Rc dialogue(frmPrinc);
     FermePortCOM(dialogue);
     LangIndex = 2;
-    ParamCom.NumPort = 4;
-    ParamCom.NbCarLecture = 1;
-    ParamCom.FiltreNul = 1;
-    ParamCom.CarRemplace = u"!"_s;
-    ParamCom.TailleTamponRecep = 2000;
-    ParamCom.TailleTamponEmis = 100;
-    ParamCom.LigneRTS = ParamCom.LigneDTR = 1;
-    ParamCom.SeuilRecep = 7;
-    ParamCom.SeuilEmis = 8;
-    ParamCom.ControleFlux = 0;
-    ParamCom.BitsDonnees = u"5"_s;
-    ParamCom.BitsArret = u"1.5"_s;
-    ParamCom.Parite = u"e"_s;
+    LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s);
+    ParamCom.BitsDonnees = u"5"_s; // which alone go with 1.5 stop bits
     OuvrePortCOM();
     QCOMPARE((QList<int>{c.CommPort(), c.InputLen(), c.NullDiscard(), c.InBufferSize(), c.OutBufferSize(),
                          c.RThreshold(), c.SThreshold(), c.Handshaking()}),
-             (QList<int>{4, 1, 1, 2000, 100, 7, 8, 0}));
-    QCOMPARE(c.ParityReplace() + c.Settings(), u"!115200,e,5,1.5"_s);
-    QVERIFY(atelier.ligne->rts && atelier.ligne->dtr);
+             (QList<int>{3, 100, 1, 2048, 256, 128, 5, 1}));
+    QCOMPARE(c.ParityReplace() + c.Settings(), u"?19200,o,5,1.5"_s);
+    QVERIFY(!atelier.ligne->rts && atelier.ligne->dtr);
     QCOMPARE(atelier.ligne->reglages.constLast().demiBitsArret, 3);
     QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Abierto"_s);
     FermePortCOM(dialogue);
@@ -89,15 +78,16 @@ void TestPortCom::Ouvre()
 void TestPortCom::OuvreRate()
 {
     Atelier atelier;
+    // the way of flow control, the port, the number with which the line refuses
     for (const auto &[flux, port, refus, numero, vitesse, bits, texte] :
-         {std::tuple{9, 2, 0, 8015, u"x"_s, u"8"_s, u"Impossible de définir l'état de communication"_s},
-          {1, 99, 0, 8007, u"x"_s, u"4"_s, u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
-          {1, 99, 0, 8008, u"9600"_s, u"4"_s, u"La taille d'octet spécifiée n'est pas valide"_s},
-          {1, 17, 8015, 8002, u"9600"_s, u"8"_s, u"Numéro de port non valide"_s},
-          {1, 2, 8015, 8015, u"9600"_s, u"8"_s, u"Impossible de définir l'état de communication"_s}}) {
+         {std::tuple{9, 2, 0, 8015, "x", "8", u"Impossible de définir l'état de communication"_s},
+          {1, 99, 0, 8007, "x", "4", u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
+          {1, 99, 0, 8008, "9600", "4", u"La taille d'octet spécifiée n'est pas valide"_s},
+          {1, 17, 8015, 8002, "9600", "8", u"Numéro de port non valide"_s},
+          {1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s}}) {
         ParamCom.ControleFlux = flux;
-        ParamCom.Vitesse = vitesse;
-        ParamCom.BitsDonnees = bits;
+        ParamCom.Vitesse = QLatin1String(vitesse);
+        ParamCom.BitsDonnees = QLatin1String(bits);
         ParamCom.NumPort = port;
         atelier.ligne->refusReglage = refus;
         atelier.operateur.LitErreur(numero, texte);
