@@ -46,7 +46,6 @@ int OuvreProgramme(int nombre, char *arguments[])
     AppliqueLangueSysteme();
     polices.wait();
     FrmPrinc fenetre;
-    QApplication::setWindowIcon(fenetre.windowIcon());
     Branche();
     Form_Load();
     return Ouvre(fenetre);

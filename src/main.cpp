@@ -18,7 +18,6 @@ int main(int nombre, char *arguments[])
 
     polices.wait();
     FrmPrinc fenetre;
-    QApplication::setWindowIcon(fenetre.windowIcon());
     fenetre.MSComm1->setDossierPorts(AjouteAntislash(DossierApplication()) + QStringLiteral("Ports"));
     Branche();
     // The operator has been asked for his text by then. Another window that stands open does not keep the program

@@ -82,9 +82,10 @@ QString LabelChaine::NomCaractere(int code)
     return code == suppression ? QStringLiteral("DEL") : QString();
 }
 
-void LabelChaine::paintEvent(QPaintEvent *evenement)
+void LabelChaine::paintEvent(QPaintEvent *)
 {
-    QFrame::paintEvent(evenement);
+    QPainter peintre(this);
+    drawFrame(&peintre);
     const QRect cadre = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     const QString visible = Visible(text());
     const auto lignes = Lignes(visible, font(), cadre.width());
@@ -95,7 +96,6 @@ void LabelChaine::paintEvent(QPaintEvent *evenement)
     if (alignment() & Qt::AlignVCenter)
         haut += qMax(0, cadre.height() - montrees * pas) / 2;
 
-    QPainter peintre(this);
     peintre.setPen(palette().color(foregroundRole()));
     for (int i = 0; i < montrees; ++i, haut += pas) {
         const auto &[debut, longueur] = lignes[i];

@@ -24,7 +24,7 @@ public:
     static QString NomCaractere(int code);
 
 protected:
-    void paintEvent(QPaintEvent *evenement) override;
+    void paintEvent(QPaintEvent *) override;
 
 private:
     int m_lignes = 1;

@@ -39,6 +39,7 @@ private:
     void Command1_Click();
     void Command5_Click();
 
+    void GardePlaces();
     void BrancheCommandes();
     void BrancheChaines();
     void BrancheDossiers();

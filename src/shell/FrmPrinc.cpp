@@ -7,6 +7,7 @@
 #include "platform/MSComm.h"
 #include "shell/CadreExplorateur.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QToolButton>
 
@@ -95,7 +96,7 @@ void FrmPrinc::NommeControles()
 
 void FrmPrinc::PoseIcones()
 {
-    setWindowIcon(IconeProgramme("Dorvanel"));
+    QApplication::setWindowIcon(IconeProgramme("Dorvanel")); // that of every window
     int position = 0;
     for (const char *const icone : IconesBoutons) {
         if (QAction *const bouton = Bouton(++position))

@@ -2,6 +2,7 @@
 #include "Operateur.h"
 #include "Poste.h"
 
+#include "comconfig/DosProg.h"
 #include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
 #include "platform/FolderTreeview.h"
@@ -54,7 +55,6 @@ class TestProp : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void MontreEtPrend();
     void Options();
     void Lecture();
     void Nombres();
@@ -66,31 +66,6 @@ private Q_SLOTS:
     void Aides();
     void RienNEstCoupe();
 };
-
-// All that a full file holds is shown, and a saving that changes nothing gives the same file, byte for byte. So does
-// one of values that no list has.
-void TestProp::MontreEtPrend()
-{
-    Etabli e;
-    DosConf = e.Dossier();
-    for (const QString &vitesse : {u"19200"_s, u"187500"_s}) {
-        ParamCom.Vitesse = vitesse;
-        EcrireFichierPar(e.Chemin("Attendu.par"));
-        Essai prop;
-        prop.Nomme(u"Tour.par"_s);
-        prop.Text1->setText(ParamCom.Commentaire);
-        QCOMPARE(prop.cboSpeed->currentText(), vitesse == u"19200" ? vitesse : QString());
-        e.Fait("CommonDialog", [](QWidget &fenetre) {
-            auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
-            QCOMPARE(dialogue.windowTitle(), u"Enregistrer la configuration de communication"_s);
-            QCOMPARE(dialogue.selectedFiles(), QStringList{DosConf + u"/Tour.par"_s});
-        });
-        e.Choisit(e.Chemin(vitesse));
-        prop.Command17->click();
-        QCOMPARE(e.Poste::Lit(vitesse), e.Poste::Lit("Attendu.par"));
-        QCOMPARE(prop.windowTitle(), u"Propriétés et configuration de la communication - Fichier : "_s + vitesse);
-    }
-}
 
 // A click is in the record at once and stays there when the dialog closes, but for the two that a saving takes.
 void TestProp::Options()
@@ -118,7 +93,7 @@ void TestProp::Options()
     }
 }
 
-// What goes with a way of receiving and with a fixed size. What was typed is overwritten when a child dialog closes.
+// What goes with a way of receiving. What was typed is overwritten when a child dialog closes.
 void TestProp::Lecture()
 {
     Etabli e;
@@ -126,24 +101,24 @@ void TestProp::Lecture()
          {std::tuple{0, 1, u"512"_s}, {1, 1, u"1"_s}, {2, 1, u"512"_s}, {1, 512, u"512"_s}, {2, 100, u"100"_s}}) {
         ParamCom.TypeRecep = type;
         ParamCom.NbCarLecture = nombre;
-        Essai prop;
-        QCOMPARE(prop.Text2->text(), montre);
-        prop.Text2->setText(u"77"_s);
-        e.Ferme("FrmCaract");
-        prop.Command22->click();
-        QCOMPARE(prop.Text2->text(), montre);
+        const Essai prop;
+        for (const auto *const tape : {u"77", u"1"}) {
+            QCOMPARE(prop.Text2->text(), montre);
+            prop.Text2->setText(QString::fromUtf16(tape));
+            e.Ferme("FrmCaract");
+            prop.Command22->click();
+        }
     }
-    Essai prop;
-    for (const auto &[avant, bouton, apres] :
-         {std::tuple{u"7"_s, 1, u"1"_s}, {u"1"_s, 0, u"512"_s}, {u"01"_s, 2, u"01"_s}, {u"1"_s, 0, u"512"_s}}) {
+    const Essai prop;
+    for (const auto &[avant, option, apres] :
+         {std::tuple{u"7"_s, 1, u"1"_s}, {u"1"_s, 0, u"512"_s}, {u"01"_s, 2, u"01"_s}}) {
         prop.Text2->setText(avant);
-        prop.Trouve(u"OptionRCP_%1"_s.arg(bouton))->click();
+        prop.Trouve(u"OptionRCP_%1"_s.arg(option))->click();
         QCOMPARE(prop.Text2->text(), apres);
     }
-    for (const int fixe : {0, 1}) {
-        prop.Trouve(u"OptionTaille_%1"_s.arg(fixe))->click();
-        QCOMPARE(prop.Text8->text(), u"0"_s);
-        QVERIFY(prop.Text8->isHidden() != fixe && prop.Label18->isHidden() != fixe);
+    for (const bool fixe : {false, true}) {
+        (fixe ? prop.OptionTaille_1 : prop.OptionTaille_0)->click();
+        QVERIFY(prop.Text8->text() == u"0" && prop.Text8->isHidden() != fixe && prop.Label18->isHidden() != fixe);
     }
 }
 
@@ -151,13 +126,15 @@ void TestProp::Lecture()
 // record sound: a saving takes nothing, Apply takes the rest.
 void TestProp::Nombres()
 {
-    const std::tuple<QString, QString, int C::*> boites[] = {
-        {u"Text2"_s, u"Label9"_s, &C::NbCarLecture},      {u"Text4"_s, u"Label11"_s, &C::TailleTamponRecep},
-        {u"Text5"_s, u"Label14"_s, &C::TailleTamponEmis}, {u"Text6"_s, u"Label15"_s, &C::SeuilRecep},
-        {u"Text7"_s, u"Label16"_s, &C::SeuilEmis},        {u"Text8"_s, u"Label18"_s, &C::TailleRecep}};
+    const std::tuple<QString, QString, int C::*> boites[] = {{u"Text2"_s, {}, &C::NbCarLecture},
+                                                             {u"Text4"_s, {}, &C::TailleTamponRecep},
+                                                             {u"Text5"_s, u"Label14"_s, &C::TailleTamponEmis},
+                                                             {u"Text6"_s, u"Label15"_s, &C::SeuilRecep},
+                                                             {u"Text7"_s, u"Label16"_s, &C::SeuilEmis},
+                                                             {u"Text8"_s, u"Label18"_s, &C::TailleRecep}};
     Etabli e;
+    const Essai prop;
     for (const auto &[nom, legende, champ] : boites) {
-        Essai prop;
         auto *const boite = prop.Trouve<QLineEdit>(nom);
         boite->clear();
         QTest::keyClicks(boite, u"1a-23. "_s);
@@ -170,25 +147,23 @@ void TestProp::Nombres()
             prop.Command1->click();
             QCOMPARE(ParamCom.*champ, valeur);
         }
-        QCOMPARE(boite->maxLength(), champ == &C::NbCarLecture || champ == &C::TailleTamponRecep ? 4 : 32767);
         for (const QString &trop : {u"32768"_s, QString(400, u'9')}) {
             boite->setText(trop);
-            if (boite->maxLength() == 4)
+            QCOMPARE(boite->text().size(), legende.isEmpty() ? 4 : trop.size());
+            if (legende.isEmpty())
                 continue;
             ParamCom.*champ = 44;
-            ParamCom.Commentaire = u"ancien"_s;
-            const QString texte =
-                prop.Trouve<QLabel>(legende)->text() + u'\r' + trop + u" ne convient pas (32767 au plus)."_s;
-            e.Prevenu(texte);
-            prop.Command1->click();
-            QCOMPARE(boite->text() + ParamCom.Commentaire, trop + u"ancien"_s);
-            if (boite == prop.Text8) // which only a saving reads
-                continue;
-            e.Prevenu(texte);
-            prop.cmdOK->click();
-            QCOMPARE(ParamCom.Commentaire, QString());
-            QCOMPARE(ParamCom.*champ, 44);
+            for (QPushButton *const bouton : {prop.Command1, prop.cmdOK}) {
+                if (boite == prop.Text8 && bouton == prop.cmdOK) // which only a saving reads
+                    continue;
+                ParamCom.Commentaire = u"ancien"_s;
+                e.Prevenu(prop.Trouve<QLabel>(legende)->text() + u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
+                bouton->click();
+                QCOMPARE(ParamCom.Commentaire, bouton == prop.cmdOK ? QString() : u"ancien"_s);
+                QVERIFY(ParamCom.*champ == 44 && boite->text() == trop);
+            }
         }
+        boite->setText(u"1"_s);
     }
 }
 
@@ -282,11 +257,11 @@ void TestProp::Echecs()
     QVERIFY(e.Poste::Lit("libre.par").startsWith("3\r\n\"Com3\"\r\n\"Tour 'A'\"\r\n\"19200\"\r\n"));
 }
 
-// A new configuration; one to modify; one that breaks off: told, opened, saved again and whole.
+// A new configuration; then one to modify, which a saving without a change gives back byte for byte, also where no list
+// has its value; and one that breaks off: told, opened, saved again and whole.
 void TestProp::Commandes()
 {
     Etabli e;
-    NomConf = u"X.par"_s;
     e.Fait("Prop", [](QWidget &fenetre) {
         QCOMPARE(fenetre.windowTitle(), u"Propriétés et configuration de la communication - Fichier : Nouveau"_s);
         QCOMPARE(Operateur::Lu("Label6") + Operateur::Lu("Text1"), u"Nouveau"_s);
@@ -301,55 +276,54 @@ void TestProp::Commandes()
     QCOMPARE(ParamCom.CarFinLig[3], 10);
     e.Ferme("CommonDialog");
     Operateur::Menu("Mnu_ModifConf");
-    QVERIFY(NomConf == u"X.par" && !Operateur::Offre("Mnu_RecepProg"));
+    QVERIFY(FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
 
     QFile fichier(e.m_complet);
     QVERIFY(fichier.open(QIODevice::ReadOnly));
-    const QByteArray octets = fichier.readAll();
-    for (const bool entier : {true, false}) {
-        e.Choisit(e.Ecrit("Ancien.par", octets.chopped(entier ? 0 : 5)));
-        if (!entier)
+    const QByteArray entier = fichier.readAll();
+    const QByteArray autre = QByteArray(entier).replace("19200", "187500");
+    DosConf = e.Dossier();
+    for (const QByteArray &octets : {entier, autre, autre.chopped(5)}) {
+        QFile::remove(e.Chemin("Sans suffixe"));
+        e.Choisit(e.Ecrit("Ancien.par", octets));
+        if (octets.size() < entier.size())
             e.Repond("Fichier de configuration erroné ou de version antérieure !",
                      "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
                      Boite::Exclamation, QMessageBox::Ok);
         e.Presse("Prop", "Command1");
-        e.Choisit(e.Chemin(entier ? "Copie.par" : "Repare.par"));
-        e.Presse("Prop", "cmdCancel");
+        e.Fait("CommonDialog", [](QWidget &fenetre) {
+            QCOMPARE(fenetre.windowTitle(), u"Enregistrer la configuration de communication"_s);
+            QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).selectedFiles(), QStringList{DosConf + u"/Ancien.par"_s});
+        });
+        e.Choisit(e.Chemin("Sans suffixe"));
+        e.Fait("Prop", [](QWidget &fenetre) {
+            QCOMPARE(fenetre.windowTitle(),
+                     u"Propriétés et configuration de la communication - Fichier : Sans suffixe"_s);
+            fenetre.close();
+        });
         Operateur::Menu("Mnu_ModifConf");
-        QCOMPARE(e.Poste::Lit(NomConf), octets);
+        QCOMPARE(e.Poste::Lit("Sans suffixe"), octets == entier ? entier : autre);
         QVERIFY(Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Bouton(10)->isEnabled());
         QCOMPARE(frmPrinc->Label4->text() + ParamCom.ChaineFinLig, u"Ancien.par"_s); // until Apply
     }
 }
 
-// A folder applied in the tree is shown; one only looked at is in the record until Apply puts the shown one back. The
-// editor goes to the settings at once, unless its choice is given up.
+// A folder only looked at is in the record until Apply puts the shown one back. The editor goes to the settings at
+// once, unless its choice is given up.
 void TestProp::DossiersEtEditeur()
 {
     Etabli e;
-    QDir(e.Dossier()).mkpath(u"Pieces"_s);
     ParamCom.BitsArret = u"1"_s;
     ParamCom.DosRecep = DosJauge = EditeurCN = e.Dossier();
     const Essai prop;
-    for (const bool applique : {false, true}) {
-        for (QPushButton *const bouton : {prop.Command16, prop.Command2, prop.Command3}) {
-            e.Fait("DosProg", [&](QWidget &fenetre) {
-                QCOMPARE(fenetre.windowTitle(), u"Choix du dossier de réception des %1"_s.arg(
-                                                    bouton == prop.Command3 ? u"Jauges Outils"_s : u"Programmes CN"_s));
-                fenetre.findChild<FolderTreeview *>()->setSelectedFolder(e.Chemin("Pieces"));
-                if (applique)
-                    fenetre.findChild<QPushButton *>(u"Command1"_s)->click();
-                fenetre.close();
-            });
-            bouton->click();
-        }
-        QCOMPARE(QDir(ParamCom.DosRecep), QDir(e.Chemin("Pieces")));
-        for (const QLabel *const label : std::initializer_list<QLabel *>{prop.Label8, prop.Label17, prop.Label10})
-            QCOMPARE(QDir(label->text()), QDir(applique ? e.Chemin("Pieces") : e.Dossier()));
-        prop.cmdOK->click();
-        QCOMPARE(ParamCom.DosRecep, prop.Label17->text());
-    }
-    QVERIFY(QFile::remove(CheminCfg()));
+    e.Fait("DosProg", [](QWidget &fenetre) {
+        dynamic_cast<DosProg &>(fenetre).FolderTreeview1->setSelectedFolder(u"/"_s);
+        fenetre.close();
+    });
+    prop.Command16->click();
+    QCOMPARE(ParamCom.DosRecep + prop.Label17->text(), u'/' + e.Dossier());
+    prop.cmdOK->click();
+    QCOMPARE(ParamCom.DosRecep, e.Dossier());
     for (const bool prend : {false, true}) {
         if (prend)
             e.Choisit(e.Ecrit("Mon editeur.exe", {}));
@@ -368,26 +342,17 @@ void TestProp::Aides()
     for (int langue = 0; langue < 3; ++langue) {
         Etabli e(langue);
         const Essai prop;
-        for (const int bouton : {7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 23, 24, 25}) {
+        for (const int bouton : {6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 23, 24, 25}) {
             e.Fait("MsgBox", [&textes](QWidget &fenetre) {
-                textes << Operateur::Lu("qt_msgbox_label") + fenetre.windowTitle();
+                textes << fenetre.windowTitle() + u'|' + dynamic_cast<QMessageBox &>(fenetre).text();
                 fenetre.close();
             });
             prop.Trouve(u"Command%1"_s.arg(bouton))->click();
         }
-        const QAnyStringView titres[] = {u"Information sur le réglage de la parité",
-                                         u"Information on the adjustment of the parity",
-                                         u"Información sobre el ajuste de la paridad"};
-        const QAnyStringView parite[] = {
-            u"Information sur la parité\r\rEven : Paire\rMarque : Marque\rNone : Aucune (Valeur par défaut)\r"
-            "Odd : Impaire\rSpace : Espace",
-            u"Information on the parity\r\rEven : \rMarque : \rNone : None (Default value)\rOdd : \rSpace : ",
-            u"Información sobre la paridad\r\rEven : Paire\rMarque : Marque\rNone : Ninguna (Valor por defecto)\r"
-            "Odd : Impar\rSpace : Espacio"};
-        e.Repond(titres[langue], parite[langue], Boite::Information, QMessageBox::Ok);
-        prop.Command6->click();
     }
-    QCOMPARE(textes.size(), 3 * 13);
+    QCOMPARE(textes.size(), 3 * 14);
+    QVERIFY(textes.contains(u"Information on the adjustment of the parity|Information on the parity\n\nEven : \n"
+                            "Marque : \nNone : None (Default value)\nOdd : \nSpace : "_s));
 }
 
 // In each language, whatever it shows, the dialog fits the screens of the shop and no word is cut. Each port says what

@@ -2,7 +2,6 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "shell/CadreExplorateur.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
 
@@ -15,26 +14,8 @@ class TestLegendes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Traduites();
     void Donnees();
 };
-
-// A caption of each kind: window, menu, entry, tool tip, frame, label, tool bar; and those of a dialog.
-void TestLegendes::Traduites()
-{
-    const Poste poste(2);
-    const Em_Rc d(nullptr);
-    frmPrinc->CreeExplorateur();
-    const FrmPrinc &f = *frmPrinc;
-    QCOMPARE((QStringList{f.windowTitle(), f.Mnu_Fichier->title(), f.Mnu_EnregistrerSous->text(),
-                          f.Bouton(17)->toolTip(), f.Frame1->title(), f.Label2->text(), f.Toolbar1->windowTitle()}
-                  .join(u'|')),
-             u"Dorvanel Pro versión 1.7.0|Ficheros|Registrar bajo...|A propósito|Explorador de ficheros|Ningún|"
-             u"Barra de herramientas"_s);
-    QCOMPARE(f.Bouton(17)->text(), f.Bouton(17)->toolTip());
-    QCOMPARE((QStringList{d.windowTitle(), d.Frame2->title(), d.Command2->text(), d.Command1->toolTip()}.join(u'|')),
-             u"Transferencia|Configuración de comunicación seleccionada|Emisión...|Cancela la transferencia"_s);
-}
 
 // A change of language writes over no data, and over no entry without a translation; a language that is none changes
 // nothing. A dialog that hangs on the main window keeps its own captions, though names of the controls are alike.

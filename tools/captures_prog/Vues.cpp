@@ -37,7 +37,9 @@ void ChargeConfiguration()
 QWidget *Principale(bool explorateur)
 {
     DosDefaut = Exemple("Programmes");
-    if (frmPrinc->ExplorateurMontre() != explorateur)
+    if (frmPrinc->ExplorateurMontre())
+        Mnu_AffichDOS();
+    if (explorateur)
         Mnu_AffichDOS();
     frmPrinc->resize(860, 620);
     return frmPrinc;
