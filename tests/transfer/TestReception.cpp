@@ -159,279 +159,263 @@ class TestReception : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Contenus();
-    void Ligne();
-    void Operateurs();
-    void Debranche();
-    void DossierDisparu();
-    void TropDeLignes();
-    void AnnuleALaFin();
-    void FichierExistant();
-    void Evenements();
-};
-
-// What a machine may send: nothing, a program, the end string in the middle or not alone, any byte. To the file on the
-// disk, the pane, the answer to the machine and the names of the document; what comes behind the end changes nothing.
-void TestReception::Contenus()
-{
-    const QByteArray tous = TousLesOctets();
-    const QByteArray sansFin = QByteArray(tous).replace('\x04', "");
-    const QByteArray avale = QByteArray(sansFin).replace('\r', "").replace("\n", "\r\n");
-    const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
-    const QByteArray milieu = "A\x04 B\r\n";
-    // type of line end; what the operator has added to each; whether the end must be forced, as it comes with the rest
-    const std::tuple<Genre, int, int, QByteArray, bool, QByteArray> cas[] = {
-        {ParLigne, 3, 0, "", false, "\r\n"},
-        {ParLigne, 3, 0, deux, false, deux + "\r\n"},
-        {ParLigne, 3, 3, "A\r\nB\r\n", false, "A\r\n\r\nB\r\n\r\n\r\n"},
-        {ParLigne, 0, 1, "A\nB\n", false, "A\n\r\nB\n\r\n\r\n"},
-        {ParLigne, 3, 0, milieu, false, milieu + "\r\n"},
-        {ParLigne, 3, 0, "A\r\n", true, "A\r\r\n\r\n"},
-        {ParLigne, 3, 0, tous + "\r\n", false, tous + "\r\n\r\n"},
-        {ParCaractere, 3, 0, "", false, "\r\n"},
-        {ParCaractere, 3, 0, deux, false, deux + "\r\n"},
-        {ParCaractere, 4, 0, "A\r\r\nB\r\r\n", false, "A\r\nB\r\n\r\n"}, // a chain of the operator's own
-        {ParCaractere, 3, 0, "A\r\n" + milieu, false, "A\r\n\r\n"},
-        {ParCaractere, 3, 0, sansFin + "\r\n", false, avale + "\r\n\r\n"},
-        {ParFichier, 3, 0, "", false, "\r\n"},
-        {ParFichier, 3, 0, milieu, false, milieu + "\r\n"},
-        {ParFichier, 3, 0, tous, false, tous + "\r\n"}};
-    for (const auto &[genre, finLigne, option, envoye, force, fichier] : cas) {
-        Banc banc(genre);
-        ParamCom.TypeFinLig = finLigne;
-        ParamCom.FinLigRecep = option;
-        ParamCom.NbCarFinLig = 3;
-        ParamCom.CarFinLig = {0, 13, 13, 10};
-        BatirChaines();
-        if (force) {
-            banc.Envoie(envoye + '\x04');
-            banc.Force(QMessageBox::Yes);
-        } else {
-            banc.EnvoieLignes(envoye);
-            banc.Envoie("\x04", [] { return FinTransfert == 0; });
-            banc.Envoie("\r\n\x04", [] { return FinTransfert == 1; });
-        }
-        const bool parFichier = genre == ParFichier;
-        banc.operateur.Fait(
-            Dialogue,
-            [parFichier](QWidget &) {
-                QCOMPARE(Operateur::Lu("Label2"), u"Transfert réalisé avec succès !"_s);
-                QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s);
-            },
-            [] { return FinTransfert == 1 && !PortOuvert; });
-        QCOMPARE(banc.Recoit(), fichier);
-        QCOMPARE(banc.ligne->ecrits, QByteArray("\x04"));
-        QCOMPARE(frmPrinc->Text1->Text().size(), fichier.size() - (parFichier ? 2 : 0));
-        QCOMPARE(FichierModifie, 0);
-        QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
-        QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
-        QVERIFY(frmPrinc->Text2->isHidden());
-    }
-}
-
-// What happens on the line between two lines of a program is told and ends nothing; only the character that came wrong
-// is replaced. A machine that holds the line until the end gets no end string, and the reception does not wait for it.
-void TestReception::Ligne()
-{
-    struct Faute
+    // What a machine may send: nothing, a program, the end string in the middle or not alone, any byte. To the file on
+    // the disk, the pane, the answer to the machine and the names of the document; what comes behind the end changes
+    // nothing.
+    void Contenus()
     {
-        int evenement; ///< 0: none comes
-        std::function<void(Scenario &)> debut, fin;
-        QByteArray ajout, reponse;
-    };
-    const auto compte = [](unsigned CompteursLigne::*champ) {
-        return [champ](Scenario &ligne) { ++(ligne.compteurs.*champ); };
-    };
-    const auto cts = [](bool etat) { return [etat](Scenario &ligne) { ligne.etats->cts = etat; }; };
-    const auto parite = [](Scenario &ligne) {
-        ++ligne.compteurs.parite;
-        ligne.Envoie("X\r\n", {0});
-    };
-    const std::function<void(Scenario &)> rien;
-    const QByteArray eot = "\x04";
-    const Faute fautes[] = {{1009, parite, rien, "?\r\n", eot},
-                            {1004, compte(&CompteursLigne::trame), rien, "", eot},
-                            {1001, compte(&CompteursLigne::pauses), rien, "", eot},
-                            {1006, compte(&CompteursLigne::cadence), rien, "", eot},
-                            {1008, compte(&CompteursLigne::debordements), rien, "", eot},
-                            {3, cts(false), cts(true), "", eot},
-                            {3, cts(false), rien, "", ""},
-                            {0, [](Scenario &ligne) { ligne.accepte = 0; }, rien, "", ""}};
-    for (const Genre genre : Genres) {
-        for (const Faute &faute : fautes) {
+        const QByteArray tous = TousLesOctets();
+        const QByteArray sansFin = QByteArray(tous).replace('\x04', "");
+        const QByteArray avale = QByteArray(sansFin).replace('\r', "").replace("\n", "\r\n");
+        const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
+        const QByteArray milieu = "A\x04 B\r\n";
+        // type of line end; what the operator has added to each; whether the end must be forced, as it comes with the
+        // rest
+        const std::tuple<Genre, int, int, QByteArray, bool, QByteArray> cas[] = {
+            {ParLigne, 3, 0, "", false, "\r\n"},
+            {ParLigne, 3, 0, deux, false, deux + "\r\n"},
+            {ParLigne, 3, 3, "A\r\nB\r\n", false, "A\r\n\r\nB\r\n\r\n\r\n"},
+            {ParLigne, 0, 1, "A\nB\n", false, "A\n\r\nB\n\r\n\r\n"},
+            {ParLigne, 3, 0, milieu, false, milieu + "\r\n"},
+            {ParLigne, 3, 0, "A\r\n", true, "A\r\r\n\r\n"},
+            {ParLigne, 3, 0, tous + "\r\n", false, tous + "\r\n\r\n"},
+            {ParCaractere, 3, 0, "", false, "\r\n"},
+            {ParCaractere, 3, 0, deux, false, deux + "\r\n"},
+            {ParCaractere, 4, 0, "A\r\r\nB\r\r\n", false, "A\r\nB\r\n\r\n"}, // a chain of the operator's own
+            {ParCaractere, 3, 0, "A\r\n" + milieu, false, "A\r\n\r\n"},
+            {ParCaractere, 3, 0, sansFin + "\r\n", false, avale + "\r\n\r\n"},
+            {ParFichier, 3, 0, "", false, "\r\n"},
+            {ParFichier, 3, 0, milieu, false, milieu + "\r\n"},
+            {ParFichier, 3, 0, tous, false, tous + "\r\n"}};
+        for (const auto &[genre, finLigne, option, envoye, force, fichier] : cas) {
             Banc banc(genre);
-            ParamCom.ControleFlux = faute.evenement == 3 ? 2 : 1;
-            ParamCom.CarRemplace = u"?"_s;
-            qsizetype attendus = faute.evenement == 0 ? 0 : 1;
-            const auto vu = [&] { return banc.evenements.count(faute.evenement) >= attendus; };
-            banc.Envoie("A\r\n");
-            banc.Fait([&] { faute.debut(*banc.ligne); });
-            banc.Envoie("B\r\n", vu);
-            if (faute.fin)
-                banc.Fait([&] { faute.fin(*banc.ligne), ++attendus; });
-            banc.Envoie(eot, vu);
-            QCOMPARE(banc.Recoit(), "A\r\n" + faute.ajout + "B\r\n\r\n");
-            QCOMPARE(banc.ligne->ecrits, faute.reponse);
-            QVERIFY(!banc.ligne->ouverte);
+            ParamCom.TypeFinLig = finLigne;
+            ParamCom.FinLigRecep = option;
+            ParamCom.NbCarFinLig = 3;
+            ParamCom.CarFinLig = {0, 13, 13, 10};
+            BatirChaines();
+            if (force) {
+                banc.Envoie(envoye + '\x04');
+                banc.Force(QMessageBox::Yes);
+            } else {
+                banc.EnvoieLignes(envoye);
+                banc.Envoie("\x04", [] { return FinTransfert == 0; });
+                banc.Envoie("\r\n\x04", [] { return FinTransfert == 1; });
+            }
+            const bool parFichier = genre == ParFichier;
+            banc.operateur.Fait(
+                Dialogue,
+                [parFichier](QWidget &) {
+                    QCOMPARE(Operateur::Lu("Label2"), u"Transfert réalisé avec succès !"_s);
+                    QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s);
+                },
+                [] { return FinTransfert == 1 && !PortOuvert; });
+            QCOMPARE(banc.Recoit(), fichier);
+            QCOMPARE(banc.ligne->ecrits, QByteArray("\x04"));
+            QCOMPARE(frmPrinc->Text1->Text().size(), fichier.size() - (parFichier ? 2 : 0));
+            QCOMPARE(FichierModifie, 0);
+            QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
+            QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
+            QVERIFY(frmPrinc->Text2->isHidden());
         }
     }
-}
 
-// The operator cancels, closes the dialog, forces the end, or thinks better of it while characters come: before the
-// first character, behind a line and in the middle of one.
-void TestReception::Operateurs()
-{
-    enum Geste { Annuler, Fermer, Forcer, Renoncer };
-    for (const Genre genre : Genres) {
-        for (const QByteArray &venu : {QByteArray(), QByteArray("A\r\n"), QByteArray("A\r\nmoi")}) {
-            for (const Geste geste : {Annuler, Fermer, Forcer, Renoncer}) {
+    // What happens on the line between two lines of a program is told and ends nothing; only the character that came
+    // wrong is replaced. A machine that holds the line until the end gets no end string, and the reception does not
+    // wait for it.
+    void Ligne()
+    {
+        struct Faute
+        {
+            int evenement; ///< 0: none comes
+            std::function<void(Scenario &)> debut, fin;
+            QByteArray ajout, reponse;
+        };
+        const auto compte = [](unsigned CompteursLigne::*champ) {
+            return [champ](Scenario &ligne) { ++(ligne.compteurs.*champ); };
+        };
+        const auto cts = [](bool etat) { return [etat](Scenario &ligne) { ligne.etats->cts = etat; }; };
+        const auto parite = [](Scenario &ligne) {
+            ++ligne.compteurs.parite;
+            ligne.Envoie("X\r\n", {0});
+        };
+        const std::function<void(Scenario &)> rien;
+        const QByteArray eot = "\x04";
+        const Faute fautes[] = {{1009, parite, rien, "?\r\n", eot},
+                                {1004, compte(&CompteursLigne::trame), rien, "", eot},
+                                {1001, compte(&CompteursLigne::pauses), rien, "", eot},
+                                {1006, compte(&CompteursLigne::cadence), rien, "", eot},
+                                {1008, compte(&CompteursLigne::debordements), rien, "", eot},
+                                {3, cts(false), cts(true), "", eot},
+                                {3, cts(false), rien, "", ""},
+                                {0, [](Scenario &ligne) { ligne.accepte = 0; }, rien, "", ""}};
+        for (const Genre genre : Genres) {
+            for (const Faute &faute : fautes) {
                 Banc banc(genre);
-                if (!venu.isEmpty())
-                    banc.Envoie(venu.left(3));
-                if (venu.size() > 3)
-                    banc.Envoie(venu.mid(3));
-                const auto tout = [&] { return banc.ToutPris(); };
-                if (geste == Annuler || geste == Fermer) {
-                    geste == Annuler ? banc.operateur.Presse(Dialogue, "Command1", tout)
-                                     : banc.operateur.Ferme(Dialogue, tout);
-                    banc.Abandonne();
-                    QVERIFY(!QFile::exists(banc.poste.Chemin("PIECE.ISO")));
-                    QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
-                    QCOMPARE(frmPrinc->shpReceive->FillColor(), int(Lampe::Rouge));
-                } else if (geste == Forcer) {
-                    banc.Force(QMessageBox::Yes);
-                    QCOMPARE(banc.Recoit(), (genre == ParFichier ? venu : venu.left(3)) + "\r\n");
-                } else {
-                    const auto &controle = *frmPrinc->MSComm1;
-                    banc.Force(QMessageBox::No, [&] {
-                        if (banc.ligne->EnAttente() == 0 && controle.InBufferCount() == 0)
-                            banc.ligne->Envoie("B\r\n");
-                        else if (controle.InBufferCount() == 3)
-                            banc.Envoie("\x04");
-                        return controle.InBufferCount() == 3;
-                    });
-                    QCOMPARE(banc.Recoit(), venu + "B\r\n\r\n");
-                }
-                QCOMPARE(banc.ligne->ecrits, QByteArray(geste == Annuler || geste == Fermer ? "" : "\x04"));
-                QVERIFY(!PortOuvert && !banc.ligne->ouverte && frmPrinc->Text2->isHidden());
+                ParamCom.ControleFlux = faute.evenement == 3 ? 2 : 1;
+                ParamCom.CarRemplace = u"?"_s;
+                qsizetype attendus = faute.evenement == 0 ? 0 : 1;
+                const auto vu = [&] { return banc.evenements.count(faute.evenement) >= attendus; };
+                banc.Envoie("A\r\n");
+                banc.Fait([&] { faute.debut(*banc.ligne); });
+                banc.Envoie("B\r\n", vu);
+                if (faute.fin)
+                    banc.Fait([&] { faute.fin(*banc.ligne), ++attendus; });
+                banc.Envoie(eot, vu);
+                QCOMPARE(banc.Recoit(), "A\r\n" + faute.ajout + "B\r\n\r\n");
+                QCOMPARE(banc.ligne->ecrits, faute.reponse);
+                QVERIFY(!banc.ligne->ouverte);
             }
         }
     }
-}
 
-// Unplugged in the middle: told, and what had come can be saved.
-void TestReception::Debranche()
-{
-    for (const Genre genre : Genres) {
-        Banc banc(genre);
-        banc.EnvoieLignes("A\r\nB\r\nmoi");
-        banc.Fait([&banc] { banc.ligne->Debranche(); });
-        banc.operateur.LitErreur(ErreurPort::Lecture, u"Erreur de lecture du périphérique de communication"_s);
-        QCOMPARE(banc.Sauve(), QByteArray("A\r\nB\r\nmoi"));
-        QVERIFY(!PortOuvert && !QFile::exists(banc.poste.Chemin("PIECE.ISO")));
+    // The operator cancels, closes the dialog, forces the end, or thinks better of it while characters come: before the
+    // first character, behind a line and in the middle of one.
+    void Operateurs()
+    {
+        enum Geste { Annuler, Fermer, Forcer, Renoncer };
+        for (const Genre genre : Genres) {
+            for (const QByteArray &venu : {QByteArray(), QByteArray("A\r\n"), QByteArray("A\r\nmoi")}) {
+                for (const Geste geste : {Annuler, Fermer, Forcer, Renoncer}) {
+                    Banc banc(genre);
+                    banc.EnvoieLignes(venu);
+                    const auto tout = [&] { return banc.ToutPris(); };
+                    const bool annule = geste == Annuler || geste == Fermer;
+                    if (annule) {
+                        geste == Annuler ? banc.operateur.Presse(Dialogue, "Command1", tout)
+                                         : banc.operateur.Ferme(Dialogue, tout);
+                        banc.Abandonne();
+                        QVERIFY(!QFile::exists(banc.poste.Chemin("PIECE.ISO")));
+                        QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
+                        QCOMPARE(frmPrinc->shpReceive->FillColor(), int(Lampe::Rouge));
+                    } else if (geste == Forcer) {
+                        banc.Force(QMessageBox::Yes);
+                        QCOMPARE(banc.Recoit(), (genre == ParFichier ? venu : venu.left(3)) + "\r\n");
+                    } else {
+                        const auto &controle = *frmPrinc->MSComm1;
+                        banc.Force(QMessageBox::No, [&] {
+                            if (banc.ligne->EnAttente() == 0 && controle.InBufferCount() == 0)
+                                banc.ligne->Envoie("B\r\n");
+                            else if (controle.InBufferCount() == 3)
+                                banc.Envoie("\x04");
+                            return controle.InBufferCount() == 3;
+                        });
+                        QCOMPARE(banc.Recoit(), venu + "B\r\n\r\n");
+                    }
+                    QCOMPARE(banc.ligne->ecrits, QByteArray(annule ? "" : "\x04"));
+                    QVERIFY(!PortOuvert && !banc.ligne->ouverte && frmPrinc->Text2->isHidden());
+                }
+            }
+        }
     }
-}
 
-// The folder has gone when the file is to be written: told, and saved elsewhere.
-void TestReception::DossierDisparu()
-{
-    for (const Genre genre : Genres) {
-        Banc banc(genre);
-        ParamCom.DosRecep = banc.poste.Chemin("disparu");
-        banc.EnvoieLignes("A\r\nB\r\n\x04");
-        banc.operateur.Fait("MsgBox", [](QWidget &fenetre) {
-            QVERIFY(fenetre.windowTitle().endsWith("Fermeture du port de communication"_L1));
-            dynamic_cast<QDialog &>(fenetre).accept();
+    // Unplugged in the middle: told, and what had come can be saved.
+    void Debranche()
+    {
+        for (const Genre genre : Genres) {
+            Banc banc(genre);
+            banc.EnvoieLignes("A\r\nB\r\nmoi");
+            banc.Fait([&banc] { banc.ligne->Debranche(); });
+            banc.operateur.LitErreur(ErreurPort::Lecture, u"Erreur de lecture du périphérique de communication"_s);
+            QCOMPARE(banc.Sauve(), QByteArray("A\r\nB\r\nmoi"));
+            QVERIFY(!PortOuvert && !QFile::exists(banc.poste.Chemin("PIECE.ISO")));
+        }
+    }
+
+    // The folder has gone when the file is to be written: told, and saved elsewhere.
+    void DossierDisparu()
+    {
+        for (const Genre genre : Genres) {
+            Banc banc(genre);
+            ParamCom.DosRecep = banc.poste.Chemin("disparu");
+            banc.EnvoieLignes("A\r\nB\r\n\x04");
+            banc.operateur.Fait("MsgBox", [](QWidget &fenetre) {
+                QVERIFY(fenetre.windowTitle().endsWith("Fermeture du port de communication"_L1));
+                dynamic_cast<QDialog &>(fenetre).accept();
+            });
+            QCOMPARE(banc.Sauve(true), QByteArray("A\r\nB\r\n"));
+        }
+    }
+
+    // As many lines as the table holds leave no place for the empty one at the end: told, and all of them can be saved.
+    void TropDeLignes()
+    {
+        Banc banc(ParCaractere);
+        banc.ligne->sansVidage = true; // all stands ready at once
+        ParamCom.Echo = 0;
+        ParamCom.TypeFinLig = 0;
+        BatirChaines();
+        ParamCom.TailleTamponRecep = 1; // so that nothing waits behind a line end
+        banc.ligne->Envoie(QByteArray("N\n").repeated(CapaciteLignes));
+        banc.operateur.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
+        QCOMPARE(banc.Sauve(), QByteArray("N\r\n").repeated(CapaciteLignes));
+    }
+
+    // Cancelled in the very moment in which the end has come: nothing is stored, and the file dialog waits for another
+    // try.
+    void AnnuleALaFin()
+    {
+        Banc banc(ParFichier);
+        banc.operateur.Fait(Dialogue, [](QWidget &) {}); // the dialog is known; it goes by the machine's clock
+        banc.Envoie("A\x04");
+        banc.Fait([] { QApplication::activeModalWidget()->findChild<QPushButton *>(u"Command1"_s)->click(); },
+                  [] { return FinTransfert == 1; });
+        banc.Abandonne();
+        QVERIFY(!QFile::exists(banc.poste.Chemin("PIECE.ISO")));
+        QCOMPARE(FinTransfert, 0);
+    }
+
+    // An existing file is replaced only when the operator says so.
+    void FichierExistant()
+    {
+        const Poste poste(0);
+        Operateur operateur;
+        poste.Charge("ANCIEN");
+        ParamCom.DosRecep = poste.Dossier();
+        poste.Ecrit("PIECE.ISO", "PRECIEUX");
+        operateur.Fait(Fichier, [](QWidget &fenetre) {
+            auto *const nom = fenetre.findChild<QLineEdit *>(u"Text1"_s);
+            auto *const recevoir = fenetre.findChild<QPushButton *>(u"Command2"_s);
+            QVERIFY(!recevoir->isEnabled());
+            QTest::keyClicks(nom, u"pi ,e/c\"e"_s);
+            nom->insert(u"é°"_s);
+            QCOMPARE(nom->text(), u"piece"_s);
+            recevoir->click();
         });
-        QCOMPARE(banc.Sauve(true), QByteArray("A\r\nB\r\n"));
+        operateur.Repond("Fichier existant !",
+                         u"Remplacer le fichier PIECE.ISO\rDans le dossier %1\rConfirmez  ?"_s.arg(poste.Dossier()),
+                         Operateur::Demande, QMessageBox::No);
+        operateur.Presse(Fichier, "Command1");
+        Operateur::Menu("Mnu_RecepProg");
+        QCOMPARE(poste.Lit("PIECE.ISO"), QByteArray("PRECIEUX"));
     }
-}
 
-/// A line on which all stands ready at once, and nothing of it can be thrown away.
-class LigneSansVidage : public LigneScenario
-{
-public:
-    using LigneScenario::LigneScenario;
-    void JetteReception() override {}
+    // What happens on the line is told in the operator's language; lost characters empty the buffer.
+    void Evenements()
+    {
+        using Compteurs = CompteursLigne;
+        const std::tuple<int, unsigned Compteurs::*, QString> evenements[] = {
+            {0, &Compteurs::parite, u"Erreur de parité"_s},
+            {1, &Compteurs::pauses, u"Pauses received"_s},
+            {2, &Compteurs::trame, u"Error de encuadre"_s},
+            {1, &Compteurs::debordements, u"Going beyond of the plug of receiving"_s},
+            {2, &Compteurs::cts, u"Cambio de Préstamo que debe emitirse (CTS) detectado"_s}};
+        for (const auto &[langue, compteur, texte] : evenements) {
+            const Poste poste(langue);
+            const auto scenario = std::make_shared<Scenario>();
+            MSComm &controle = *frmPrinc->MSComm1;
+            controle.setFabrique(LigneScenario::Fabrique(scenario));
+            controle.setPortOpen(true);
+            scenario->Envoie("perdu");
+            QTRY_COMPARE(controle.InBufferCount(), 5);
+            ++((*scenario).compteurs.*compteur);
+            QTRY_COMPARE(frmPrinc->Etat->text(), u"État : "_s + texte);
+            QTRY_COMPARE(controle.InBufferCount(), compteur == &Compteurs::debordements ? 0 : 5);
+            QCOMPARE(frmPrinc->Etat->isHidden(), compteur != &Compteurs::cts);
+            controle.setPortOpen(false);
+        }
+    }
 };
-
-// As many lines as the table holds leave no place for the empty one at the end: told, and all of them can be saved.
-void TestReception::TropDeLignes()
-{
-    Banc banc(ParCaractere);
-    frmPrinc->MSComm1->setFabrique([&banc](int) { return std::make_unique<LigneSansVidage>(banc.ligne); });
-    ParamCom.Echo = 0;
-    ParamCom.TypeFinLig = 0;
-    BatirChaines();
-    ParamCom.TailleTamponRecep = 1; // so that nothing waits behind a line end
-    banc.ligne->Envoie(QByteArray("N\n").repeated(CapaciteLignes));
-    banc.operateur.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
-    QCOMPARE(banc.Sauve(), QByteArray("N\r\n").repeated(CapaciteLignes));
-}
-
-// Cancelled in the very moment in which the end has come: nothing is stored, and the file dialog waits for another try.
-void TestReception::AnnuleALaFin()
-{
-    Banc banc(ParFichier);
-    banc.operateur.Fait(Dialogue, [](QWidget &) {}); // the dialog is known; it goes by the machine's clock
-    banc.Envoie("A\x04");
-    banc.Fait([] { QApplication::activeModalWidget()->findChild<QPushButton *>(u"Command1"_s)->click(); },
-              [] { return FinTransfert == 1; });
-    banc.Abandonne();
-    QVERIFY(!QFile::exists(banc.poste.Chemin("PIECE.ISO")));
-    QCOMPARE(FinTransfert, 0);
-}
-
-// An existing file is replaced only when the operator says so.
-void TestReception::FichierExistant()
-{
-    const Poste poste(0);
-    Operateur operateur;
-    poste.Charge("ANCIEN");
-    ParamCom.DosRecep = poste.Dossier();
-    poste.Ecrit("PIECE.ISO", "PRECIEUX");
-    operateur.Fait(Fichier, [](QWidget &fenetre) {
-        auto *const nom = fenetre.findChild<QLineEdit *>(u"Text1"_s);
-        auto *const recevoir = fenetre.findChild<QPushButton *>(u"Command2"_s);
-        QVERIFY(!recevoir->isEnabled());
-        QTest::keyClicks(nom, u"pi ,e/c\"e"_s);
-        nom->insert(u"é°"_s);
-        QCOMPARE(nom->text(), u"piece"_s);
-        recevoir->click();
-    });
-    operateur.Repond("Fichier existant !",
-                     u"Remplacer le fichier PIECE.ISO\rDans le dossier %1\rConfirmez  ?"_s.arg(poste.Dossier()),
-                     Operateur::Demande, QMessageBox::No);
-    operateur.Presse(Fichier, "Command1");
-    Operateur::Menu("Mnu_RecepProg");
-    QCOMPARE(poste.Lit("PIECE.ISO"), QByteArray("PRECIEUX"));
-}
-
-// What happens on the line is told in the operator's language; lost characters empty the buffer.
-void TestReception::Evenements()
-{
-    using Compteurs = CompteursLigne;
-    const std::tuple<int, unsigned Compteurs::*, QString> evenements[] = {
-        {0, &Compteurs::parite, u"Erreur de parité"_s},
-        {1, &Compteurs::pauses, u"Pauses received"_s},
-        {2, &Compteurs::trame, u"Error de encuadre"_s},
-        {1, &Compteurs::debordements, u"Going beyond of the plug of receiving"_s},
-        {2, &Compteurs::cts, u"Cambio de Préstamo que debe emitirse (CTS) detectado"_s}};
-    for (const auto &[langue, compteur, texte] : evenements) {
-        const Poste poste(langue);
-        const auto scenario = std::make_shared<Scenario>();
-        MSComm &controle = *frmPrinc->MSComm1;
-        controle.setFabrique(LigneScenario::Fabrique(scenario));
-        controle.setPortOpen(true);
-        scenario->Envoie("perdu");
-        QTRY_COMPARE(controle.InBufferCount(), 5);
-        ++((*scenario).compteurs.*compteur);
-        QTRY_COMPARE(frmPrinc->Etat->text(), u"État : "_s + texte);
-        QTRY_COMPARE(controle.InBufferCount(), compteur == &Compteurs::debordements ? 0 : 5);
-        QCOMPARE(frmPrinc->Etat->isHidden(), compteur != &Compteurs::cts);
-        controle.setPortOpen(false);
-    }
-}
 
 QTEST_MAIN(TestReception)
 #include "TestReception.moc"
