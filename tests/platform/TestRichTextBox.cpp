@@ -7,6 +7,8 @@
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace {
 
@@ -179,6 +181,19 @@ private Q_SLOTS:
         QVERIFY(volet.SelStrikeThru());
         va("n\xB0");
         QVERIFY(volet.SelItalic());
+    }
+
+    // Without line ends every piece lengthens one line: laying it out each time would never end.
+    void neMetPasEnPageUneLigneSansFin()
+    {
+        RichTextBox volet;
+        for (int i = 0; i < 5; ++i) {
+            volet.Ajoute(QString(5000, u'X'));
+            volet.RetireFin(1);
+            QVERIFY(volet.FinitPar(T("XX")));
+            QCOMPARE(volet.document()->lastBlock().layout()->lineCount(), 0);
+        }
+        QCOMPARE(volet.Text().size(), 24995);
     }
 
     // A long reception in a pane that is shown: it follows the end, and lines shown and gone by are laid out anew.

@@ -7,6 +7,7 @@
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QTest>
 
@@ -200,6 +201,22 @@ private Q_SLOTS:
             QCOMPARE(FichierModifie, modifie);
             QCOMPARE(poste.Lit("P.iso"), QByteArray(fichier));
         }
+    }
+
+    // Confirmed once, the end asks nothing more, closes the port and ends the process, whatever the text.
+    void QuitteAvecTexteRefuse()
+    {
+        const Poste poste(1);
+        Operateur operateur;
+        frmPrinc->Text1->setText(u"G1"_s);
+        operateur.Repond("Leave the editor of program numerical control",
+                         "Modified file  !\r\n            Record the file ? ", Operateur::DemandeSimple,
+                         QMessageBox::No);
+        operateur.Repond("Leave the program", "Leave Dorvanel\r   Confirm  ?", Operateur::Demande, QMessageBox::Yes);
+        PortOuvert = true;
+        QTimer::singleShot(0, frmPrinc, [] { Operateur::Menu("Mnu_Quitter"); });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(!PortOuvert);
     }
 };
 

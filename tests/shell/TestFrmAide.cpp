@@ -63,8 +63,8 @@ class TestFrmAide : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // The manual of the language opens, once, from menu and button, with its headings as contents that lead there; a
-    // missing one is told.
+    // The manual of the language opens, once, from menu and button, with its headings as contents; a missing one is
+    // told.
     void Langues()
     {
         const QString textes[][2] = {{u"Aide de Dorvanel Pro"_s, u"Le fichier d'aide n'existe pas :\r"_s},
@@ -80,9 +80,6 @@ private Q_SLOTS:
             QCOMPARE(sections, Sections(Manuels[langue]));
             Operateur::Barre(16);
             QCOMPARE(frmPrinc->findChildren<FrmAide *>().size(), 1);
-            QTest::keyClick(poste.aide->TreeView1, Qt::Key_End);
-            QTest::keyClick(poste.aide->TreeView1, Qt::Key_Return);
-            QCOMPARE(poste.Fragment(), sections.last());
 
             QVERIFY(poste.aide->close() && QFile::remove(poste.Chemin(Manuels[langue])));
             Operateur operateur;
@@ -90,6 +87,22 @@ private Q_SLOTS:
                              QMessageBox::Ok);
             Operateur::Menu(u"Mnu_Aide");
         }
+    }
+
+    // Contents, back and forward, by the keyboard alone.
+    void Parcours()
+    {
+        const PosteAide poste(0);
+        for (const char *const section : {"adaptateurs", "Prop"})
+            poste.aide->Montre(poste.Chemin(Manuels[0]), QLatin1String(section));
+        QTest::keyClick(poste.aide->TreeView1, Qt::Key_Down);
+        QTest::keyClick(poste.aide->TreeView1, Qt::Key_Return);
+        QStringList vues{poste.Fragment()};
+        for (const Qt::Key touche : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Right}) {
+            QTest::keyClick(poste.aide, touche, Qt::AltModifier);
+            vues << poste.Section();
+        }
+        QCOMPARE(vues.join(u' '), u"Prop_divers Prop adaptateurs Prop"_s);
     }
 
     // A search meets accents and capitals, goes from match to match through the whole text and round its end.
