@@ -22,6 +22,7 @@ public:
     int nonEmis = 0;          ///< what the system says that it holds
     bool immobile = false;    ///< a line that stands still: nonEmis grows by what is handed over
     int refusReglage = 0;     ///< number with which settings are refused, 0 takes them
+    bool sansVidage = false;  ///< what has come cannot be thrown away
 
     // What the control did
     QByteArray ecrits;
@@ -119,6 +120,8 @@ public:
     int NonEmis() override { return ++m_scenario->regards, m_scenario->nonEmis; }
     void JetteReception() override
     {
+        if (m_scenario->sansVidage)
+            return;
         m_scenario->m_enRoute.clear();
         m_scenario->m_fausses.clear();
     }

@@ -16,12 +16,12 @@ constexpr int Patience = 30000; // milliseconds without a gesture before a test 
 
 void Echec(const QString &message, const Operateur::Lieu &ou)
 {
-    QTest::qFail(qPrintable(message), ou.fichier, ou.ligne);
+    QTest::qFail(qPrintable(message), ou.file_name(), static_cast<int>(ou.line()));
 }
 
 bool Egal(const QString &lu, const QString &attendu, const char *quoi, const Operateur::Lieu &ou)
 {
-    return QTest::qCompare(lu, attendu, quoi, "foretold", ou.fichier, ou.ligne);
+    return QTest::qCompare(lu, attendu, quoi, "foretold", ou.file_name(), static_cast<int>(ou.line()));
 }
 
 QString Decrit(const QWidget *fenetre)
@@ -76,7 +76,8 @@ void Operateur::Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux,
             auto &boite = dynamic_cast<QMessageBox &>(fenetre);
             Egal(boite.windowTitle(), titre, "title", ou);
             Egal(boite.text(), texte, "text", ou);
-            QTest::qCompare(Drapeaux(boite), drapeaux, "icon and buttons", "foretold", ou.fichier, ou.ligne);
+            QTest::qCompare(Drapeaux(boite), drapeaux, "icon and buttons", "foretold", ou.file_name(),
+                            static_cast<int>(ou.line()));
             if (QAbstractButton *const presse = boite.button(bouton))
                 presse->click();
             else
@@ -217,6 +218,6 @@ void Operateur::Etonne(QWidget *fenetre)
     m_abandon = true;
     const QString attendue = m_attentes.empty() ? QStringLiteral("nothing") : m_attentes.front().fenetre;
     Echec(QStringLiteral("unexpected: %1; foretold: %2").arg(Decrit(fenetre), attendue),
-          m_attentes.empty() ? Lieu::Ici() : m_attentes.front().ou);
+          m_attentes.empty() ? Lieu::current() : m_attentes.front().ou);
     QMetaObject::invokeMethod(fenetre, "reject", Qt::QueuedConnection);
 }

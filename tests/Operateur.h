@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <functional>
+#include <source_location>
 
 /// The operator of a test. It is told beforehand which boxes and dialogs will come, in order, and what to do in each;
 /// then the test gives a command, and the operator works inside the modal loops that the command runs.
@@ -26,16 +27,7 @@ public:
     static constexpr int DemandeSimple = Boite::Exclamation | Boite::OuiNon;
 
     /// The line of the test that foretold something; a failure is reported there.
-    struct Lieu
-    {
-        const char *fichier;
-        int ligne;
-
-        static Lieu Ici(const char *fichier = __builtin_FILE(), int ligne = __builtin_LINE())
-        {
-            return {fichier, ligne};
-        }
-    };
+    using Lieu = std::source_location;
 
     Operateur();
     ~Operateur();
@@ -43,25 +35,25 @@ public:
 
     /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/Boites.h) is answered.
     void Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
-                Lieu ou = Lieu::Ici());
+                Lieu ou = Lieu::current());
     /// The box, in French, of a transfer that an error has ended.
-    void LitErreur(int numero, const QString &texte, Lieu ou = Lieu::Ici());
+    void LitErreur(int numero, const QString &texte, Lieu ou = Lieu::current());
     /// Presses a button of a box of the system's own; a gesture for Fait.
     static Geste Clique(QMessageBox::StandardButton bouton);
     /// A file dialog ("CommonDialog"): the name is typed and taken.
-    void Choisit(QAnyStringView chemin, Lieu ou = Lieu::Ici());
+    void Choisit(QAnyStringView chemin, Lieu ou = Lieu::current());
     /// The window of that objectName: a button is pressed, the close box is pressed, or anything is done, once the
     /// condition holds. The window may stay open.
-    void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::Ici());
-    void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::Ici());
-    void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::Ici());
+    void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::current());
+    void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::current());
+    void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::current());
 
     /// Opens the menus down to the entry and chooses it; the test fails when it is disabled.
-    static void Menu(QAnyStringView entree, Lieu ou = Lieu::Ici());
+    static void Menu(QAnyStringView entree, Lieu ou = Lieu::current());
     /// True when the operator can choose the entry: it and all menus above it are enabled when they open.
     static bool Offre(QAnyStringView entree);
     /// Clicks a toolbar button, by its position.
-    static void Barre(int position, Lieu ou = Lieu::Ici());
+    static void Barre(int position, Lieu ou = Lieu::current());
     /// What a label, button or box bears in the window that waits for the operator.
     static QString Lu(QAnyStringView controle);
 

@@ -17,22 +17,18 @@ class TestFichierTexte : public QObject
     QString Chemin(const char *nom) const { return m_dossier.filePath(QString::fromUtf8(nom)); }
 
 private Q_SLOTS:
-    // Each byte has one character and comes back, on its own and through a file; other characters become "?".
+    // Each byte has one character and comes back; other characters become "?". A shorter text leaves nothing of the
+    // longer one.
     void Octets()
     {
-        const QByteArray octets = TousLesOctets();
-        const QString texte = TexteDe1252(octets);
-        QCOMPARE(texte[0x80], QChar(u'€'));
-        QCOMPARE(texte[0x81], QChar(0x81)); // the code page has no character there
-        QVERIFY(std::all_of(texte.begin(), texte.end(), EstEn1252));
         const QString chemin = Chemin("Pièce n° 1.iso");
-        EcritFichierTexte(chemin, texte);
-        QCOMPARE(LitOctets(chemin), octets);
-        QCOMPARE(LitFichierTexte(chemin), texte);
-        EcritFichierTexte(chemin, QStringLiteral("x")); // a shorter text leaves nothing of the longer one
-        QCOMPARE(LitOctets(chemin), QByteArray("x"));
-        QCOMPARE(OctetsEn1252(QStringLiteral("a\u03B1\u0080\uFFFDé")), QByteArray("a???\xE9"));
-        QVERIFY(!EstEn1252(QChar(0x80)) && !EstEn1252(QChar(0x3B1)));
+        EcritFichierTexte(chemin, TexteDe1252(TousLesOctets()));
+        QCOMPARE(LitOctets(chemin), TousLesOctets());
+        const QString texte = LitFichierTexte(chemin);
+        QVERIFY(std::all_of(texte.begin(), texte.end(), EstEn1252));
+        QCOMPARE(texte.mid(0x80, 2), QStringLiteral("€\u0081")); // the code page has no character at 0x81
+        EcritFichierTexte(chemin, QStringLiteral("a\u03B1\u0080\uFFFDé"));
+        QCOMPARE(LitOctets(chemin), QByteArray("a???\xE9"));
     }
 
     // What stands in the way under the name, and the number that reading and writing raise.

@@ -128,17 +128,6 @@ private Q_SLOTS:
         QTRY_COMPARE(Noms(liste), u"neuf.iso suivant.iso"_s);
     }
 
-    // Nothing that stands under the new name is overwritten, not even an empty folder.
-    void Renomme()
-    {
-        Pose({u"Tour/p.iso"_s, u"vide/"_s, u"plein/p.iso"_s});
-        for (const QString &pris : {u"vide"_s, u"plein"_s, u"plein/p.iso"_s})
-            QVERIFY(NumeroErreur([&] { RenommeDossier(Chemin(u"Tour"_s), Chemin(pris)); }) != 0);
-        QCOMPARE(LitOctets(Chemin(u"plein/p.iso"_s)), QByteArray("plein/p.iso"));
-        RenommeDossier(Chemin(u"Tour"_s), Chemin(u"vide/Tour 2"_s));
-        QCOMPARE(LitOctets(Chemin(u"vide/Tour 2/p.iso"_s)), QByteArray("Tour/p.iso"));
-    }
-
     void EffaceSansSuivreLesLiens()
     {
         Pose({u"loin/p.iso"_s, u"d/a/b/1.iso"_s, u"d/.cache"_s, u"d/v/"_s});

@@ -1,5 +1,3 @@
-#include "Essais.h"
-#include "platform/FichierTexte.h"
 #include "platform/PageCode1252.h"
 #include "platform/RichTextBox.h"
 
@@ -8,7 +6,6 @@
 #include <QMimeData>
 #include <QRandomGenerator>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -54,30 +51,6 @@ class TestRichTextBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rendCeQuIlARecu()
-    {
-        const QByteArray tous = TousLesOctets();
-        const QTemporaryDir dossier;
-        const QString chemin = dossier.filePath(QStringLiteral("p.iso"));
-        for (const QByteArray &octets : {QByteArray(), QByteArray("%\r\nO0001\r\n"), QByteArray("%\nO0001\n"),
-                                         QByteArray("a\r\nb\rc\nd\r\r\n\n\r\ne\n\r"), tous, QByteArray("\0\0\r\n\0", 5),
-                                         QByteArray(tous).replace('\r', "").repeated(50)}) {
-            const QString texte = T(octets);
-            EcritFichierTexte(chemin, texte);
-            RichTextBox volet;
-            volet.setText(T("avant\nlui"));
-            volet.LoadFile(chemin, RichTextBox::TexteSimple);
-            QCOMPARE(volet.Text(), texte);
-            QCOMPARE(volet.blockCount(), NombreDeLignes(texte));
-            QCOMPARE(volet.EstVide(), texte.isEmpty());
-            volet.setText(T("\n"));
-            volet.setText(texte);
-            volet.selectAll();
-            QCOMPARE(volet.SelText(), texte);
-            QCOMPARE(volet.SelLength(), texte.size());
-        }
-    }
-
     // The pane against a plain string, under edits that split and join line ends of every kind.
     void suitUnModele()
     {

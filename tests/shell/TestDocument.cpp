@@ -1,4 +1,5 @@
 #include "Operateur.h"
+#include "platform/Essais.h"
 #include "Poste.h"
 
 #include "platform/CommonDialog.h"
@@ -25,23 +26,17 @@ struct Atelier : Poste, Operateur
     {
     }
 
-    void Ouvre(const QString &chemin)
+    void Choisit(const char *entree, const QString &chemin)
     {
-        Choisit(chemin);
-        Menu("Mnu_Ouvrir");
-    }
-
-    void Enregistre(const QString &chemin)
-    {
-        Choisit(chemin);
-        Menu("Mnu_EnregistrerSous");
+        Operateur::Choisit(chemin);
+        Menu(entree);
     }
 
     /// Opens "P.iso", which holds G0, and types G1 instead.
     QString Change()
     {
         const QString chemin = Poste::Ecrit(Iso, "G0");
-        Ouvre(chemin);
+        OuvreDocument(chemin);
         frmPrinc->Text1->setText(u"G1"_s);
         return chemin;
     }
@@ -62,164 +57,141 @@ class TestDocument : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void AllerRetour();
-    void DialogueOuvrir();
-    void OuvertureRatee();
-    void EnregistrementRate();
-    void Ecrase();
-    void Nouveau();
-};
-
-// Through the two commands a program keeps every byte; the saving adds one CR LF.
-void TestDocument::AllerRetour()
-{
-    QByteArray tous;
-    for (int code = 0; code < 256; ++code)
-        tous += static_cast<char>(code);
-    QByteArray gros;
-    for (int bloc = 0; gros.size() < 10'000'000; ++bloc)
-        gros += "N" + QByteArray::number(bloc) + " G1 X12.345 Y-6.789 F1000" + (bloc % 3 == 0 ? "\n" : "\r\n");
-    for (const QByteArray &octets :
-         {QByteArray(), QByteArray("%\nN10\nM30\n"), QByteArray("%\rN10\rM30\r"),
-          QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
-          QByteArray(tous).replace("", "\r\n"), QByteArray(3, '\0'), QByteArray(100'000, 'X'),
-          QByteArray("M30\r\n\x1A"), QByteArray("{\\rtf1 G0}"), gros}) {
+    // Through the two commands a program keeps every byte, whatever stood in the pane; the saving adds one CR LF.
+    void AllerRetour()
+    {
         Atelier atelier;
-        const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
-        atelier.Ouvre(chemin);
-        QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
-        QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
-        QCOMPARE(frmPrinc->Label2->text(), u"Pièce n° 1.iso"_s);
-        QCOMPARE(NomFichier + TitreFichier, chemin + u"Pièce n° 1.iso"_s);
-        QCOMPARE(FichierModifie, 0);
-        for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
-            QVERIFY(Operateur::Offre(entree));
+        const QByteArray tous = TousLesOctets();
+        QByteArray gros;
+        for (int bloc = 0; gros.size() < 10'000'000; ++bloc)
+            gros += "N" + QByteArray::number(bloc) + " G1 X12.345 Y-6.789 F1000" + (bloc % 3 == 0 ? "\n" : "\r\n");
+        for (const QByteArray &octets :
+             {QByteArray(), QByteArray("%\nN10\nM30\n"), QByteArray("%\rN10\rM30\r"),
+              QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
+              QByteArray(tous).replace("", "\r\n"), QByteArray(3, '\0'), QByteArray(100'000, 'X'),
+              QByteArray("M30\r\n\x1A"), QByteArray("{\\rtf1 G0}"), gros}) {
+            const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
+            atelier.Choisit("Mnu_Ouvrir", chemin);
+            QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
+            QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
+            QCOMPARE(frmPrinc->Label2->text(), u"Pièce n° 1.iso"_s);
+            QCOMPARE(NomFichier + TitreFichier, chemin + u"Pièce n° 1.iso"_s);
+            QCOMPARE(FichierModifie, 0);
+            for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
+                QVERIFY(Operateur::Offre(entree));
 
-        atelier.Enregistre(atelier.Chemin("copie.iso"));
-        QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
-        QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
-        QCOMPARE(frmPrinc->windowTitle(), Version + atelier.Chemin("copie.iso"));
-        QCOMPARE(frmPrinc->Label2->text() + TitreFichier, u"copie.isocopie.iso"_s);
-    }
-}
-
-// The filter last used comes back, also into the saving dialog with its other list; cancelling changes nothing.
-void TestDocument::DialogueOuvrir()
-{
-    Atelier atelier;
-    const QString programme = atelier.Ecrit("P.xcn", "G0");
-    for (const auto &[entree, filtres, montre, prend, fichier] :
-         {std::tuple{"Mnu_Ouvrir", 16, "*.iso", "*.h", QString()},
-          {"Mnu_Ouvrir", 16, "*.iso", "*.xcn", programme},
-          {"Mnu_EnregistrerSous", 14, "*.xcn", "*.iso", QString()},
-          {"Mnu_Ouvrir", 16, "*.xcn", "*.iso", QString()}}) {
-        atelier.Fait("CommonDialog", [=](QWidget &fenetre) {
-            auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
-            QCOMPARE(dialogue.nameFilters().size(), filtres);
-            QVERIFY2(dialogue.selectedNameFilter().contains(QLatin1String(montre)), montre);
-            dialogue.selectNameFilter(dialogue.nameFilters().filter(QLatin1String(prend)).value(0));
-            if (fichier.isEmpty())
-                dialogue.reject();
-        });
-        if (!fichier.isEmpty())
-            atelier.Choisit(fichier);
-        Operateur::Menu(entree);
-    }
-    QCOMPARE(frmPrinc->Text1->Text() + TitreFichier, u"G0P.xcn"_s);
-    QVERIFY(!frmPrinc->CommonDialog1->CancelError);
-}
-
-// A file that the pane refuses: the former document stays, by its name, its text and its changes.
-void TestDocument::OuvertureRatee()
-{
-    Atelier atelier(2);
-    const QString chemin = atelier.Change();
-    atelier.Ecrit("Faux.RTF", "G0 X1\r\n");
-    for (const QString &refuse : {atelier.Chemin("Faux.RTF"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
-        atelier.Repond("Mensaje",
-                       u"Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
-                       "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
-                       "fichero al formato TXT.\r  Quieren utilizar a WordPad para leer este fichero ?"_s.arg(
-                           QFileInfo(refuse).fileName()),
-                       Boite::Information | Boite::OuiNon, QMessageBox::No);
-        OuvreDocument(refuse);
-        VerifieChange(chemin);
-    }
-    QCOMPARE(atelier.Lit("Faux.RTF"), QByteArray("G0 X1\r\n"));
-}
-
-// A full disk, a place under a file, a folder that goes while the dialog is open: told once, and nothing of the
-// document is lost or renamed.
-void TestDocument::EnregistrementRate()
-{
-    for (const auto &[langue, ou, titre, texte] :
-         {std::tuple{0, "plein.iso", "Erreur", "Erreur lors de l'enregistrement du fichier"},
-          {1, "P.iso/x.iso", "Error", "Error at the time of the recording of the file"},
-          {2, "parti/x.iso", "Error", "Error en el registro del fichero"}}) {
-        Atelier atelier(langue);
-        const QString chemin = atelier.Change();
-        QFile::link(u"/dev/full"_s, atelier.Chemin("plein.iso"));
-        atelier.Choisit(atelier.Chemin(ou));
-        if (langue == 0)
-            atelier.Fait("", Operateur::Clique(QMessageBox::Yes)); // replace the file of that name
-        atelier.Repond(titre, texte, Boite::Critique, QMessageBox::Ok);
-        Operateur::Menu("Mnu_EnregistrerSous");
-        VerifieChange(chemin);
-        QCOMPARE(atelier.Lit(Iso), QByteArray("G0"));
-    }
-}
-
-// Another file of that name is replaced only after a Yes.
-void TestDocument::Ecrase()
-{
-    Atelier atelier;
-    atelier.Change();
-    for (const bool oui : {false, true}) {
-        const QString autre = atelier.Ecrit("autre.iso", "M30 and a longer text than the new one");
-        atelier.Choisit(autre);
-        atelier.Fait("", Operateur::Clique(oui ? QMessageBox::Yes : QMessageBox::No));
-        if (!oui)
-            atelier.Ferme("CommonDialog");
-        Operateur::Menu("Mnu_EnregistrerSous");
-        QCOMPARE(atelier.Lit("autre.iso"), QByteArray(oui ? "G1\r\n" : "M30 and a longer text than the new one"));
-        QCOMPARE(TitreFichier, oui ? u"autre.iso"_s : Iso);
-    }
-}
-
-// A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
-// programs, wherever the file dialog was last used.
-void TestDocument::Nouveau()
-{
-    Atelier atelier(2);
-    const QString chemin = atelier.Ecrit(Iso, "G0");
-    atelier.Ouvre(chemin);
-    for (const auto &[tape, enregistre, va, fichier] : {std::tuple{u""_s, QMessageBox::NoButton, QMessageBox::No, "G0"},
-                                                        {u"G1"_s, QMessageBox::No, QMessageBox::No, "G0"},
-                                                        {u"G2"_s, QMessageBox::Yes, QMessageBox::No, "G2\r\n"},
-                                                        {u"G3"_s, QMessageBox::No, QMessageBox::Yes, "G2\r\n"}}) {
-        if (!tape.isEmpty()) {
-            frmPrinc->Text1->setText(tape);
-            atelier.Repond("Fichero en curso modificado",
-                           u"Fichero %1 modificado !\r\n            Enregsi el fichero ? "_s.arg(chemin),
-                           Operateur::DemandeSimple, enregistre);
+            atelier.Choisit("Mnu_EnregistrerSous", atelier.Chemin("copie.iso"));
+            QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
+            QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
+            QCOMPARE(frmPrinc->windowTitle(), Version + atelier.Chemin("copie.iso"));
+            QCOMPARE(frmPrinc->Label2->text() + TitreFichier, u"copie.isocopie.iso"_s);
+            QFile::remove(atelier.Chemin("copie.iso"));
         }
-        atelier.Repond("Nuevo fichero ?", "Nuevo fichero\r\n        Confirme ? ", Operateur::DemandeSimple, va);
-        Operateur::Menu("Mnu_Nouveau");
-        QCOMPARE(atelier.Lit(Iso), QByteArray(fichier));
-        QCOMPARE(FichierModifie, tape == u"G1" ? Vrai : 0);
-        QCOMPARE(frmPrinc->Text1->Text(), va == QMessageBox::Yes ? QString() : tape.isEmpty() ? u"G0"_s : tape);
     }
-    QCOMPARE(NomFichier, u"Nuevo.iso"_s);
-    QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
-    QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
-    QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
-    frmPrinc->CommonDialog1->InitDir = u"/"_s;
-    atelier.Fait("CommonDialog", [](QWidget &fenetre) {
-        QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), DosDefaut);
-        fenetre.close();
-    });
-    Operateur::Menu("Mnu_EnregistrerSous");
-}
+
+    // The filter last used comes back, also into the saving dialog with its other list; cancelling changes nothing.
+    void DialogueOuvrir()
+    {
+        Atelier atelier;
+        const QString programme = atelier.Ecrit("P.xcn", "G0");
+        for (const auto &[entree, filtres, montre, prend, fichier] :
+             {std::tuple{"Mnu_Ouvrir", 16, "*.iso", "*.h", QString()},
+              {"Mnu_Ouvrir", 16, "*.iso", "*.xcn", programme},
+              {"Mnu_EnregistrerSous", 14, "*.xcn", "*.iso", QString()},
+              {"Mnu_Ouvrir", 16, "*.xcn", "*.iso", QString()}}) {
+            atelier.Fait("CommonDialog", [=](QWidget &fenetre) {
+                auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
+                QCOMPARE(dialogue.nameFilters().size(), filtres);
+                QVERIFY2(dialogue.selectedNameFilter().contains(QLatin1String(montre)), montre);
+                dialogue.selectNameFilter(dialogue.nameFilters().filter(QLatin1String(prend)).value(0));
+                if (fichier.isEmpty())
+                    dialogue.reject();
+            });
+            if (!fichier.isEmpty())
+                atelier.Operateur::Choisit(fichier);
+            Operateur::Menu(entree);
+        }
+        QCOMPARE(frmPrinc->Text1->Text() + TitreFichier, u"G0P.xcn"_s);
+        QVERIFY(!frmPrinc->CommonDialog1->CancelError);
+    }
+
+    // A file that the pane refuses: the former document stays, by its name, its text and its changes.
+    void OuvertureRatee()
+    {
+        Atelier atelier(2);
+        const QString chemin = atelier.Change();
+        atelier.Ecrit("Faux.RTF", "G0 X1\r\n");
+        for (const QString &refuse :
+             {atelier.Chemin("Faux.RTF"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
+            atelier.Repond("Mensaje",
+                           u"Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
+                           "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
+                           "fichero al formato TXT.\r  Quieren utilizar a WordPad para leer este fichero ?"_s.arg(
+                               QFileInfo(refuse).fileName()),
+                           Boite::Information | Boite::OuiNon, QMessageBox::No);
+            OuvreDocument(refuse);
+            VerifieChange(chemin);
+        }
+        QCOMPARE(atelier.Lit("Faux.RTF"), QByteArray("G0 X1\r\n"));
+    }
+
+    // A full disk, a place under a file, a folder that goes while the dialog is open: told once, and nothing of the
+    // document is lost or renamed.
+    void EnregistrementRate()
+    {
+        for (const auto &[langue, ou, titre, texte] :
+             {std::tuple{0, "plein.iso", "Erreur", "Erreur lors de l'enregistrement du fichier"},
+              {1, "P.iso/x.iso", "Error", "Error at the time of the recording of the file"},
+              {2, "parti/x.iso", "Error", "Error en el registro del fichero"}}) {
+            Atelier atelier(langue);
+            const QString chemin = atelier.Change();
+            QFile::link(u"/dev/full"_s, atelier.Chemin("plein.iso"));
+            atelier.Operateur::Choisit(atelier.Chemin(ou));
+            if (langue == 0)
+                atelier.Fait("", Operateur::Clique(QMessageBox::Yes)); // replace the file of that name
+            atelier.Repond(titre, texte, Boite::Critique, QMessageBox::Ok);
+            Operateur::Menu("Mnu_EnregistrerSous");
+            VerifieChange(chemin);
+            QCOMPARE(atelier.Lit(Iso), QByteArray("G0"));
+        }
+    }
+
+    // A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
+    // programs, wherever the file dialog was last used.
+    void Nouveau()
+    {
+        Atelier atelier(2);
+        const QString chemin = atelier.Ecrit(Iso, "G0");
+        atelier.Choisit("Mnu_Ouvrir", chemin);
+        for (const auto &[tape, enregistre, va, fichier] :
+             {std::tuple{u""_s, QMessageBox::NoButton, QMessageBox::No, "G0"},
+              {u"G1"_s, QMessageBox::No, QMessageBox::No, "G0"},
+              {u"G2"_s, QMessageBox::Yes, QMessageBox::No, "G2\r\n"},
+              {u"G3"_s, QMessageBox::No, QMessageBox::Yes, "G2\r\n"}}) {
+            if (!tape.isEmpty()) {
+                frmPrinc->Text1->setText(tape);
+                atelier.Repond("Fichero en curso modificado",
+                               u"Fichero %1 modificado !\r\n            Enregsi el fichero ? "_s.arg(chemin),
+                               Operateur::DemandeSimple, enregistre);
+            }
+            atelier.Repond("Nuevo fichero ?", "Nuevo fichero\r\n        Confirme ? ", Operateur::DemandeSimple, va);
+            Operateur::Menu("Mnu_Nouveau");
+            QCOMPARE(atelier.Lit(Iso), QByteArray(fichier));
+            QCOMPARE(FichierModifie, tape == u"G1" ? Vrai : 0);
+            QCOMPARE(frmPrinc->Text1->Text(), va == QMessageBox::Yes ? QString() : tape.isEmpty() ? u"G0"_s : tape);
+        }
+        QCOMPARE(NomFichier, u"Nuevo.iso"_s);
+        QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
+        QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
+        QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
+        frmPrinc->CommonDialog1->InitDir = u"/"_s;
+        atelier.Fait("CommonDialog", [](QWidget &fenetre) {
+            QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), DosDefaut);
+            fenetre.close();
+        });
+        Operateur::Menu("Mnu_EnregistrerSous");
+    }
+};
 
 QTEST_MAIN(TestDocument)
 #include "TestDocument.moc"

@@ -1,4 +1,3 @@
-#include "captures_prog/Vues.h"
 #include "locale/FrmLangue.h"
 #include "Operateur.h"
 #include "Poste.h"
@@ -57,16 +56,6 @@ struct PosteAide : Poste
     FrmAide *aide = nullptr;
 };
 
-/// What a window bears, as an operator would quote it.
-void AjouteLegendes(const QWidget &fenetre, QSet<QString> &legendes)
-{
-    for (const QObject *controle : fenetre.findChildren<QObject *>())
-        for (const char *const propriete : {"text", "title"}) {
-            QString legende = controle->property(propriete).toString();
-            legendes << legende.remove(u'&').remove(QRegularExpression(u"[ :]+$"_s));
-        }
-}
-
 } // namespace
 
 class TestFrmAide : public QObject
@@ -74,125 +63,123 @@ class TestFrmAide : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Langues();
-    void Parcours();
-    void Recherche();
-    void DansUnDialogue();
-    void ManuelsEntiers();
-};
+    // The manual of the language opens, once, from menu and button, with its headings as contents; a missing one is
+    // told.
+    void Langues()
+    {
+        const QString textes[][2] = {{u"Aide de Dorvanel Pro"_s, u"Le fichier d'aide n'existe pas :\r"_s},
+                                     {u"Dorvanel Pro help"_s, u"The help file does not exist:\r"_s},
+                                     {u"Ayuda de Dorvanel Pro"_s, u"El fichero de ayuda no existe:\r"_s}};
+        for (int langue = 0; langue < 3; ++langue) {
+            const PosteAide poste(langue);
+            QCOMPARE(poste.aide->windowTitle(), textes[langue][0]);
+            QCOMPARE(poste.aide->TextBrowser1->source().fileName(), Manuels[langue]);
+            QStringList sections;
+            for (QTreeWidgetItemIterator ligne(poste.aide->TreeView1); *ligne != nullptr; ++ligne)
+                sections << (*ligne)->data(0, Qt::UserRole).toString();
+            QCOMPARE(sections, Sections(Manuels[langue]));
+            Operateur::Barre(16);
+            QCOMPARE(frmPrinc->findChildren<FrmAide *>().size(), 1);
 
-// The manual of the language opens, once, from menu and button, with its headings as contents; a missing one is told.
-void TestFrmAide::Langues()
-{
-    const QString textes[][2] = {{u"Aide de Dorvanel Pro"_s, u"Le fichier d'aide n'existe pas :\r"_s},
-                                 {u"Dorvanel Pro help"_s, u"The help file does not exist:\r"_s},
-                                 {u"Ayuda de Dorvanel Pro"_s, u"El fichero de ayuda no existe:\r"_s}};
-    for (int langue = 0; langue < 3; ++langue) {
-        const PosteAide poste(langue);
-        QCOMPARE(poste.aide->windowTitle(), textes[langue][0]);
-        QCOMPARE(poste.aide->TextBrowser1->source().fileName(), Manuels[langue]);
-        QStringList sections;
-        for (QTreeWidgetItemIterator ligne(poste.aide->TreeView1); *ligne != nullptr; ++ligne)
-            sections << (*ligne)->data(0, Qt::UserRole).toString();
-        QCOMPARE(sections, Sections(Manuels[langue]));
-        Operateur::Barre(16);
-        QCOMPARE(frmPrinc->findChildren<FrmAide *>().size(), 1);
-
-        QVERIFY(poste.aide->close() && QFile::remove(poste.Chemin(Manuels[langue])));
-        Operateur operateur;
-        operateur.Repond(textes[langue][0], textes[langue][1] + poste.Chemin(Manuels[langue]), Boite::Exclamation,
-                         QMessageBox::Ok);
-        Operateur::Menu(u"Mnu_Aide");
-    }
-}
-
-// Contents, back and forward, by the keyboard alone.
-void TestFrmAide::Parcours()
-{
-    const PosteAide poste(0);
-    for (const char *const section : {"adaptateurs", "Prop"})
-        poste.aide->Montre(poste.Chemin(Manuels[0]), QLatin1String(section));
-    QTest::keyClick(poste.aide->TreeView1, Qt::Key_Down);
-    QTest::keyClick(poste.aide->TreeView1, Qt::Key_Return);
-    QCOMPARE(poste.Fragment(), u"Prop_divers"_s);
-    for (const auto &[touche, section] :
-         {std::pair(Qt::Key_Left, "Prop"), std::pair(Qt::Key_Left, "adaptateurs"), std::pair(Qt::Key_Right, "Prop")}) {
-        QTest::keyClick(poste.aide, touche, Qt::AltModifier);
-        QCOMPARE(poste.Section(), QLatin1String(section));
-    }
-    QTest::keyClick(poste.aide, Qt::Key_Escape);
-    QVERIFY(!poste.aide->isVisible());
-}
-
-// A search meets accents and capitals, goes from match to match through the whole text and round its end.
-void TestFrmAide::Recherche()
-{
-    const PosteAide poste(0);
-    const Ui::FrmAide &aide = *poste.aide;
-    for (const auto &[cherche, trouve] : {std::pair("udev(", "Introuvable"), std::pair("REGLE  udev", "1 / 1")}) {
-        QTest::keySequence(poste.aide, QKeySequence::Find);
-        QTest::keyClicks(aide.Text1, QLatin1String(cherche));
-        QCOMPARE(aide.Label2->text(), QLatin1String(trouve));
-    }
-    QCOMPARE(poste.Section(), u"adaptateurs"_s);
-
-    aide.Text1->setText(u"emission"_s);
-    const QString texte = aide.TextBrowser1->toPlainText();
-    const auto nombre = texte.count(QRegularExpression(u"[eé]mission"_s, QRegularExpression::CaseInsensitiveOption));
-    const QString depart = aide.Label2->text();
-    QSet<QString> vus;
-    for (qsizetype i = 0; i < nombre; ++i) {
-        QTest::keyClick(aide.Text1, Qt::Key_Return);
-        vus << aide.Label2->text();
-        QVERIFY(texte.mid(aide.TextBrowser1->textCursor().position(), 8).endsWith(u"mission"_s, Qt::CaseInsensitive));
-    }
-    QCOMPARE(vus.size(), nombre);
-    QCOMPARE(aide.Label2->text(), depart);
-    QTest::keyClick(aide.Text1, Qt::Key_F3, Qt::ShiftModifier);
-    QVERIFY(aide.Label2->text() != depart);
-}
-
-// F1 in a modal dialog gives the page of the dialog, in a window that the dialog does not block.
-void TestFrmAide::DansUnDialogue()
-{
-    const PosteAide poste(1);
-    Operateur operateur;
-    operateur.Fait(u"FrmLangue", [](QWidget &fenetre) {
-        QTest::keyClick(&fenetre, Qt::Key_F1);
-        FrmAide *const aide = PosteAide::Ouverte(&fenetre);
-        QVERIFY(aide != nullptr && aide->isVisible());
-        QCOMPARE(aide->TextBrowser1->source().fragment(), u"FrmLangue"_s);
-        QTest::mouseClick(aide->windowHandle(), Qt::LeftButton, {}, aide->Command1->geometry().center());
-        QCOMPARE(aide->TextBrowser1->source().fragment(), QString());
-        fenetre.close();
-    });
-    FrmLangue(frmPrinc).exec();
-    QTRY_COMPARE(PosteAide::Ouverte(frmPrinc), nullptr); // the help of the main window made room
-}
-
-// The manuals have the same sections; links and pictures lead somewhere; a caption in bold is one of a window.
-void TestFrmAide::ManuelsEntiers()
-{
-    for (int langue = 0; langue < 3; ++langue) {
-        const QString &manuel = Manuels[langue];
-        const QStringList sections = Sections(manuel);
-        QVERIFY(sections.size() > 20 && sections == Sections(Manuels[0]));
-        for (const QString &lien : Trouve(manuel, u"href=\"([^\"]*)\""_s))
-            QVERIFY2(sections.contains(lien.mid(1)), qPrintable(manuel + lien));
-        for (const QString &image : Trouve(manuel, u"src=\"([^\"]*)\""_s)) {
-            const int largeur = QImage(Ressources.filePath(u"aide/"_s + image)).width();
-            QVERIFY2(largeur > 0 && largeur < 900, qPrintable(image));
+            QVERIFY(poste.aide->close() && QFile::remove(poste.Chemin(Manuels[langue])));
+            Operateur operateur;
+            operateur.Repond(textes[langue][0], textes[langue][1] + poste.Chemin(Manuels[langue]), Boite::Exclamation,
+                             QMessageBox::Ok);
+            Operateur::Menu(u"Mnu_Aide");
         }
-
-        const PosteAide poste(langue);
-        ChargeExemples();
-        QSet<QString> legendes;
-        for (const Vue &vue : Vues)
-            AjouteLegendes(*vue.ouvre(), legendes);
-        for (QString &cite : Trouve(manuel, u"<b>([^<]*)</b>"_s))
-            QVERIFY2(legendes.contains(cite.replace(u"&gt;"_s, u">"_s)), qPrintable(manuel + u": "_s + cite));
     }
-}
+
+    // Contents, back and forward, by the keyboard alone.
+    void Parcours()
+    {
+        const PosteAide poste(0);
+        for (const char *const section : {"adaptateurs", "Prop"})
+            poste.aide->Montre(poste.Chemin(Manuels[0]), QLatin1String(section));
+        QTest::keyClick(poste.aide->TreeView1, Qt::Key_Down);
+        QTest::keyClick(poste.aide->TreeView1, Qt::Key_Return);
+        QStringList vues{poste.Fragment()};
+        for (const Qt::Key touche : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Right}) {
+            QTest::keyClick(poste.aide, touche, Qt::AltModifier);
+            vues << poste.Section();
+        }
+        QCOMPARE(vues.join(u' '), u"Prop_divers Prop adaptateurs Prop"_s);
+    }
+
+    // A search meets accents and capitals, goes from match to match through the whole text and round its end.
+    void Recherche()
+    {
+        const PosteAide poste(0);
+        const Ui::FrmAide &aide = *poste.aide;
+        for (const auto &[cherche, trouve] : {std::pair("udev(", "Introuvable"), std::pair("REGLE  udev", "1 / 1")}) {
+            QTest::keySequence(poste.aide, QKeySequence::Find);
+            QTest::keyClicks(aide.Text1, QLatin1String(cherche));
+            QCOMPARE(aide.Label2->text(), QLatin1String(trouve));
+        }
+        QCOMPARE(poste.Section(), u"adaptateurs"_s);
+
+        aide.Text1->setText(u"emission"_s);
+        const QString texte = aide.TextBrowser1->toPlainText();
+        const auto nombre =
+            texte.count(QRegularExpression(u"[eé]mission"_s, QRegularExpression::CaseInsensitiveOption));
+        const QString depart = aide.Label2->text();
+        QSet<QString> vus;
+        for (qsizetype i = 0; i < nombre; ++i) {
+            QTest::keyClick(aide.Text1, Qt::Key_Return);
+            vus << aide.Label2->text();
+            QVERIFY(
+                texte.mid(aide.TextBrowser1->textCursor().position(), 8).endsWith(u"mission"_s, Qt::CaseInsensitive));
+        }
+        QCOMPARE(vus.size(), nombre);
+        QCOMPARE(aide.Label2->text(), depart);
+        QTest::keyClick(aide.Text1, Qt::Key_F3, Qt::ShiftModifier);
+        QVERIFY(aide.Label2->text() != depart);
+    }
+
+    // F1 in a modal dialog gives the page of the dialog, in a window that the dialog does not block.
+    void DansUnDialogue()
+    {
+        const PosteAide poste(1);
+        Operateur operateur;
+        operateur.Fait(u"FrmLangue", [](QWidget &fenetre) {
+            QTest::keyClick(&fenetre, Qt::Key_F1);
+            FrmAide *const aide = PosteAide::Ouverte(&fenetre);
+            QVERIFY(aide != nullptr && aide->isVisible());
+            QCOMPARE(aide->TextBrowser1->source().fragment(), u"FrmLangue"_s);
+            QTest::mouseClick(aide->windowHandle(), Qt::LeftButton, {}, aide->Command1->geometry().center());
+            QCOMPARE(aide->TextBrowser1->source().fragment(), QString());
+            fenetre.close();
+        });
+        FrmLangue(frmPrinc).exec();
+        QTRY_COMPARE(PosteAide::Ouverte(frmPrinc), nullptr); // the help of the main window made room
+    }
+
+    // The manuals have the same sections; links and pictures lead somewhere; what is in bold stands on a window.
+    void ManuelsEntiers()
+    {
+        QFile liste(QString::fromUtf16(DONNEES) + u"/legendes.tsv"_s);
+        QVERIFY(liste.open(QIODevice::ReadOnly));
+        const QStringList lignes = QString::fromUtf8(liste.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        for (int langue = 0; langue < 3; ++langue) {
+            const QString &manuel = Manuels[langue];
+            const QStringList sections = Sections(manuel);
+            QVERIFY(sections.size() > 20 && sections == Sections(Manuels[0]));
+            for (const QString &lien : Trouve(manuel, u"href=\"([^\"]*)\""_s))
+                QVERIFY2(sections.contains(lien.mid(1)), qPrintable(manuel + lien));
+            for (const QString &image : Trouve(manuel, u"src=\"([^\"]*)\""_s)) {
+                const int largeur = QImage(Ressources.filePath(u"aide/"_s + image)).width();
+                QVERIFY2(largeur > 0 && largeur < 900, qPrintable(image));
+            }
+            QStringList legendes{u"CD"_s,       u"RTS"_s,     u"CTS"_s,
+                                 u"XOn/XOff"_s, u"RTS/CTS"_s, u"?"_s}; // in no need of a language
+            for (const QString &ligne : lignes)
+                legendes << ligne.section(u'\t', 3 + langue, 3 + langue)
+                                .remove(u'&')
+                                .remove(QRegularExpression(u"[ :]+$"_s));
+            for (QString &cite : Trouve(manuel, u"<b>([^<]*)</b>"_s))
+                QVERIFY2(legendes.contains(cite.replace(u"&gt;"_s, u">"_s)), qPrintable(manuel + u": "_s + cite));
+        }
+    }
+};
 
 QTEST_MAIN(TestFrmAide)
 #include "TestFrmAide.moc"

@@ -54,102 +54,98 @@ class TestImpression : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ToutLeTexte();
-    void Copies();
-    void Reglage();
-    void Refus();
-};
+    // Whatever is selected, the whole text comes out, over as many pages as it needs and with the heading on the first
+    // one alone. Of a line wider than the page the end is missing, and the next line follows it. Blank lines at the end
+    // take no sheet.
+    void ToutLeTexte()
+    {
+        const Poste poste(1);
+        Operateur operateur;
+        for (const char *const fin : {"\r\n", "\r", "\n"}) {
+            QStringList lignes{u"%\tA"_s, u"12345678B"_s, QString(1000, u'X') + u"FIN"_s};
+            for (int numero = 1; numero <= 400; ++numero)
+                lignes << u"N%1 G1 X%2 (é)"_s.arg(numero).arg(numero * 7);
+            OuvreDocument(
+                poste.Ecrit("P.iso", lignes.join(QLatin1String(fin)).toLatin1() + QByteArray(fin).repeated(90)));
+            frmPrinc->Text1->setFont(QFont(u"DejaVu Sans Mono"_s, 10));
+            frmPrinc->Text1->setSelLength(3);
+            QFile::remove(poste.Chemin("P.pdf")); // the dialog would ask about it
+            Imprime(operateur, poste.Chemin("P.pdf"));
+            QCOMPARE(frmPrinc->Text1->SelLength(), 0);
 
-// Whatever is selected, the whole text comes out, over as many pages as it needs and with the heading on the first one
-// alone. Of a line wider than the page the end is missing, and the next line follows it. Blank lines at the end take no
-// sheet.
-void TestImpression::ToutLeTexte()
-{
-    const Poste poste(1);
-    Operateur operateur;
-    for (const char *const fin : {"\r\n", "\r", "\n"}) {
-        QStringList lignes{u"%\tA"_s, u"12345678B"_s, QString(1000, u'X') + u"FIN"_s};
-        for (int numero = 1; numero <= 400; ++numero)
-            lignes << u"N%1 G1 X%2 (é)"_s.arg(numero).arg(numero * 7);
-        OuvreDocument(poste.Ecrit("P.iso", lignes.join(QLatin1String(fin)).toLatin1() + QByteArray(fin).repeated(90)));
-        frmPrinc->Text1->setFont(QFont(u"DejaVu Sans Mono"_s, 10));
+            const QList<QStringList> pages = Pages(poste.Chemin("P.pdf"));
+            QCOMPARE(pages.size(), 6);
+            QVERIFY(pages[1].size() == pages[4].size() && pages[1].size() > 60);
+            QStringList lues;
+            for (const QStringList &page : pages)
+                lues << page;
+            QCOMPARE(lues.takeFirst(), u"Programme : "_s + NomFichier);
+            QCOMPARE(lues[0].indexOf(u'A'), lues[1].indexOf(u'B')); // the tabulator has gone to the eighth column
+            QVERIFY2(QRegularExpression(u"^X{80,150}$"_s).match(lues[2]).hasMatch(), qPrintable(lues[2]));
+            QCOMPARE(lues.mid(3), lignes.mid(3));
+        }
+    }
+
+    // Each copy is a job of its own, and in PDF a file that replaces no other; the look is that of the insertion point.
+    void Copies()
+    {
+        const Poste poste(2);
+        Operateur operateur;
+        OuvreDocument(poste.Ecrit("P.iso", "N10\r\n\r\nN20"));
         frmPrinc->Text1->setSelLength(3);
-        QFile::remove(poste.Chemin("P.pdf")); // the dialog would ask about it
-        Imprime(operateur, poste.Chemin("P.pdf"));
-        QCOMPARE(frmPrinc->Text1->SelLength(), 0);
-
-        const QList<QStringList> pages = Pages(poste.Chemin("P.pdf"));
-        QCOMPARE(pages.size(), 6);
-        QVERIFY(pages[1].size() == pages[4].size() && pages[1].size() > 60);
-        QStringList lues;
-        for (const QStringList &page : pages)
-            lues << page;
-        QCOMPARE(lues.takeFirst(), u"Programme : "_s + NomFichier);
-        QCOMPARE(lues[0].indexOf(u'A'), lues[1].indexOf(u'B')); // the tabulator has gone to the eighth column
-        QVERIFY2(QRegularExpression(u"^X{80,150}$"_s).match(lues[2]).hasMatch(), qPrintable(lues[2]));
-        QCOMPARE(lues.mid(3), lignes.mid(3));
+        frmPrinc->Text1->setSelFontName(u"DejaVu Serif"_s);
+        poste.Ecrit("P_2.pdf", "mine");
+        Imprime(operateur, poste.Chemin("P.pdf"), 3);
+        QCOMPARE(poste.Lit("P_2.pdf"), "mine");
+        const QList<QStringList> attendu{QStringList{u"Programme : "_s + NomFichier, u"N10"_s, u"N20"_s}};
+        for (const char *const fichier : {"P.pdf", "P_3.pdf", "P_4.pdf"}) {
+            QCOMPARE(Pages(poste.Chemin(fichier)), attendu);
+            QVERIFY(poste.Lit(fichier).contains("DejaVuSerif-Bold"));
+        }
+        OuvreDocument(poste.Ecrit("Q.iso", "N10"));
+        Imprime(operateur, QString());
+        QCOMPARE(QDir(poste.Dossier()).entryList({u"*.pdf"_s}), u"P.pdf P_2.pdf P_3.pdf P_4.pdf Q.pdf"_s.split(u' '));
     }
-}
 
-// Each copy is a job of its own, and in PDF a file that replaces no other; the look is that of the insertion point.
-void TestImpression::Copies()
-{
-    const Poste poste(2);
-    Operateur operateur;
-    OuvreDocument(poste.Ecrit("P.iso", "N10\r\n\r\nN20"));
-    frmPrinc->Text1->setSelLength(3);
-    frmPrinc->Text1->setSelFontName(u"DejaVu Serif"_s);
-    poste.Ecrit("P_2.pdf", "mine");
-    Imprime(operateur, poste.Chemin("P.pdf"), 3);
-    QCOMPARE(poste.Lit("P_2.pdf"), "mine");
-    const QList<QStringList> attendu{QStringList{u"Programme : "_s + NomFichier, u"N10"_s, u"N20"_s}};
-    for (const char *const fichier : {"P.pdf", "P_3.pdf", "P_4.pdf"}) {
-        QCOMPARE(Pages(poste.Chemin(fichier)), attendu);
-        QVERIFY(poste.Lit(fichier).contains("DejaVuSerif-Bold"));
+    // The set-up turns the paper of what is printed behind it, unless it is cancelled.
+    void Reglage()
+    {
+        const Poste poste(1);
+        Operateur operateur;
+        OuvreDocument(poste.Ecrit("P.iso", "N10"));
+        for (const bool accepte : {false, true}) {
+            operateur.Fait("CommonDialog", [accepte](QWidget &fenetre) {
+                auto *const paysage = fenetre.findChild<QRadioButton *>(u"Paysage"_s);
+                QCOMPARE(fenetre.windowTitle() + u": "_s + paysage->text(), u"Print setup: Landscape"_s);
+                paysage->click();
+                QMetaObject::invokeMethod(&fenetre, accepte ? "accept" : "reject");
+            });
+            Operateur::Menu("Mnu_ConfigIMP");
+            const QString fichier = accepte ? u"Q.pdf"_s : u"P.pdf"_s;
+            Imprime(operateur, poste.Chemin(fichier));
+            QVERIFY(poste.Lit(fichier).contains(accepte ? "[0 0 842.0" : "[0 0 595.0"));
+        }
     }
-    OuvreDocument(poste.Ecrit("Q.iso", "N10"));
-    Imprime(operateur, QString());
-    QCOMPARE(QDir(poste.Dossier()).entryList({u"*.pdf"_s}), u"P.pdf P_2.pdf P_3.pdf P_4.pdf Q.pdf"_s.split(u' '));
-}
 
-// The set-up turns the paper of what is printed behind it, unless it is cancelled.
-void TestImpression::Reglage()
-{
-    const Poste poste(1);
-    Operateur operateur;
-    OuvreDocument(poste.Ecrit("P.iso", "N10"));
-    for (const bool accepte : {false, true}) {
-        operateur.Fait("CommonDialog", [accepte](QWidget &fenetre) {
-            auto *const paysage = fenetre.findChild<QRadioButton *>(u"Paysage"_s);
-            QCOMPARE(fenetre.windowTitle() + u": "_s + paysage->text(), u"Print setup: Landscape"_s);
-            paysage->click();
-            QMetaObject::invokeMethod(&fenetre, accepte ? "accept" : "reject");
-        });
-        Operateur::Menu("Mnu_ConfigIMP");
-        const QString fichier = accepte ? u"Q.pdf"_s : u"P.pdf"_s;
-        Imprime(operateur, poste.Chemin(fichier));
-        QVERIFY(poste.Lit(fichier).contains(accepte ? "[0 0 842.0" : "[0 0 595.0"));
+    // Cancelling prints nothing and leaves the selection. A file that cannot be written is a failure; of a job that is
+    // given up nothing stays.
+    void Refus()
+    {
+        const Poste poste(0);
+        OuvreDocument(poste.Ecrit("P.iso", "N10 N20"));
+        frmPrinc->Text1->setSelLength(3);
+        Operateur operateur;
+        operateur.Ferme("CommonDialog");
+        Operateur::Menu("Mnu_Imprim");
+        QCOMPARE(frmPrinc->Text1->SelText(), u"N10"_s);
+        QPrinter imprimante;
+        imprimante.setOutputFileName(poste.Chemin("absent/P.pdf"));
+        QVERIFY_EXCEPTION_THROWN(Printer(imprimante).Print(), Erreur);
+        imprimante.setOutputFileName(poste.Chemin("P.pdf"));
+        Printer(imprimante).Print(u"N10"_s);
+        QVERIFY(!QFile::exists(poste.Chemin("P.pdf")));
     }
-}
-
-// Cancelling prints nothing and leaves the selection. A file that cannot be written is a failure; of a job that is
-// given up nothing stays.
-void TestImpression::Refus()
-{
-    const Poste poste(0);
-    OuvreDocument(poste.Ecrit("P.iso", "N10 N20"));
-    frmPrinc->Text1->setSelLength(3);
-    Operateur operateur;
-    operateur.Ferme("CommonDialog");
-    Operateur::Menu("Mnu_Imprim");
-    QCOMPARE(frmPrinc->Text1->SelText(), u"N10"_s);
-    QPrinter imprimante;
-    imprimante.setOutputFileName(poste.Chemin("absent/P.pdf"));
-    QVERIFY_EXCEPTION_THROWN(Printer(imprimante).Print(), Erreur);
-    imprimante.setOutputFileName(poste.Chemin("P.pdf"));
-    Printer(imprimante).Print(u"N10"_s);
-    QVERIFY(!QFile::exists(poste.Chemin("P.pdf")));
-}
+};
 
 QTEST_MAIN(TestImpression)
 #include "TestImpression.moc"

@@ -37,107 +37,93 @@ class TestPortCom : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Ouvre();
-    void OuvreRate();
-    void MenuFermeture();
-};
-
-// All settings of the record reach the control, and the line has them from its first moment. A configuration loaded
-// between two sessions counts for the second.
-void TestPortCom::Ouvre()
-{
-    const Atelier atelier;
-    MSComm &c = atelier.controle;
-    OuvrePortCOM();
-    QVERIFY(c.PortOpen() && PortOuvert && !atelier.ligne->rts && !atelier.ligne->dtr);
-    QCOMPARE(c.Settings(), u"115200,n,8,1"_s);
-    QCOMPARE(atelier.ligne->reglages.constFirst().vitesse, 115200);
-    QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
-    QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Ouvert"_s);
-
-    Em_Rc dialogue(frmPrinc);
-    FermePortCOM(dialogue);
-    LangIndex = 2;
-    ParamCom.NumPort = 4;
-    ParamCom.NbCarLecture = 1;
-    ParamCom.FiltreNul = 1;
-    ParamCom.CarRemplace = u"!"_s;
-    ParamCom.TailleTamponRecep = 2000;
-    ParamCom.TailleTamponEmis = 100;
-    ParamCom.LigneRTS = ParamCom.LigneDTR = 1;
-    ParamCom.SeuilRecep = 7;
-    ParamCom.SeuilEmis = 8;
-    ParamCom.ControleFlux = 0;
-    ParamCom.BitsDonnees = u"5"_s;
-    ParamCom.BitsArret = u"1.5"_s;
-    ParamCom.Parite = u"e"_s;
-    OuvrePortCOM();
-    QCOMPARE((QList<int>{c.CommPort(), c.InputLen(), c.NullDiscard(), c.InBufferSize(), c.OutBufferSize(),
-                         c.RThreshold(), c.SThreshold(), c.Handshaking()}),
-             (QList<int>{4, 1, 1, 2000, 100, 7, 8, 0}));
-    QCOMPARE(c.ParityReplace() + c.Settings(), u"!115200,e,5,1.5"_s);
-    QVERIFY(atelier.ligne->rts && atelier.ligne->dtr);
-    QCOMPARE(atelier.ligne->reglages.constLast().demiBitsArret, 3);
-    QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Abierto"_s);
-    FermePortCOM(dialogue);
-    QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Cerrado"_s);
-    QVERIFY(!PortOuvert && !atelier.ligne->ouverte);
-}
-
-// The first step that fails is told once, in the language, and the steps behind it do not run. A port that was open
-// takes the settings, and then stays as it is behind a buffer size that it cannot take.
-void TestPortCom::OuvreRate()
-{
-    Atelier atelier;
-    for (const auto &[flux, port, refus, numero, vitesse, bits, texte] :
-         {std::tuple{9, 2, 0, 8015, u"x"_s, u"8"_s, u"Impossible de définir l'état de communication"_s},
-          {1, 99, 0, 8007, u"x"_s, u"4"_s, u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
-          {1, 99, 0, 8008, u"9600"_s, u"4"_s, u"La taille d'octet spécifiée n'est pas valide"_s},
-          {1, 17, 8015, 8002, u"9600"_s, u"8"_s, u"Numéro de port non valide"_s},
-          {1, 2, 8015, 8015, u"9600"_s, u"8"_s, u"Impossible de définir l'état de communication"_s}}) {
-        ParamCom.ControleFlux = flux;
-        ParamCom.Vitesse = vitesse;
-        ParamCom.BitsDonnees = bits;
-        ParamCom.NumPort = port;
-        atelier.ligne->refusReglage = refus;
-        atelier.operateur.LitErreur(numero, texte);
+    // All settings of the record reach the control, and the line has them from its first moment. A configuration loaded
+    // between two sessions counts for the second.
+    void Ouvre()
+    {
+        const Atelier atelier;
+        MSComm &c = atelier.controle;
         OuvrePortCOM();
-        QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
-        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Fermé"_s);
+        QVERIFY(c.PortOpen() && PortOuvert && !atelier.ligne->rts && !atelier.ligne->dtr);
+        QCOMPARE(c.Settings(), u"115200,n,8,1"_s);
+        QCOMPARE(atelier.ligne->reglages.constFirst().vitesse, 115200);
+        QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Ouvert"_s);
+
+        Em_Rc dialogue(frmPrinc);
+        FermePortCOM(dialogue);
+        LangIndex = 2;
+        LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s);
+        ParamCom.BitsDonnees = u"5"_s; // which alone go with 1.5 stop bits
+        OuvrePortCOM();
+        QCOMPARE((QList<int>{c.CommPort(), c.InputLen(), c.NullDiscard(), c.InBufferSize(), c.OutBufferSize(),
+                             c.RThreshold(), c.SThreshold(), c.Handshaking()}),
+                 (QList<int>{3, 100, 1, 2048, 256, 128, 5, 1}));
+        QCOMPARE(c.ParityReplace() + c.Settings(), u"?19200,o,5,1.5"_s);
+        QVERIFY(!atelier.ligne->rts && atelier.ligne->dtr);
+        QCOMPARE(atelier.ligne->reglages.constLast().demiBitsArret, 3);
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Abierto"_s);
+        FermePortCOM(dialogue);
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Cerrado"_s);
+        QVERIFY(!PortOuvert && !atelier.ligne->ouverte);
     }
 
-    atelier.ligne->refusReglage = 0;
-    OuvrePortCOM();
-    ParamCom.Vitesse = u"4800"_s;
-    ParamCom.NumPort = 9;
-    OuvrePortCOM();
-    ParamCom.Vitesse = u"2400"_s;
-    ParamCom.TailleTamponRecep = 99;
-    LangIndex = 1;
-    atelier.operateur.Repond(u"Error N°:  8000Closing of the port of communication"_s,
-                             u"Nonvalid operation when the port is open"_s, Boite::Critique, QMessageBox::Ok);
-    OuvrePortCOM();
-    QVERIFY(atelier.controle.PortOpen() && atelier.controle.CommPort() == 2);
-    QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
-    LangIndex = 2; // a number without a text of ours bears the platform's
-    atelier.operateur.Repond(u"Error N°:  70Cierre del puerto de comunicación"_s, u"Permission denied"_s,
-                             Boite::Critique, QMessageBox::Ok);
-    Em_Rc dialogue(frmPrinc);
-    ErreurPortCOM(Erreur(70, u"Permission denied"_s), dialogue);
-    QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
-}
+    // The first step that fails is told once, in the language, and the steps behind it do not run. A port that was open
+    // takes the settings, and then stays as it is behind a buffer size that it cannot take.
+    void OuvreRate()
+    {
+        Atelier atelier;
+        // the way of flow control, the port, the number with which the line refuses
+        for (const auto &[flux, port, refus, numero, vitesse, bits, texte] :
+             {std::tuple{9, 2, 0, 8015, "x", "8", u"Impossible de définir l'état de communication"_s},
+              {1, 99, 0, 8007, "x", "4", u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
+              {1, 99, 0, 8008, "9600", "4", u"La taille d'octet spécifiée n'est pas valide"_s},
+              {1, 17, 8015, 8002, "9600", "8", u"Numéro de port non valide"_s},
+              {1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s}}) {
+            ParamCom.ControleFlux = flux;
+            ParamCom.Vitesse = QLatin1String(vitesse);
+            ParamCom.BitsDonnees = QLatin1String(bits);
+            ParamCom.NumPort = port;
+            atelier.ligne->refusReglage = refus;
+            atelier.operateur.LitErreur(numero, texte);
+            OuvrePortCOM();
+            QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
+            QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Fermé"_s);
+        }
 
-// A port that stayed open can be closed from the menu; the lamp follows by itself.
-void TestPortCom::MenuFermeture()
-{
-    const Atelier atelier;
-    PortOuvert = true;
-    QVERIFY(!Operateur::Offre("Mnu_FermePortCom") && !PortOuvert);
-    OuvrePortCOM();
-    PortOuvert = false;
-    Operateur::Menu("Mnu_FermePortCom");
-    QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
-}
+        atelier.ligne->refusReglage = 0;
+        OuvrePortCOM();
+        ParamCom.Vitesse = u"4800"_s;
+        ParamCom.NumPort = 9;
+        OuvrePortCOM();
+        ParamCom.Vitesse = u"2400"_s;
+        ParamCom.TailleTamponRecep = 99;
+        LangIndex = 1;
+        atelier.operateur.Repond(u"Error N°:  8000Closing of the port of communication"_s,
+                                 u"Nonvalid operation when the port is open"_s, Boite::Critique, QMessageBox::Ok);
+        OuvrePortCOM();
+        QVERIFY(atelier.controle.PortOpen() && atelier.controle.CommPort() == 2);
+        QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
+        LangIndex = 2; // a number without a text of ours bears the platform's
+        atelier.operateur.Repond(u"Error N°:  70Cierre del puerto de comunicación"_s, u"Permission denied"_s,
+                                 Boite::Critique, QMessageBox::Ok);
+        Em_Rc dialogue(frmPrinc);
+        ErreurPortCOM(Erreur(70, u"Permission denied"_s), dialogue);
+        QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
+    }
+
+    // A port that stayed open can be closed from the menu; the lamp follows by itself.
+    void MenuFermeture()
+    {
+        const Atelier atelier;
+        PortOuvert = true;
+        QVERIFY(!Operateur::Offre("Mnu_FermePortCom") && !PortOuvert);
+        OuvrePortCOM();
+        PortOuvert = false;
+        Operateur::Menu("Mnu_FermePortCom");
+        QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
+    }
+};
 
 QTEST_MAIN(TestPortCom)
 #include "TestPortCom.moc"
