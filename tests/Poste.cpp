@@ -2,7 +2,9 @@
 
 #include "comconfig/CommandesConf.h"
 #include "comconfig/ParamCom.h"
+#include "gauges/Jauge.h"
 #include "gauges/Lignes.h"
+#include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
 #include "shell/Chemins.h"
@@ -43,9 +45,11 @@ Poste::~Poste()
 void Poste::RemetEnregistrements()
 {
     ParamCom = {};
+    ParamMac = {};
+    VideJauges();
     for (QString *texte :
-         {&FicConf, &NomConf, &NomFichier, &TitreFichier, &TexteAnnuler, &DosAppli, &DosDefaut, &FicConfDefaut,
-          &DosConf, &DosJauge, &EditeurCN, &NomFicRecep, &DossierRecep, &ChaineFinLigRecep})
+         {&FicConf, &NomConf, &NomCompletMac, &NomMac, &NomFichier, &TitreFichier, &TexteAnnuler, &DosAppli, &DosDefaut,
+          &FicConfDefaut, &DosConf, &DosJauge, &EditeurCN, &NomFicRecep, &DossierRecep, &ChaineFinLigRecep})
         texte->clear();
     for (int *nombre :
          {&LangIndex, &FichierModifie, &IndexFiltre, &OptDosDefaut, &OptConfDefaut, &OptExplorateur, &NbLignes,

@@ -110,13 +110,28 @@ void TuileOutil::Dessine(QPainter &dessin) const
     dessin.drawEllipse(localisateur == 0 ? QPointF() : QPointF(-19, 0), 3, 3);
 }
 
+/// The tools of locators 2 and 6 stand on X, those of 4 and 8 on Z: their noses point along the axes.
+QPointF Cadran::Croisement() const
+{
+    QPointF croisement = QRectF(rect()).center();
+    const auto tuiles = findChildren<TuileOutil *>();
+    for (const TuileOutil *tuile : tuiles) {
+        const QPointF centre = QRectF(tuile->geometry()).center();
+        if (tuile->Valeur() == QLatin1String("2"))
+            croisement.setX(centre.x());
+        else if (tuile->Valeur() == QLatin1String("4"))
+            croisement.setY(centre.y());
+    }
+    return croisement;
+}
+
 void Cadran::paintEvent(QPaintEvent *)
 {
     QPainter dessin(this);
     dessin.setRenderHint(QPainter::Antialiasing);
     dessin.setPen(Trait(Axe, 1.5));
     dessin.setBrush(Axe);
-    const QPointF centre = QRectF(rect()).center();
+    const QPointF centre = Croisement();
     constexpr double bord = 4;
     constexpr double pointe = 5;
 

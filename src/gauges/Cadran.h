@@ -61,8 +61,8 @@ private:
     bool m_avant = false;
 };
 
-/// A dial: the axes X and Z, crossing at its centre, behind the tiles. X points away from the operator for a back
-/// turret and towards him for a front one.
+/// A dial: the axes X and Z, crossing in the midst of its tiles and behind them. X points away from the operator for a
+/// back turret and towards him for a front one.
 class Cadran : public QWidget
 {
     Q_OBJECT
@@ -75,5 +75,7 @@ protected:
     void paintEvent(QPaintEvent *) override;
 
 private:
+    QPointF Croisement() const;
+
     bool m_avant = false;
 };

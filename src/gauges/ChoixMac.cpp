@@ -3,11 +3,11 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "platform/CommonDialog.h"
-#include "platform/Erreur.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
 #include <QDir>
+#include <QScopeGuard>
 
 namespace {
 
@@ -32,12 +32,8 @@ void Demande(void (CommonDialog::*montre)(), const Texte3 &titre, const QString 
     dialogue.Filter = Texte(FiltreMac);
     dialogue.FilterIndex = 1;
     dialogue.Flags = CommonDialog::EcrasementDemande;
-    try {
-        (dialogue.*montre)();
-    } catch (const Erreur &) {
-        dialogue.CancelError = false;
-        throw;
-    }
+    const auto remis = qScopeGuard([&dialogue] { dialogue.CancelError = false; });
+    (dialogue.*montre)();
     NomCompletMac = dialogue.FileName;
     NomMac = dialogue.FileTitle;
 }

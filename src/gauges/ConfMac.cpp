@@ -10,6 +10,8 @@
 
 #include <QRegularExpressionValidator>
 
+#include <algorithm>
+
 namespace {
 
 constexpr Texte3 PrefixeTitre{u"Configuration machine : ", u"Configuration machine : ", u"Configuración máquina : "};
@@ -43,6 +45,13 @@ constexpr Longueur Longueurs[] = {{&Ui::ConfMac::Text4, &ConfigurationMac::DiffP
 void LimiteTouches(QLineEdit *saisie, const QString &motif)
 {
     saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
+}
+
+/// A value of the file that is longer than what the operator may type is shown whole, so that saving does not cut it.
+void Montre(QLineEdit *saisie, const QString &texte)
+{
+    saisie->setMaxLength(std::max(saisie->maxLength(), static_cast<int>(texte.size())));
+    saisie->setText(texte);
 }
 
 /// Hides it without closing up the place, so that what the operator is about to click stays where it is.
@@ -111,10 +120,10 @@ void ConfMac::MontreSelonChoix()
 void ConfMac::MontreTextes()
 {
     for (const Longueur &longueur : Longueurs)
-        (this->*longueur.saisie)->setText(TexteDouble(ParamMac.*longueur.champ));
-    Text3->setText(QString::number(ParamMac.NbCorrecteurs));
-    Text5->setText(ParamMac.ExtJauge);
-    Text6->setText(ParamMac.NumProgJauge);
+        Montre(this->*longueur.saisie, TexteDouble(ParamMac.*longueur.champ));
+    Montre(Text3, QString::number(ParamMac.NbCorrecteurs));
+    Montre(Text5, ParamMac.ExtJauge);
+    Montre(Text6, ParamMac.NumProgJauge);
 }
 
 void ConfMac::PrendTextes()

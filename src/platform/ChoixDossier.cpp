@@ -1,5 +1,7 @@
 #include "platform/ChoixDossier.h"
 
+#include "platform/DialogueFichier.h"
+
 #include <QDir>
 #include <QFileDialog>
 
@@ -7,8 +9,7 @@ QString ChoixDossier(QWidget *fenetre, const QString &depart)
 {
     QFileDialog dialogue(fenetre, QStringLiteral("Choix du dossier"), depart);
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
-    // The system's own dialog would speak the system's language and not the operator's.
-    dialogue.setOption(QFileDialog::DontUseNativeDialog);
+    DansLaLangue(dialogue);
     dialogue.setOption(QFileDialog::ShowDirsOnly);
     dialogue.setFileMode(QFileDialog::Directory);
     if (dialogue.exec() != QDialog::Accepted)

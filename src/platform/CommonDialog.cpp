@@ -1,5 +1,6 @@
 #include "platform/CommonDialog.h"
 
+#include "platform/DialogueFichier.h"
 #include "platform/DialogueImprimante.h"
 #include "platform/DialoguePolice.h"
 #include "platform/Erreur.h"
@@ -51,11 +52,15 @@ void ProposeFichier(QPrintDialog &dialogue, const QString &document)
     fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
 }
 
-/// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted.
+/// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted,
+/// under a title that in French speaks of the selection alone.
 void CacheEtendues(QPrintDialog &dialogue)
 {
-    const auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
-    const auto choix = etendues == nullptr ? QList<QWidget *>() : etendues->findChildren<QWidget *>();
+    auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
+    if (etendues == nullptr)
+        return;
+    etendues->setTitle(QString());
+    const auto choix = etendues->findChildren<QWidget *>();
     for (QWidget *widget : choix) {
         const QString nom = widget->objectName();
         if (nom != QLatin1String("printAll") && nom != QLatin1String("printSelection"))
@@ -86,8 +91,7 @@ void CommonDialog::DemandeFichier(bool enregistrement)
 {
     // Without a folder this toolkit's dialog would open where it was last used.
     QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir.isEmpty() ? QDir::currentPath() : InitDir);
-    // The system's own dialog would speak the system's language and not the operator's.
-    dialogue.setOption(QFileDialog::DontUseNativeDialog);
+    DansLaLangue(dialogue);
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, (Flags & EcrasementDemande) == 0);
     dialogue.setAcceptMode(enregistrement ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -20,17 +20,6 @@ constexpr Texte3 Programme{u"Dorvanel Pro Version 2.7.0\r\rLogiciel de Chargemen
 
 constexpr int CoteImage = 96; // pixels
 
-/// A button that looks like a link: it takes the keyboard like any other.
-void HabilleEnLien(QPushButton *bouton)
-{
-    QPalette palette = bouton->palette();
-    palette.setColor(QPalette::ButtonText, palette.color(QPalette::Link));
-    bouton->setPalette(palette);
-    QFont police = bouton->font();
-    police.setUnderline(true);
-    bouton->setFont(police);
-}
-
 } // namespace
 
 Apropos::Apropos(QWidget *parent)
@@ -44,8 +33,6 @@ Apropos::Apropos(QWidget *parent)
     Label4->setText(QString::fromUtf16(AdresseCourrier));
     Label5->setText(QString::fromUtf16(AdresseSite));
     Image1->setPixmap(Icone(QStringLiteral(":/icones/Dorvanel.svg")).pixmap(CoteImage));
-    for (QPushButton *lien : {Label8, Label4, Label5})
-        HabilleEnLien(lien);
     connect(Label8, &QPushButton::clicked, this, Mnu_AideEnLigne);
     connect(Label4, &QPushButton::clicked, this, &Apropos::Label4_Click);
     connect(Label5, &QPushButton::clicked, this, &Apropos::Label5_Click);

@@ -12,6 +12,7 @@
 #include "transfer/Confirmation.h"
 #include "transfer/Emission.h"
 #include "transfer/FichierRecu.h"
+#include "transfer/ImageTransfert.h"
 #include "transfer/PortCom.h"
 #include "transfer/Reception.h"
 #include "transfer/ReceptionFichier.h"
@@ -31,7 +32,7 @@ constexpr Texte3 LigneEcho{u"Ligne reçue / émise", u"Received / emitted line",
 constexpr Texte3 CaractereEcho{u"Caractère émis / reçu", u"Emitted / received character",
                                u"Carácter emitido / recibido"};
 
-/// What a mode shows: title, instructions for the control of the machine, status, picture.
+/// What a mode shows: title, instructions for the control of the machine, status.
 struct Mode
 {
     ModeTransfert type;
@@ -39,7 +40,6 @@ struct Mode
     Texte3 titre;
     Texte3 consignes;
     Texte3 statut;
-    const char *image;
 };
 
 constexpr Texte3 PuisCliquez{u"Puis cliquez sur le bouton < Emission... >", u"Then click on the button < Emission... >",
@@ -55,8 +55,7 @@ constexpr Mode Modes[] = {
       u"\rOn machine to make Restoring\r\rValidate the Chargement mode Programs\r\rSupport on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento Programa\r\r"
       u"Apoyar en Salida de Ciclo"},
-     PuisCliquez,
-     ":/icones/Mode_1.svg"},
+     PuisCliquez},
     {EmissionJauges,
      true,
      {u"Emission des jauges outils", u"Sending of the gauges tools", u"Emisión de las Cabidas instrumentos"},
@@ -65,8 +64,7 @@ constexpr Mode Modes[] = {
       u"Support on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Cargamento de las Cabidas instrumentos\r"
       u"Apoyar en Salida de Ciclo"},
-     PuisCliquez,
-     ":/icones/Mode_2.svg"},
+     PuisCliquez},
     {ReceptionProgramme,
      false,
      {u"Réception d'un programme CN", u"Receiving of a program", u"Recepción de un programa"},
@@ -74,8 +72,7 @@ constexpr Mode Modes[] = {
       u"\rOn machine to make Restoring\r\rValidate the Déchargement mode Programs\r\rSupport on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga Programa\r\r"
       u"Apoyar en Salida de Ciclo"},
-     AttenteReception,
-     ":/icones/Mode_3.svg"},
+     AttenteReception},
     {ReceptionJauges,
      false,
      {u"Réception des jauges outils", u"Receiving of the gauges tools", u"Recepción de las Cabidas instrumentos"},
@@ -84,8 +81,7 @@ constexpr Mode Modes[] = {
       u"Support on Departure of Cycle",
       u"\rSobre máquina hacer un a Entrega a Cero\r\rValidar el método Descarga de las Cabidas instrumentos\r\r"
       u"Apoyar en Salida de Ciclo"},
-     AttenteReception,
-     ":/icones/Mode_4.svg"},
+     AttenteReception},
     {ReceptionBanc,
      false,
      {u"Réception des jauges outils à partir du banc", u"Receiving of the gauges tools starting from the bench ",
@@ -93,8 +89,7 @@ constexpr Mode Modes[] = {
      {u"\rPrérégler le premier outil\r\r", u"\rPreset the first tool\r\r",
       u"\rPreestablecer la primer instrumentos\r\r"},
      {u"En attente de réception Correcteur N°1", u"On standby of reception Corrector N°1",
-      u"En espera de recepción Corrector N°1"},
-     ":/icones/Mode_5.svg"},
+      u"En espera de recepción Corrector N°1"}},
 };
 
 constexpr Texte3 ForcerTitre{u"Forcer la fin de réception", u"Force the end of receiving",
@@ -103,8 +98,6 @@ constexpr Texte3 ForcerTexte{
     u"Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
     u"Close the receiving and record the received lines !\rConfirm the end of receiving ?",
     u"Cerrar la recepción y registrar las líneas recibidas !\rConfirme el final de recepción ?"};
-
-constexpr int CoteImage = 64; // pixels
 
 } // namespace
 
@@ -169,7 +162,7 @@ void Em_Rc::MontreMode()
     PoseTexte(this, mode->titre);
     Label1->setText(PourAffichage(Texte(mode->consignes) + (banc ? Texte(TouchesBanc) : QString())));
     PoseTexte(Label2, mode->statut);
-    const QPixmap image = QIcon(QLatin1String(mode->image)).pixmap(CoteImage);
+    const QPixmap image = ImageTransfert();
     Picture1->setPixmap(image);
     Picture2->setPixmap(image);
     Command2->setVisible(mode->emission);

@@ -15,34 +15,31 @@
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
+#include "transfer/ImageTransfert.h"
 #include "transfer/Transfert.h"
 
 #include <algorithm>
 
 namespace {
 
-/// What a mode shows: extension, folder, picture, title.
+/// What a mode shows: extension, title.
 struct Mode
 {
     ModeTransfert type;
     const char16_t *extension;
-    const char *image;
     Texte3 titre;
 };
 
 constexpr Mode Modes[] = {
     {ReceptionProgramme,
      u"iso",
-     ":/icones/Mode_3.svg",
      {u"Réception d'un programme CN", u"Receiving of a NC program", u"Recepción de un programa CN"}},
     {ReceptionJauges,
      u"jau",
-     ":/icones/Mode_4.svg",
      {u"Réception d'un fichier jauges outils", u"Receiving of a file gauges tools",
       u"Recepción de un fichero Cabidas instrumentos"}},
     {ReceptionBanc,
      nullptr, // that of the machine's configuration
-     ":/icones/Mode_5.svg",
      {u"Création d'un fichier jauges outils", u"Creation of a file gauges tools",
       u"Creación de un fichero Cabidas instrumentos"}},
 };
@@ -58,8 +55,6 @@ constexpr Texte3 DossierDeProgrammes{u"Choix du dossier de réception des Progra
 constexpr Texte3 DossierDeJauges{u"Choix du dossier de réception des Jauges Outils",
                                  u"Choice of the directory of receiving of the Gauges Tools",
                                  u"Elección del directorio de recepción de las Cabidas instrumentos"};
-
-constexpr int CoteImage = 64; // pixels
 
 } // namespace
 
@@ -115,7 +110,7 @@ void Rc_Fic::Form_Activate()
     PoseTexte(this, mode->titre);
     Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
     Combo1->setEnabled(mode->extension != nullptr);
-    Picture1->setPixmap(QIcon(QLatin1String(mode->image)).pixmap(CoteImage));
+    Picture1->setPixmap(ImageTransfert());
 }
 
 void Rc_Fic::MontreConfigurationChoisie()

@@ -48,7 +48,7 @@ void EcritReglages(const QString &application, const QByteArray &langue)
     QFile ini(application + QStringLiteral("/Dorvanel.ini"));
     if (!ini.open(QIODevice::WriteOnly))
         qFatal("%s cannot be written", qPrintable(ini.fileName()));
-    ini.write(" 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 1 \r\n\r\n " + langue + " \r\n");
+    ini.write(" 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + langue + " \r\n");
 }
 
 /// What a window shows, under a title bar as a desktop draws one: a window's title belongs to its picture.

@@ -1,0 +1,19 @@
+#include "fuzz/Fuzz.h"
+
+#include "platform/Erreur.h"
+#include "platform/PageCode1252.h"
+#include "platform/RichTextBox.h"
+
+// Any file is a text: what the pane gives back is what was loaded, to the byte. As rich text it may be refused.
+void Essaie(const QByteArray &octets)
+{
+    static RichTextBox volet;
+    const QString chemin = Pose("Etranger.iso", octets);
+    volet.LoadFile(chemin, RichTextBox::TexteSimple);
+    EXIGE(OctetsEn1252(volet.Text()) == octets);
+    try {
+        volet.LoadFile(chemin, RichTextBox::TexteRiche);
+    } catch (const Erreur &) {
+        EXIGE(OctetsEn1252(volet.Text()) == octets);
+    }
+}
