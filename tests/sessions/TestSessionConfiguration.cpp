@@ -30,12 +30,10 @@ namespace {
 void Compose(Operateur &operateur, const char *bouton, const QStringList &gestes)
 {
     operateur.Presse("Prop", bouton);
-    operateur.Fait("FrmCaract", [gestes](QWidget &fenetre) {
-        for (const QString &geste : gestes) {
-            fenetre.findChild<QLineEdit *>(u"Text1"_s)->setText(geste.section(u'=', 1));
-            fenetre.findChild<QPushButton *>(geste.section(u'=', 0, 0))->click();
-        }
-    });
+    for (const QString &geste : gestes) {
+        operateur.Saisit("FrmCaract", "Text1", geste.section(u'=', 1));
+        operateur.Presse("FrmCaract", geste.section(u'=', 0, 0));
+    }
     operateur.Presse("FrmCaract", "Command1");
 }
 
@@ -94,10 +92,8 @@ void TestSessionConfiguration::CommandeInconnue()
     QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
     QCOMPARE(machine.Programmes()[0].Brut, QByteArray("%\r\r\nN10 G0\r\r\r\nN20 M30\r\r\n\x03\xE9"));
 
-    operateur.Fait("Rc_Fic", [](QWidget &fenetre) {
-        fenetre.findChild<QLineEdit *>(u"Text1"_s)->setText(u"recu"_s);
-        fenetre.findChild<QPushButton *>(u"Command2"_s)->click();
-    });
+    operateur.Saisit("Rc_Fic", "Text1", "recu");
+    operateur.Presse("Rc_Fic", "Command2");
     operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
     Envoi envoi;
     envoi.Texte = "O1\r\r\nG1 X5\r\r\n";
