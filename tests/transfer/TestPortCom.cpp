@@ -94,7 +94,11 @@ void TestPortCom::OuvreRate()
           {1, 99, 0, 8007, u"x"_s, u"4"_s, u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
           {1, 99, 0, 8008, u"9600"_s, u"4"_s, u"La taille d'octet spécifiée n'est pas valide"_s},
           {1, 17, 8015, 8002, u"9600"_s, u"8"_s, u"Numéro de port non valide"_s},
-          {1, 2, 8015, 8015, u"9600"_s, u"8"_s, u"Impossible de définir l'état de communication"_s}}) {
+          {1, 2, 8015, 8015, u"9600"_s, u"8"_s, u"Impossible de définir l'état de communication"_s},
+          {1, 2, 70, 70, u"9600"_s, u"8"_s,
+           u"refused\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, dans un terminal :\r    "
+           u"sudo "
+           "adduser $USER dialout\rpuis fermer la session et la rouvrir."_s}}) {
         ParamCom.ControleFlux = flux;
         ParamCom.Vitesse = vitesse;
         ParamCom.BitsDonnees = bits;
