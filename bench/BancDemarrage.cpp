@@ -7,6 +7,7 @@
 #include "platform/Polices.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
+#include "shell/Disposition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 #include "shell/Reglages.h"
@@ -48,6 +49,7 @@ int OuvreProgramme(int nombre, char *arguments[])
     FrmPrinc fenetre;
     QApplication::setWindowIcon(fenetre.windowIcon());
     Branche();
+    RemetDisposition(fenetre);
     Form_Load();
     return Ouvre(fenetre);
 }
