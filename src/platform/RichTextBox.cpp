@@ -12,14 +12,12 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QUrl>
 
 #include <algorithm>
 
 namespace {
 
-/// Property of a separator's character format: its kind of line end. Text typed beside it may inherit the property,
-/// where it means nothing.
+/// Property of a separator's character format: its kind of line end. On typed text, which may inherit it, it is void.
 constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
 
 /// Copies of a program carry its bytes, so that they come back exactly in this pane and in that of another window.
@@ -315,9 +313,7 @@ QMimeData *RichTextBox::createMimeDataFromSelection() const
 bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
 {
     // A file that is dropped is for the window around the pane; its path is no text of the program.
-    const QList<QUrl> adresses = source->urls();
-    const bool fichiers = std::any_of(adresses.begin(), adresses.end(), [](const QUrl &u) { return u.isLocalFile(); });
-    return !fichiers && (source->hasText() || source->hasFormat(FormatCopie));
+    return !source->hasUrls() && (source->hasText() || source->hasFormat(FormatCopie));
 }
 
 void RichTextBox::insertFromMimeData(const QMimeData *source)

@@ -107,7 +107,8 @@ void FrmPrinc::NommeControles()
 
 void FrmPrinc::PoseIcones()
 {
-    QApplication::setWindowIcon(IconeProgramme("Dorvanel")); // that of every window
+    // That of every window. The system asks for it in many sizes; they are drawn while it makes the window's place.
+    QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(IconeProgramme("Dorvanel")); });
     int position = 0;
     for (const char *const icone : IconesBoutons) {
         if (QAction *const bouton = Bouton(++position))
