@@ -7,6 +7,7 @@
 #include "platform/Polices.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
+#include "shell/Disposition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 #include "shell/Reglages.h"
@@ -47,6 +48,7 @@ int OuvreProgramme(int nombre, char *arguments[])
     polices.wait();
     FrmPrinc fenetre;
     Branche();
+    RemetDisposition(fenetre);
     Form_Load();
     return Ouvre(fenetre);
 }

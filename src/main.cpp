@@ -1,20 +1,38 @@
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
 #include "platform/Polices.h"
+#include "shell/Arrivee.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
+#include "shell/Disposition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 
 #include <QApplication>
+#include <QDir>
+
+namespace {
+
+/// The files named on the command line: a file manager starts the program so.
+QStringList FichiersDemandes()
+{
+    QStringList fichiers = QCoreApplication::arguments().mid(1);
+    for (QString &fichier : fichiers)
+        fichier = QDir::toNativeSeparators(QDir().absoluteFilePath(fichier));
+    return fichiers;
+}
+
+} // namespace
 
 int main(int nombre, char *arguments[])
 {
     const std::future<void> polices = LisPolices();
     QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
-    QApplication::setApplicationDisplayName(QString()); // or each title would end in the program's name
+    QApplication::setApplicationDisplayName(QString());              // or each title would end in the program's name
+    QGuiApplication::setDesktopFileName(QStringLiteral("dorvanel")); // the desktop's icon for the window
     AppliqueLangueSysteme();
+    const QStringList fichiers = FichiersDemandes(); // before the start changes the current folder
 
     polices.wait();
     FrmPrinc fenetre;
@@ -23,7 +41,13 @@ int main(int nombre, char *arguments[])
     // The operator has been asked for his text by then. Another window that stands open does not keep the program
     // alive.
     QObject::connect(&fenetre, &FrmPrinc::Form_Unload, &application, [] { QCoreApplication::exit(); });
+    RemetDisposition(fenetre);
     Form_Load();
     fenetre.show();
-    return QApplication::exec();
+    for (const QString &fichier : fichiers)
+        QMetaObject::invokeMethod(
+            &fenetre, [fichier] { OuvreFichier(fichier); }, Qt::QueuedConnection);
+    const int fin = QApplication::exec();
+    GardeDisposition(fenetre);
+    return fin;
 }

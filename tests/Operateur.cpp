@@ -122,6 +122,16 @@ void Operateur::Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition 
         std::move(quand), ou);
 }
 
+void Operateur::Saisit(QAnyStringView fenetre, QAnyStringView saisie, QAnyStringView texte, Lieu ou)
+{
+    Fait(
+        fenetre,
+        [saisie = saisie.toString(), texte = texte.toString()](QWidget &ouverte) {
+            ouverte.findChild<QLineEdit *>(saisie)->setText(texte);
+        },
+        {}, ou);
+}
+
 void Operateur::Ferme(QAnyStringView fenetre, Condition quand, Lieu ou)
 {
     Fait(

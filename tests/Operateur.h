@@ -42,9 +42,10 @@ public:
     static Geste Clique(QMessageBox::StandardButton bouton);
     /// A file dialog ("CommonDialog"): the name is typed and taken.
     void Choisit(QAnyStringView chemin, Lieu ou = Lieu::current());
-    /// The window of that objectName: a button is pressed, the close box is pressed, or anything is done, once the
-    /// condition holds. The window may stay open.
+    /// The window of that objectName: a button is pressed, a text typed, the close box pressed, or anything is done,
+    /// once the condition holds. The window may stay open.
     void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::current());
+    void Saisit(QAnyStringView fenetre, QAnyStringView saisie, QAnyStringView texte, Lieu ou = Lieu::current());
     void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::current());
     void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::current());
 

@@ -163,6 +163,17 @@ void Mnu_ChargeConf()
     }
 }
 
+void ChargeConf(const QString &fichier)
+{
+    FicConf = fichier;
+    NomConf = NomSeul(FicConf);
+    try {
+        MetEnService();
+    } catch (const Erreur &erreur) {
+        MontreEchec(erreur, MessageA);
+    }
+}
+
 void Mnu_CreConf()
 {
     AppliqueLangue();

@@ -19,6 +19,9 @@ QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre = FiltreP
 /// Asks the operator for a .par file and makes it the current configuration.
 void Mnu_ChargeConf();
 
+/// Makes the .par file fichier the current configuration; a file that cannot be read is told as Mnu_ChargeConf() does.
+void ChargeConf(const QString &fichier);
+
 /// Makes a new configuration, in the record only, and opens the properties dialog on it.
 void Mnu_CreConf();
 

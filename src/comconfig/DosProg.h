@@ -27,7 +27,7 @@ public:
 
 Q_SIGNALS:
     void DossierChoisi();   ///< another folder has been selected, and is the reception folder now
-    void DossierApplique(); ///< "Dorvanel.CFG" has been written with it
+    void DossierApplique(); ///< it has been applied, for this run alone when "Dorvanel.CFG" could not be written
 
 private:
     void Form_Load();

@@ -6,8 +6,6 @@
 #include "platform/Boites.h"
 #include "platform/PageCode1252.h"
 
-#include <algorithm>
-
 namespace {
 
 using C = ConfigurationCom;
@@ -79,8 +77,6 @@ FrmCaract::FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent)
     AppliqueLegendes(this);
     Form_Load();
     Label1->MontreChaine(libelle);
-    // A configuration of which only the beginning could be read may hold any count.
-    Nombre() = std::clamp(Nombre(), 0, C::CapaciteChaine);
     SuitChaine();
 }
 

@@ -1,6 +1,7 @@
 #include "comconfig/LabelChaine.h"
 
 #include <QPainter>
+#include <QTextDocument>
 #include <QTextLayout>
 
 #include <utility>
@@ -40,9 +41,11 @@ LabelChaine::LabelChaine(QWidget *parent)
 
 void LabelChaine::MontreChaine(const QString &libelle)
 {
+    const QString visible = Visible(libelle);
     setText(libelle);
-    setToolTip(Visible(libelle));
-    setAccessibleDescription(Visible(libelle));
+    // A tool tip would take names such as <EM> and <SUB> for tags.
+    setToolTip(Qt::mightBeRichText(visible) ? visible.toHtmlEscaped() : visible);
+    setAccessibleDescription(visible);
 }
 
 void LabelChaine::ReserveLignes(int nombre)

@@ -6,6 +6,8 @@
 #include "platform/Nombres.h"
 #include "platform/PageCode1252.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 ConfigurationCom ParamCom;
@@ -62,16 +64,17 @@ constexpr Suite FinTrans{&C::NbCarFinTrans, &C::CarFinTrans};
 // In the order in which the file holds their codes.
 constexpr Suite Suites[] = {DebProg, FinLig, FinTrans};
 
-/// A file of which only the beginning could be read may have left a count beyond its chain.
-int NombreTenu(const Suite &suite)
+/// Whatever a file holds, no count of the record reaches beyond its chain.
+void TientNombres()
 {
-    return std::min(ParamCom.*suite.nombre, ConfigurationCom::CapaciteChaine);
+    for (const Suite &suite : Suites)
+        ParamCom.*suite.nombre = std::clamp(ParamCom.*suite.nombre, 0, ConfigurationCom::CapaciteChaine);
 }
 
 QString Caracteres(const Suite &suite)
 {
     QByteArray octets;
-    for (int i = 1; i <= NombreTenu(suite); ++i)
+    for (int i = 1; i <= ParamCom.*suite.nombre; ++i)
         octets += static_cast<char>((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);
     return TexteDe1252(octets);
 }
@@ -104,6 +107,7 @@ QString LigneChaine(QString texte)
 void LireFichierPar(const QString &chemin)
 {
     LecteurChamps champs(LitFichierTexte(chemin, TailleMaxPar));
+    const auto tenus = qScopeGuard(TientNombres); // also when the reading breaks off
     for (const Champ &champ : Champs) {
         if (champ.texte != nullptr)
             ParamCom.*champ.texte = champs.LigneChaine();
@@ -122,7 +126,7 @@ void EcrireFichierPar(const QString &chemin)
     for (const Champ &champ : Champs)
         texte += champ.texte != nullptr ? LigneChaine(ParamCom.*champ.texte) : LigneNombre(ParamCom.*champ.nombre);
     for (const Suite &suite : Suites) {
-        for (int i = 1; i <= NombreTenu(suite); ++i)
+        for (int i = 1; i <= ParamCom.*suite.nombre; ++i)
             texte += LigneNombre((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);
     }
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})

@@ -62,7 +62,7 @@ extern QString NomConf;           ///< that file's name without its folder
 
 /// Reads the .par file at chemin into ParamCom. Raises what the file system, LecteurChamps and a count above 100
 /// (IndiceHorsPlage) raise; the fields ahead of the failure then hold the file's values and the others their former
-/// ones.
+/// ones. The counts of the chains are held to 0 to 100 in any case.
 void LireFichierPar(const QString &chemin);
 
 /// Creates or replaces the .par file at chemin with ParamCom; a double quote in a text goes out as an apostrophe, since

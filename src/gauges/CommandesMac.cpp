@@ -5,6 +5,7 @@
 #include "gauges/ParamMac.h"
 #include "locale/Legendes.h"
 #include "platform/Erreur.h"
+#include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 
 void Mn_CreeConfMac()
@@ -22,5 +23,17 @@ void Mn_ModifConfMac()
         ConfMac(frmPrinc, NomCompletMac).exec();
     } catch (const Erreur &) {
         // Cancelled, or no machine configuration: nothing opens.
+    }
+}
+
+void ModifieConfMac(const QString &chemin)
+{
+    NomCompletMac = chemin;
+    NomMac = NomSeul(chemin);
+    try {
+        LitMac(NomCompletMac);
+        ConfMac(frmPrinc, NomCompletMac).exec();
+    } catch (const Erreur &) {
+        // No machine configuration.
     }
 }

@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -313,7 +314,10 @@ QMimeData *RichTextBox::createMimeDataFromSelection() const
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source->hasText() || source->hasFormat(FormatCopie);
+    // A file that is dropped is for the window around the pane; its path is no text of the program.
+    const QList<QUrl> adresses = source->urls();
+    const bool fichiers = std::any_of(adresses.begin(), adresses.end(), [](const QUrl &u) { return u.isLocalFile(); });
+    return !fichiers && (source->hasText() || source->hasFormat(FormatCopie));
 }
 
 void RichTextBox::insertFromMimeData(const QMimeData *source)

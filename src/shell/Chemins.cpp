@@ -12,29 +12,39 @@ namespace {
 
 QString DossierFixe;
 
-/// Copies what the program was shipped with; a sample that cannot be copied is passed over.
+/// Copies what the program was shipped with, over nothing that is there; a sample that cannot be copied is passed over.
 void CopieExemples(const QString &de, const QString &vers)
 {
+    using std::filesystem::copy_options;
     for (const QLatin1String nom : {QLatin1String("/Conf"), QLatin1String("/Programmes")}) {
         std::error_code echec;
         std::filesystem::copy(QFileInfo(de + nom).filesystemFilePath(), QFileInfo(vers + nom).filesystemFilePath(),
-                              std::filesystem::copy_options::recursive, echec);
+                              copy_options::recursive | copy_options::skip_existing, echec);
     }
 }
 
+/// A start that finds no settings is the first one, even where the folder is there: the operator may have tied his
+/// adapter to a port in it before. Later starts bring back nothing that he has deleted.
 QString DossierUtilisateur(const QString &dossierProgramme)
 {
     const QString dossier =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Dorvanel");
-    if (!QFileInfo::exists(dossier) && QDir().mkpath(dossier))
+    if (!QFileInfo::exists(dossier + QStringLiteral("/Dorvanel.ini")) && QDir().mkpath(dossier))
         CopieExemples(dossierProgramme, dossier);
     return dossier;
+}
+
+/// What lies below /usr belongs to the package manager, which must find it as it laid it, even when it is root that
+/// starts the program and could write there.
+bool EstInstalle(const QString &dossier)
+{
+    return dossier.startsWith(QLatin1String("/usr/")) || !QFileInfo(dossier).isWritable();
 }
 
 QString DossierOrdinaire()
 {
     const QString dossier = QCoreApplication::applicationDirPath();
-    return QDir::toNativeSeparators(QFileInfo(dossier).isWritable() ? dossier : DossierUtilisateur(dossier));
+    return QDir::toNativeSeparators(EstInstalle(dossier) ? DossierUtilisateur(dossier) : dossier);
 }
 
 } // namespace

@@ -9,6 +9,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QMimeData>
 #include <QToolButton>
 
 FrmPrinc *frmPrinc = nullptr;
@@ -46,6 +49,14 @@ QIcon IconeProgramme(const char *nom)
 int Couleur(bool active)
 {
     return active ? Lampe::Verte : Lampe::Rouge;
+}
+
+/// The one file that is being dragged; "" for anything else. The window holds one program.
+QString FichierTire(const QMimeData &donnees)
+{
+    const QList<QUrl> adresses = donnees.urls();
+    const QString chemin = adresses.size() == 1 ? adresses[0].toLocalFile() : QString();
+    return QFileInfo(chemin).isFile() ? QDir::toNativeSeparators(chemin) : QString();
 }
 
 } // namespace
@@ -133,6 +144,9 @@ CadreExplorateur *FrmPrinc::CreeExplorateur()
 {
     Frame1 = new CadreExplorateur(Centre);
     milieu->insertWidget(0, Frame1);
+    milieu->setStretchFactor(1, 1);
+    milieu->setSizes({m_largeurExplorateur, 1}); // the pane takes all that is left
+    connect(milieu, &QSplitter::splitterMoved, this, &FrmPrinc::setLargeurExplorateur);
     AppliqueLegendes(this);
     return Frame1;
 }
@@ -250,4 +264,22 @@ void FrmPrinc::closeEvent(QCloseEvent *evenement)
 {
     Q_EMIT Form_Unload();
     evenement->accept();
+}
+
+void FrmPrinc::dragEnterEvent(QDragEnterEvent *evenement)
+{
+    // A dialog stands open: a transfer may be sending the text of the pane.
+    if (QApplication::activeModalWidget() == nullptr && !FichierTire(*evenement->mimeData()).isEmpty())
+        evenement->acceptProposedAction();
+}
+
+/// The file is opened when the drop is over: a question that comes with it must not hold up the program that it was
+/// dragged from. That program keeps its file, even where it offers to move it.
+void FrmPrinc::dropEvent(QDropEvent *evenement)
+{
+    const QString chemin = FichierTire(*evenement->mimeData());
+    evenement->setDropAction(Qt::CopyAction);
+    evenement->accept();
+    QMetaObject::invokeMethod(
+        this, [this, chemin] { Q_EMIT FichierDepose(chemin); }, Qt::QueuedConnection);
 }

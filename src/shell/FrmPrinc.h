@@ -55,6 +55,10 @@ public:
     /// The toolbar button at a position, 1 to 17; nullptr for the separators 7 and 14 and for any other number.
     QAction *Bouton(int position) const;
 
+    /// Width of the explorer column in pixels: its own while it has been made, else the one that it will be made with.
+    int LargeurExplorateur() const { return m_largeurExplorateur; }
+    void setLargeurExplorateur(int largeur) { m_largeurExplorateur = largeur; }
+
     /// Makes the explorer column, in the language. Its first opening does so, since many operators never open it and
     /// the program starts the sooner without it.
     CadreExplorateur *CreeExplorateur();
@@ -75,11 +79,14 @@ public:
     void MontreLangue();
 
 Q_SIGNALS:
-    void Form_Unload(); ///< the operator closes the window; it closes when the handler returns
+    void Form_Unload();                        ///< the operator closes the window; it closes when the handler returns
+    void FichierDepose(const QString &chemin); ///< the operator has dropped a file on the window, or on the pane in it
 
 protected:
     void changeEvent(QEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
+    void dragEnterEvent(QDragEnterEvent *evenement) override;
+    void dropEvent(QDropEvent *evenement) override;
 
 private:
     void UpdateTimer_Timer();
@@ -87,6 +94,8 @@ private:
     void NommeControles();
     void PoseIcones();
     void DitLampes();
+
+    int m_largeurExplorateur = 225;
 };
 
 extern FrmPrinc *frmPrinc; ///< its one instance, alive as long as the program

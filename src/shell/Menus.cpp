@@ -9,6 +9,7 @@
 #include "platform/MSComm.h"
 #include "shell/AideEnLigne.h"
 #include "shell/Apropos.h"
+#include "shell/Arrivee.h"
 #include "shell/Demarrage.h"
 #include "shell/Document.h"
 #include "shell/Editeur.h"
@@ -86,4 +87,5 @@ void Branche()
     QObject::connect(frmPrinc->Mnu_Com, &QMenu::aboutToShow, frmPrinc, Mnu_Com);
     QObject::connect(frmPrinc->MSComm1, &MSComm::OnComm, frmPrinc, MSComm1_OnComm);
     QObject::connect(frmPrinc, &FrmPrinc::Form_Unload, frmPrinc, Form_Unload);
+    QObject::connect(frmPrinc, &FrmPrinc::FichierDepose, frmPrinc, OuvreFichier);
 }

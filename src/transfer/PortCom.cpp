@@ -106,6 +106,13 @@ constexpr Texte3 ErreurNumero{u"Erreur N°: ", u"Error N°: ", u"Error N°: "};
 constexpr Texte3 Fermeture{u"Fermeture du port de communication", u"Closing of the port of communication",
                            u"Cierre del puerto de comunicación"};
 constexpr Texte3 PortFermeTexte{u"Port Fermé", u"Closed Port", u"Port Cerrado"};
+constexpr Texte3 SansDroit{
+    u"\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, dans un terminal :\r"
+    u"    sudo adduser $USER dialout\rpuis fermer la session et la rouvrir.",
+    u"\rThe serial ports are reserved to the group dialout. Join it once, in a terminal:\r"
+    u"    sudo adduser $USER dialout\rthen log out and in again.",
+    u"\rLos puertos serie están reservados al grupo dialout. Inscribirse una vez, en un terminal:\r"
+    u"    sudo adduser $USER dialout\rluego cerrar la sesión y volver a abrirla."};
 constexpr Texte3 Fermer{u"&Fermer", u"&Close", u"&Cerrarse"};
 
 void MontreErreur(const Erreur &erreur, const QString &texte)
@@ -144,7 +151,9 @@ void OuvrePortCOM()
         frmPrinc->MontrePort(true);
         PortOuvert = true;
     } catch (const Erreur &erreur) {
-        MontreErreur(erreur, TexteErreurPort(erreur));
+        // The system's words name the device; how to get the right to it, only we can tell.
+        const QString conseil = erreur.Numero() == Erreur::AccesRefuse ? Texte(SansDroit) : QString();
+        MontreErreur(erreur, TexteErreurPort(erreur) + conseil);
     }
 }
 

@@ -1,5 +1,4 @@
-#include "Operateur.h"
-#include "Poste.h"
+#include "Etabli.h"
 
 #include "comconfig/FrmConfDem.h"
 #include "comconfig/ParamCom.h"
@@ -7,8 +6,6 @@
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
-#include <QDir>
-#include <QFileDialog>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,14 +15,9 @@ namespace {
 constexpr char Ini[] = "Dorvanel.ini";
 
 /// A workstation and its operator at the start-up options. "%1" in a text stands for the application folder.
-struct Atelier : Poste, Operateur
+struct Atelier : Etabli
 {
-    Atelier()
-        : Poste(0)
-    {
-        for (const QString &nom : {u"Pieces"_s, u"Conf"_s})
-            QDir(Dossier()).mkpath(nom);
-    }
+    Atelier() { Cree({u"Pieces"_s, u"Conf"_s}); }
 
     void Coche(const QString &cases)
     {
@@ -35,42 +27,21 @@ struct Atelier : Poste, Operateur
         });
     }
 
-    /// What the dialog shows: its two folders and the configuration, and the numbers of the boxes that are ticked.
-    void Montre(const QString &attendu)
+    /// The button of a choice, and what is taken there; "" cancels.
+    void Parcourt(const char *bouton, const QString &prend)
     {
-        Fait("FrmConfDem", [this, attendu](QWidget &fenetre) {
-            const auto &d = dynamic_cast<const FrmConfDem &>(fenetre);
-            QString montre = d.LblDos->text() + u'|' + d.LblNomConf->text() + u'|' + d.LabelDosConf->text() + u'|';
-            for (const QCheckBox *coche : {d.Check1, d.Check2, d.Check3})
-                montre += coche->isChecked() ? coche->objectName().back() : QChar(u'-');
-            QCOMPARE(montre, attendu.arg(Dossier()));
-        });
+        Presse("FrmConfDem", bouton);
+        prend.isEmpty() ? Ferme("CommonDialog") : Choisit(Chemin(prend));
     }
 
-    /// Presses a button whose file dialog opens on a folder, and takes a path there; "" cancels.
-    void Parcourt(const char *bouton, const QString &offert, const QString &prend)
+    /// Opens the options, does what was foretold, saves or not, and closes. "Dorvanel.ini" then holds this.
+    void Ouvre(bool enregistre, const QString &ini)
     {
-        if (bouton != nullptr)
-            Presse("FrmConfDem", bouton);
-        Fait("CommonDialog", [this, offert, prend](QWidget &fenetre) {
-            auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
-            QCOMPARE(dialogue.directory().path(), offert.arg(Dossier()));
-            if (prend.isEmpty())
-                dialogue.reject();
-        });
-        if (!prend.isEmpty())
-            Choisit(Chemin(prend));
-    }
-
-    void Ouvre()
-    {
+        if (enregistre)
+            Presse("FrmConfDem", "Command4");
         Presse("FrmConfDem", "Command3");
         Menu("Mnu_ConfigDemar");
-    }
-
-    void VerifieIni(QString attendu) const
-    {
-        QCOMPARE(Poste::Lit(Ini), attendu.replace(u"%1"_s, Dossier()).toLatin1());
+        QCOMPARE(Lit(Ini), ini.arg(Dossier()).toLatin1());
     }
 };
 
@@ -81,79 +52,61 @@ class TestFrmConfDem : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ProchainDemarrage();
-    void SansEnregistrer();
-    void IniNonInscriptible();
+    // Everything chosen and saved: the running program goes on as it is, the next start does all of it and shows it.
+    // Then all but the configuration given up: a folder goes with its box, and an option without a file does nothing
+    // and says nothing.
+    void ProchainDemarrage()
+    {
+        Atelier atelier;
+        QVERIFY(QFile::copy(atelier.complet, atelier.Chemin("Conf/Tour.par")));
+        atelier.Parcourt("Command1", u"Pieces"_s);
+        atelier.Parcourt("Command2", u"Conf/Tour.par"_s);
+        atelier.Parcourt("Command5", u"Conf"_s);
+        atelier.Coche(u"123"_s);
+        const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
+        atelier.Ouvre(true, ini);
+        QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+        atelier.Redemarre();
+        QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
+        QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
+        QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
+        atelier.Ouvre(true, ini);
+
+        FicConfDefaut.clear();
+        atelier.Coche(u"2"_s);
+        const QString reste = u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s;
+        atelier.Ouvre(true, reste);
+        atelier.Redemarre();
+        QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
+        atelier.Ouvre(true, reste);
+    }
+
+    // Cancelled choices leave what stood there, and closing changes no setting. The language dialog starts the settings
+    // anew: the controls then show them. A file that cannot be written is not told; the settings hold for the run.
+    void SansChanger()
+    {
+        Atelier atelier;
+        DosConf = atelier.Chemin("Conf");
+        atelier.Coche(u"123"_s);
+        for (const char *const bouton : {"Command1", "Command2", "Command5"})
+            atelier.Parcourt(bouton, {});
+        const QString ini = u" 1 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
+        atelier.Ouvre(true, ini);
+        atelier.Coche({});
+        atelier.Ouvre(false, ini);
+        QCOMPARE(OptDosDefaut + OptConfDefaut + OptExplorateur, 3);
+        atelier.Coche({});
+        atelier.Presse("FrmConfDem", "Command6");
+        atelier.Presse("FrmLangue", "Option3");
+        atelier.Presse("FrmLangue", "Command1");
+        atelier.Ouvre(true, u" 0 \r\n\"%1\"\r\n 0 \r\n\"\"\r\n 1 \r\n%1\r\n 2 \r\n"_s);
+        QVERIFY(QFile::remove(atelier.Chemin(Ini)));
+        atelier.Cree({QLatin1String(Ini)});
+        atelier.Coche(u"12"_s);
+        atelier.Ouvre(true, {});
+        QCOMPARE(OptDosDefaut * 100 + OptConfDefaut * 10 + OptExplorateur, 110);
+    }
 };
-
-// Everything chosen and saved: the running program goes on as it is, the next start does all of it. Then all but the
-// configuration given up: a folder goes with its box, and an option without a file does nothing and says nothing.
-void TestFrmConfDem::ProchainDemarrage()
-{
-    Atelier atelier;
-    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, atelier.Chemin("Conf/Tour.par")));
-    atelier.Parcourt("Command1", u"%1"_s, u"Pieces"_s);
-    atelier.Parcourt("Command2", u"%1"_s, u"Conf/Tour.par"_s);
-    atelier.Parcourt("Command5", u"%1"_s, u"Conf"_s);
-    atelier.Coche(u"123"_s);
-    atelier.Presse("FrmConfDem", "Command4");
-    atelier.Ouvre();
-    const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
-    atelier.VerifieIni(ini);
-    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
-    atelier.Redemarre();
-    atelier.VerifieIni(ini);
-    QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
-    QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
-    QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
-    atelier.Parcourt(nullptr, u"%1/Conf"_s, {});
-    Operateur::Menu("Mnu_ChargeConf");
-
-    FicConfDefaut.clear();
-    atelier.Montre(u"%1/Pieces||%1/Conf|123"_s);
-    atelier.Coche(u"2"_s);
-    atelier.Presse("FrmConfDem", "Command4");
-    atelier.Ouvre();
-    atelier.Redemarre();
-    atelier.VerifieIni(u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s);
-    QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
-    atelier.Montre(u"%1||%1/Conf|-2-"_s);
-    atelier.Ouvre();
-}
-
-// Cancelled choices leave what stood there, and closing changes no setting. The language dialog starts the settings
-// anew: the controls then show them.
-void TestFrmConfDem::SansEnregistrer()
-{
-    Atelier atelier;
-    DosConf = atelier.Chemin("Conf");
-    const QString ini = QString::fromLatin1(atelier.Poste::Lit(Ini));
-    atelier.Coche(u"123"_s);
-    atelier.Parcourt("Command1", u"%1"_s, {});
-    atelier.Parcourt("Command2", u"%1/Conf"_s, {});
-    atelier.Parcourt("Command5", u"%1/Conf"_s, {});
-    atelier.Montre(u"%1||%1/Conf|123"_s);
-    atelier.Ouvre();
-    atelier.VerifieIni(ini);
-    atelier.Montre(u"%1||%1/Conf|---"_s);
-    atelier.Presse("FrmConfDem", "Command6");
-    atelier.Presse("FrmLangue", "Option3");
-    atelier.Presse("FrmLangue", "Command1");
-    atelier.Montre(u"%1||%1|--3"_s);
-    atelier.Ouvre();
-    atelier.VerifieIni(u" 0 \r\n\"%1\"\r\n 0 \r\n\"\"\r\n 1 \r\n%1\r\n 2 \r\n"_s);
-}
-
-// The settings hold for the run; nothing is said.
-void TestFrmConfDem::IniNonInscriptible()
-{
-    Atelier atelier;
-    QVERIFY(QFile::remove(atelier.Chemin(Ini)) && QDir(DosAppli).mkdir(QLatin1String(Ini)));
-    atelier.Coche(u"123"_s);
-    atelier.Presse("FrmConfDem", "Command4");
-    atelier.Ouvre();
-    QCOMPARE(OptDosDefaut + OptConfDefaut + OptExplorateur, 3);
-}
 
 QTEST_MAIN(TestFrmConfDem)
 #include "TestFrmConfDem.moc"

@@ -3,6 +3,7 @@
 
 #include "gauges/ConfMac.h"
 #include "gauges/ParamMac.h"
+#include "platform/CommonDialog.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -15,12 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString Complete = QString::fromUtf16(DONNEES) + u"/Complete.mac"_s;
-
-void Tape(QLineEdit *saisie, const QString &touches)
-{
-    saisie->selectAll();
-    QTest::keyClicks(saisie, touches);
-}
 
 /// The frames and boxes that depend on machine and kind of file, as they show.
 QList<bool> Montres(const ConfMac &d)
@@ -35,7 +30,6 @@ class TestConfMac : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { ParamMac = {}; }
     void Cree();
     void Modifie();
     void Refus();
@@ -55,19 +49,15 @@ void TestConfMac::Cree()
         QCOMPARE(d.frameGeometry().center(), d.screen()->geometry().center());
         QVERIFY(d.OptMac_0->isChecked() && d.OptTour_0->isChecked() && d.OptionRAZ_0->isChecked());
         QCOMPARE(Montres(d), QList<bool>({true, false, false, false}));
-        d.OptMac_1->click();
-        d.OptJauge_1->click();
+        for (auto *const option : {d.OptMac_1, d.OptJauge_1, d.OptTour_1, d.OptionX_1, d.OptionRAZ_1})
+            option->click();
         QCOMPARE(Montres(d), QList<bool>({false, true, true, true}));
         QCOMPARE(ParamMac.TypeMachine + ParamMac.TypeJauge, 2);
-        d.OptTour_1->click();
-        d.OptionX_1->click();
-        d.OptionRAZ_1->click();
-        Tape(d.Text1, u"a1+0e0,.3 mm"_s);
-        Tape(d.Text2, u"-12345.678"_s);
-        Tape(d.Text3, u"-99.9"_s);
-        Tape(d.Text4, u"-.5"_s);
-        Tape(d.Text5, u"co1x"_s);
-        Tape(d.Text6, u" %12 "_s);
+        QStringList touches = u"a1+0e0,.3 mm|-12345.678|-99.9|-.5|co1x| %12 "_s.split(u'|');
+        for (QLineEdit *const saisie : {d.Text1, d.Text2, d.Text3, d.Text4, d.Text5, d.Text6}) {
+            saisie->selectAll();
+            QTest::keyClicks(saisie, touches.takeFirst());
+        }
         QCOMPARE(ParamMac.JaugeMaxiX, 100.0);
         d.Command2->click();
         QCOMPARE(d.windowTitle(), u"Configuration Machine : Sans Nom"_s);
@@ -76,7 +66,7 @@ void TestConfMac::Cree()
         d.Command2->click();
         QCOMPARE(d.windowTitle(), u"Configuration machine : TOUR.mac"_s);
         d.Command2->click(); // offers the same file
-        Tape(d.Text1, u"7"_s);
+        d.Text1->setText(u"7"_s);
         d.Command1->click();
     });
     operateur.Fait("CommonDialog", [](QWidget &fenetre) {
@@ -86,8 +76,7 @@ void TestConfMac::Cree()
         QCOMPARE(dialogue.directory(), QDir(DosConf));
         QCOMPARE(QDir::current(), QDir(DosAppli));
         dialogue.reject();
-        // Cancelled, and yet taken.
-        QCOMPARE(ParamMac.DiffPoches, -.5);
+        QCOMPARE(ParamMac.DiffPoches, -.5); // cancelled, and yet taken
         QCOMPARE(ParamMac.NbCorrecteurs, 300);
     });
     operateur.Choisit(poste.Chemin("TOUR.mac"));
@@ -101,49 +90,59 @@ void TestConfMac::Cree()
     QCOMPARE(ParamMac.JaugeMaxiX, 100.3);
 }
 
-// A file is read into the dialog, in the language; what a mill does not show it keeps.
+// A file is read into the dialog, in the language, and saved as it was: what a mill does not show, and values that are
+// longer than what can be typed.
 void TestConfMac::Modifie()
 {
     const Poste poste(2);
-    Operateur operateur;
-    operateur.Fait("CommonDialog", [](QWidget &fenetre) {
-        QCOMPARE(fenetre.windowTitle(), u"Abrir una configuración máquina Cabidas instrumentos"_s);
-        fenetre.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(Complete);
-        QMetaObject::invokeMethod(&fenetre, "accept");
-    });
-    operateur.Fait("ConfMac", [](QWidget &fenetre) {
-        const auto &d = dynamic_cast<ConfMac &>(fenetre);
-        QCOMPARE(d.windowTitle(), u"Configuración máquina : Complete.mac"_s);
-        QCOMPARE(d.Label7->text(), u"Entrega a Cero automática"_s);
-        QCOMPARE(Montres(d), QList<bool>({false, true, true, true}));
-        QVERIFY(d.OptTour_1->isChecked() && d.OptionX_1->isChecked() && d.OptionRAZ_1->isChecked());
-        QCOMPARE((QStringList{d.Text1->text(), d.Text2->text(), d.Text3->text(), d.Text4->text(), d.Text5->text(),
-                              d.Text6->text()}),
-                 u"100.3|1234.5|300|-.125|COR|%12.5"_s.split(u'|'));
-        d.OptMac_0->click();
-        d.OptMac_1->click();
-        d.Command2->click();
-        d.Command1->click();
-    });
-    operateur.Choisit(poste.Chemin("copie.mac"));
-    Operateur::Menu("Mn_ModifConfMac");
-    QFile original(Complete);
-    QVERIFY(original.open(QIODevice::ReadOnly));
-    QCOMPARE(poste.Lit("copie.mac"), original.readAll());
+    const QByteArray longues = "1\r\n0\r\n-12.0625\r\n1\r\n0\r\n12345.678\r\n2\r\n3\r\n\"JAUG\"\r\n\"%79999\"\r\n0\r\n";
+    QFile complete(Complete);
+    QVERIFY(complete.open(QIODevice::ReadOnly));
+    for (const auto &[octets, textes] : {std::pair{complete.readAll(), u"100.3|1234.5|300|-.125|COR|%12.5"_s},
+                                         {longues, u"12345.678|2|3|-12.0625|JAUG|%79999"_s}}) {
+        Operateur operateur;
+        operateur.Fait("CommonDialog", [](QWidget &fenetre) {
+            QCOMPARE(fenetre.windowTitle(), u"Abrir una configuración máquina Cabidas instrumentos"_s);
+        });
+        operateur.Choisit(poste.Ecrit("lue.mac", octets));
+        operateur.Fait("ConfMac", [textes = textes](QWidget &fenetre) {
+            const auto &d = dynamic_cast<ConfMac &>(fenetre);
+            QCOMPARE(d.windowTitle(), u"Configuración máquina : lue.mac"_s);
+            QCOMPARE(d.Label7->text(), u"Entrega a Cero automática"_s);
+            QCOMPARE(Montres(d), QList<bool>({false, true, true, true}));
+            QStringList montres;
+            for (const QLineEdit *const saisie : {d.Text1, d.Text2, d.Text3, d.Text4, d.Text5, d.Text6})
+                montres << saisie->text();
+            QCOMPARE(montres.join(u'|'), textes);
+            QCOMPARE(d.OptTour_1->isChecked() && d.OptionX_1->isChecked() && d.OptionRAZ_1->isChecked(),
+                     ParamMac.TypeTourelle == 1);
+            d.OptMac_0->click();
+            d.OptMac_1->click();
+            d.Command2->click();
+            d.Command1->click();
+        });
+        operateur.Choisit(poste.Chemin("copie.mac"));
+        Operateur::Menu("Mn_ModifConfMac");
+        QCOMPARE(poste.Lit("copie.mac"), octets);
+        QFile::remove(poste.Chemin("copie.mac"));
+    }
 }
 
 // Cancelled, cut short or not writable: no message, and nothing opens or closes.
 void TestConfMac::Refus()
 {
     const Poste poste(0);
+    poste.Charge("");
     Operateur operateur;
-    operateur.Fait("CommonDialog", [](QWidget &fenetre) { dynamic_cast<QDialog &>(fenetre).reject(); });
-    Operateur::Menu("Mn_ModifConfMac");
-    QVERIFY(!frmPrinc->findChild<QDialog *>());
-    operateur.Choisit(poste.Ecrit("dix.mac", "1\r\n1\r\n2\r\n1\r\n1\r\n5\r\n6\r\n7\r\n\"A\"\r\n\"B\"\r\n"));
-    Operateur::Menu("Mn_ModifConfMac");
-    QCOMPARE(ParamMac.NumProgJauge + NomMac, u"Bdix.mac"_s);
-
+    const QString dix = poste.Ecrit("dix.mac", "1\r\n1\r\n2\r\n1\r\n1\r\n5\r\n6\r\n7\r\n\"A\"\r\n\"B\"\r\n");
+    for (const char *commande : {"Mn_ModifConfMac", "Mnu_RecepBanc"}) {
+        operateur.Ferme("CommonDialog");
+        Operateur::Menu(commande);
+        operateur.Choisit(dix);
+        Operateur::Menu(commande);
+        QCOMPARE(ParamMac.NumProgJauge + NomMac, u"Bdix.mac"_s);
+        QVERIFY(!frmPrinc->CommonDialog1->CancelError);
+    }
     operateur.Choisit(Complete);
     operateur.Presse("ConfMac", "Command2");
     operateur.Choisit(poste.Chemin("parti/x.mac"));

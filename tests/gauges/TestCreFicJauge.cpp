@@ -13,9 +13,6 @@
 #include <QDate>
 #include <QTest>
 
-#include <limits>
-#include <numeric>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -23,29 +20,7 @@ namespace {
 /// The columns of the table of calculated measures.
 enum Colonne { Machine, VeutX, Poches, MaxiX, MaxiZ, Corr, X, Z, Mode, Rayon, Loc, FormeD, FormeE, Raz, RingX, RingZ };
 
-/// Rows of one machine, in order: one gauge file.
-QList<QList<QStringList>> Table()
-{
-    QList<QList<QStringList>> fichiers;
-    QStringList precedente;
-    const QStringList lignes =
-        QString::fromUtf8(LitOctets(QString::fromUtf16(DONNEES) + u"/jauges_calculees.txt"_s)).trimmed().split(u'\n');
-    for (const QString &ligne : lignes) {
-        const QStringList colonnes = ligne.split(u';');
-        if (colonnes.first(Corr) != precedente)
-            fichiers.append(QList<QStringList>());
-        precedente = colonnes.first(Corr);
-        fichiers.last() << colonnes;
-    }
-    return fichiers;
-}
-
-QString Date()
-{
-    const QDate jour = QDate::currentDate();
-    return u"%1-%2-%3"_s.arg(jour.month(), 2, 10, QChar(u'0')).arg(jour.day(), 2, 10, QChar(u'0')).arg(jour.year());
-}
-
+/// The machine of a row, and its file empty.
 void Configure(const QStringList &ligne)
 {
     ParamMac = {};
@@ -70,7 +45,6 @@ class TestCreFicJauge : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { VideJauges(); }
     void Calculees();
     void Echec();
 };
@@ -89,26 +63,33 @@ void TestCreFicJauge::Calculees()
         {1, 1, 0, u"Alarm gauge tool in %1"_s, u"Alarm gauge tool in %1!\rMeasure in %1 of corrector N°: \r"_s},
         {2, 1, 1, u"Alarma mide instrumentos en %1"_s,
          u"Alarma mide instrumentos en %1!\rCapacidad en %1 del corrector N°: \r"_s}};
-    const QList<QList<QStringList>> table = Table();
-    QVERIFY(std::accumulate(table.begin(), table.end(), 0, [](int n, const auto &f) { return n + f.size(); }) >= 60);
+    const QStringList table =
+        QString::fromUtf8(LitOctets(QString::fromUtf16(DONNEES) + u"/jauges_calculees.txt"_s)).trimmed().split(u'\n');
+    QVERIFY(table.size() >= 60);
+    const QDate jour = QDate::currentDate();
+    const QString date =
+        u"%1-%2-%3"_s.arg(jour.month(), 2, 10, QChar(u'0')).arg(jour.day(), 2, 10, QChar(u'0')).arg(jour.year());
     for (const Forme &forme : formes) {
         const Poste poste(forme.langue);
+        const bool enE = forme.typeJauge == 1;
         DossierRecep = poste.Dossier();
         NomFicRecep = u"OUTILS.JAU"_s;
-        for (const QList<QStringList> &fichier : table) {
+        for (qsizetype i = 0; i < table.size();) { // the rows of one machine after another: one gauge file
             Operateur operateur;
-            Configure(fichier.first());
+            const QStringList premiere = table[i].split(u';').first(Corr);
+            Configure(premiere);
             ParamMac.TypeJauge = forme.typeJauge;
             ParamMac.RazDynamique = forme.razDynamique;
             QStringList attendu{u"%"_s};
-            if (forme.typeJauge == 1)
-                attendu = {u"%7999 (JAUGES OUTILS LE:"_s + Date() + u')',
+            if (enE)
+                attendu = {u"%7999 (JAUGES OUTILS LE:"_s + date + u')',
                            ParamMac.EstTour() ? u"(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)"_s
                                               : u"(JAUGE L     JAUGE R)"_s};
-            for (const QStringList &ligne : fichier) {
+            for (; i < table.size() && table[i].startsWith(premiere.join(u';') + u';'); ++i) {
+                const QStringList ligne = table[i].split(u';');
                 Mesure(ligne);
-                attendu << ligne[forme.typeJauge == 0 ? FormeD : FormeE];
-                if (forme.typeJauge == 1 && forme.razDynamique == 0)
+                attendu << ligne[enE ? FormeE : FormeD];
+                if (enE && forme.razDynamique == 0)
                     attendu << ligne[Raz];
                 for (const auto &[sonne, axe] : {std::pair{RingX, u"X"_s}, {RingZ, u"Z"_s}}) {
                     if (!ligne[sonne].isEmpty())
@@ -116,7 +97,7 @@ void TestCreFicJauge::Calculees()
                                          QMessageBox::Ok);
                 }
             }
-            attendu << (forme.typeJauge == 0 ? QStringList() : QStringList{QString(), u"M02"_s}) << QString();
+            attendu << (enE ? QStringList{QString(), u"M02"_s} : QStringList()) << QString();
             FichierModifie = Vrai;
             CreFicJauge();
             QCOMPARE(QString::fromLatin1(poste.Lit("OUTILS.JAU")), attendu.join(u"\r\n"_s));
@@ -127,23 +108,19 @@ void TestCreFicJauge::Calculees()
     }
 }
 
-// A folder that has gone and a measure beyond all numbers reach the caller; the file stays as it was.
+// A measure beyond all numbers reaches the caller; the file stays as it was.
 void TestCreFicJauge::Echec()
 {
     const Poste poste(0);
-    ParamMac = {};
-    ParamMac.JaugeMaxiX = std::numeric_limits<double>::max();
+    ParamMac.JaugeMaxiX = 1e300; // in the machine's file a limit may be anything
     ParamMac.TypeJauge = 1;
     NbJauges = 1;
-    NomFicRecep = u"A.JAU"_s;
-    DossierRecep = poste.Chemin("parti");
-    QVERIFY_EXCEPTION_THROWN(CreFicJauge(), Erreur);
     DossierRecep = poste.Dossier();
+    NomFicRecep = u"A.JAU"_s;
     poste.Ecrit("A.JAU", "TN:");
     Jauge[1].JaugeX = 1e36F; // as micrometres more than single precision holds
     QVERIFY_EXCEPTION_THROWN(CreFicJauge(), Erreur);
-    QCOMPARE(poste.Lit("A.JAU"), "TN:");
-    QCOMPARE(NomFichier, QString());
+    QCOMPARE(poste.Lit("A.JAU") + NomFichier.toLatin1(), "TN:");
 }
 
 QTEST_MAIN(TestCreFicJauge)

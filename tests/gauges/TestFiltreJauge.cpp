@@ -23,13 +23,17 @@ QString Mesure(const QString &correcteur, const QString &z, const QString &x, co
     return u"TN:"_s + correcteur.leftJustified(21) + z.leftJustified(25) + x.leftJustified(12) + mode;
 }
 
-/// The bursts of a reception of as many tools.
-void Recoit(const QStringList &rafales, int outils)
+/// Filters the bursts of a reception of as many tools; gives the gauge file.
+QByteArray Filtre(const Poste &poste, const QStringList &rafales, int outils)
 {
+    DossierRecep = poste.Dossier();
+    NomFicRecep = u"A.JAU"_s;
     VideLignes();
     VideJauges();
     std::copy(rafales.begin(), rafales.end(), Lignes.begin() + 1);
     NbJauges = outils;
+    FiltreJauge();
+    return poste.Lit("A.JAU");
 }
 
 } // namespace
@@ -39,28 +43,18 @@ class TestFiltreJauge : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { ParamMac = {}; }
     void Colonnes();
     void Suite();
     void HorsPlage();
     void Tour();
-
-private:
-    /// The gauge file that a mill gets, and what FiltreJauge left in it for its time.
-    static QByteArray Fraise(const Poste &poste)
-    {
-        ParamMac.TypeMachine = 1;
-        DossierRecep = poste.Dossier();
-        NomFicRecep = u"A.JAU"_s;
-        FiltreJauge();
-        return poste.Lit("A.JAU");
-    }
 };
 
 // What one burst gives on a mill.
 void TestFiltreJauge::Colonnes()
 {
     const Poste poste(0);
+    ParamMac.TypeMachine = 1;
+    ParamMac.JaugeMaxiX = 1e9;
     const QString bonne = Mesure(u"   12"_s, u"  120.450"_s, u"    8.250"_s, u"R"_s);
     for (const auto &[rafale, ligne] : {
              std::pair{bonne, "D12 L120.45 R8.25"},
@@ -77,9 +71,7 @@ void TestFiltreJauge::Colonnes()
              {Mesure(u"-7"_s, u"5,5"_s, u"1E1"_s, u"D"_s), "D-7 L5 R5"},
              {u"tn:   12 "_s, "D0 L0 R0"},
          }) {
-        ParamMac.JaugeMaxiX = 1e9;
-        Recoit({rafale}, 1);
-        QCOMPARE(Fraise(poste), "%\r\n"_ba + ligne + "\r\n");
+        QCOMPARE(Filtre(poste, {rafale}, 1), "%\r\n"_ba + ligne + "\r\n");
         QVERIFY(QApplication::overrideCursor() == nullptr);
     }
 }
@@ -89,76 +81,74 @@ void TestFiltreJauge::Colonnes()
 void TestFiltreJauge::Suite()
 {
     const Poste poste(0);
-    Recoit({u"EPB\r"_s, u"\r\n"_s, u"\a"_s, u" TN:    3 \u20AC "_s, u"\x1b"_s, u"TOTAL"_s, u"TN:    4"_s}, 3);
+    ParamMac.TypeMachine = 1;
     ParamMac.JaugeMaxiZ = -1; // its box stops the work while the cleaned text stands in the file
     Operateur operateur;
-    QByteArray nettoye;
     for (int i = 0; i < 3; ++i)
         operateur.Fait("MsgBox", [&](QWidget &boite) {
-            nettoye = poste.Lit("A.JAU");
+            // Of two blank lines in a row one stays.
+            QCOMPARE(poste.Lit("A.JAU"), "EPB\r\n\r\nTN:    3 \x80\r\nTOTAL\r\nTN:    4\r\n");
             QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
             dynamic_cast<QMessageBox &>(boite).accept();
         });
-    QCOMPARE(Fraise(poste), "%\r\nD3 L0 R0\r\nD4 L0 R0\r\nD0 L0 R0\r\n");
-    QCOMPARE(nettoye, "EPB\r\n\r\nTN:    3 \x80\r\nTOTAL\r\nTN:    4\r\n"); // of two blank lines in a row one stays
+    const QStringList rafales = u"EPB\r|\r\n|\a| TN:    3 \u20AC |\x1b|TOTAL|TN:    4"_s.split(u'|');
+    QCOMPARE(Filtre(poste, rafales, 3), "%\r\nD3 L0 R0\r\nD4 L0 R0\r\nD0 L0 R0\r\n");
 }
 
 // A corrector number that the machine does not have is asked again until it fits; giving up means 0.
 void TestFiltreJauge::HorsPlage()
 {
-    for (const auto &[langue, texte, titre, invite, titreInvite] :
-         {std::tuple{0, u"Attention numéro de correcteur %1|   interdit pour l'outil Nø: 2"_s,
-                     u"Erreur de numéro de correcteur"_s, u"Nouvelle valeur du correcteur (0 -  32)"_s,
-                     u"Valeur du correcteur"_s},
-          {1, u"Warning Number of corrector %1|   interdict for the tool Nø: 2"_s, u"Error of number of corrector"_s,
-           u"New value of the corrector (0 -  32)"_s, u"Value of the corrector"_s},
-          {2, u"Atención número de corrector %1|   prohibición para la instrumentos Nø: 2"_s,
-           u"Error de número de corrector"_s, u"Nuevo valor del corrector (0 -  32)"_s, u"Valor del corrector"_s}}) {
+    struct Langue
+    {
+        QString titre, texte, titreInvite, invite;
+    };
+    const Langue langues[] = {
+        {u"Erreur de numéro de correcteur"_s, u"Attention numéro de correcteur %1|   interdit pour l'outil Nø: 2"_s,
+         u"Valeur du correcteur"_s, u"Nouvelle valeur du correcteur (0 -  32)"_s},
+        {u"Error of number of corrector"_s, u"Warning Number of corrector %1|   interdict for the tool Nø: 2"_s,
+         u"Value of the corrector"_s, u"New value of the corrector (0 -  32)"_s},
+        {u"Error de número de corrector"_s,
+         u"Atención número de corrector %1|   prohibición para la instrumentos Nø: 2"_s, u"Valor del corrector"_s,
+         u"Nuevo valor del corrector (0 -  32)"_s}};
+    for (const auto &[langue, recu, dit, reponses, numero] :
+         {std::tuple{0, u"33"_s, u"33"_s, u"33|99999|12"_s.split(u'|'), "12"},
+          {1, u"99999"_s, u"99999"_s, {u" 32"_s}, "32"},
+          {2, u"-9E4"_s, u"-90000"_s, {u"-40000"_s, u"-1"_s}, "-1"},
+          {0, u"300"_s, u"300"_s, {QString()}, "0"}}) {
         const Poste poste(langue);
-        for (const auto &[recu, reponses, numero] : {std::tuple{u"33"_s, u"33|99999|12"_s.split(u'|'), "12"},
-                                                     {u"99999"_s, {u" 32"_s}, "32"},
-                                                     {u"-9E4"_s, {u"-40000"_s, u"-1"_s}, "-1"},
-                                                     {u"300"_s, {QString()}, "0"}}) {
-            Recoit({Mesure(u"32"_s, u"1"_s, u"1"_s, u"R"_s), Mesure(recu, u"2"_s, u"2"_s, u"R"_s)}, 2);
-            Operateur operateur;
-            operateur.Repond(titre, texte.arg(recu == u"-9E4" ? u"-90000"_s : recu), Boite::Critique, QMessageBox::Ok);
-            for (const QString &reponse : reponses)
-                operateur.Fait("InputBox", [=](QWidget &boite) {
-                    QCOMPARE(boite.windowTitle(), titreInvite);
-                    QCOMPARE(boite.findChild<QLabel *>()->text(), invite);
-                    auto *const saisie = boite.findChild<QLineEdit *>();
-                    QCOMPARE(saisie->text(), u" 32"_s);
-                    saisie->setText(reponse);
-                    reponse.isEmpty() ? dynamic_cast<QDialog &>(boite).reject()
-                                      : dynamic_cast<QDialog &>(boite).accept();
-                });
-            QCOMPARE(Fraise(poste), "%\r\nD32 L1 R1\r\nD"_ba + numero + " L2 R2\r\n");
-        }
+        const Langue &l = langues[langue];
+        ParamMac.TypeMachine = 1;
+        Operateur operateur;
+        operateur.Repond(l.titre, l.texte.arg(dit), Boite::Critique, QMessageBox::Ok);
+        for (const QString &reponse : reponses)
+            operateur.Fait("InputBox", [=](QWidget &boite) {
+                QCOMPARE(boite.windowTitle(), l.titreInvite);
+                QCOMPARE(boite.findChild<QLabel *>()->text(), l.invite);
+                auto *const saisie = boite.findChild<QLineEdit *>();
+                QCOMPARE(saisie->text(), u" 32"_s);
+                saisie->setText(reponse);
+                dynamic_cast<QDialog &>(boite).done(reponse.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
+            });
+        QCOMPARE(Filtre(poste, {Mesure(u"32"_s, u"1"_s, u"1"_s, u"R"_s), Mesure(recu, u"2"_s, u"2"_s, u"R"_s)}, 2),
+                 "%\r\nD32 L1 R1\r\nD"_ba + numero + " L2 R2\r\n");
     }
 }
 
 // On a lathe the dial comes between, without the hourglass; closing it lets the file be made all the same. A value
-// beyond single precision and a folder that has gone end the work before the dial.
+// beyond single precision ends the work before the dial.
 void TestFiltreJauge::Tour()
 {
     const Poste poste(0);
-    DossierRecep = poste.Dossier();
-    NomFicRecep = u"A.JAU"_s;
-    Recoit({Mesure(u"1"_s, u"102.36"_s, u"51"_s, u"D"_s), Mesure(u"2"_s, u"98.12"_s, u"26"_s, u"R"_s)}, 2);
     Operateur operateur;
     operateur.Presse("JauTour", "Picture25", [] { return QApplication::overrideCursor() == nullptr; });
     operateur.Presse("JauTour", "Label22");
     operateur.Presse("JauTour", "Command1");
     operateur.Ferme("JauTour");
-    FiltreJauge();
+    QCOMPARE(
+        Filtre(poste, {Mesure(u"1"_s, u"102.36"_s, u"51"_s, u"D"_s), Mesure(u"2"_s, u"98.12"_s, u"26"_s, u"R"_s)}, 2),
+        "%\r\nD1 X-25.5 Z102.36 R.8 C5\r\nD2 X26 Z98.12 R0 C0\r\n");
     QCOMPARE(JauTourFait, 0);
-    QCOMPARE(poste.Lit("A.JAU"), "%\r\nD1 X-25.5 Z102.36 R.8 C5\r\nD2 X26 Z98.12 R0 C0\r\n");
-
-    Recoit({Mesure(u"1"_s, u"1E39"_s, u"1"_s, u"R"_s)}, 1);
-    QVERIFY_EXCEPTION_THROWN(FiltreJauge(), Erreur);
-    Recoit({Mesure(u"1"_s, u"1"_s, u"1"_s, u"R"_s)}, 1);
-    DossierRecep = poste.Chemin("parti");
-    QVERIFY_EXCEPTION_THROWN(FiltreJauge(), Erreur);
+    QVERIFY_EXCEPTION_THROWN(Filtre(poste, {Mesure(u"1"_s, u"1E39"_s, u"1"_s, u"R"_s)}, 1), Erreur);
     QVERIFY(QApplication::overrideCursor() == nullptr);
 }
 

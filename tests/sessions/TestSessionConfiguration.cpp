@@ -30,12 +30,10 @@ namespace {
 void Compose(Operateur &operateur, const char *bouton, const QStringList &gestes)
 {
     operateur.Presse("Prop", bouton);
-    operateur.Fait("FrmCaract", [gestes](QWidget &fenetre) {
-        for (const QString &geste : gestes) {
-            fenetre.findChild<QLineEdit *>(u"Text1"_s)->setText(geste.section(u'=', 1));
-            fenetre.findChild<QPushButton *>(geste.section(u'=', 0, 0))->click();
-        }
-    });
+    for (const QString &geste : gestes) {
+        operateur.Saisit("FrmCaract", "Text1", geste.section(u'=', 1));
+        operateur.Presse("FrmCaract", geste.section(u'=', 0, 0));
+    }
     operateur.Presse("FrmCaract", "Command1");
 }
 
@@ -54,6 +52,7 @@ void TestSessionConfiguration::CommandeInconnue()
     PortOuvert = true;
 
     Operateur operateur;
+    LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s); // of which the new one keeps nothing that is seen
     operateur.Presse("Prop", "OptFinLig_4");
     Compose(operateur, "Command21", {u"Car_13"_s, u"Car_13"_s, u"Car_17"_s, u"Command3"_s, u"Car_10"_s});
     operateur.Presse("Prop", "OptFinTrans_2");
@@ -61,6 +60,9 @@ void TestSessionConfiguration::CommandeInconnue()
     Compose(operateur, "Command22", {u"Car_37"_s});
     operateur.Fait("Prop", [](QWidget &fenetre) {
         auto &prop = dynamic_cast<Prop &>(fenetre);
+        QCOMPARE(prop.windowTitle(), u"Propriétés et configuration de la communication - Fichier : Nouveau"_s);
+        QCOMPARE(prop.Label6->text() + prop.Text1->text(), u"Nouveau"_s);
+        prop.OptionEnvoi_0->click();
         prop.Text1->setText(u"Commande inconnue"_s);
         prop.cboSpeed->setCurrentText(u"115200"_s);
         prop.cboDataBits->setCurrentText(u"8"_s);
@@ -90,10 +92,8 @@ void TestSessionConfiguration::CommandeInconnue()
     QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
     QCOMPARE(machine.Programmes()[0].Brut, QByteArray("%\r\r\nN10 G0\r\r\r\nN20 M30\r\r\n\x03\xE9"));
 
-    operateur.Fait("Rc_Fic", [](QWidget &fenetre) {
-        fenetre.findChild<QLineEdit *>(u"Text1"_s)->setText(u"recu"_s);
-        fenetre.findChild<QPushButton *>(u"Command2"_s)->click();
-    });
+    operateur.Saisit("Rc_Fic", "Text1", "recu");
+    operateur.Presse("Rc_Fic", "Command2");
     operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
     Envoi envoi;
     envoi.Texte = "O1\r\r\nG1 X5\r\r\n";

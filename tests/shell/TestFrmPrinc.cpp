@@ -2,12 +2,21 @@
 #include "Operateur.h"
 #include "Poste.h"
 
+#include "comconfig/ParamCom.h"
 #include "locale/Legendes.h"
 #include "platform/MSComm.h"
 #include "shell/CadreExplorateur.h"
+#include "shell/Disposition.h"
+#include "shell/Document.h"
+#include "shell/Explorateur.h"
 #include "shell/FrmPrinc.h"
 
+#include <QDialog>
+#include <QMimeData>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,7 +91,80 @@ private Q_SLOTS:
         QTRY_COMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
         QVERIFY(PortOuvert);
     }
+
+    void Disposition();
+    void FichierDepose();
 };
+
+// What the operator has arranged comes back after a restart, with the explorer made by the start or later; what cannot
+// be leaves the smallest sizes.
+void TestFrmPrinc::Disposition()
+{
+    const QTemporaryDir reglages;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
+    for (const auto &[garde, largeur, attendue] : {std::tuple{-1, 300, 300}, {410, 410, 410}, {0, 225, 225}}) {
+        const Poste poste(0);
+        if (garde >= 0)
+            QSettings(u"Dorvanel"_s, u"Disposition"_s).setValue("LargeurExplorateur", garde);
+        RemetDisposition(*frmPrinc);
+        Mnu_AffichDOS();
+        QTRY_COMPARE(frmPrinc->Frame1->width(), garde < 0 ? 225 : attendue);
+        frmPrinc->setGeometry(40, 30, 720 + largeur, 600);
+        QTest::mousePress(frmPrinc->milieu->handle(1), Qt::LeftButton, {}, QPoint(1, 9));
+        QTest::mouseMove(frmPrinc->milieu->handle(1), QPoint(1 + largeur - frmPrinc->Frame1->width(), 9));
+        QTest::mouseRelease(frmPrinc->milieu->handle(1), Qt::LeftButton, {}, QPoint(1, 9));
+        QTRY_COMPARE(frmPrinc->Frame1->width(), largeur);
+        Mnu_AffichDOS(); // hidden, the column keeps its width
+        GardeDisposition(*frmPrinc);
+
+        FrmPrinc suivante;
+        RemetDisposition(suivante);
+        suivante.CreeExplorateur();
+        suivante.show();
+        QTRY_COMPARE(suivante.Frame1->width(), attendue);
+        QCOMPARE(suivante.geometry(), QRect(40, 30, 720 + largeur, 600));
+    }
+}
+
+// A file dropped on the text is opened as from the menu, by its kind, and its path does not land in the text; the
+// program that it came from is not told to remove it. What is no one file is refused, and so is any while a dialog is
+// open.
+void TestFrmPrinc::FichierDepose()
+{
+    const Poste poste(0);
+    poste.Charge("G0");
+    const QString mac = poste.Ecrit("Tour.mac", {});
+    const QString par = poste.Chemin(u"Autre.PAR"_s);
+    QVERIFY(QFile::copy(FicConf, par));
+    const auto depose = [&](const QStringList &noms) {
+        QMimeData donnees;
+        QList<QUrl> adresses;
+        for (const QString &nom : noms)
+            adresses << QUrl::fromLocalFile(nom);
+        donnees.setUrls(adresses);
+        const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
+        QDragEnterEvent entree(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
+        QDropEvent depot(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+        if (entree.isAccepted())
+            QCoreApplication::sendEvent(frmPrinc->windowHandle(), &depot);
+        QCoreApplication::processEvents();
+        return entree.isAccepted() && depot.dropAction() == Qt::CopyAction;
+    };
+    const QString autre = poste.Ecrit(u"AUTRE €.iso"_s, "G1\r\n");
+    FichierModifie = Vrai;
+    QVERIFY(depose({autre}));
+    QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
+    QVERIFY(FichierModifie == 0 && depose({par}) && depose({mac}));
+    QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
+
+    const QString ancien = poste.Chemin(u"PIECE.iso"_s);
+    QVERIFY(!depose({ancien, autre}) && !depose({poste.Dossier()}));
+    QDialog dialogue;
+    dialogue.open();
+    QVERIFY(!depose({ancien}));
+    QCOMPARE(frmPrinc->Text1->Text(), u"G1\r\n"_s);
+}
 
 QTEST_MAIN(TestFrmPrinc)
 #include "TestFrmPrinc.moc"

@@ -2,6 +2,7 @@
 #include "machine/MachineSimulee.h"
 #include "machine/Options.h"
 #include "platform/Essais.h"
+#include "platform/FichierTexte.h"
 #include "platform/LignePosix.h"
 
 #include <QProcess>
@@ -134,39 +135,14 @@ private Q_SLOTS:
             QVERIFY_THROWS_EXCEPTION(ListeFausse, Banc{fausse});
     }
 
-    // A burst goes in its pieces and without the machine's chains, and is not waited for: the next thing that comes is
-    // a program.
-    void SalveParMorceaux()
-    {
-        ReglageMachine reglage;
-        reglage.Ligne.Vitesse = 0;
-        reglage.Debut = "%";
-        MachineSimulee machine(reglage);
-        LignePosix pc(machine.Chemin());
-        Envoi salve{Banc::Salve("1", "2", "3", "R")};
-        salve.Salve = true;
-        salve.Morceau = 30;
-        salve.PauseLigneMs = 60'000;
-        machine.Emet(salve);
-        QCOMPARE(Lit(pc, 30), salve.Texte.left(30));
-        QCOMPARE(machine.Etat().Envoi.Emis, 30);
-        salve.PauseLigneMs = 1;
-        machine.Emet(salve);
-        QCOMPARE(Lit(pc, Banc::TailleSalve), salve.Texte);
-        QVERIFY(machine.Attend([](const EtatMachine &etat) { return !etat.Envoi.EnCours; }));
-        QVERIFY(Ecrit(pc, "%N1\4"));
-        QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
-    }
-
     // The program, as an operator uses it: a link, keys, stored files, and a clean end.
     void ProgrammeEntier()
     {
         const QTemporaryDir dossier;
-        const QString lien = dossier.filePath(QStringLiteral("Com2"));
+        const auto chemin = [&dossier](const char *nom) { return dossier.filePath(QLatin1String(nom)); };
         for (const auto &[nom, texte] :
              {std::pair("001.txt", "N1\r\n"), {"piece.txt", "N1\r\n"}, {"outils.txt", "5 1 2 D"}}) {
-            QFile fichier(dossier.filePath(QLatin1String(nom)));
-            QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write(texte) > 0);
+            EcritFichierTexte(chemin(nom), QLatin1String(texte));
         }
         QProcess machine;
         QByteArray sortie;
@@ -174,14 +150,13 @@ private Q_SLOTS:
             sortie += machine.readAllStandardOutput();
             return sortie.contains(ligne);
         };
+        machine.setWorkingDirectory(dossier.path());
         machine.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../tools/machine/machine"),
-                      {QStringLiteral("--lien"), lien, QStringLiteral("--stockage"), dossier.path(),
-                       QStringLiteral("--envoie"), dossier.filePath(QStringLiteral("piece.txt")),
-                       QStringLiteral("--banc"), dossier.filePath(QStringLiteral("outils.txt")),
-                       QStringLiteral("--cloche"), QStringLiteral("4"), QStringLiteral("--vitesse"),
-                       QStringLiteral("115200")});
+                      QStringLiteral("--cloche 4 --vitesse 115200 --stockage . --lien Com2 --envoie piece.txt "
+                                     "--banc outils.txt")
+                          .split(u' '));
         QTRY_VERIFY(dit("Keys"));
-        LignePosix pc(lien);
+        LignePosix pc(chemin("Com2"));
         QVERIFY(Ecrit(pc, "%\r\nN2\4"));
         QTRY_VERIFY(dit("Program received: 6 characters") && dit("stored as 002.txt"));
         machine.write("h\nr\n e \n");
@@ -198,10 +173,8 @@ private Q_SLOTS:
         QVERIFY(machine.waitForFinished());
         QCOMPARE(machine.exitStatus(), QProcess::NormalExit);
         QCOMPARE(machine.exitCode(), 0);
-        QVERIFY(!QFileInfo(lien).isSymLink());
-        QFile recu(dossier.filePath(QStringLiteral("002.txt")));
-        QVERIFY(recu.open(QIODevice::ReadOnly));
-        QCOMPARE(recu.readAll(), "%\r\nN2");
+        QVERIFY(!QFileInfo(chemin("Com2")).isSymLink());
+        QCOMPARE(LitOctets(chemin("002.txt")), "%\r\nN2");
     }
 };
 

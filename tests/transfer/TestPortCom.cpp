@@ -79,7 +79,11 @@ private Q_SLOTS:
               {1, 99, 0, 8007, "x", "4", u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
               {1, 99, 0, 8008, "9600", "4", u"La taille d'octet spécifiée n'est pas valide"_s},
               {1, 17, 8015, 8002, "9600", "8", u"Numéro de port non valide"_s},
-              {1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s}}) {
+              {1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s},
+              {1, 2, 70, 70, "9600", "8",
+               u"refused\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, dans un terminal :\r "
+               u"   "
+               "sudo adduser $USER dialout\rpuis fermer la session et la rouvrir."_s}}) {
             ParamCom.ControleFlux = flux;
             ParamCom.Vitesse = QLatin1String(vitesse);
             ParamCom.BitsDonnees = QLatin1String(bits);

@@ -1,0 +1,73 @@
+# What an installation lays where, and the Debian package (cpack). The program's own folder is lib/dorvanel, with the
+# manuals and the samples beside it as in the build; the simulated machine comes along, so that a newcomer can try it.
+
+include(GNUInstallDirs)
+set(PAQUET ${PROJECT_SOURCE_DIR}/paquet)
+set(FABRIQUE ${PROJECT_BINARY_DIR}/paquet)
+set(DOSSIER_PROGRAMME lib/dorvanel)
+set(TAILLES_ICONE 16 22 24 32 48 64 128 256)
+
+install(TARGETS dorvanel machine RUNTIME DESTINATION ${DOSSIER_PROGRAMME})
+install(DIRECTORY resources/aide/ resources/exemples/ DESTINATION ${DOSSIER_PROGRAMME})
+install(FILES tools/machine/outils_tour.txt DESTINATION ${DOSSIER_PROGRAMME})
+install(PROGRAMS tools/essai DESTINATION ${DOSSIER_PROGRAMME})
+foreach(COMMANDE dorvanel essai)
+    string(REPLACE essai dorvanel-essai NOM ${COMMANDE})
+    file(MAKE_DIRECTORY ${FABRIQUE})
+    file(CREATE_LINK ../${DOSSIER_PROGRAMME}/${COMMANDE} ${FABRIQUE}/${NOM} SYMBOLIC)
+    install(FILES ${FABRIQUE}/${NOM} DESTINATION ${CMAKE_INSTALL_BINDIR})
+endforeach()
+
+# Icons in the theme's sizes, drawn from the one drawing
+set(ICONE ${PROJECT_SOURCE_DIR}/resources/icones/Dorvanel.svg)
+foreach(TAILLE IN LISTS TAILLES_ICONE)
+    list(APPEND ICONES ${FABRIQUE}/icones/${TAILLE}.png)
+    install(FILES ${FABRIQUE}/icones/${TAILLE}.png RENAME dorvanel.png
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${TAILLE}x${TAILLE}/apps)
+endforeach()
+add_custom_command(OUTPUT ${ICONES} DEPENDS icones ${ICONE}
+                   COMMAND icones ${ICONE} ${FABRIQUE}/icones ${TAILLES_ICONE} VERBATIM)
+install(FILES ${ICONE} RENAME dorvanel.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+
+# The desktop: menu entry, file types, software catalogue
+install(FILES ${PAQUET}/dorvanel.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${PAQUET}/dorvanel.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+install(FILES ${PAQUET}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+
+# Documents
+set(DOCS ${CMAKE_INSTALL_DATADIR}/doc/dorvanel)
+install(FILES README.md CHANGELOG.md ${PAQUET}/copyright DESTINATION ${DOCS})
+install(FILES docs/fenetre.png DESTINATION ${DOCS}/docs)
+install(FILES docs/70-dorvanel.rules DESTINATION ${DOCS}/examples)
+foreach(DOCUMENT changelog dorvanel.1)
+    list(APPEND COMPRIMES ${FABRIQUE}/${DOCUMENT}.gz)
+    add_custom_command(OUTPUT ${FABRIQUE}/${DOCUMENT}.gz DEPENDS ${PAQUET}/${DOCUMENT}
+                       COMMAND gzip -9nc ${PAQUET}/${DOCUMENT} > ${FABRIQUE}/${DOCUMENT}.gz)
+endforeach()
+install(FILES ${FABRIQUE}/changelog.gz DESTINATION ${DOCS})
+install(FILES ${FABRIQUE}/dorvanel.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${FABRIQUE}/dorvanel.1.gz RENAME dorvanel-essai.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+add_custom_target(a_installer ALL DEPENDS ${ICONES} ${COMPRIMES})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME dorvanel)
+set(CPACK_PACKAGE_VENDOR Dorvanel)
+set(CPACK_PACKAGE_CONTACT "Dorvanel <dorvanel@dorvanel.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL https://dorvanel.example/Dorvanel/index.html)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "loads and unloads CN programs of machine tools")
+set(CPACK_PACKAGE_DESCRIPTION "Dorvanel Pro sends and receives CN programs between a PC and a machine
+tool over a serial line, exact to the byte, and writes tool gauge files
+from the measures of a presetting bench. It speaks French, English and
+Spanish.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Without any font there is nothing to read; the translations are of the buttons of the system's own dialogs.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core | fonts-freefont-ttf | fonts-liberation")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+include(CPack)

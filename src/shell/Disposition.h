@@ -1,0 +1,14 @@
+#pragma once
+
+class FrmPrinc;
+
+// Where the operator has put the main window, how large it is and how wide its explorer column: kept from one run to
+// the next where the desktop keeps such things (on Linux $XDG_CONFIG_HOME/Dorvanel/Disposition.conf), apart from the
+// program's own settings, which travel with its folder from one PC to another.
+
+/// Puts the window as the last run left it, within the screens that there are now; before the start, which may make the
+/// explorer column. Without a last run, or with something unreadable, it stays as it is.
+void RemetDisposition(FrmPrinc &fenetre);
+
+/// Keeps the window as it is, for the next run.
+void GardeDisposition(const FrmPrinc &fenetre);
