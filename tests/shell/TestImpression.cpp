@@ -41,7 +41,8 @@ QList<QStringList> Pages(const QString &fichier)
     lecteur.start(u"pdftotext"_s, {u"-layout"_s, fichier, u"-"_s});
     lecteur.waitForFinished();
     QList<QStringList> pages;
-    const QString texte = QString::fromUtf8(lecteur.readAllStandardOutput());
+    const QString texte = QString::fromUtf8(lecteur.readAllStandardOutput())
+                              .normalized(QString::NormalizationForm_KC); // some fonts print "fl" as one sign
     for (const QString &page : texte.split(u'\f', Qt::SkipEmptyParts))
         pages << page.split(u'\n', Qt::SkipEmptyParts);
     return pages;

@@ -45,7 +45,6 @@ public:
         QObject::connect(&controle, &MSComm::OnComm, &m_machine,
                          [this, &controle] { evenements << controle.CommEvent(); });
         QObject::connect(&m_machine, &QTimer::timeout, &m_machine, [this] { Avance(); });
-        m_machine.start(0);
         operateur.Fait(Fichier, [](QWidget &fenetre) {
             fenetre.findChild<QLineEdit *>(u"Text1"_s)->setText(u"piece"_s);
             fenetre.findChild<QPushButton *>(u"Command2"_s)->click();
@@ -59,6 +58,7 @@ public:
     void Fait(const std::function<void()> &geste, const Operateur::Condition &quand = {})
     {
         m_etapes.push_back({geste, quand});
+        m_machine.start(0);
     }
     void Envoie(const QByteArray &octets, const Operateur::Condition &quand = {})
     {
@@ -141,8 +141,13 @@ private:
     }
     void Avance()
     {
-        if (m_etapes.empty() || !LignePrise() || (m_etapes.front().quand && !m_etapes.front().quand()))
-            return;
+        if (m_etapes.empty())
+            m_machine.stop();
+        else if (LignePrise() && (!m_etapes.front().quand || m_etapes.front().quand()))
+            FaitSuivante();
+    }
+    void FaitSuivante()
+    {
         const auto geste = m_etapes.front().geste;
         m_etapes.pop_front();
         geste();
@@ -346,6 +351,7 @@ private Q_SLOTS:
         ParamCom.TypeFinLig = 0;
         BatirChaines();
         ParamCom.TailleTamponRecep = 1; // so that nothing waits behind a line end
+        ParamCom.SeuilRecep = 0;        // nor is each character told
         banc.ligne->Envoie(QByteArray("N\n").repeated(CapaciteLignes));
         banc.operateur.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
         QCOMPARE(banc.Sauve(), QByteArray("N\r\n").repeated(CapaciteLignes));
