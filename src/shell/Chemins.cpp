@@ -27,7 +27,7 @@ void CopieExemples(const QString &de, const QString &vers)
 /// adapter to a port in it before. Later starts bring back nothing that he has deleted.
 QString DossierUtilisateur(const QString &dossierProgramme)
 {
-    const QString dossier =
+    QString dossier =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Dorvanel");
     if (!QFileInfo::exists(dossier + QStringLiteral("/Dorvanel.ini")) && QDir().mkpath(dossier))
         CopieExemples(dossierProgramme, dossier);
