@@ -77,6 +77,19 @@ CommonDialog::CommonDialog(QObject *parent)
 
 CommonDialog::~CommonDialog() = default;
 
+void CommonDialog::PrepareFichier(const QString &titre, const QString &filtre, const QString &dossier,
+                                  const QString &nom)
+{
+    CancelError = true;
+    DialogTitle = titre;
+    Filter = filtre;
+    FilterIndex = 1;
+    InitDir = dossier;
+    FileName = nom;
+    DefaultExt.clear();
+    Flags = EcrasementDemande;
+}
+
 void CommonDialog::ShowOpen()
 {
     DemandeFichier(false);
@@ -96,6 +109,8 @@ void CommonDialog::DemandeFichier(bool enregistrement)
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, (Flags & EcrasementDemande) == 0);
     dialogue.setAcceptMode(enregistrement ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(enregistrement ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (enregistrement)
+        dialogue.setDefaultSuffix(DefaultExt);
 
     const QStringList filtres = Filtres(Filter);
     dialogue.setNameFilters(filtres);
