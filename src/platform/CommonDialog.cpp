@@ -130,10 +130,9 @@ void CommonDialog::DemandeCopies()
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
     ProposeFichier(dialogue, imprimante.docName());
     CacheEtendues(dialogue);
-    if ((Flags & Selection) != 0) {
-        dialogue.setOption(QAbstractPrintDialog::PrintSelection);
-        dialogue.setPrintRange(QAbstractPrintDialog::Selection);
-    }
+    const bool selection = (Flags & Selection) != 0;
+    dialogue.setOption(QAbstractPrintDialog::PrintSelection, selection);
+    dialogue.setPrintRange(selection ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
     if (!Accepte(dialogue))
         return;
     Copies = imprimante.copyCount();
