@@ -26,6 +26,6 @@ void Tente(EnAttente &enAttente, Etape etape)
 /// back to its old number and stays closed. The road ends at the first group of steps that leaves a failure pending.
 void AppliqueAuPort(EnAttente &enAttente);
 
-/// Gives it all the rest of ParamCom, and the line settings once more. What it refuses, as an open port does with the
-/// sizes of its buffers, is passed over.
+/// Gives it all of ParamCom but the port number, line settings and flow control once more. What it refuses, as an open
+/// port does with the sizes of its buffers, is passed over.
 void AppliqueResteAuPort();

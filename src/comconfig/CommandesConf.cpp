@@ -107,7 +107,7 @@ void MetConfigurationNeuve()
     p.SeuilRecep = p.SeuilEmis = 0;
     p.FiltreNul = 1;
     p.LigneRTS = p.LigneDTR = 0;
-    p.DosRecep = DosAppli;
+    p.DosRecep = DossierApplication();
     p.TypeRecep = RecepLignes;
     p.TailleRecep = 0;
     for (QString *const libelle : {&p.LibDebProg, &p.LibFinLig, &p.LibFinTrans})
@@ -127,12 +127,7 @@ void MontreEchec(const Erreur &erreur, const MessagePar &message)
 QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre)
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.CancelError = true;
-    dialogue.FileName.clear();
-    dialogue.InitDir = dossier;
-    dialogue.DialogTitle = Texte(TitreChoix);
-    dialogue.Filter = Texte(filtre);
-    dialogue.FilterIndex = 1;
+    dialogue.PrepareFichier(Texte(TitreChoix), Texte(filtre), dossier);
     dialogue.ShowOpen();
     return dialogue.FileName;
 }

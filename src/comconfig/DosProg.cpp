@@ -51,11 +51,10 @@ DosProg::DosProg(TypeDossier type, QWidget *parent)
 /// Looking at a folder changes nothing: one that a configuration names beside the program stays so.
 void DosProg::Form_Load()
 {
-    const QString dossier = DepuisDossierApplication(Dossier());
     try {
-        FolderTreeview1->setSelectedFolder(dossier);
+        FolderTreeview1->setSelectedFolder(DepuisDossierApplication(Dossier()));
     } catch (const Erreur &) {
-        MsgBox(Texte(m_type == DossierProgrammes ? AbsentProgrammes : AbsentJauges) + dossier + Texte(AbsentApres),
+        MsgBox(Texte(m_type == DossierProgrammes ? AbsentProgrammes : AbsentJauges) + Dossier() + Texte(AbsentApres),
                Boite::Exclamation, Texte(AbsentTitre));
         Dossier() = DosAppli;
         Saute([this] { FolderTreeview1->setSelectedFolder(DosAppli); });

@@ -20,6 +20,7 @@ public:
 private:
     void Form_Activate();
     void Command2_Click();
+    void Command5_Click();
     void Command4_Click();
     void Command6_Click();
 

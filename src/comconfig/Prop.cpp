@@ -251,13 +251,7 @@ void Prop::Command1_Click()
     PrendTransferts(*this);
     Saute([this] {
         QDir::setCurrent(DosAppli);
-        CommonDialog1->CancelError = true;
-        CommonDialog1->Flags = CommonDialog::EcrasementDemande;
-        CommonDialog1->DialogTitle = Texte(TitreEnregistre);
-        CommonDialog1->Filter = Texte(FiltrePar);
-        CommonDialog1->FilterIndex = 1;
-        CommonDialog1->InitDir = DosConf;
-        CommonDialog1->FileName = Label6->text();
+        CommonDialog1->PrepareFichier(Texte(TitreEnregistre), Texte(FiltrePar), DosConf, Label6->text());
         CommonDialog1->ShowSave();
         FicConf = CommonDialog1->FileName;
         NomConf = CommonDialog1->FileTitle;
@@ -278,13 +272,7 @@ void Prop::MontreSaisieRefusee(QWidget *boite, const QString &raison)
 /// same.
 void Prop::Command5_Click()
 {
-    CommonDialog1->CancelError = true;
-    CommonDialog1->Flags = 0;
-    CommonDialog1->DialogTitle = QString::fromUtf16(TitreEditeur);
-    CommonDialog1->Filter = QString::fromUtf16(FiltreEditeur);
-    CommonDialog1->FilterIndex = 1;
-    CommonDialog1->InitDir.clear();
-    CommonDialog1->FileName.clear();
+    CommonDialog1->PrepareFichier(QString::fromUtf16(TitreEditeur), QString::fromUtf16(FiltreEditeur));
     try {
         CommonDialog1->ShowOpen();
         EditeurCN = CommonDialog1->FileName;

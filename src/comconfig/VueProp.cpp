@@ -193,13 +193,17 @@ void RemplitListes(const Ui::Prop &dialogue)
 void BrancheOptions(const Ui::Prop &dialogue)
 {
     for (const Groupe &groupe : Groupes) {
-        for (int i = 0; QRadioButton *const bouton = Bouton(dialogue, groupe.boutons, i); ++i)
-            QObject::connect(bouton, &QRadioButton::toggled, bouton, [&dialogue, &groupe, i](bool choisi) {
+        for (int i = 0; QRadioButton *const bouton = Bouton(dialogue, groupe.boutons, i); ++i) {
+            const auto choisit = [&dialogue, &groupe, i](bool choisi) {
                 if (choisi && groupe.champ != nullptr)
                     ParamCom.*groupe.champ = i;
                 if (choisi && groupe.suite != nullptr)
                     groupe.suite(dialogue, i);
-            });
+            };
+            QObject::connect(bouton, &QRadioButton::toggled, bouton, choisit);
+            // Also on the option that stands there already: the record may hold a value that no option shows.
+            QObject::connect(bouton, &QRadioButton::clicked, bouton, choisit);
+        }
         if (groupe.suite == MontreFinTrans || groupe.suite == MontreFinLig)
             groupe.suite(dialogue, Selection(dialogue, groupe.boutons));
     }

@@ -25,14 +25,12 @@ constexpr Texte3 TitreEnregistrement{u"Enregistrer la configuration jauges outil
 void Demande(void (CommonDialog::*montre)(), const Texte3 &titre, const QString &chemin)
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.CancelError = true;
-    dialogue.FileName = chemin;
-    dialogue.InitDir = DosConf;
-    dialogue.DialogTitle = Texte(titre);
-    dialogue.Filter = Texte(FiltreMac);
-    dialogue.FilterIndex = 1;
-    dialogue.Flags = CommonDialog::EcrasementDemande;
-    const auto remis = qScopeGuard([&dialogue] { dialogue.CancelError = false; });
+    dialogue.PrepareFichier(Texte(titre), Texte(FiltreMac), DosConf, chemin);
+    dialogue.DefaultExt = QStringLiteral("mac");
+    const auto remis = qScopeGuard([&dialogue] {
+        dialogue.CancelError = false;
+        dialogue.DefaultExt.clear();
+    });
     (dialogue.*montre)();
     NomCompletMac = dialogue.FileName;
     NomMac = dialogue.FileTitle;

@@ -8,5 +8,5 @@
 /// Asks for a .mac file and reads it into ParamMac. Also raises what LitMac raises.
 void DemandeFichierMac();
 
-/// Asks for the .mac file to write, first offering chemin ("" for none).
+/// Asks for the .mac file to write, first offering chemin ("" for none). A name typed without an ending gets ".mac".
 void DemandeNomMac(const QString &chemin);

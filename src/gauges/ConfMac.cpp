@@ -4,7 +4,6 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "platform/CentreFeuille.h"
 #include "platform/Erreur.h"
 #include "platform/Nombres.h"
 
@@ -65,7 +64,7 @@ void GardePlace(QWidget *controle)
 } // namespace
 
 ConfMac::ConfMac(QWidget *parent, const QString &chemin)
-    : QDialog(parent)
+    : DialogueCentre(parent)
     , m_chemin(chemin)
 {
     setupUi(this);
@@ -79,12 +78,6 @@ ConfMac::ConfMac(QWidget *parent, const QString &chemin)
     BrancheOptions();
     connect(Command1, &QPushButton::clicked, this, &ConfMac::reject);
     connect(Command2, &QPushButton::clicked, this, &ConfMac::Command2_Click);
-}
-
-void ConfMac::showEvent(QShowEvent *evenement)
-{
-    QDialog::showEvent(evenement);
-    CentreFeuille(this);
 }
 
 void ConfMac::Form_Load()

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/DialogueCentre.h"
 #include "ui_ConfMac.h"
-
-#include <QDialog>
 
 /// Shows and edits ParamMac. Choices reach it at once, typed values only when they are saved; Command1 (close) takes
 /// nothing back.
@@ -10,16 +9,13 @@
 /// OptMac: machine, OptTour: turret, OptJauge: kind of gauge file, OptionX: X in radius or diameter, OptionRAZ: reset
 /// of the dynamic correctors. Text4: pocket difference, Text1 and Text2: limits of X and Z, Text3: correctors, Text5:
 /// extension, Text6: program number, named by Label4, Label1 to Label3, Label5, Label6. Command2: save as.
-class ConfMac : public QDialog, public Ui::ConfMac
+class ConfMac : public DialogueCentre, public Ui::ConfMac
 {
     Q_OBJECT
 
 public:
     /// chemin: the .mac file that ParamMac was read from, which the title then names; "" for none.
     explicit ConfMac(QWidget *parent, const QString &chemin = {});
-
-protected:
-    void showEvent(QShowEvent *evenement) override;
 
 private:
     void Form_Load();

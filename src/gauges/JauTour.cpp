@@ -4,7 +4,6 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "platform/CentreFeuille.h"
 #include "platform/Nombres.h"
 
 #include <QKeyEvent>
@@ -35,7 +34,7 @@ void EcritAuClic(const QWidget *panneau, QLineEdit *saisie)
 } // namespace
 
 JauTour::JauTour(QWidget *parent)
-    : QDialog(parent)
+    : DialogueCentre(parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
@@ -57,12 +56,6 @@ void JauTour::BrancheTuiles()
         connect(bouton, &QAbstractButton::clicked, Text1, [this] { Text1->setText(QStringLiteral("0")); });
     connect(Text1, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
     connect(Text2, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
-}
-
-void JauTour::showEvent(QShowEvent *evenement)
-{
-    QDialog::showEvent(evenement);
-    CentreFeuille(this);
 }
 
 void JauTour::Form_Activate()

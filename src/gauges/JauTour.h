@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/DialogueCentre.h"
 #include "ui_JauTour.h"
-
-#include <QDialog>
 
 /// The dial of a lathe: for each measure, one after another, the operator gives what the bench cannot measure, the
 /// radius of the tool's nose and the quadrant in which it works. JauTourFait becomes 1 behind the last one. Closed
@@ -12,7 +11,7 @@
 /// Picture21, titled Label2: plates Picture22 to Picture27. Label7 names the turret of the dial that is shown: Picture1
 /// (back) or Picture11 (front); tool tiles Picture2 to Picture10 with their labels Label17 to Label25 on the first,
 /// Picture12 to Picture20 with Label8 to Label16 on the second.
-class JauTour : public QDialog, public Ui::JauTour
+class JauTour : public DialogueCentre, public Ui::JauTour
 {
     Q_OBJECT
 
@@ -20,7 +19,6 @@ public:
     explicit JauTour(QWidget *parent);
 
 protected:
-    void showEvent(QShowEvent *evenement) override;
     void keyPressEvent(QKeyEvent *touche) override;
 
 private:

@@ -77,6 +77,19 @@ CommonDialog::CommonDialog(QObject *parent)
 
 CommonDialog::~CommonDialog() = default;
 
+void CommonDialog::PrepareFichier(const QString &titre, const QString &filtre, const QString &dossier,
+                                  const QString &nom)
+{
+    CancelError = true;
+    DialogTitle = titre;
+    Filter = filtre;
+    FilterIndex = 1;
+    InitDir = dossier;
+    FileName = nom;
+    DefaultExt.clear();
+    Flags = EcrasementDemande;
+}
+
 void CommonDialog::ShowOpen()
 {
     DemandeFichier(false);
@@ -96,6 +109,8 @@ void CommonDialog::DemandeFichier(bool enregistrement)
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, (Flags & EcrasementDemande) == 0);
     dialogue.setAcceptMode(enregistrement ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(enregistrement ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (enregistrement)
+        dialogue.setDefaultSuffix(DefaultExt);
 
     const QStringList filtres = Filtres(Filter);
     dialogue.setNameFilters(filtres);
@@ -130,10 +145,9 @@ void CommonDialog::DemandeCopies()
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
     ProposeFichier(dialogue, imprimante.docName());
     CacheEtendues(dialogue);
-    if ((Flags & Selection) != 0) {
-        dialogue.setOption(QAbstractPrintDialog::PrintSelection);
-        dialogue.setPrintRange(QAbstractPrintDialog::Selection);
-    }
+    const bool selection = (Flags & Selection) != 0;
+    dialogue.setOption(QAbstractPrintDialog::PrintSelection, selection);
+    dialogue.setPrintRange(selection ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
     if (!Accepte(dialogue))
         return;
     Copies = imprimante.copyCount();
@@ -149,13 +163,20 @@ void CommonDialog::ShowFont()
     police.setStrikeOut(FontStrikeThru);
     police.setUnderline(FontUnderline);
     DialoguePolice dialogue(police, Color, FenetreAppelante());
+    const QFont offerte = dialogue.currentFont();
     if (!Accepte(dialogue))
         return;
+    // The dialog offers another name, whole points or the nearest style for a font that it does not list as it stands;
+    // what the operator leaves as it was offered stays as it was.
+    const auto prend = [](auto &voulu, const auto &choisi, const auto &offert) {
+        if (choisi != offert)
+            voulu = choisi;
+    };
     police = dialogue.selectedFont();
-    FontName = police.family();
-    FontSize = police.pointSizeF();
-    FontBold = police.bold();
-    FontItalic = police.italic();
+    prend(FontName, police.family(), offerte.family());
+    prend(FontSize, police.pointSizeF(), offerte.pointSizeF());
+    prend(FontBold, police.bold(), offerte.bold());
+    prend(FontItalic, police.italic(), offerte.italic());
     FontStrikeThru = police.strikeOut();
     FontUnderline = police.underline();
     Color = dialogue.Couleur();

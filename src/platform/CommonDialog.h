@@ -28,6 +28,7 @@ public:
     QString Filter;      ///< pairs "label|pattern", separated by "|"
     int FilterIndex = 0; ///< pair first selected, from 1; after: the pair chosen
     int Flags = 0;       ///< one of the constants below, by dialog
+    QString DefaultExt;  ///< saving: ending, without its point, of a name typed without one; "" gives none
 
     static constexpr int EcrasementDemande = 2;    ///< saving: ask before an existing file is chosen
     static constexpr int Selection = 1;            ///< printing: the selection is offered beside the whole
@@ -43,6 +44,11 @@ public:
     bool FontStrikeThru = false;
     bool FontUnderline = false;
     QColor Color;
+
+    /// Sets all that concerns a file: titre, filtre (as in Filter) with its first pair selected, the folder first shown
+    /// and the name first offered, "" for none. Cancelling raises, and a file is not overwritten unasked.
+    void PrepareFichier(const QString &titre, const QString &filtre, const QString &dossier = {},
+                        const QString &nom = {});
 
     /// Asks for an existing file.
     void ShowOpen();

@@ -1,12 +1,19 @@
 #include "platform/DialogueFichier.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QTreeView>
 
 void DansLaLangue(QFileDialog &dialogue)
 {
+    constexpr int colonneTaille = 1;
     constexpr int colonneType = 2;
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
-    if (auto *const liste = dialogue.findChild<QTreeView *>(QStringLiteral("treeView")))
-        liste->hideColumn(colonneType);
+    auto *const liste = dialogue.findChild<QTreeView *>(QStringLiteral("treeView"));
+    if (liste == nullptr)
+        return;
+    liste->hideColumn(colonneType);
+    // The toolkit leaves sizes and dates cut, with room beside them.
+    liste->header()->setSectionResizeMode(colonneTaille, QHeaderView::ResizeToContents);
+    liste->header()->setStretchLastSection(true);
 }

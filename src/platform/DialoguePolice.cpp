@@ -9,11 +9,13 @@
 
 namespace {
 
-/// police under the name that it has in the list of fonts: "monospace" and the like are names for another one, and
-/// would lose their style there.
+/// police under the names that it and its style have in the list of fonts: "monospace" and the like are names for
+/// another one, and the toolkit finds no "Normal" in a family that calls it "Book".
 QFont Nommee(QFont police)
 {
-    police.setFamily(QFontInfo(police).family());
+    const QFontInfo listee(police);
+    police.setFamily(listee.family());
+    police.setStyleName(listee.styleName());
     return police;
 }
 

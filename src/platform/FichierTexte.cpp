@@ -8,18 +8,26 @@
 
 #include <cerrno>
 #include <new>
+#include <system_error>
+
+#include <fcntl.h>
 
 namespace {
 
 /// cause: the system's own number. QFile's does not tell a full disk from a broken one, nor a missing file from one
 /// that may not be read; so errno is cleared before each call and read when the call has failed.
-[[noreturn]] void Echoue(const QFile &fichier, int cause)
+[[noreturn]] void Echoue(int cause, const QString &description)
 {
     const int numero = cause == ENOSPC || cause == EDQUOT                    ? Erreur::DisqueSature
                        : cause == ENOENT || cause == ENOTDIR                 ? Erreur::FichierIntrouvable
                        : cause == EACCES || cause == EPERM || cause == EROFS ? Erreur::AccesRefuse
                                                                              : Erreur::ErreurFichier;
-    throw Erreur(numero, fichier.errorString());
+    throw Erreur(numero, description);
+}
+
+[[noreturn]] void Echoue(const QFile &fichier, int cause)
+{
+    Echoue(cause, fichier.errorString());
 }
 
 void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
@@ -29,11 +37,26 @@ void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
         Echoue(fichier, errno);
 }
 
-void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QString &texte)
+/// Raises DisqueSature, or ErreurFichier for a size that the file system does not have, while a file that is to grow to
+/// taille bytes still holds all that it held: behind its end the disk is asked for the room, which the writing then
+/// finds. A file system that cannot tell lets it pass.
+void ExigePlace(const QString &chemin, qint64 taille)
+{
+    QFile fichier(chemin);
+    const qint64 presente = fichier.size();
+    if (presente == 0 || taille <= presente || !FichierExiste(chemin) ||
+        !fichier.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return;
+    const int cause = posix_fallocate(fichier.handle(), presente, taille - presente);
+    fichier.resize(presente);
+    if (cause == ENOSPC || cause == EDQUOT || cause == EFBIG)
+        Echoue(cause, QString::fromStdString(std::generic_category().message(cause)));
+}
+
+void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QByteArray &octets)
 {
     QFile fichier(chemin);
     Ouvre(fichier, mode | QIODevice::Unbuffered);
-    const QByteArray octets = OctetsEn1252(texte);
     errno = 0;
     if (fichier.write(octets) != octets.size())
         Echoue(fichier, errno);
@@ -73,12 +96,14 @@ try {
 
 void EcritFichierTexte(const QString &chemin, const QString &texte)
 {
-    Ecrit(chemin, QIODevice::WriteOnly | QIODevice::Truncate, texte);
+    const QByteArray octets = OctetsEn1252(texte);
+    ExigePlace(chemin, octets.size());
+    Ecrit(chemin, QIODevice::WriteOnly | QIODevice::Truncate, octets);
 }
 
 void AjouteFichierTexte(const QString &chemin, const QString &texte)
 {
-    Ecrit(chemin, QIODevice::Append | QIODevice::ExistingOnly, texte);
+    Ecrit(chemin, QIODevice::Append | QIODevice::ExistingOnly, OctetsEn1252(texte));
 }
 
 bool FichierExiste(const QString &chemin)

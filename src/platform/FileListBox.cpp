@@ -10,8 +10,6 @@
 
 namespace {
 
-using namespace std::chrono_literals;
-
 QList<QRegularExpression> Formes(const QString &motif)
 {
     QList<QRegularExpression> formes;
@@ -35,13 +33,7 @@ FileListBox::FileListBox(QWidget *parent)
 {
     setModel(&m_noms);
     setEditTriggers(NoEditTriggers);
-    m_relecture.setSingleShot(true);
-    m_relecture.setInterval(100ms);
-    connect(&m_guetteur, &QFileSystemWatcher::directoryChanged, this, [this] {
-        if (!m_relecture.isActive())
-            m_relecture.start();
-    });
-    connect(&m_relecture, &QTimer::timeout, this, &FileListBox::Refresh);
+    connect(&m_guetteur, &GuetteurDossiers::Change, this, &FileListBox::Refresh);
     connect(this, &QListView::doubleClicked, this, &FileListBox::DblClick);
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QFileSystemWatcher>
+#include "platform/GuetteurDossiers.h"
+
 #include <QList>
 #include <QListView>
 #include <QRegularExpression>
 #include <QStringListModel>
-#include <QTimer>
 
 /// The list of the plain files of one folder that match a pattern, in the order of their names. It follows the disk: a
 /// file that comes or goes while the list stands open is shown or dropped a moment later, and the selection stays.
@@ -54,6 +54,5 @@ private:
     QString m_motif = QStringLiteral("*.*");
     QList<QRegularExpression> m_formes; // one for each alternative of the pattern
     QStringListModel m_noms;
-    QFileSystemWatcher m_guetteur;
-    QTimer m_relecture; // gathers the changes of a moment: copying 1000 files is not 1000 readings
+    GuetteurDossiers m_guetteur;
 };

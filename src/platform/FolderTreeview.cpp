@@ -11,8 +11,6 @@
 
 namespace {
 
-using namespace std::chrono_literals;
-
 /// A node: a folder, by its absolute path with "/" and without a final separator, but for a root.
 class Noeud : public QTreeWidgetItem
 {
@@ -106,13 +104,7 @@ FolderTreeview::FolderTreeview(QWidget *parent)
     // A deep folder scrolls into view instead of being cut.
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_relecture.setSingleShot(true);
-    m_relecture.setInterval(100ms);
-    connect(&m_guetteur, &QFileSystemWatcher::directoryChanged, this, [this] {
-        if (!m_relecture.isActive())
-            m_relecture.start();
-    });
-    connect(&m_relecture, &QTimer::timeout, this, &FolderTreeview::Refresh);
+    connect(&m_guetteur, &GuetteurDossiers::Change, this, &FolderTreeview::Refresh);
     connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lis);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::Annonce);
     connect(this, &QTreeWidget::itemClicked, this, &FolderTreeview::Click);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QFileSystemWatcher>
-#include <QTimer>
+#include "platform/GuetteurDossiers.h"
+
 #include <QTreeWidget>
 
 /// The tree of the folders of this PC. At its top stand the operator's own folder, the USB keys and other volumes that
@@ -51,7 +51,6 @@ private:
     QTreeWidgetItem *Sommet(const QString &chemin) const;
     QTreeWidgetItem *SousDossier(QTreeWidgetItem *noeud, const QString &nom);
 
-    QString m_annonce;             // the selection last announced
-    QFileSystemWatcher m_guetteur; // watches every folder that has been read
-    QTimer m_relecture;            // gathers the changes of a moment
+    QString m_annonce;           // the selection last announced
+    GuetteurDossiers m_guetteur; // watches every folder that has been read
 };

@@ -19,11 +19,23 @@ struct Remplacant
     const char *option; ///< "" for none
 };
 
-constexpr std::array Traitements{Remplacant{"libreoffice", "--writer"}, Remplacant{"soffice", "--writer"},
-                                 Remplacant{"abiword", ""}, Remplacant{"calligrawords", ""},
-                                 Remplacant{"xdg-open", ""}};
-constexpr std::array Editeurs{Remplacant{"gnome-text-editor", ""}, Remplacant{"gedit", ""}, Remplacant{"kate", ""},
-                              Remplacant{"mousepad", ""}, Remplacant{"xdg-open", ""}};
+/// Word processors, then text editors. What the desktop has chosen for the file's ending comes last: it takes a program
+/// in ".iso" for the picture of a disc.
+constexpr std::array Programmes{Remplacant{"libreoffice", "--writer"},
+                                Remplacant{"soffice", "--writer"},
+                                Remplacant{"abiword", ""},
+                                Remplacant{"calligrawords", ""},
+                                Remplacant{"gnome-text-editor", ""},
+                                Remplacant{"gedit", ""},
+                                Remplacant{"kate", ""},
+                                Remplacant{"kwrite", ""},
+                                Remplacant{"mousepad", ""},
+                                Remplacant{"xed", ""},
+                                Remplacant{"pluma", ""},
+                                Remplacant{"featherpad", ""},
+                                Remplacant{"xdg-open", ""}};
+constexpr std::span<const Remplacant> Traitements(Programmes);
+constexpr std::span<const Remplacant> Editeurs = Traitements.subspan(4);
 
 bool LancePremier(std::span<const Remplacant> remplacants, const QString &fichier)
 {

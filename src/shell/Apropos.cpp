@@ -3,7 +3,6 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
-#include "platform/CentreFeuille.h"
 #include "platform/Icone.h"
 #include "shell/AideEnLigne.h"
 #include "shell/FrmPrinc.h"
@@ -23,7 +22,7 @@ constexpr int CoteImage = 96; // pixels
 } // namespace
 
 Apropos::Apropos(QWidget *parent)
-    : QDialog(parent)
+    : DialogueCentre(parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
@@ -37,13 +36,6 @@ Apropos::Apropos(QWidget *parent)
     connect(Label4, &QPushButton::clicked, this, &Apropos::Label4_Click);
     connect(Label5, &QPushButton::clicked, this, &Apropos::Label5_Click);
     connect(Command1, &QPushButton::clicked, this, &QDialog::accept);
-}
-
-void Apropos::showEvent(QShowEvent *evenement)
-{
-    QDialog::showEvent(evenement);
-    if (!evenement->spontaneous())
-        CentreFeuille(this);
 }
 
 void Apropos::Label4_Click()

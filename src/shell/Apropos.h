@@ -1,20 +1,16 @@
 #pragma once
 
+#include "platform/DialogueCentre.h"
 #include "ui_Apropos.h"
-
-#include <QDialog>
 
 /// The about window. Image1: picture; Label1: program and version; Label8, Label4 and Label5: links to the lessons on
 /// line, the maker's mail and the maker's site; Command1 closes it.
-class Apropos : public QDialog, public Ui::Apropos
+class Apropos : public DialogueCentre, public Ui::Apropos
 {
     Q_OBJECT
 
 public:
     explicit Apropos(QWidget *parent);
-
-protected:
-    void showEvent(QShowEvent *evenement) override;
 
 private:
     void Label4_Click();

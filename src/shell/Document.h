@@ -20,8 +20,8 @@ void BrancheDocument();
 void TitreFenetre(const QString &nom);
 
 /// Writes the text of the pane and one CR LF to path, then shows the document's names. When that fails it says so to
-/// the operator and raises the failure on; the document then stays as it was, while the file holds what was written of
-/// it.
+/// the operator and raises the failure on; the document then stays as it was, and so does the file where the disk has
+/// no room (see EcritFichierTexte()).
 void SaveFile(const QString &path);
 
 /// Loads path into the pane, as rich text when it ends in "RTF", and enables what works on a file. NomFichier and

@@ -159,7 +159,7 @@ bool FrmPrinc::ExplorateurMontre() const
 
 std::optional<QString> FrmPrinc::DossierApplique() const
 {
-    if (Frame1 == nullptr || !Frame1->CheckDOS->isChecked())
+    if (Frame1 == nullptr || !Frame1->CheckDOS->isChecked() || Frame1->FolderTreeview1->SelectedFolder().isEmpty())
         return std::nullopt;
     return Frame1->FolderTreeview1->SelectedFolder();
 }

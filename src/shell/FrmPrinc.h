@@ -66,7 +66,7 @@ public:
     bool ExplorateurMontre() const;
 
     /// The folder of the column that the operator applies to the opening and the reception of programs (CheckDOS); none
-    /// while he applies none.
+    /// while he applies none, or when the volume that held it has been taken out.
     std::optional<QString> DossierApplique() const;
 
     /// Reads the files of the column anew: a program has come in.

@@ -102,13 +102,7 @@ void SauveAilleurs(const QString &texte)
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
     while (!texte.isEmpty() && Confirme(Texte(ResteTexte), Boite::Exclamation, Texte(ResteTitre))) {
         try {
-            dialogue.CancelError = true;
-            dialogue.FileName = CheminRecep();
-            dialogue.InitDir.clear();
-            dialogue.DialogTitle = Texte(ResteTitre);
-            dialogue.Filter = Texte(FiltreEnregistrer);
-            dialogue.FilterIndex = 0;
-            dialogue.Flags = CommonDialog::EcrasementDemande;
+            dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), QString(), CheminRecep());
             dialogue.ShowSave();
             EcritFichierTexte(dialogue.FileName, texte);
             return;

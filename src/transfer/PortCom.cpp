@@ -1,6 +1,7 @@
 #include "transfer/PortCom.h"
 
 #include "comconfig/ParamCom.h"
+#include "comconfig/ReglagesCom.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
@@ -120,30 +121,14 @@ void MontreErreur(const Erreur &erreur, const QString &texte)
     MsgBox(texte, Boite::Critique, Texte(ErreurNumero) + TexteNombre(erreur.Numero()) + Texte(Fermeture));
 }
 
-/// The order counts: the lines take their state before the port opens.
-void RegleControle(MSComm &controle)
-{
-    controle.setInputLen(ParamCom.NbCarLecture);
-    controle.setNullDiscard(ParamCom.FiltreNul != 0);
-    controle.setParityReplace(ParamCom.CarRemplace);
-    controle.setInBufferSize(ParamCom.TailleTamponRecep);
-    controle.setOutBufferSize(ParamCom.TailleTamponEmis);
-    controle.setRTSEnable(ParamCom.LigneRTS != 0);
-    controle.setDTREnable(ParamCom.LigneDTR != 0);
-    controle.setRThreshold(ParamCom.SeuilRecep);
-    controle.setSThreshold(ParamCom.SeuilEmis);
-    controle.setHandshaking(ParamCom.ControleFlux);
-    controle.setSettings(
-        QStringList{ParamCom.Vitesse, ParamCom.Parite, ParamCom.BitsDonnees, ParamCom.BitsArret}.join(u','));
-}
-
 } // namespace
 
 void OuvrePortCOM()
 {
     MSComm &controle = *frmPrinc->MSComm1;
     try {
-        RegleControle(controle);
+        for (const EtapeReglage etape : EtapesReglage())
+            etape(controle);
         if (controle.PortOpen())
             return;
         controle.setCommPort(ParamCom.NumPort);

@@ -80,7 +80,7 @@ private Q_SLOTS:
               {2, DossierJauges, "Error", u"El directorio <%1> no existe ya !"_s,
                u"El directorio <%1>  no pudo crearse !"_s}}) {
             Atelier atelier(langue);
-            Dossier(type) = atelier.Chemin("parti");
+            Dossier(type) = u"C:\\parti"_s;
             atelier.Repond(titre, disparu.arg(Dossier(type)), Boite::Exclamation, QMessageBox::Ok);
             const DosProg dialogue(type, frmPrinc);
             QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), DosAppli + u'/');

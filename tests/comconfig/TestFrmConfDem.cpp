@@ -61,6 +61,9 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(atelier.complet, atelier.Chemin("Conf/Tour.par")));
         atelier.Parcourt("Command1", u"Pieces"_s);
         atelier.Parcourt("Command2", u"Conf/Tour.par"_s);
+        atelier.Cree({u"A, B"_s}); // a name that the file cannot hold
+        atelier.Parcourt("Command5", u"A, B"_s);
+        atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
         atelier.Parcourt("Command5", u"Conf"_s);
         atelier.Coche(u"123"_s);
         const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;

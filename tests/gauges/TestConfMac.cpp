@@ -79,7 +79,7 @@ void TestConfMac::Cree()
         QCOMPARE(ParamMac.DiffPoches, -.5); // cancelled, and yet taken
         QCOMPARE(ParamMac.NbCorrecteurs, 300);
     });
-    operateur.Choisit(poste.Chemin("TOUR.mac"));
+    operateur.Choisit(poste.Chemin("TOUR")); // which the dialog completes
     operateur.Fait("CommonDialog", [](QWidget &fenetre) {
         QCOMPARE(fenetre.findChild<QLineEdit *>(u"fileNameEdit"_s)->text(), u"TOUR.mac"_s);
         dynamic_cast<QFileDialog &>(fenetre).reject();

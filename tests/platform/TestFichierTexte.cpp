@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 class TestFichierTexte : public QObject
@@ -54,6 +56,14 @@ private Q_SLOTS:
             if (ecriture >= 0)
                 QCOMPARE(NumeroErreur([&] { EcritFichierTexte(chemin, QStringLiteral("x")); }), ecriture);
         }
+        // Without room for the longer text the file keeps the one that it has.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit libre{};
+        getrlimit(RLIMIT_FSIZE, &libre);
+        const rlimit serre{16, libre.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &serre);
+        QCOMPARE(NumeroErreur([&] { EcritFichierTexte(Chemin("fichier"), QString(17, u'x')); }), Erreur::ErreurFichier);
+        setrlimit(RLIMIT_FSIZE, &libre);
         QCOMPARE(LitOctets(Chemin("fichier"), 8), QByteArray("12345678"));
     }
 };

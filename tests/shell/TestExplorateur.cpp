@@ -4,6 +4,8 @@
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
+#include "transfer/Rc_Fic.h"
+#include "transfer/Transfert.h"
 
 #include <QDir>
 #include <QInputDialog>
@@ -255,8 +257,9 @@ private Q_SLOTS:
         cadre.Command1->click(); // asks nothing
     }
 
-    // Ticked, the box makes the open dialog start in the selected folder, also when the column is closed again.
-    void DossierDuDialogue()
+    // Ticked, the box makes the open dialog and the receptions start in the selected folder, also when the column is
+    // closed again; nothing selected changes nothing.
+    void DossierApplique()
     {
         Atelier atelier;
         atelier.Selectionne("Pieces/Tour");
@@ -267,7 +270,14 @@ private Q_SLOTS:
             Operateur::Menu("Mnu_Ouvrir");
             QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
             QCOMPARE(DosDefaut, coche ? atelier.Chemin("Pieces/Tour/") : atelier.Dossier());
+            for (const int type : {ReceptionProgramme, ReceptionJauges, ReceptionBanc}) {
+                TypeTransfert = type;
+                QCOMPARE(Rc_Fic(frmPrinc).Label3->text() == atelier.Chemin("Pieces/Tour/"), coche);
+            }
         }
+        frmPrinc->Frame1->FolderTreeview1->clearSelection();
+        TypeTransfert = ReceptionProgramme;
+        QCOMPARE(Rc_Fic(frmPrinc).Label3->text(), atelier.Chemin("Pieces/Tour/"));
     }
 };
 

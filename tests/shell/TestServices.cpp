@@ -44,6 +44,14 @@ private Q_SLOTS:
         QCOMPARE(volet.SelText(), texte);
         QVERIFY(frmPrinc->Mnu_Annuler->isEnabled() && TexteAnnuler == texte);
 
+        const Operateur::Geste accepte = [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "accept"); };
+        const QString police = volet.SelFontName();
+        operateur.Fait("CommonDialog", accepte);
+        Operateur::Barre(3);
+        QCOMPARE(volet.SelFontName(), police);
+        QCOMPARE(volet.SelFontSize(), 9.75); // and not the whole points of the dialog
+        QVERIFY(volet.SelBold() && !volet.SelItalic());
+
         operateur.Fait("CommonDialog", [](QWidget &fenetre) {
             auto &dialogue = dynamic_cast<QFontDialog &>(fenetre);
             QVERIFY(dialogue.currentFont().bold() && dialogue.currentFont().pointSize() == 10); // that of the pane
@@ -52,7 +60,6 @@ private Q_SLOTS:
                 effet->click();
             dialogue.findChild<QPushButton *>(u"Couleur"_s)->click();
         });
-        const Operateur::Geste accepte = [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "accept"); };
         operateur.Fait("ChoixCouleur", [accepte](QWidget &fenetre) {
             dynamic_cast<QColorDialog &>(fenetre).setCurrentColor(Qt::darkGreen);
             accepte(fenetre);
