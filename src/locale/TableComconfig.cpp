@@ -31,6 +31,7 @@ constexpr Legende DosProg[] = {
     {"Command3", Bulle, u"Create under repertory after the directory in progress",
      u"Crear uno bajo directorio después del directorio en curso"},
     {"Command4", Bulle, u"Validate the name of the directory", u"Válido el nombre del directorio"},
+    {"FolderTreeview1", Nom, u"Directories", u"Directorios"},
 };
 
 constexpr Legende FrmConfDem[] = {

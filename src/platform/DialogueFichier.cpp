@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QListView>
 #include <QTreeView>
 
 void DansLaLangue(QFileDialog &dialogue)
@@ -9,6 +10,8 @@ void DansLaLangue(QFileDialog &dialogue)
     constexpr int colonneTaille = 1;
     constexpr int colonneType = 2;
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
+    if (auto *const lieux = dialogue.findChild<QListView *>(QStringLiteral("sidebar")))
+        lieux->setMinimumWidth(lieux->sizeHintForColumn(0) + 2 * lieux->frameWidth());
     auto *const liste = dialogue.findChild<QTreeView *>(QStringLiteral("treeView"));
     if (liste == nullptr)
         return;

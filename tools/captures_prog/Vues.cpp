@@ -11,16 +11,23 @@
 #include "gauges/JauTour.h"
 #include "gauges/ParamMac.h"
 #include "locale/FrmLangue.h"
+#include "platform/ChoixDossier.h"
 #include "shell/Apropos.h"
+#include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
+#include "shell/Impression.h"
+#include "shell/Police.h"
 #include "shell/Reglages.h"
+#include "transfer/Confirmation.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
 #include "transfer/Transfert.h"
+
+#include <QMenu>
 
 namespace {
 
@@ -52,6 +59,17 @@ QWidget *Transfert(ModeTransfert mode)
     return new Em_Rc(frmPrinc);
 }
 
+/// A transfer on its way, with all that it can show.
+QWidget *TransfertEnCours(ModeTransfert mode)
+{
+    auto *const fenetre = static_cast<Em_Rc *>(Transfert(mode));
+    for (QWidget *const passager :
+         std::initializer_list<QWidget *>{fenetre->Progression, fenetre->Label3, fenetre->Label4, fenetre->Command7})
+        passager->show();
+    fenetre->Progression->setValue(42);
+    return fenetre;
+}
+
 QWidget *Reception(ModeTransfert mode)
 {
     TypeTransfert = mode;
@@ -64,8 +82,10 @@ QWidget *Reception(ModeTransfert mode)
 QWidget *Proprietes(int onglet)
 {
     ChargeConfiguration();
+    ParamCom.Commentaire = QStringLiteral("Machine simulée, 9600 bauds");
     auto *const fenetre = new Prop(frmPrinc);
     fenetre->Nomme(NomConf);
+    fenetre->Text1->setText(ParamCom.Commentaire);
     fenetre->SSTab1->setCurrentIndex(onglet);
     return fenetre;
 }
@@ -87,6 +107,12 @@ QWidget *Cadran(int tourelle)
     return new JauTour(frmPrinc);
 }
 
+/// A menu of the menu bar, opened.
+QWidget *Menu(const char *nom)
+{
+    return frmPrinc->findChild<QMenu *>(QLatin1String(nom));
+}
+
 QWidget *Aide()
 {
     Mnu_Aide();
@@ -99,6 +125,7 @@ constexpr Vue Toutes[] = {
     {"frmPrinc", [] { return Principale(true); }},
     {"frmPrinc_seule", [] { return Principale(false); }},
     {"FrmLangue", []() -> QWidget * { return new FrmLangue(frmPrinc); }},
+    {"Em_Rc_3_cours", [] { return TransfertEnCours(ReceptionProgramme); }},
     {"Em_Rc_1", [] { return Transfert(EmissionProgramme); }},
     {"Em_Rc_2", [] { return Transfert(EmissionJauges); }},
     {"Em_Rc_3", [] { return Transfert(ReceptionProgramme); }},
@@ -119,11 +146,35 @@ constexpr Vue Toutes[] = {
     {"JauTour_avant", [] { return Cadran(1); }},
     {"Apropos", []() -> QWidget * { return new Apropos(frmPrinc); }},
     {"FrmAide", Aide},
+    {"Mnu_Fichier", [] { return Menu("Mnu_Fichier"); }},
+    {"Mnu_Edition", [] { return Menu("Mnu_Edition"); }},
+    {"Mnu_Com", [] { return Menu("Mnu_Com"); }},
+    {"Mnu_Transfert", [] { return Menu("Mnu_Transfert"); }},
+    {"Mnu_EmisFich", [] { return Menu("Mnu_EmisFich"); }},
+    {"Mnu_Recep", [] { return Menu("Mnu_Recep"); }},
+    {"Mnu_Mesure", [] { return Menu("Mnu_Mesure"); }},
+    {"Mnu_Hlp", [] { return Menu("Mnu_Hlp"); }},
+    {"Mnu_Language", [] { return Menu("Mnu_Language"); }},
+};
+
+constexpr VueModale ToutesModales[] = {
+    {"CommonDialog_ouvrir", Mnu_Ouvrir},
+    {"CommonDialog_enregistrer", Mnu_EnregistrerSous},
+    {"CommonDialog_police", Mnu_Police},
+    {"CommonDialog_imprimer", Mnu_Imprim},
+    {"CommonDialog_imprimante", Mnu_ConfigIMP},
+    {"CommonDialog_dossier", [] { ChoixDossier(frmPrinc, DossierApplication()); }},
+    {"MsgBox_question", Mnu_Nouveau},
+    {"MsgBox_transfert", [] { ConfirmeTransfert(EmissionProgramme); }},
+    {"MsgBox_aide", [] { Prop(frmPrinc).Command19->click(); }},
+    {"MsgBox_aide_longue", [] { Prop(frmPrinc).Command13->click(); }},
+    {"MsgBox_alarme", [] { ConfDefaut(Exemple("Conf/Absente.par")); }},
 };
 
 } // namespace
 
 const std::span<const Vue> Vues = Toutes;
+const std::span<const VueModale> VuesModales = ToutesModales;
 
 void ChargeExemples()
 {

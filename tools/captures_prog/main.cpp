@@ -7,13 +7,18 @@
 #include "shell/Menus.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFontMetrics>
+#include <QMenu>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -71,6 +76,13 @@ QPixmap Photographie(QWidget &fenetre)
     return image;
 }
 
+bool Ecrit(QPixmap image, const QString &dossier, const char *nom, int largeurMax)
+{
+    if (image.width() > largeurMax)
+        image = image.scaledToWidth(largeurMax, Qt::SmoothTransformation);
+    return image.save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(nom)));
+}
+
 /// Opens the window of a view, writes its picture and closes it again; the main window stays. largeurMax: pixels; a
 /// wider picture is reduced.
 bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
@@ -80,13 +92,40 @@ bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
     // A reception begins, and asks, by itself once its dialog is on the screen; here nobody answers.
     QCoreApplication::removePostedEvents(fenetre, QEvent::MetaCall);
     QCoreApplication::processEvents();
-    QPixmap image = Photographie(*fenetre);
-    if (image.width() > largeurMax)
-        image = image.scaledToWidth(largeurMax, Qt::SmoothTransformation);
-    const bool ecrit = image.save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(vue.nom)));
-    if (fenetre != frmPrinc)
+    const bool menu = qobject_cast<QMenu *>(fenetre) != nullptr;
+    const bool ecrit = Ecrit(menu ? fenetre->grab() : Photographie(*fenetre), dossier, vue.nom, largeurMax);
+    if (menu)
+        fenetre->hide();
+    else if (fenetre != frmPrinc)
         delete fenetre;
     return ecrit;
+}
+
+/// Same for a box, which is answered once its picture is taken.
+bool Prend(const VueModale &vue, const QString &dossier, int largeurMax)
+{
+    constexpr int posee = 100; // milliseconds until a file dialog has read its folder
+    bool ecrit = false;
+    QTimer::singleShot(posee, QCoreApplication::instance(), [&] {
+        auto *const boite = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (boite == nullptr)
+            return;
+        ecrit = Ecrit(Photographie(*boite), dossier, vue.nom, largeurMax);
+        boite->reject();
+    });
+    vue.demande();
+    return ecrit;
+}
+
+bool PrendToutes(const QString &dossier, int largeurMax)
+{
+    const auto prend = [&](const auto &vue) {
+        const bool pris = Prend(vue, dossier, largeurMax);
+        if (!pris)
+            QTextStream(stderr) << "no picture of " << vue.nom << '\n';
+        return pris;
+    };
+    return std::all_of(Vues.begin(), Vues.end(), prend) && std::all_of(VuesModales.begin(), VuesModales.end(), prend);
 }
 
 } // namespace
@@ -113,10 +152,5 @@ int main(int nombre, char *arguments[])
     Branche();
     Form_Load();
     ChargeExemples();
-    for (const Vue &vue : Vues)
-        if (!Prend(vue, options[2], largeurMax)) {
-            QTextStream(stderr) << "no picture of " << vue.nom << '\n';
-            return 1;
-        }
-    return 0;
+    return PrendToutes(options[2], largeurMax) ? 0 : 1;
 }
