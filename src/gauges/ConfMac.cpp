@@ -5,9 +5,8 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Erreur.h"
+#include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
-
-#include <QRegularExpressionValidator>
 
 #include <algorithm>
 
@@ -40,11 +39,6 @@ struct Longueur
 constexpr Longueur Longueurs[] = {{&Ui::ConfMac::Text4, &ConfigurationMac::DiffPoches},
                                   {&Ui::ConfMac::Text1, &ConfigurationMac::JaugeMaxiX},
                                   {&Ui::ConfMac::Text2, &ConfigurationMac::JaugeMaxiZ}};
-
-void LimiteTouches(QLineEdit *saisie, const QString &motif)
-{
-    saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
-}
 
 /// A value of the file that is longer than what the operator may type is shown whole, so that saving does not cut it.
 void Montre(QLineEdit *saisie, const QString &texte)

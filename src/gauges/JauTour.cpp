@@ -4,10 +4,10 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
 
 #include <QKeyEvent>
-#include <QRegularExpressionValidator>
 
 namespace {
 
@@ -15,11 +15,6 @@ constexpr Texte3 OutilTexte{u"Outil mesuré N° : ", u"Measured tool N° : ", u"
 constexpr Texte3 CorrecteurTexte{u"Correcteur N° : ", u"Corrector N° : ", u"Corrector N° : "};
 constexpr Texte3 TourelleArriere{u"Tourelle Arrière", u"Back Turret", u"Torreta Posterior"};
 constexpr Texte3 TourelleAvant{u"Tourelle Avant", u"Front Turret", u"Torreta Antes"};
-
-void LimiteTouches(QLineEdit *saisie, const QString &motif)
-{
-    saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
-}
 
 /// A click on a tile of panneau, or on its label, writes its value to saisie.
 void EcritAuClic(const QWidget *panneau, QLineEdit *saisie)
@@ -41,6 +36,7 @@ JauTour::JauTour(QWidget *parent)
     LimiteTouches(Text1, QStringLiteral("[0-9.]*"));
     LimiteTouches(Text2, QStringLiteral("[0-9]*"));
     BrancheTuiles();
+    Command1->installEventFilter(this);
     connect(Command1, &QPushButton::clicked, this, &JauTour::Command1_Click);
     Form_Activate();
 }
@@ -51,8 +47,7 @@ void JauTour::BrancheTuiles()
     EcritAuClic(Picture1, Text2);
     EcritAuClic(Picture11, Text2);
     // A round plate has no nose: on the front dial its locator takes the radius back as well.
-    for (const QAbstractButton *bouton :
-         {static_cast<QAbstractButton *>(Picture20), static_cast<QAbstractButton *>(Label8)})
+    for (const QAbstractButton *bouton : std::initializer_list<QAbstractButton *>{Picture20, Label8})
         connect(bouton, &QAbstractButton::clicked, Text1, [this] { Text1->setText(QStringLiteral("0")); });
     connect(Text1, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
     connect(Text2, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
@@ -91,10 +86,17 @@ void JauTour::DesigneTuiles()
     }
 }
 
-/// Escape would leave the dial with tools that have neither radius nor quadrant, which the machine would then use.
+// Escape, the second stroke of a double click and a hand that leans on Enter would leave tools with neither radius nor
+// quadrant, which the machine would then use.
+
+bool JauTour::eventFilter(QObject *objet, QEvent *evenement)
+{
+    return evenement->type() == QEvent::MouseButtonDblClick || QDialog::eventFilter(objet, evenement);
+}
+
 void JauTour::keyPressEvent(QKeyEvent *touche)
 {
-    if (touche->key() != Qt::Key_Escape)
+    if (touche->key() != Qt::Key_Escape && !touche->isAutoRepeat())
         QDialog::keyPressEvent(touche);
 }
 

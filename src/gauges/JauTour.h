@@ -19,6 +19,7 @@ public:
     explicit JauTour(QWidget *parent);
 
 protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *touche) override;
 
 private:

@@ -5,6 +5,7 @@
 #include <vector>
 
 constexpr int CapaciteLignes = 25000; ///< highest entry of Lignes
+
 /// The line table that transfers and gauge routines share: entries 0 to CapaciteLignes, the first line at 1, entry 0
 /// unused.
 extern std::vector<QString> Lignes;

@@ -126,10 +126,10 @@ void Seance::Reception1Jauge()
     ++LigneJauge;
 }
 
-/// How long the line is silent behind the last character of a burst: a few characters at its speed, and longer than an
-/// adapter holds characters back before it hands them over. Without it each character that the PC has read before the
-/// next one comes would be the end of a burst without a fixed size, and what follows the fixed size would begin the
-/// measure of the next tool.
+/// How many milliseconds the line is silent behind the last character of a burst: a few characters at its speed, and
+/// longer than an adapter holds characters back before it hands them over. Without it each character that the PC has
+/// read before the next one comes would be the end of a burst without a fixed size, and what follows the fixed size
+/// would begin the measure of the next tool.
 qint64 Silence()
 {
     constexpr double Caracteres = 4;

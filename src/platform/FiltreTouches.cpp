@@ -1,5 +1,8 @@
 #include "platform/FiltreTouches.h"
 
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+
 #include <algorithm>
 
 FiltreTouches::FiltreTouches(const QString &interdits, QObject *parent)
@@ -16,4 +19,9 @@ QValidator::State FiltreTouches::validate(QString &texte, int &curseur) const
     curseur -= static_cast<int>(std::count_if(texte.begin(), texte.begin() + curseur, interdit));
     texte.removeIf(interdit);
     return Acceptable;
+}
+
+void LimiteTouches(QLineEdit *saisie, const QString &motif)
+{
+    saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
 }

@@ -2,6 +2,8 @@
 
 #include <QValidator>
 
+class QLineEdit;
+
 /// Characters that the operator cannot put into the name of a file or folder: what a machine tool's control, or an
 /// older file system, stumbles over.
 inline constexpr char16_t InterditsNom[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
@@ -21,3 +23,6 @@ public:
 private:
     QString m_interdits;
 };
+
+/// Keeps a text box to texts that match motif, a regular expression: a key that would break it is dropped.
+void LimiteTouches(QLineEdit *saisie, const QString &motif);

@@ -146,9 +146,11 @@ void Rc_Fic::Command2_Click()
 {
     if (TransfertEnCours())
         return;
-    if (TypeTransfert == ReceptionBanc)
+    const bool banc = TypeTransfert == ReceptionBanc;
+    if (banc)
         NbJauges = 0;
-    NomFicRecep = (SansBlancs(Text1->text()) + u'.' + Combo1->currentText()).toUpper();
+    const QString extension = banc ? ParamMac.ExtJauge : Combo1->currentText();
+    NomFicRecep = (SansBlancs(Text1->text()) + u'.' + extension).toUpper();
     DossierRecep = SansBlancs(Label3->text());
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
         return;

@@ -98,32 +98,20 @@ void TestFiltreJauge::Suite()
 // A corrector number that the machine does not have is asked again until it fits; giving up means 0.
 void TestFiltreJauge::HorsPlage()
 {
-    struct Langue
-    {
-        QString titre, texte, titreInvite, invite;
-    };
-    const Langue langues[] = {
-        {u"Erreur de numéro de correcteur"_s, u"Attention numéro de correcteur %1|   interdit pour l'outil Nø: 2"_s,
-         u"Valeur du correcteur"_s, u"Nouvelle valeur du correcteur (0 -  32)"_s},
-        {u"Error of number of corrector"_s, u"Warning Number of corrector %1|   interdict for the tool Nø: 2"_s,
-         u"Value of the corrector"_s, u"New value of the corrector (0 -  32)"_s},
-        {u"Error de número de corrector"_s,
-         u"Atención número de corrector %1|   prohibición para la instrumentos Nø: 2"_s, u"Valor del corrector"_s,
-         u"Nuevo valor del corrector (0 -  32)"_s}};
-    for (const auto &[langue, recu, dit, reponses, numero] :
-         {std::tuple{0, u"33"_s, u"33"_s, u"33|99999|12"_s.split(u'|'), "12"},
-          {1, u"99999"_s, u"99999"_s, {u" 32"_s}, "32"},
-          {2, u"-9E4"_s, u"-90000"_s, {u"-40000"_s, u"-1"_s}, "-1"},
-          {0, u"300"_s, u"300"_s, {QString()}, "0"}}) {
-        const Poste poste(langue);
-        const Langue &l = langues[langue];
-        ParamMac.TypeMachine = 1;
+    const Poste poste(0);
+    ParamMac.TypeMachine = 1;
+    for (const auto &[recu, dit, reponses, numero] : {std::tuple{u"33"_s, u"33"_s, u"33|99999|12"_s.split(u'|'), "12"},
+                                                      {u"99999"_s, u"99999"_s, {u" 32"_s}, "32"},
+                                                      {u"-9E4"_s, u"-90000"_s, {u"-40000"_s, u"-1"_s}, "-1"},
+                                                      {u"300"_s, u"300"_s, {QString()}, "0"}}) {
         Operateur operateur;
-        operateur.Repond(l.titre, l.texte.arg(dit), Boite::Critique, QMessageBox::Ok);
+        operateur.Repond("Erreur de numéro de correcteur",
+                         u"Attention numéro de correcteur %1|   interdit pour l'outil Nø: 2"_s.arg(dit),
+                         Boite::Critique, QMessageBox::Ok);
         for (const QString &reponse : reponses)
             operateur.Fait("InputBox", [=](QWidget &boite) {
-                QCOMPARE(boite.windowTitle(), l.titreInvite);
-                QCOMPARE(boite.findChild<QLabel *>()->text(), l.invite);
+                QCOMPARE(boite.windowTitle(), u"Valeur du correcteur"_s);
+                QCOMPARE(boite.findChild<QLabel *>()->text(), u"Nouvelle valeur du correcteur (0 -  32)"_s);
                 auto *const saisie = boite.findChild<QLineEdit *>();
                 QCOMPARE(saisie->text(), u" 32"_s);
                 saisie->setText(reponse);

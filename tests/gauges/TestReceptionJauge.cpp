@@ -11,6 +11,7 @@
 #include "shell/Reglages.h"
 #include "transfer/Transfert.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QPushButton>
 #include <QTest>
@@ -73,7 +74,7 @@ struct Atelier
         operateur.Choisit(mac);
         operateur.Fait(Fichier, [](QWidget &fenetre) {
             QCOMPARE(fenetre.windowTitle(), u"Création d'un fichier jauges outils"_s);
-            QVERIFY(!fenetre.findChild<QWidget *>(u"Combo1"_s)->isEnabled());
+            fenetre.findChild<QComboBox *>(u"Combo1"_s)->setCurrentText(u"iso"_s); // the machine's own counts
         });
         operateur.Saisit(Fichier, "Text1", "jauges");
         Recoit(reponse);
