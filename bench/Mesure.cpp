@@ -18,7 +18,7 @@ bool Montre(const Mesure &mesure)
 {
     const bool tenue = mesure.jugee <= mesure.borne;
     const QString pair = std::isnan(mesure.pair) ? QStringLiteral("-") : QString::number(mesure.pair, 'f', 3);
-    std::printf("%-58s %10.3f %10s %-16s %8.3f %8.3f  %s\n", qPrintable(mesure.quoi), mesure.programme,
+    std::printf("%-62s %10.3f %10s %-16s %8.3f %8.3f  %s\n", qPrintable(mesure.quoi), mesure.programme,
                 qPrintable(pair), qPrintable(mesure.nomPair), mesure.jugee, mesure.borne, tenue ? "held" : "MISSED");
     std::fflush(stdout);
     return tenue;
