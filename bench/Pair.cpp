@@ -15,8 +15,8 @@ struct Commandes
 };
 
 constexpr Commandes Programmes[] = {
-    {"cat", "exec cat \"$3\" >\"$1\"", "exec cat <\"$1\" >\"$3\""},
-    {"ascii-xfr", "exec ascii-xfr -s -n \"$3\" >\"$1\"", "exec ascii-xfr -r -n -d \"$3\" <\"$1\""},
+    {"cat", R"(exec cat "$3" >"$1")", R"(exec cat <"$1" >"$3")"},
+    {"ascii-xfr", R"(exec ascii-xfr -s -n "$3" >"$1")", R"(exec ascii-xfr -r -n -d "$3" <"$1")"},
     {"python3-serial",
      "exec /usr/bin/python3 -c 'import serial, sys\n"
      "port = serial.Serial(sys.argv[1], int(sys.argv[2]), xonxoff=True)\n"
@@ -69,7 +69,7 @@ void Pair::Recoit(const QString &fichier)
 
 void Pair::Lance(const QString &commande, const QString &fichier)
 {
-    const QString prepare = QStringLiteral("stty -F \"$1\" \"$2\" raw -echo ixon ixoff && ");
+    const QString prepare = QStringLiteral(R"(stty -F "$1" "$2" raw -echo ixon ixoff && )");
     m_processus.start(QStringLiteral("sh"), {QStringLiteral("-c"), prepare + commande, QStringLiteral("pair"),
                                              m_machine.Chemin(), QString::number(m_vitesse), fichier});
     m_processus.waitForStarted(-1);
