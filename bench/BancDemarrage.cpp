@@ -78,10 +78,16 @@ int main(int nombre, char *arguments[])
     FixeDossierApplication(dossier.path());
     SauveIni();
     // The two are started in turn, so that whatever else the machine does weighs on both.
-    constexpr int fois = 31;
+    constexpr int fois = 61;
+    QList<double> vides;
     const double rapport = Mediane(fois, [&] {
         const double programme = Demarre(QStringLiteral("programme"), dossier.path());
-        return programme / Demarre(QStringLiteral("vide"), dossier.path());
+        vides << Demarre(QStringLiteral("vide"), dossier.path());
+        return programme / vides.last();
     });
-    return Montre({QStringLiteral("time from start to the main window / an empty Qt window"), rapport, 1.5}) ? 0 : 1;
+    const double vide = Mediane(vides);
+    return Montre({QStringLiteral("from start to the main window, s / an empty window"), rapport * vide, vide,
+                   QStringLiteral("bare Qt widget"), rapport, 1.5})
+               ? 0
+               : 1;
 }

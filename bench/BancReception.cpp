@@ -1,12 +1,11 @@
 // Receives programs from the simulated machine in the three ways and measures: a large file against a bare text pane
 // that is given the same text, its memory, what waiting for a silent machine costs, and the characters lost by
-// character.
+// character. Each memory and each waiting is a process of its own.
 
 #include "Mesure.h"
+#include "Pair.h"
 
 #include "comconfig/ParamCom.h"
-#include "machine/MachineSimulee.h"
-#include "platform/CedeLaMain.h"
 #include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
 #include "platform/PageCode1252.h"
@@ -18,13 +17,11 @@
 #include "transfer/Transfert.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <cstdio>
+#include <thread>
 
 namespace {
 
@@ -34,7 +31,7 @@ constexpr int Lignes8Mo = 330000; // of ProgrammeCN()
 struct Poste
 {
     explicit Poste(int vitesse)
-        : machine(Reglage(vitesse))
+        : machine(ReglageBanc(vitesse))
     {
         fenetre.MSComm1->setDossierPorts(dossier.path());
         Branche();
@@ -46,13 +43,6 @@ struct Poste
         NomFicRecep = QStringLiteral("RECU.ISO");
         TypeTransfert = 0; // the dialog shows the transfer and starts nothing by itself
         fenetre.show();
-    }
-
-    static ReglageMachine Reglage(int vitesse)
-    {
-        ReglageMachine reglage;
-        reglage.Ligne = {vitesse, 20};
-        return reglage;
     }
 
     /// Runs a reception in a dialog on the screen; the machine sends once the port is open.
@@ -85,90 +75,162 @@ double DureeFichier(int lignes)
     return SecondesDe([&] { poste.Recoit(ReceptionFichier, RecepFichier, envoi); });
 }
 
+// ---- Roles of a process of its own
+
 /// Peak of this process's memory, bytes.
-qint64 Pointe()
+double Pointe()
 {
     QFile etat(QStringLiteral("/proc/self/status"));
     if (!etat.open(QIODevice::ReadOnly))
         return 0;
     for (const QByteArray &ligne : etat.readAll().split('\n')) {
         if (ligne.startsWith("VmHWM:"))
-            return ligne.simplified().split(' ').value(1).toLongLong() * 1024;
+            return ligne.simplified().split(' ').value(1).toDouble() * 1024;
     }
     return 0;
 }
 
-qint64 PointeDe(const QString &role)
-{
-    QProcess enfant;
-    enfant.start(QCoreApplication::applicationFilePath(), {role});
-    enfant.waitForFinished(-1);
-    return enfant.readAllStandardOutput().toLongLong();
-}
+constexpr auto AvantAttente = std::chrono::seconds(1);
+constexpr auto DureeAttente = std::chrono::seconds(3);
 
-double ProcesseurEnAttente(void (*reception)(Ui::Em_Rc &), int typeRecep)
+/// A way of receiving, and who else waits like that.
+struct Facon
 {
-    using namespace std::chrono_literals;
+    const char *nom;
+    int typeRecep;
+    void (*reception)(Ui::Em_Rc &);
+    Pair::Programme pair;
+};
+constexpr Facon Facons[] = {{"by line", RecepLignes, ReceptionLigne, Pair::AsciiXfr},
+                            {"by character", RecepCaracteres, ReceptionCar, Pair::PythonSerie},
+                            {"by file", RecepFichier, ReceptionFichier, Pair::Cat}};
+
+double ProcesseurEnAttente(const Facon &facon)
+{
     Poste poste(9600);
     double debut = 0;
     double fin = 0;
-    QTimer::singleShot(1s, [&] { debut = TempsProcesseur(); });
-    QTimer::singleShot(4s, [&] {
+    QTimer::singleShot(AvantAttente, &poste.fenetre, [&] { debut = TempsProcesseur(); });
+    QTimer::singleShot(AvantAttente + DureeAttente, &poste.fenetre, [&] {
         fin = TempsProcesseur();
         ForceRECEPT = 1;
     });
     Envoi silence;
     silence.SansFin = true;
-    poste.Recoit(reception, typeRecep, silence);
-    return (fin - debut) / 3;
+    poste.Recoit(facon.reception, facon.typeRecep, silence);
+    return (fin - debut) / std::chrono::duration<double>(DureeAttente).count();
 }
 
-double CaracteresPerdus()
+void JoueRole(const QString &role, int numero)
 {
-    Poste poste(115200);
-    const QString programme = ProgrammeCN(200);
+    if (role == QLatin1String("attente")) {
+        Rend({ProcesseurEnAttente(Facons[numero])});
+        return;
+    }
+    role == QLatin1String("volet") ? DureeVoletNu(ProgrammeCN(Lignes8Mo)) : DureeFichier(Lignes8Mo);
+    Rend({Pointe()});
+}
+
+// ---- The figures
+
+/// Each ratio is taken from runs side by side, so that a PC that stalls spoils one of them and not the figure.
+bool MesureGrandFichier()
+{
+    constexpr int fois = 5;
+    const QString huit = ProgrammeCN(Lignes8Mo);
+    const QString seize = ProgrammeCN(2 * Lignes8Mo);
+    QList<double> volets;
+    QList<double> rapports;
+    QList<double> croissances;
+    QList<double> croissancesVolet;
+    for (int i = 0; i < fois; ++i) {
+        const double reception = DureeFichier(Lignes8Mo);
+        volets << DureeVoletNu(huit);
+        rapports << reception / volets.last();
+        croissances << DureeFichier(2 * Lignes8Mo) / reception;
+        croissancesVolet << DureeVoletNu(seize) / volets.last();
+    }
+    const QString volet = QStringLiteral("bare text pane");
+    const double rapport = Mediane(rapports);
+    const double croissance = Mediane(croissances);
+    const bool temps = Montre({QStringLiteral("reception by file of 8 MB, s / pane given the text"),
+                               rapport * Mediane(volets), Mediane(volets), volet, rapport, 2.0});
+    const bool suite = Montre({QStringLiteral("reception of 16 MB / of 8 MB"), croissance, Mediane(croissancesVolet),
+                               volet, croissance, 2.2});
+    return temps && suite;
+}
+
+bool MesureMemoire()
+{
+    constexpr double Mo = 1024.0 * 1024;
+    const double programme = Enfant({QStringLiteral("programme"), QString()}).Chiffres(1).at(0);
+    const double volet = Enfant({QStringLiteral("volet"), QString()}).Chiffres(1).at(0);
+    return Montre({QStringLiteral("memory at the peak of it, MB / pane with the text"), programme / Mo, volet / Mo,
+                   QStringLiteral("bare text pane"), programme / volet, 2.2});
+}
+
+double ProcesseurPair(Pair &pair)
+{
+    const double debut = pair.Processeur();
+    std::this_thread::sleep_for(DureeAttente);
+    return (pair.Processeur() - debut) / std::chrono::duration<double>(DureeAttente).count();
+}
+
+bool MesureAttente(const QTemporaryDir &dossier)
+{
+    bool tenu = true;
+    for (int i = 0; i < 3; ++i) {
+        const Facon &facon = Facons[i];
+        Enfant programme({QStringLiteral("attente"), QString::number(i)});
+        Pair pair(facon.pair, 9600);
+        pair.Recoit(dossier.filePath(QStringLiteral("attente")));
+        std::this_thread::sleep_for(AvantAttente);
+        const double processeurPair = ProcesseurPair(pair);
+        const double processeur = programme.Chiffres(1).at(0);
+        tenu &= Montre({QStringLiteral("processor, reception %1 waits (part of a core)").arg(QLatin1String(facon.nom)),
+                        processeur, processeurPair, QLatin1String(Pair::NomDe(facon.pair)), processeur, 0.02});
+    }
+    return tenu;
+}
+
+/// The peer receives the same at the same time.
+bool MesurePertes(const QTemporaryDir &dossier)
+{
+    const QString recuPair = dossier.filePath(QStringLiteral("recu"));
     Envoi envoi;
-    envoi.Texte = OctetsEn1252(programme);
+    envoi.Texte = OctetsEn1252(ProgrammeCN(200));
     envoi.PauseLigneMs = 20;
+    Pair pair(Pair::PythonSerie, 115200);
+    pair.Recoit(recuPair);
+    Poste poste(115200);
+    std::this_thread::sleep_for(AvantAttente); // it throws away what came before it was ready
+    pair.Machine().Emet(envoi);
     ParamCom.NbCarLecture = 1;
     poste.Recoit(ReceptionCar, RecepCaracteres, envoi);
-    const QByteArray recu = LitOctets(CheminRecep());
-    return static_cast<double>(envoi.Texte.size() + 2 - recu.size());
+    pair.Attend();
+    // The file ends with one more line end than what was sent, the peer's with the end-of-transfer character.
+    const auto manquent = [&](const QString &recu, qsizetype enPlus) {
+        return static_cast<double>(envoi.Texte.size() + enPlus - LitOctets(recu).size());
+    };
+    const double perdus = manquent(CheminRecep(), 2);
+    return Montre({QStringLiteral("115200 baud, by character, 20 ms behind each line: lost"), perdus,
+                   manquent(recuPair, 1), QLatin1String(Pair::NomDe(Pair::PythonSerie)), perdus, 0});
 }
 
 } // namespace
 
 int main(int nombre, char *arguments[])
 {
-    QApplication application(nombre, arguments);
-    if (nombre == 2) {
-        const bool nu = qstrcmp(arguments[1], "nu") == 0;
-        nu ? DureeVoletNu(ProgrammeCN(Lignes8Mo)) : DureeFichier(Lignes8Mo);
-        std::printf("%lld\n", Pointe());
+    const QApplication application(nombre, arguments);
+    if (nombre > 1) {
+        const QStringList role = QCoreApplication::arguments();
+        JoueRole(role.at(1), role.at(2).toInt());
         return 0;
     }
-    // Each ratio is taken from runs side by side, so that a PC that stalls spoils one of them and not the figure.
-    const QString programme = ProgrammeCN(Lignes8Mo);
-    constexpr int fois = 5;
-    QList<double> croissances;
-    const double volet = Mediane(fois, [&] {
-        const double huit = DureeFichier(Lignes8Mo);
-        croissances << DureeFichier(2 * Lignes8Mo) / huit;
-        return huit / DureeVoletNu(programme);
-    });
-    const double croissance = Mediane(fois, [&] { return croissances.takeFirst(); });
-    const auto memoire = static_cast<double>(PointeDe(QStringLiteral("programme")));
-    bool tenu = Montre({QStringLiteral("reception by file of 8 MB / bare text pane"), volet, 2.0});
-    tenu &= Montre({QStringLiteral("reception of 16 MB / of 8 MB"), croissance, 2.2});
-    tenu &= Montre({QStringLiteral("memory at the peak / of a bare text pane with the text"),
-                    memoire / static_cast<double>(PointeDe(QStringLiteral("nu"))), 2.2});
-    tenu &= Montre({QStringLiteral("processor, reception by line waits (part of a core)"),
-                    ProcesseurEnAttente(ReceptionLigne, RecepLignes), 0.02});
-    tenu &= Montre({QStringLiteral("processor, reception by character waits (part of a core)"),
-                    ProcesseurEnAttente(ReceptionCar, RecepCaracteres), 0.02});
-    tenu &= Montre({QStringLiteral("processor, reception by file waits (part of a core)"),
-                    ProcesseurEnAttente(ReceptionFichier, RecepFichier), 0.02});
-    tenu &= Montre(
-        {QStringLiteral("115200 baud, by character, 20 ms behind each line: characters lost"), CaracteresPerdus(), 0});
+    const QTemporaryDir dossier;
+    bool tenu = MesureGrandFichier();
+    tenu &= MesureMemoire();
+    tenu &= MesureAttente(dossier);
+    tenu &= MesurePertes(dossier);
     return tenu ? 0 : 1;
 }

@@ -8,17 +8,18 @@
 #include <QPlainTextEdit>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <ctime>
 #include <malloc.h>
 #include <unistd.h>
-#include <vector>
 
 bool Montre(const Mesure &mesure)
 {
-    const bool tenue = mesure.valeur <= mesure.borne;
-    std::printf("%-78s %10.3f %10.3f  %s\n", qPrintable(mesure.quoi), mesure.valeur, mesure.borne,
-                tenue ? "held" : "MISSED");
+    const bool tenue = mesure.jugee <= mesure.borne;
+    const QString pair = std::isnan(mesure.pair) ? QStringLiteral("-") : QString::number(mesure.pair, 'f', 3);
+    std::printf("%-62s %10.3f %10s %-16s %8.3f %8.3f  %s\n", qPrintable(mesure.quoi), mesure.programme,
+                qPrintable(pair), qPrintable(mesure.nomPair), mesure.jugee, mesure.borne, tenue ? "held" : "MISSED");
     std::fflush(stdout);
     return tenue;
 }
@@ -39,12 +40,17 @@ qint64 MemoireResidente()
     return pages.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
+double Mediane(QList<double> valeurs)
+{
+    std::sort(valeurs.begin(), valeurs.end());
+    return valeurs.at(valeurs.size() / 2);
+}
+
 double Mediane(int fois, const std::function<double()> &mesure)
 {
-    std::vector<double> valeurs(static_cast<std::size_t>(fois));
+    QList<double> valeurs(fois);
     std::generate(valeurs.begin(), valeurs.end(), mesure);
-    std::sort(valeurs.begin(), valeurs.end());
-    return valeurs[valeurs.size() / 2];
+    return Mediane(valeurs);
 }
 
 double SecondesDe(const std::function<void()> &action)
@@ -90,4 +96,25 @@ QString ProgrammeCN(int lignes)
     for (int i = 1; i <= lignes; ++i)
         texte += QStringLiteral("N%1 G1 X%2 Z-%3\r\n").arg(i * 10).arg(i % 997 * 0.125, 0, 'f', 3).arg(i % 211);
     return texte;
+}
+
+Enfant::Enfant(const QStringList &arguments)
+{
+    m_processus.start(QCoreApplication::applicationFilePath(), arguments);
+}
+
+QList<double> Enfant::Chiffres(qsizetype nombre)
+{
+    m_processus.waitForFinished(-1);
+    QList<double> chiffres;
+    for (const QByteArray &chiffre : m_processus.readAllStandardOutput().simplified().split(' '))
+        chiffres << chiffre.toDouble();
+    return m_processus.exitCode() == 0 && chiffres.size() == nombre ? chiffres : QList<double>(nombre, qInf());
+}
+
+void Rend(const QList<double> &chiffres)
+{
+    for (const double chiffre : chiffres)
+        std::printf("%.9g ", chiffre);
+    std::fflush(stdout);
 }

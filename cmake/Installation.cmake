@@ -37,7 +37,7 @@ install(FILES ${PAQUET}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${CMA
 # Documents
 set(DOCS ${CMAKE_INSTALL_DATADIR}/doc/dorvanel)
 install(FILES README.md CHANGELOG.md ${PAQUET}/copyright DESTINATION ${DOCS})
-install(FILES docs/fenetre.png DESTINATION ${DOCS}/docs)
+install(FILES docs/fenetre.png docs/branchement.md DESTINATION ${DOCS}/docs)
 install(FILES docs/70-dorvanel.rules DESTINATION ${DOCS}/examples)
 foreach(DOCUMENT changelog dorvanel.1)
     list(APPEND COMPRIMES ${FABRIQUE}/${DOCUMENT}.gz)

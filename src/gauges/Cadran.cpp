@@ -43,7 +43,7 @@ void Tuile::Designe(bool designee)
 
 QSize Tuile::sizeHint() const
 {
-    return QSize(Cote, Cote);
+    return QSizeF(Cote, Cote).toSize();
 }
 
 void Tuile::paintEvent(QPaintEvent *)

@@ -17,7 +17,7 @@ QString Texte(const Texte3 &texte)
 
 void AppliqueLangueSysteme()
 {
-    static QTranslator *const traducteur = new QTranslator(QCoreApplication::instance());
+    static auto *const traducteur = new QTranslator(QCoreApplication::instance());
     const QString fichier = Texte({u"qtbase_fr", u"qtbase_en", u"qtbase_es"});
     static QString pris;
     if (fichier.isNull() || fichier == pris)

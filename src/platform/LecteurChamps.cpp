@@ -34,7 +34,7 @@ LecteurChamps::LecteurChamps(const QString &texte)
 
 QString LecteurChamps::Chaine()
 {
-    const QString valeur = Valeur();
+    QString valeur = Valeur();
     ValeurNue(); // what stands between the value and its separator
     if (m_place < m_texte.size() && m_texte[m_place] == u',')
         ++m_place;
@@ -53,7 +53,7 @@ QString LecteurChamps::LigneChaine()
     SauteBlancs();
     if (m_place < m_texte.size() && m_texte[m_place] != u'"')
         FormeRefusee(ResteDeLigne());
-    const QString valeur = Valeur();
+    QString valeur = Valeur();
     if (!ResteDeLigne().trimmed().isEmpty())
         FormeRefusee(valeur);
     return valeur;
@@ -96,7 +96,7 @@ QString LecteurChamps::ValeurCitee()
     const qsizetype fin = m_texte.indexOf(u'"', m_place + 1);
     if (fin < 0)
         FichierFini();
-    const QString valeur = m_texte.mid(m_place + 1, fin - m_place - 1);
+    QString valeur = m_texte.mid(m_place + 1, fin - m_place - 1);
     m_place = fin + 1;
     return valeur;
 }
@@ -114,7 +114,7 @@ QString LecteurChamps::ResteDeLigne()
     const qsizetype debut = m_place;
     while (m_place < m_texte.size() && !EnFinDeLigne())
         ++m_place;
-    const QString reste = m_texte.mid(debut, m_place - debut);
+    QString reste = m_texte.mid(debut, m_place - debut);
     FinitLigne();
     return reste;
 }

@@ -126,7 +126,7 @@ LectureLigne LignePosix::Lit(int tailleMax)
 {
     QByteArray lus(tailleMax, Qt::Uninitialized);
     const ssize_t nombre = Reprise([&] { return read(m_fd, lus.data(), static_cast<size_t>(tailleMax)); });
-    if (nombre < 0 && (errno == EAGAIN || errno == EWOULDBLOCK))
+    if (nombre < 0 && errno == EAGAIN)
         return {};
     if (nombre <= 0)
         LigneDisparue(nombre < 0 ? errno : EIO);
@@ -151,7 +151,7 @@ int LignePosix::Ecrit(const char *octets, int nombre)
     const ssize_t pris = Reprise([&] { return write(m_fd, octets, static_cast<size_t>(nombre)); });
     if (pris >= 0)
         return static_cast<int>(pris);
-    if (errno == EAGAIN || errno == EWOULDBLOCK)
+    if (errno == EAGAIN)
         return 0;
     LigneDisparue(errno);
 }

@@ -23,9 +23,14 @@
 /// Threads and waiting. Everything happens on the program's one thread. Bytes move while the event loop runs, or inside
 /// a yield, or when Output is called. No operation waits for the machine; two give it a bounded time, see Sending.
 ///
+/// Buffers. On its way from the machine a character passes the adapter, the system's queue of about 4,000 characters
+/// and the control's receive buffer of InBufferSize. On its way to the machine it passes the control's queue, which
+/// takes whatever Output is given, then the system's and the adapter's. Only the control's own two can be emptied with
+/// certainty, so it lets as little as it can stand in the others.
+///
 /// Receiving. The control takes from the system no more than InBufferSize has room for. The rest stays with the system,
-/// whose buffer of a few thousand characters fills, whereupon the system's flow control (XOFF, RTS) holds the machine
-/// back. So a program that is slow to read loses nothing, unless there is no flow control, and then event 1008 says so.
+/// whose queue fills, whereupon the system's flow control (XOFF, RTS) holds the machine back. So a program that is slow
+/// to read loses nothing, unless there is no flow control, and then event 1008 says so where the driver counts it.
 ///
 /// Sending. Output only queues. From the queue the system gets at most what the line carries in the next moment
 /// (CadenceEmission), since what it holds cannot be called back: USB adapters and pseudo-terminals buffer hundreds of
@@ -36,10 +41,17 @@
 /// is thrown away, since then the sending was cancelled. Both keep the event loop turning meanwhile, with the
 /// operator's keys and clicks and this control's event held back until they return.
 ///
+/// Pacing. The lead is 16 characters or 12 ms of line time, whichever is more: what the FIFO of a common chip would
+/// take anyway, and enough for a PC that is busy elsewhere. The clock is computed from Settings and not asked of the
+/// device, since an adapter says "sent" when the characters have crossed the USB and not the line. What the system says
+/// it still holds counts on top, so that a line slower than its Settings, or one that the machine holds, is not fed.
+///
 /// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy; with them on, the
 /// characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
 /// then waits until the handshake is off again. A line counts as held when the system refuses characters, when CTS is
-/// low under that handshake, or when the system's own backlog stands still for clearly longer than its line time.
+/// low under that handshake, or when the system's own backlog stands still for clearly longer than its line time. CTS
+/// is looked at before each handover as well as every 50 ms, so that it holds the sending also behind a driver that
+/// takes the setting and does nothing about it.
 ///
 /// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent: 1 sending (the queue has
 /// fallen below SThreshold), 2 reception (RThreshold characters wait, and new ones have come), 3 CTS, 4 DSR, 5 CD, 6
@@ -47,9 +59,50 @@
 /// that it is handling is not delivered again before it returns, see EvenementsPort. Line changes are seen within 50
 /// ms, also those that came and went in between where the driver counts them.
 ///
+/// Errors of characters. The system marks a character that came with an error inside what is read (DecodeurMarques) and
+/// counts it apart, by kind (TIOCGICOUNT). The mark says where, the counter what; a driver may give both, one, or none,
+/// see Adapters. Without counters a marked NUL is taken for a break, any other mark for a parity error when there is
+/// parity and for a framing error when there is none. A character with an error stays in the text, as it came or as
+/// ParityReplace; a break adds none.
+///
 /// Failures. They are raised as Erreur with a number of ErreurPort. A device that goes away while the port is open
 /// raises ErreurPort::Lecture at the next operation on the buffers, once the characters that had come are read; the
 /// port stays open until it is closed.
+///
+/// Unplugging. The system ends every reading of a device that is gone with an end of file or an error, and says without
+/// end that it is readable. The control stops listening at the first of these and keeps the error for whoever asks next
+/// (ExigeVivant); closing waits for nothing. The device's name may belong to another adapter a moment later, so nothing
+/// is opened again behind the operator's back: the next transfer opens the port anew, by the link that stands for it.
+///
+/// Adapters. What the common ones do on Linux, and what comes of it here:
+///
+///   The PC's own port (8250 family) has 16 characters of FIFO each way and counts every kind of error. The driver deals
+///   with XOFF and CTS between two fillings of the FIFO, so up to 16 characters still leave; the machine must have room
+///   for them, and every machine that says XOFF does.
+///
+///   FTDI (ftdi_sio) has 128 characters towards the line and 256 from it. It deals with XOFF and CTS in the chip, within
+///   a character or two; when both are asked for, the chip does RTS/CTS alone. Received characters cross the USB when 62
+///   have gathered or when the latency timer runs out, 16 ms as delivered: they come in bursts, and a wait for one
+///   character is up to 16 ms too long. Nothing here hangs on the gap between two characters, so that costs time in an
+///   exchange of single characters and nothing else. Where it does cost, the timer is the file latency_timer of the
+///   device under /sys/bus/usb-serial/devices, or 1 ms with "setserial DEVICE low_latency"; the control leaves both as
+///   the owner of the PC has set them.
+///
+///   PL2303 (pl2303) has 256 characters each way. Newer chips and kernels deal with XON/XOFF in the chip, as long as
+///   RTS/CTS is not asked for too. It has no counters, and its error status belongs to a whole USB packet: a parity
+///   error marks all the characters that crossed with the bad one. ParityReplace then replaces more than one, and a
+///   text with such an event has to be received again.
+///
+///   CH340 (ch341) sends packets of 32 characters, tells neither parity nor framing errors by mark or counter, and deals
+///   with RTS/CTS in the chip with recent kernels only. A machine that is checked by parity wants another adapter.
+///
+///   XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, older kernels for the others): Linux takes
+///   the XOFF out of what is read and then goes on sending, because these drivers have no way to be stopped. The
+///   control cannot see that XOFF. Its pacing keeps the backlog short, but the machine is not obeyed; such an adapter
+///   is for RTS/CTS. docs/branchement.md has the trial that tells, before a program is sent.
+///
+///   Overrun between chip and driver (1006) is what a hub, a long cable or a sleeping PC costs; there is no cure in
+///   software but a lower speed.
 ///
 /// Pseudo-terminals. They have no speed, framing or modem lines: settings without a meaning are no failure, the lines
 /// read False, and the sending is paced all the same.

@@ -273,7 +273,7 @@ void RichTextBox::keyPressEvent(QKeyEvent *evenement)
         return;
     }
     QKeyEvent propre(evenement->type(), evenement->key(), evenement->modifiers(), Normalise(evenement->text()),
-                     evenement->isAutoRepeat(), evenement->count());
+                     evenement->isAutoRepeat(), static_cast<quint16>(evenement->count()));
     QPlainTextEdit::keyPressEvent(&propre);
     evenement->setAccepted(propre.isAccepted());
 }

@@ -16,7 +16,11 @@
 #include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
+#include <QElapsedTimer>
+
 namespace {
+
+constexpr qint64 PasEcho = 40; // milliseconds between two echoes of characters that come without a pause
 
 constexpr Texte3 TropDeLignes{u"La réception dépasse 25000 lignes.", u"The reception exceeds 25000 lines.",
                               u"La recepción sobrepasa 25000 líneas."};
@@ -55,6 +59,9 @@ public:
     void Range(const QString &fin = QString());
     void MontreFinLigne(const TexteLigne &texte);
     void MontreEcho(const QString &ligne, const QString &lu);
+    /// True for a character that others follow already: the eye could not read its echo, and drawing it takes as
+    /// long as a fast line takes for the next one.
+    bool EchoSuperflu();
     /// Goes on to the next line. Raises IndiceHorsPlage past the last one of the table.
     void Suivante();
 
@@ -69,6 +76,7 @@ public:
 private:
     Ui::Em_Rc &m_dialogue;
     int m_compteur = 1;
+    QElapsedTimer m_depuisEcho;
 };
 
 void Remplissage::Commence(const Texte3 &genre)
@@ -107,6 +115,15 @@ void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
         return;
     m_dialogue.Label3->setText(ControlesVisibles(ligne));
     m_dialogue.Label4->setText(ControlesVisibles(lu.right(ParamCom.ChaineFinLig.size())));
+}
+
+bool Remplissage::EchoSuperflu()
+{
+    if (m_depuisEcho.isValid() && m_depuisEcho.elapsed() < PasEcho && Controle().PortOpen() &&
+        Controle().InBufferCount() > 0)
+        return true;
+    m_depuisEcho.start();
+    return false;
 }
 
 void Remplissage::Termine()
@@ -187,6 +204,7 @@ void EmplitParCaractere(Remplissage &table)
 {
     const LectureParCaractere lecture;
     const QString fin = FinLigneCherchee();
+    QString dernier;
     while (true) {
         QString car = AttendCaractere();
         if (AnnuleRECEPT == 1)
@@ -201,11 +219,14 @@ void EmplitParCaractere(Remplissage &table)
             table.Suivante();
             Controle().ViderReception();
         }
-        if (car == ParamCom.ChaineFinTrans)
-            return table.Termine();
-        table.Ligne += car;
-        table.MontreEcho(table.Ligne, car);
-        if (ForceRECEPT == 1)
+        const bool fini = car == ParamCom.ChaineFinTrans;
+        if (!fini) {
+            table.Ligne += car;
+            dernier = car;
+        }
+        if (fini || ForceRECEPT == 1 || !table.EchoSuperflu())
+            table.MontreEcho(table.Ligne, dernier);
+        if (fini || ForceRECEPT == 1)
             return table.Termine();
     }
 }

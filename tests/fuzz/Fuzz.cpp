@@ -31,6 +31,7 @@ QByteArray Relit(const QString &chemin)
     return fichier.readAll();
 }
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the fuzzer's own form
 extern "C" int LLVMFuzzerInitialize(int *nombre, char ***arguments)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");

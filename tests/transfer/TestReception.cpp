@@ -357,6 +357,28 @@ private Q_SLOTS:
         QCOMPARE(banc.Sauve(), QByteArray("N\r\n").repeated(CapaciteLignes));
     }
 
+    // A file that is too large for the pane stands whole on the disk; the pane gives way to the word processor, which
+    // is offered at the end and once more when the dialog closes.
+    void TropGrand()
+    {
+        Banc banc(ParLigne);
+        const QByteArray programme = (QByteArray(900, 'X') + "\r\n").repeated(73);
+        banc.EnvoieLignes(programme + '\x04');
+        const auto offre = [&banc] {
+            banc.operateur.Repond("Message",
+                                  "Le fichier PIECE.ISO est trop volumineux pour être ouvert par Brovane.\r"
+                                  "           Voulez-vous utiliser WordPad pour lire ce fichier ?",
+                                  Boite::Information | Boite::OuiNon, QMessageBox::No);
+        };
+        offre();
+        banc.operateur.Presse(Dialogue, "Command1", [] { return FinTransfert == 1 && !PortOuvert; });
+        offre();
+        Operateur::Menu("Mnu_RecepProg");
+        QCOMPARE(banc.poste.Lit("PIECE.ISO"), programme + "\r\n");
+        QVERIFY(frmPrinc->Text1->isHidden() && frmPrinc->Text1->Text().isEmpty());
+        QCOMPARE(NomFichier, banc.poste.Chemin("PIECE.ISO"));
+    }
+
     // Cancelled in the very moment in which the end has come: nothing is stored, and the file dialog waits for another
     // try.
     void AnnuleALaFin()

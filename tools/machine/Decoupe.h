@@ -21,6 +21,6 @@ private:
     QByteArray m_debut;
     QByteArray m_fin;
     QByteArray m_brut;
-    qsizetype m_debutTexte; // -1 while the beginning chain is awaited
+    qsizetype m_debutTexte = -1; // -1 while the beginning chain is awaited
     bool m_fini = false;
 };
