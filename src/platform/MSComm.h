@@ -38,8 +38,9 @@
 ///
 /// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy; with them on, the
 /// characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
-/// then waits until the handshake is off again. A line counts as held when the system refuses characters, when CTS is
-/// low under that handshake, or when the system's own backlog stands still for clearly longer than its line time.
+/// then waits until the handshake is off again. A line counts as held when the system goes on refusing characters, when
+/// CTS is low under that handshake, or when the system's own backlog stands still for clearly longer than its line
+/// time.
 ///
 /// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent: 1 sending (the queue has
 /// fallen below SThreshold), 2 reception (RThreshold characters wait, and new ones have come), 3 CTS, 4 DSR, 5 CD, 6
