@@ -22,6 +22,7 @@ public:
     int parAppel = 1'000'000; ///< most characters that one call takes
     int nonEmis = 0;          ///< what the system says that it holds
     bool immobile = false;    ///< a line that stands still: nonEmis grows by what is handed over
+    bool obeitXoff = true;    ///< the driver deals with XON/XOFF
     int refusReglage = 0;     ///< number with which settings are refused, 0 takes them
     bool sansVidage = false;  ///< what has come cannot be thrown away
 
@@ -90,6 +91,7 @@ public:
     }
     void PoseRTS(bool actif) override { m_scenario->rts = actif; }
     void PoseDTR(bool actif) override { m_scenario->dtr = actif; }
+    bool ObeitXoff(ControleFlux /*flux*/) const override { return m_scenario->obeitXoff; }
     int Descripteur() const override { return m_scenario->m_reveil; }
     LectureLigne Lit(int tailleMax) override
     {

@@ -68,7 +68,7 @@ void EmissionPort::Jette()
     m_ligne->JetteEmission();
 }
 
-void EmissionPort::RetientCts(bool retient)
+void EmissionPort::Retient(bool retient)
 {
     if (retient)
         m_cadence.Suspend(Horloge::now());
@@ -99,7 +99,7 @@ void EmissionPort::Pompe()
     if (m_file.isEmpty())
         return;
     if (m_cadence.Suspendue())
-        Q_EMIT AttendCts();
+        Q_EMIT AttendMachine();
     try {
         Programme(Remet());
     } catch (const Erreur &erreur) {

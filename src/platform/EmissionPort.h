@@ -34,19 +34,19 @@ public:
     /// Throws away the queue and what the system still holds.
     void Jette();
 
-    /// CTS under the handshake: while it holds, nothing is handed over. A low CTS would only let the characters gather
-    /// in the adapter, out of reach.
-    void RetientCts(bool retient);
-    /// Whether the machine holds the line: the system goes on refusing characters, CTS is low, or what the system holds
-    /// has stood still for clearly longer than its line time.
+    /// The machine holds the line, by CTS under the handshake or by an XOFF that the control obeys itself: nothing is
+    /// handed over. Behind a low CTS the characters would only gather in the adapter, out of reach.
+    void Retient(bool retient);
+    /// Whether the machine holds the line: the system goes on refusing characters, Retient says so, or what the system
+    /// holds has stood still for clearly longer than its line time.
     bool Retenue();
     const CadenceEmission &Cadence() const { return m_cadence; }
 
 Q_SIGNALS:
     /// The queue has fallen below the threshold since characters were last added.
     void SousSeuil();
-    /// CTS holds the line and characters wait: it is time to look at it again.
-    void AttendCts();
+    /// Retient holds the line and characters wait: it is time to look at CTS again.
+    void AttendMachine();
     /// The device has gone.
     void Panne(const Erreur &erreur);
 

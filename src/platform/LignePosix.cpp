@@ -6,6 +6,7 @@
 #include "platform/TerminalPosix.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <linux/serial.h>
@@ -54,15 +55,29 @@ int NumeroOuverture(int erreur)
     throw Erreur(ErreurPort::Lecture, TexteSysteme(erreur));
 }
 
-bool EstPseudoTerminal(int fd)
+dev_t Numero(int fd)
 {
     struct stat infos
     {
     };
-    if (fstat(fd, &infos) != 0)
-        return false;
-    const unsigned majeur = major(infos.st_rdev);
-    return majeur >= PseudoPremier && majeur <= PseudoDernier;
+    return fstat(fd, &infos) == 0 ? infos.st_rdev : 0;
+}
+
+bool EstPseudoTerminal(dev_t numero)
+{
+    return major(numero) >= PseudoPremier && major(numero) <= PseudoDernier;
+}
+
+/// The system has no means to stop a USB driver at XOFF. These set the chip to do it; the others take the setting, take
+/// the XOFF out of what is read and go on sending.
+PiloteUsb PiloteDe(dev_t numero)
+{
+    const QString appareil = QStringLiteral("/sys/dev/char/%1:%2/device").arg(major(numero)).arg(minor(numero));
+    if (!QFileInfo(appareil).canonicalFilePath().contains(QLatin1String("/usb")))
+        return PiloteUsb::Aucun;
+    const QString pilote = QFileInfo(QFileInfo(appareil + QLatin1String("/driver")).canonicalFilePath()).fileName();
+    const bool obeissant = pilote == QLatin1String("ftdi_sio") || pilote == QLatin1String("cp210x");
+    return obeissant ? PiloteUsb::Obeissant : PiloteUsb::Sourd;
 }
 
 } // namespace
@@ -81,7 +96,9 @@ LignePosix::LignePosix(const QString &chemin)
         close(m_fd);
         throw;
     }
-    m_pseudoTerminal = EstPseudoTerminal(m_fd);
+    const dev_t numero = Numero(m_fd);
+    m_pseudoTerminal = EstPseudoTerminal(numero);
+    m_usb = PiloteDe(numero);
     CompteursPilote(m_comptesMarques);
 }
 
@@ -115,6 +132,12 @@ void LignePosix::PoseRTS(bool actif)
 void LignePosix::PoseDTR(bool actif)
 {
     PoseSortie(TIOCM_DTR, actif);
+}
+
+/// Asked for both, the chips do RTS/CTS alone.
+bool LignePosix::ObeitXoff(ControleFlux flux) const
+{
+    return m_usb == PiloteUsb::Aucun || (m_usb == PiloteUsb::Obeissant && flux == ControleFlux::XonXoff);
 }
 
 void LignePosix::PoseSortie(int ligne, bool actif)

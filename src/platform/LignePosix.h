@@ -3,6 +3,9 @@
 #include "platform/DecodeurMarques.h"
 #include "platform/LigneSerie.h"
 
+/// What stands between the system and the line: no USB, an adapter whose chip obeys XOFF, or one that leaves it to us.
+enum class PiloteUsb { Aucun, Obeissant, Sourd };
+
 /// The serial line of a POSIX system with Linux's terminal driver.
 ///
 /// The driver drops what a pseudo-terminal does not have (framing, speed) without a word; there that is no failure.
@@ -19,6 +22,7 @@ public:
     void Regle(const ReglagePort &reglage) override;
     void PoseRTS(bool actif) override;
     void PoseDTR(bool actif) override;
+    bool ObeitXoff(ControleFlux flux) const override;
     int Descripteur() const override { return m_fd; }
     LectureLigne Lit(int tailleMax) override;
     int Ecrit(const char *octets, int nombre) override;
@@ -36,6 +40,7 @@ private:
 
     int m_fd = -1;
     bool m_pseudoTerminal = false;
+    PiloteUsb m_usb = PiloteUsb::Aucun;
     bool m_avecParite = false;
     DecodeurMarques m_decodeur;
     CompteursLigne m_compteurs;      // by marks where the driver does not count

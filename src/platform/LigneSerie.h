@@ -52,6 +52,9 @@ public:
     virtual void Regle(const ReglagePort &reglage) = 0;
     virtual void PoseRTS(bool actif) = 0;
     virtual void PoseDTR(bool actif) = 0;
+    /// Whether the driver, set to flux, stops sending at XOFF and says it itself when it is full. Where it does not,
+    /// the line is not to be set to XON/XOFF: the characters would vanish without effect.
+    virtual bool ObeitXoff(ControleFlux flux) const = 0;
 
     /// Descriptor that is readable when characters have come or the device has gone, and writable when Ecrit takes
     /// some.

@@ -54,7 +54,7 @@ MSComm::MSComm(QObject *parent)
     : QObject(parent)
 {
     connect(&m_emission, &EmissionPort::SousSeuil, this, [this] { m_evenements.Annonce(EvtEmission); });
-    connect(&m_emission, &EmissionPort::AttendCts, this, &MSComm::Surveille);
+    connect(&m_emission, &EmissionPort::AttendMachine, this, &MSComm::Surveille);
     connect(&m_emission, &EmissionPort::Panne, this, &MSComm::Panne);
     m_surveillance.setInterval(PeriodeSurveillance);
     connect(&m_surveillance, &QTimer::timeout, this, &MSComm::Surveille);
@@ -118,14 +118,14 @@ void MSComm::Ouvre()
     // Linux raises both lines as it opens the device; a machine that must not see them gets them lowered at once.
     ligne->PoseDTR(m_dtr);
     ligne->PoseRTS(m_rts || m_reglage.ARtsCts());
-    ligne->Regle(m_reglage);
+    RegleLigne(*ligne, m_reglage);
     ligne->JetteReception(); // a closed port receives nothing
 
     m_ligne = std::move(ligne);
     m_emission.Ouvre(*m_ligne, m_reglage);
     m_etats = m_ligne->Etats();
     m_compteurs = m_ligne->Compteurs();
-    SuitCts();
+    SuitMachine();
     m_lecture = std::make_unique<QSocketNotifier>(m_ligne->Descripteur(), QSocketNotifier::Read);
     connect(m_lecture.get(), &QSocketNotifier::activated, this, &MSComm::Recolte);
     m_surveillance.start();
@@ -135,6 +135,8 @@ void MSComm::Ouvre()
 /// and on a line that is held, nothing is waited for.
 void MSComm::Ferme()
 {
+    m_xonXoff.Pose(false);
+    FreineMachine(); // it would wait for its XON until the next transfer
     const bool vivante = !m_panne;
     const bool abandon = vivante && (m_emission.Nombre() > 0 || m_emission.Retenue());
     const CadenceEmission cadence = m_emission.Cadence();
@@ -200,17 +202,29 @@ void MSComm::Panne(const Erreur &erreur)
 
 // ---- Settings
 
+/// Where the driver does not obey XOFF the line is set without it, and the control obeys.
+void MSComm::RegleLigne(LigneSerie &ligne, const ReglagePort &reglage)
+{
+    ReglagePort pourLigne = reglage;
+    const bool soiMeme = reglage.AXonXoff() && !ligne.ObeitXoff(reglage.flux);
+    if (soiMeme)
+        pourLigne.flux = reglage.ARtsCts() ? ControleFlux::RtsCts : ControleFlux::Aucun;
+    ligne.Regle(pourLigne);
+    m_xonXoff.Pose(soiMeme);
+}
+
 void MSComm::PoseReglage(const ReglagePort &reglage)
 {
     if (m_ligne) {
         ExigeVivant();
-        m_ligne->Regle(reglage);
+        RegleLigne(*m_ligne, reglage);
+        FreineMachine();
         if (!reglage.ARtsCts() || !m_reglage.ARtsCts())
             m_ligne->PoseRTS(m_rts || reglage.ARtsCts());
         m_emission.Regle(reglage);
     }
     m_reglage = reglage;
-    SuitCts();
+    SuitMachine();
 }
 
 void MSComm::setSettings(const QString &settings)
@@ -268,10 +282,16 @@ void MSComm::setRThreshold(int seuil)
 
 // ---- Receiving
 
+int MSComm::TailleReception() const
+{
+    return m_inBufferSize > 0 ? m_inBufferSize : TailleTamponUsuelle;
+}
+
+/// An XON must be heard at all times, and cannot be without what came before it.
 int MSComm::PlaceReception() const
 {
-    const int taille = m_inBufferSize > 0 ? m_inBufferSize : TailleTamponUsuelle;
-    return taille - static_cast<int>(m_recus.size());
+    const int reserve = m_xonXoff.Actif() ? FluxXonXoff::Reserve : 0;
+    return TailleReception() + reserve - static_cast<int>(m_recus.size());
 }
 
 void MSComm::Recolte()
@@ -280,11 +300,34 @@ void MSComm::Recolte()
         m_lecture->setEnabled(false);
         return;
     }
+    const LectureLigne lecture = Releve(PlaceReception());
+    Range(lecture);
+    if (lecture.erreur)
+        Surveille();
+}
+
+/// What has come, at most place characters; nothing from a device that has gone.
+LectureLigne MSComm::Releve(int place)
+{
     try {
-        const LectureLigne lecture = m_ligne->Lit(PlaceReception());
-        Range(lecture);
-        if (lecture.erreur)
-            Surveille();
+        const LectureLigne lecture = m_xonXoff.Entend(m_ligne->Lit(place));
+        SuitMachine();
+        return lecture;
+    } catch (const Erreur &erreur) {
+        Panne(erreur);
+        return {};
+    }
+}
+
+/// Holds the machine back while the receive buffer is nearly full, where nobody else does.
+void MSComm::FreineMachine()
+{
+    const std::optional<char> signal = m_xonXoff.ADire(m_recus.size(), TailleReception());
+    if (!signal || m_panne)
+        return;
+    try {
+        if (m_ligne->Ecrit(&*signal, 1) == 1)
+            m_xonXoff.Dit(*signal);
     } catch (const Erreur &erreur) {
         Panne(erreur);
     }
@@ -303,6 +346,7 @@ void MSComm::Range(const LectureLigne &lecture)
     if (octets.isEmpty())
         return;
     m_recus += octets;
+    FreineMachine();
     SignaleMouvement();
     ControleSeuilReception();
 }
@@ -310,14 +354,16 @@ void MSComm::Range(const LectureLigne &lecture)
 /// Room was made in the receive buffer.
 void MSComm::ReprendRecolte()
 {
-    if (!m_panne)
-        m_lecture->setEnabled(true);
+    if (m_panne)
+        return;
+    m_lecture->setEnabled(true);
+    FreineMachine();
 }
 
 /// A full buffer counts as the threshold reached: no more can come before something is read.
 bool MSComm::SeuilReceptionAtteint() const
 {
-    return m_rThreshold > 0 && !m_recus.isEmpty() && (m_recus.size() >= m_rThreshold || PlaceReception() <= 0);
+    return m_rThreshold > 0 && m_recus.size() >= std::min(m_rThreshold, TailleReception());
 }
 
 void MSComm::ControleSeuilReception()
@@ -355,7 +401,10 @@ void MSComm::ViderReception()
 {
     ExigeVivant();
     m_recus.clear();
-    m_ligne->JetteReception();
+    if (m_xonXoff.Actif())
+        Releve(FluxXonXoff::Reserve); // an XON may be on its way among the rest
+    else
+        m_ligne->JetteReception();
     ReprendRecolte();
 }
 
@@ -413,12 +462,13 @@ void MSComm::Surveille()
 
     m_etats = etats;
     m_compteurs = compteurs;
-    SuitCts();
+    SuitMachine();
+    FreineMachine();
 }
 
-void MSComm::SuitCts()
+void MSComm::SuitMachine()
 {
-    m_emission.RetientCts(m_reglage.ARtsCts() && m_etats && !m_etats->cts);
+    m_emission.Retient(m_xonXoff.Retenue() || (m_reglage.ARtsCts() && m_etats && !m_etats->cts));
 }
 
 void MSComm::Delivre()

@@ -3,6 +3,7 @@
 #include "platform/EmissionPort.h"
 #include "platform/ErreurPort.h"
 #include "platform/EvenementsPort.h"
+#include "platform/FluxXonXoff.h"
 #include "platform/LigneSerie.h"
 
 #include <QByteArray>
@@ -46,8 +47,8 @@
 /// device, since an adapter says "sent" when the characters have crossed the USB and not the line. What the system says
 /// it still holds counts on top, so that a line slower than its Settings, or one that the machine holds, is not fed.
 ///
-/// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy; with them on, the
-/// characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
+/// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy, or by the control
+/// behind an adapter whose driver does not, see Adapters; with them on, the characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
 /// then waits until the handshake is off again. A line counts as held when the system goes on refusing characters, when
 /// CTS is low under that handshake, or when the system's own backlog stands still for clearly longer than its line
 /// time. CTS is looked at before each handover as well as every 50 ms, so that it holds the sending also behind a
@@ -88,18 +89,20 @@
 ///   device under /sys/bus/usb-serial/devices, or 1 ms with "setserial DEVICE low_latency"; the control leaves both as
 ///   the owner of the PC has set them.
 ///
-///   PL2303 (pl2303) has 256 characters each way. Newer chips and kernels deal with XON/XOFF in the chip, as long as
-///   RTS/CTS is not asked for too. It has no counters, and its error status belongs to a whole USB packet: a parity
+///   PL2303 (pl2303) has 256 characters each way. Only newer chips deal with XON/XOFF, and the driver does not tell
+///   which, so none is relied on. It has no counters, and its error status belongs to a whole USB packet: a parity
 ///   error marks all the characters that crossed with the bad one. ParityReplace then replaces more than one, and a
 ///   text with such an event has to be received again.
 ///
 ///   CH340 (ch341) sends packets of 32 characters, tells neither parity nor framing errors by mark or counter, and deals
 ///   with RTS/CTS in the chip with recent kernels only. A machine that is checked by parity wants another adapter.
 ///
-///   XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, older kernels for the others): Linux takes
-///   the XOFF out of what is read and then goes on sending, because these drivers have no way to be stopped. The
-///   control cannot see that XOFF. Its pacing keeps the backlog short, but the machine is not obeyed; such an adapter
-///   is for RTS/CTS. docs/branchement.md has the trial that tells, before a program is sent.
+///   XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, pl2303, or any with RTS/CTS besides): Linux
+///   would take the XOFF out of what is read and go on sending, because these drivers have no way to be stopped, nor
+///   would it say XOFF to the machine. There the line is set without, and the control deals with it (FluxXonXoff): it
+///   takes 17 and 19 out of what it reads, stops its pump, and says XOFF itself when its receive buffer is three
+///   quarters full. Reading goes on meanwhile, up to 4,096 characters past InBufferSize, so that an XON is always
+///   heard. What the lead and the adapter hold still leaves behind an XOFF: some tens of characters at 9600 baud.
 ///
 ///   Overrun between chip and driver (1006) is what a hub, a long cable or a sleeping PC costs; there is no cure in
 ///   software but a lower speed.
@@ -221,19 +224,23 @@ private:
     void Ouvre();
     void Ferme();
     void Attend(CadenceEmission::Duree limite, const std::function<bool()> &fini);
+    void RegleLigne(LigneSerie &ligne, const ReglagePort &reglage);
     void PoseReglage(const ReglagePort &reglage);
     void ExigeOuvert() const;
     void Panne(const Erreur &erreur);
 
+    int TailleReception() const;
     int PlaceReception() const;
     void Recolte();
+    LectureLigne Releve(int place);
+    void FreineMachine();
     void Range(const LectureLigne &lecture);
     void ReprendRecolte();
     bool SeuilReceptionAtteint() const;
     void ControleSeuilReception();
 
     void Surveille();
-    void SuitCts();
+    void SuitMachine();
     void Delivre();
 
     Fabrique m_fabrique;
@@ -258,6 +265,7 @@ private:
     CompteursLigne m_compteurs;
     QTimer m_surveillance;
     EmissionPort m_emission;
+    FluxXonXoff m_xonXoff;
     EvenementsPort m_evenements;
     QByteArray m_recus;
 };

@@ -130,6 +130,47 @@ private Q_SLOTS:
         }
     }
 
+    // A driver that is deaf to XOFF: the control obeys and says it, and hears an XON whatever stands before it.
+    void fluxSoiMeme()
+    {
+        m_scenario->obeitXoff = false;
+        m_port->setInBufferSize(100);
+        m_port->setHandshaking(3);
+        Ouvre();
+        QCOMPARE(m_scenario->reglages.last().flux, ControleFlux::RtsCts);
+        m_scenario->Envoie("a\x13"
+                           "b\x13\x11\x13",
+                           {3});
+        QTRY_COMPARE(m_port->InBufferCount(), 3);
+        const QString texte = Programme(200);
+        m_port->Output(texte);
+        QCOMPARE(m_port->Input(), QStringLiteral("ab") + QChar(19)); // that one came with a parity error
+        QCOMPARE(m_scenario->ecrits, QByteArray());
+        m_scenario->Envoie("\x11");
+        QTRY_COMPARE(m_port->OutBufferCount(), 0);
+        QCOMPARE(m_scenario->ecrits, OctetsEn1252(texte));
+        for (const bool lu : {true, false}) {
+            m_scenario->ecrits.clear();
+            m_scenario->Envoie("\x13" + QByteArray(74, 'c'));
+            QTRY_COMPARE(m_port->InBufferCount(), 74);
+            m_scenario->Envoie(QByteArray(200, 'c') + "\x11");
+            QTRY_COMPARE(m_scenario->ecrits, QByteArray("\x13"));
+            if (lu)
+                QCOMPARE(LitTout(274).size(), 274);
+            else
+                m_port->ViderReception();
+            m_port->Output(QStringLiteral("d"));
+            QTRY_COMPARE(m_scenario->ecrits, QByteArray("\x13\x11"
+                                                        "d"));
+        }
+        m_scenario->Envoie("\x13" + QByteArray(99, 'c'));
+        QTRY_COMPARE(m_port->InBufferCount(), 99);
+        m_port->setHandshaking(0);
+        QVERIFY(m_scenario->ecrits.endsWith("\x13\x11"));
+        m_port->Output(QStringLiteral("e"));
+        QTRY_VERIFY(m_scenario->ecrits.endsWith('e'));
+    }
+
     void seuilReception()
     {
         m_port->setRThreshold(3);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QWidget>
 
@@ -36,8 +37,14 @@ qint64 Memoire()
 
 Comptes Compte()
 {
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // What a transfer leaves for later, timers that fire once above all, is over by then.
+    constexpr int repos = 500; // milliseconds
+    QElapsedTimer depuis;
+    depuis.start();
+    while (depuis.elapsed() < repos) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
     const auto descripteurs =
         QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
     return {Memoire(), int(descripteurs), objets, int(QApplication::topLevelWidgets().size())};

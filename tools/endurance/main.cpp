@@ -93,6 +93,7 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
     for (int i = 0; i < nombre; ++i) {
         for (const Genre genre : Genres) {
             ++bilan[std::size_t(genre)][std::size_t(epreuve.Joue(genre, epreuve.Tire()))];
+            QPixmapCache::clear(); // else the toolkit goes on filling it for thousands of transfers
             memoire += Memoire();
         }
     }
@@ -131,7 +132,6 @@ int main(int nombre, char *arguments[])
                                     QStringLiteral("number"), QStringLiteral("1"));
     lecteur.addOptions({chaque, graine});
     lecteur.process(application);
-    QPixmapCache::setCacheLimit(256); // kB; else the toolkit goes on filling it for thousands of transfers
     const Poste poste(0);
     Sortie() << "seed " << lecteur.value(graine) << Qt::endl;
     return Endure(poste, std::max(1, lecteur.value(chaque).toInt()), lecteur.value(graine).toUInt()) ? 0 : 1;
