@@ -18,6 +18,7 @@ public:
     std::optional<EtatsLigne> etats = EtatsLigne{true, true, true, false};
     CompteursLigne compteurs;
     int accepte = 1'000'000;  ///< characters that the line still takes before it refuses
+    bool casse = false;       ///< and then it does not refuse: it is gone
     int parAppel = 1'000'000; ///< most characters that one call takes
     int nonEmis = 0;          ///< what the system says that it holds
     bool immobile = false;    ///< a line that stands still: nonEmis grows by what is handed over
@@ -109,6 +110,8 @@ public:
     }
     int Ecrit(const char *octets, int nombre) override
     {
+        if (m_scenario->casse && m_scenario->accepte == 0)
+            m_scenario->Debranche();
         ExigePresente();
         ++m_scenario->essais;
         const int pris = std::min({nombre, m_scenario->parAppel, m_scenario->accepte});

@@ -11,7 +11,7 @@ using Horloge = std::chrono::steady_clock;
 
 constexpr auto PeriodeRetenue = 5ms; // how often a held line is tried where nothing wakes us
 constexpr int SautSysteme = 24;      // a driver counts down in steps of a FIFO, not character by character
-constexpr auto Jeu = 20ms;           // and not always at once
+constexpr auto Jeu = 20ms;           // and not always at once; a refusal may be over as soon
 
 } // namespace
 
@@ -81,7 +81,8 @@ bool EmissionPort::Retenue()
     const auto maintenant = Horloge::now();
     ObserveSysteme(maintenant);
     const bool immobile = m_systeme > 0 && maintenant - m_progres > m_cadence.Temps(SautSysteme) + Jeu;
-    return immobile || m_refus || m_cadence.Suspendue();
+    const bool refuse = m_refus && maintenant - m_refuse > Jeu;
+    return immobile || refuse || m_cadence.Suspendue();
 }
 
 void EmissionPort::ObserveSysteme(CadenceEmission::Instant maintenant)
@@ -127,6 +128,8 @@ int EmissionPort::Remet()
         place -= pris;
         m_refus = pris == 0;
     }
+    if (!refusAvant || remis > 0)
+        m_refuse = maintenant;
     m_cadence.Remet(remis, maintenant);
     m_systeme += remis;
     m_reveilVain = refusAvant && m_refus && remis == 0;

@@ -37,8 +37,8 @@ public:
     /// CTS under the handshake: while it holds, nothing is handed over. A low CTS would only let the characters gather
     /// in the adapter, out of reach.
     void RetientCts(bool retient);
-    /// Whether the machine holds the line: the system refuses characters, CTS is low, or what the system holds has
-    /// stood still for clearly longer than its line time.
+    /// Whether the machine holds the line: the system goes on refusing characters, CTS is low, or what the system holds
+    /// has stood still for clearly longer than its line time.
     bool Retenue();
     const CadenceEmission &Cadence() const { return m_cadence; }
 
@@ -64,6 +64,7 @@ private:
     int m_seuil = 0;
     bool m_seuilArme = false;
     bool m_refus = false;               // the system takes nothing
+    CadenceEmission::Instant m_refuse;  // since then
     bool m_reveilVain = false;          // it said that it would, and did not
     int m_systeme = 0;                  // characters that it held when last looked at
     CadenceEmission::Instant m_progres; // when that number last fell

@@ -88,7 +88,7 @@ LignePosix::LignePosix(const QString &chemin)
 LignePosix::~LignePosix()
 {
     // Where someone else keeps the device open, as a simulated machine does, the exclusive use would outlast us.
-    ioctl(m_fd, TIOCNXCL);
+    Reprise([this] { return ioctl(m_fd, TIOCNXCL); });
     close(m_fd);
 }
 

@@ -48,10 +48,10 @@
 ///
 /// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy; with them on, the
 /// characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
-/// then waits until the handshake is off again. A line counts as held when the system refuses characters, when CTS is
-/// low under that handshake, or when the system's own backlog stands still for clearly longer than its line time. CTS
-/// is looked at before each handover as well as every 50 ms, so that it holds the sending also behind a driver that
-/// takes the setting and does nothing about it.
+/// then waits until the handshake is off again. A line counts as held when the system goes on refusing characters, when
+/// CTS is low under that handshake, or when the system's own backlog stands still for clearly longer than its line
+/// time. CTS is looked at before each handover as well as every 50 ms, so that it holds the sending also behind a
+/// driver that takes the setting and does nothing about it.
 ///
 /// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent: 1 sending (the queue has
 /// fallen below SThreshold), 2 reception (RThreshold characters wait, and new ones have come), 3 CTS, 4 DSR, 5 CD, 6

@@ -66,6 +66,11 @@ void EcritFichierRecu(const QString &texte)
     ecritEntier = true;
 }
 
+void OublieFichierRecu()
+{
+    ecritEntier = false;
+}
+
 void CreeFichierRecu()
 {
     ecritEntier = false;

@@ -7,6 +7,9 @@
 /// Writes texte and one CR LF to CheminRecep(), replacing what was there. Raises what EcritFichierTexte raises.
 void EcritFichierRecu(const QString &texte);
 
+/// A reception begins: what an earlier one has left on the disk is not its file.
+void OublieFichierRecu();
+
 /// Creates or empties CheminRecep(), for a reception that writes as it goes; AjouteFichierRecu() then adds texte and
 /// one CR LF. Raise as EcritFichierRecu().
 void CreeFichierRecu();

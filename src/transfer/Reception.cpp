@@ -10,6 +10,7 @@
 #include "platform/Nombres.h"
 #include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/TextesReception.h"
@@ -38,11 +39,6 @@ constexpr TexteLigne FinLigneCar{{u"Fin de ligne ", u"End of line ", u"Final de 
 constexpr TexteLigne FinLigneLigne{{u"Fin de ligne", u"End of line", u"Final de línea"},
                                    {u" détectée", u" detected", u" detectada"}};
 
-MSComm &Controle()
-{
-    return *frmPrinc->MSComm1;
-}
-
 /// The table Lignes as a reception fills it: its counter, and the steps that both ways of filling it share.
 class Remplissage
 {
@@ -51,9 +47,6 @@ public:
         : m_dialogue(dialogue)
     {
     }
-
-    /// genre: what Label4 says of the way of receiving.
-    void Commence(const Texte3 &genre);
 
     /// Puts Ligne, with fin behind it, into the table and empties it.
     void Range(const QString &fin = QString());
@@ -78,19 +71,6 @@ private:
     int m_compteur = 1;
     QElapsedTimer m_depuisEcho;
 };
-
-void Remplissage::Commence(const Texte3 &genre)
-{
-    ForceRECEPT = 0;
-    MontreLabelsEcho(m_dialogue);
-    if (ParamCom.Echo == 1)
-        PoseTexte(m_dialogue.Label4, genre);
-    FinTransfert = 0;
-    AnnuleRECEPT = 0;
-    VideLignes();
-    OuvrePortCOM();
-    PoseTexte(m_dialogue.Label2, EnAttente);
-}
 
 void Remplissage::Range(const QString &fin)
 {
@@ -131,22 +111,12 @@ void Remplissage::Termine()
     Controle().ViderReception();
     FinTransfert = 1;
     NbLignes = m_compteur;
-    if (Controle().PortOpen()) {
-        frmPrinc->shpSend->setFillColor(Lampe::Verte);
-        Controle().Output(ParamCom.ChaineFinTrans);
-        PoseTexte(m_dialogue.Label2, FinDetectee);
-    }
-    Controle().ViderEmission();
-    FermePortCOM(m_dialogue);
-    frmPrinc->EteintTransfert();
-    PoseTexte(m_dialogue.Label2, Reussi);
+    AcheveReception(m_dialogue);
     Ligne.clear();
     EcritFichierRecu(Recu());
     OuvreFichierRecu();
-    if (FinTransfert == 1) {
-        PoseTexte(m_dialogue.Label2, Reussi);
+    if (FinTransfert == 1)
         BoutonFermer(*m_dialogue.Command1);
-    }
 }
 
 QString Remplissage::Recu() const
@@ -255,8 +225,10 @@ void EmplitParLigne(Remplissage &table)
             return table.Termine();
         table.MontreEcho(recu, recu);
         // The end of transfer counts only when it stands alone in the buffer.
-        if (recu == ParamCom.ChaineFinTrans)
+        if (recu == ParamCom.ChaineFinTrans) {
+            recu.clear();
             return table.Termine();
+        }
         if (recu.isEmpty())
             continue;
         recu.chop(ParamCom.ChaineFinLig.size());
@@ -271,11 +243,11 @@ void Mene(Ui::Em_Rc &dialogue, const Texte3 &genre, void (*corps)(Remplissage &)
 {
     Remplissage table(dialogue);
     try {
-        table.Commence(genre);
+        VideLignes();
+        DebuteReception(dialogue, genre);
         corps(table);
     } catch (const Erreur &erreur) {
-        ErreurPortCOM(erreur, dialogue);
-        SauveAilleurs(table.Recu());
+        EchoueReception(erreur, dialogue, table.Recu());
     }
 }
 

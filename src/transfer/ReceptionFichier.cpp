@@ -10,9 +10,9 @@
 #include "platform/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
-#include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
@@ -45,11 +45,6 @@ constexpr qint64 PasAffichage = 40; // milliseconds between two numbers that the
 
 Ui::Em_Rc *enAttente = nullptr; // dialog of the reception that waits for its events
 bool enRecolte = false;         // that reception is being gathered further down the stack
-
-MSComm &Controle()
-{
-    return *frmPrinc->MSComm1;
-}
 
 /// Takes what waits into Text2. A closed port gives nothing; a device that has gone ends the gathering, and the routine
 /// below meets the same failure and tells it.
@@ -106,19 +101,12 @@ void Recolte(Ui::Em_Rc &dialogue)
 
 void PrepareFichier(Ui::Em_Rc &dialogue)
 {
-    ForceRECEPT = 0;
     ChoisitChaineFinLigRecep();
     frmPrinc->Text2->setText(QString());
-    MontreLabelsEcho(dialogue);
     frmPrinc->Text2->setVisible(ParamCom.Echo == 1);
-    if (ParamCom.Echo == 1) {
+    if (ParamCom.Echo == 1)
         PoseTexte(dialogue.Label3, Attente3);
-        PoseTexte(dialogue.Label4, Attente4);
-    }
-    FinTransfert = 0;
-    AnnuleRECEPT = 0;
-    OuvrePortCOM();
-    PoseTexte(dialogue.Label2, EnAttente);
+    DebuteReception(dialogue, Attente4);
 }
 
 /// The events gather the text inside this wait's yield, perhaps for the whole of the reception.
@@ -146,29 +134,14 @@ void AttendFichier(Ui::Em_Rc &dialogue)
     }
 }
 
-/// panneau: where the received text stands.
-void Echoue(const Erreur &erreur, Ui::Em_Rc &dialogue, const RichTextBox &panneau)
-{
-    ErreurPortCOM(erreur, dialogue);
-    SauveAilleurs(panneau.Text());
-}
-
 void TermineFichier(Ui::Em_Rc &dialogue)
 {
-    if (Controle().PortOpen()) {
-        frmPrinc->shpSend->setFillColor(Lampe::Verte);
-        Controle().Output(ParamCom.ChaineFinTrans);
-        PoseTexte(dialogue.Label2, FinDetectee);
-    }
+    AcheveReception(dialogue);
     if (ParamCom.Echo == 1) {
         PoseTexte(dialogue.Label3, Termine3);
         PoseTexte(dialogue.Label4, Termine4);
     }
-    Controle().ViderEmission();
-    FermePortCOM(dialogue);
     frmPrinc->Text2->hide();
-    frmPrinc->EteintTransfert();
-    PoseTexte(dialogue.Label2, Reussi);
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
     // A file that was too large to be shown may have hidden the pane and its commands.
     frmPrinc->Text1->show();
@@ -177,7 +150,7 @@ void TermineFichier(Ui::Em_Rc &dialogue)
     try {
         EcritFichierRecu(frmPrinc->Text1->Text());
     } catch (const Erreur &erreur) {
-        Echoue(erreur, dialogue, *frmPrinc->Text1);
+        EchoueReception(erreur, dialogue, frmPrinc->Text1->Text());
         return;
     }
     TitreFenetre(NomFicRecep);
@@ -212,7 +185,7 @@ void ReceptionFichier(Ui::Em_Rc &dialogue)
             TermineFichier(dialogue);
     } catch (const Erreur &erreur) {
         Prend();
-        Echoue(erreur, dialogue, *frmPrinc->Text2);
+        EchoueReception(erreur, dialogue, frmPrinc->Text2->Text());
     }
 }
 

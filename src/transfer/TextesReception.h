@@ -4,12 +4,6 @@
 
 // Texts that the receptions share.
 
-inline constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receiving", u"En espera de recepción"};
-inline constexpr Texte3 FinDetectee{u"Fin de transfert détectée !", u"End of transfer detected !",
-                                    u"Final de transferencia detectado !"};
-inline constexpr Texte3 Reussi{u"Transfert réalisé avec succès !", u"Transfer carried out successfully !",
-                               u"Transferencia realizada con éxito !"};
-
 /// The way of receiving, by TypeRecep.
 inline constexpr Texte3 GenresReception[] = {
     {u"Réception par ligne", u"Receiving by line", u"Recepción por línea"},

@@ -225,9 +225,8 @@ private Q_SLOTS:
         }
     }
 
-    // What happens on the line between two lines of a program is told and ends nothing; only the character that came
-    // wrong is replaced. A machine that holds the line until the end gets no end string, and the reception does not
-    // wait for it.
+    // Only a character that came wrong is replaced; CTS that falls and comes back ends nothing. A machine that holds
+    // the line until the end gets no end string, and the reception does not wait for it.
     void Ligne()
     {
         struct Faute
@@ -235,9 +234,6 @@ private Q_SLOTS:
             int evenement; ///< 0: none comes
             std::function<void(Scenario &)> debut, fin;
             QByteArray ajout, reponse;
-        };
-        const auto compte = [](unsigned CompteursLigne::*champ) {
-            return [champ](Scenario &ligne) { ++(ligne.compteurs.*champ); };
         };
         const auto cts = [](bool etat) { return [etat](Scenario &ligne) { ligne.etats->cts = etat; }; };
         const auto parite = [](Scenario &ligne) {
@@ -247,10 +243,6 @@ private Q_SLOTS:
         const std::function<void(Scenario &)> rien;
         const QByteArray eot = "\x04";
         const Faute fautes[] = {{1009, parite, rien, "?\r\n", eot},
-                                {1004, compte(&CompteursLigne::trame), rien, "", eot},
-                                {1001, compte(&CompteursLigne::pauses), rien, "", eot},
-                                {1006, compte(&CompteursLigne::cadence), rien, "", eot},
-                                {1008, compte(&CompteursLigne::debordements), rien, "", eot},
                                 {3, cts(false), cts(true), "", eot},
                                 {3, cts(false), rien, "", ""},
                                 {0, [](Scenario &ligne) { ligne.accepte = 0; }, rien, "", ""}};
@@ -314,44 +306,16 @@ private Q_SLOTS:
         }
     }
 
-    // Unplugged in the middle: told, and what had come can be saved.
-    void Debranche()
-    {
-        for (const Genre genre : Genres) {
-            Banc banc(genre);
-            banc.EnvoieLignes("A\r\nB\r\nmoi");
-            banc.Fait([&banc] { banc.ligne->Debranche(); });
-            banc.operateur.LitErreur(ErreurPort::Lecture, u"Erreur de lecture du périphérique de communication"_s);
-            QCOMPARE(banc.Sauve(), QByteArray("A\r\nB\r\nmoi"));
-            QVERIFY(!PortOuvert && !QFile::exists(banc.poste.Chemin("PIECE.ISO")));
-        }
-    }
-
-    // The folder has gone when the file is to be written: told, and saved elsewhere.
-    void DossierDisparu()
-    {
-        for (const Genre genre : Genres) {
-            Banc banc(genre);
-            ParamCom.DosRecep = banc.poste.Chemin("disparu");
-            banc.EnvoieLignes("A\r\nB\r\n\x04");
-            banc.operateur.Fait("MsgBox", [](QWidget &fenetre) {
-                QVERIFY(fenetre.windowTitle().endsWith("Fermeture du port de communication"_L1));
-                dynamic_cast<QDialog &>(fenetre).accept();
-            });
-            QCOMPARE(banc.Sauve(true), QByteArray("A\r\nB\r\n"));
-        }
-    }
-
     // As many lines as the table holds leave no place for the empty one at the end: told, and all of them can be saved.
     void TropDeLignes()
     {
-        Banc banc(ParCaractere);
+        Banc banc(ParLigne);
         banc.ligne->sansVidage = true; // all stands ready at once
         ParamCom.Echo = 0;
         ParamCom.TypeFinLig = 0;
         BatirChaines();
-        ParamCom.TailleTamponRecep = 1; // so that nothing waits behind a line end
-        ParamCom.SeuilRecep = 0;        // nor is each character told
+        ParamCom.TailleTamponRecep = 2; // so that nothing waits behind a line end
+        ParamCom.SeuilRecep = 0;        // nor is each line told
         banc.ligne->Envoie(QByteArray("N\n").repeated(CapaciteLignes));
         banc.operateur.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
         QCOMPARE(banc.Sauve(), QByteArray("N\r\n").repeated(CapaciteLignes));

@@ -1,0 +1,57 @@
+#include "transfer/EtapesReception.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Legendes.h"
+#include "platform/MSComm.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/FichierRecu.h"
+#include "transfer/PortCom.h"
+#include "transfer/Transfert.h"
+#include "ui_Em_Rc.h"
+
+namespace {
+
+constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receiving", u"En espera de recepción"};
+constexpr Texte3 FinDetectee{u"Fin de transfert détectée !", u"End of transfer detected !",
+                             u"Final de transferencia detectado !"};
+constexpr Texte3 Reussi{u"Transfert réalisé avec succès !", u"Transfer carried out successfully !",
+                        u"Transferencia realizada con éxito !"};
+
+} // namespace
+
+MSComm &Controle()
+{
+    return *frmPrinc->MSComm1;
+}
+
+void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre)
+{
+    ForceRECEPT = 0;
+    FinTransfert = 0;
+    AnnuleRECEPT = 0;
+    OublieFichierRecu();
+    MontreLabelsEcho(dialogue);
+    if (ParamCom.Echo == 1)
+        PoseTexte(dialogue.Label4, genre);
+    OuvrePortCOM();
+    PoseTexte(dialogue.Label2, EnAttente);
+}
+
+void AcheveReception(Ui::Em_Rc &dialogue)
+{
+    if (Controle().PortOpen()) {
+        frmPrinc->shpSend->setFillColor(Lampe::Verte);
+        Controle().Output(ParamCom.ChaineFinTrans);
+        PoseTexte(dialogue.Label2, FinDetectee);
+    }
+    Controle().ViderEmission();
+    FermePortCOM(dialogue);
+    frmPrinc->EteintTransfert();
+    PoseTexte(dialogue.Label2, Reussi);
+}
+
+void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu)
+{
+    ErreurPortCOM(erreur, dialogue);
+    SauveAilleurs(recu);
+}

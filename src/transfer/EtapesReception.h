@@ -1,0 +1,25 @@
+#pragma once
+
+#include "locale/Langue.h"
+#include "platform/Erreur.h"
+
+class MSComm;
+namespace Ui {
+class Em_Rc;
+}
+
+// The steps that the ways of receiving a program share.
+
+/// The serial control of the main window.
+MSComm &Controle();
+
+/// Clears the flags, shows the echo labels if the configuration asks for them, with genre in Label4, opens the port and
+/// says that the machine is awaited.
+void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre);
+
+/// The end has come: the machine gets its end-of-transfer string back, unless it holds the line, and the port closes.
+/// Raises what the control raises.
+void AcheveReception(Ui::Em_Rc &dialogue);
+
+/// The reception has failed: tells the operator, closes the port, and offers to save recu, what had come, elsewhere.
+void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu);

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "endurance/Pilote.h"
+#include "machine/MachineSimulee.h"
+
+#include <QRandomGenerator>
+
+/// What has become of a transfer.
+enum class Sort { Entier, Annule, Debranche };
+
+/// One transfer after the other with a simulated machine that holds the line and falls silent, a PC that is busy
+/// elsewhere, and an operator who sometimes cancels or pulls the plug: all by chance, and the same for the same seed as
+/// far as the clocks allow. What was whole is compared byte for byte; what was cut short has to be a beginning of it.
+class Epreuve
+{
+public:
+    Epreuve(const Poste &poste, quint32 graine);
+
+    /// Plays one transfer. voulu: what the operator sets out to do; too late, the transfer is whole all the same.
+    Sort Joue(Genre genre, Sort voulu);
+    /// Sets out by chance: five in seven are left alone.
+    Sort Tire();
+    /// What was wrong so far, a line each.
+    const QStringList &Ecarts() const { return m_ecarts; }
+
+private:
+    int Hasard(int max) { return int(m_alea.bounded(quint32(max))); }
+    QByteArrayList Lignes(Genre genre);
+    QByteArray Outil();
+    QByteArray Ligne();
+    ReglageMachine Reglage();
+
+    void Pendant(QDialog &transfert);
+    void Donne(const QByteArray &piece);
+    void Agit(const QDialog &transfert);
+    qint64 Passes() const;
+    Sort JugeEmission();
+    Sort JugeReception();
+    void Exige(bool juste, const char *quoi);
+
+    const Poste &m_poste;
+    Pilote m_pilote;
+    QRandomGenerator m_alea;
+    QStringList m_ecarts;
+    int m_numero = 0;
+
+    // The transfer under way
+    Genre m_genre = Genre::FichierEntier;
+    Sort m_voulu = Sort::Entier;
+    Charge m_charge;
+    qint64 m_apres = 0;     // characters after which the operator acts
+    bool m_retenue = false; // the machine stands still there, so that he is in time
+    bool m_agi = false;
+    qint64 m_donnes = 0; // characters of the pieces given
+    qint64 m_avant = 0;  // of these, before the last piece
+    MachineSimulee *m_machine = nullptr;
+    Pilote::Deroulement m_deroulement;
+};

@@ -1,0 +1,226 @@
+#include "endurance/Pilote.h"
+
+#include "comconfig/ParamCom.h"
+#include "gauges/Jauge.h"
+#include "gauges/Lignes.h"
+#include "machine/Banc.h"
+#include "platform/MSComm.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+#include "transfer/Transfert.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+constexpr char FinTrans[] = "\x04";
+constexpr int Patience = 120'000; // milliseconds before a transfer counts as hung
+
+/// A tool "corrector Z X D" in the gauge file of a mill.
+QByteArray LigneD(const QByteArray &outil)
+{
+    const QByteArrayList champs = outil.split(' ');
+    return "D" + champs[0] + " L" + champs[1] + " R" + champs[2] + "\r\n";
+}
+
+Charge ChargeBanc(const QByteArrayList &outils)
+{
+    Charge charge{{}, {}, "%\r\n"};
+    Banc banc(outils.join('\n'));
+    for (const QByteArray &outil : outils) {
+        charge.pieces += banc.Mesure();
+        charge.attendu += LigneD(outil);
+    }
+    return charge;
+}
+
+/// The line ends of a reception by lines are its pieces, since it drops what stands ready behind one.
+Charge ChargeParLignes(const QByteArrayList &lignes)
+{
+    Charge charge;
+    for (const QByteArray &ligne : lignes)
+        charge.pieces += ligne + "\r\n";
+    charge.attendu = charge.pieces.join() + "\r\n";
+    charge.pieces += FinTrans;
+    return charge;
+}
+
+} // namespace
+
+Charge ChargeDe(Genre genre, const QByteArrayList &lignes)
+{
+    const QByteArray programme = lignes.join("\r\n");
+    switch (genre) {
+    case Genre::FichierEntier:
+        return {programme, {}, programme + FinTrans};
+    case Genre::LigneParLigne:
+        return {programme, {}, programme + '\n' + FinTrans};
+    case Genre::Caractere:
+    case Genre::Ligne:
+        return ChargeParLignes(lignes);
+    case Genre::Fichier:
+        return {{}, {programme + FinTrans}, programme + "\r\n"};
+    case Genre::Banc:
+        return ChargeBanc(lignes);
+    }
+    return {};
+}
+
+Pilote::Pilote(const Poste &poste)
+    : m_poste(poste)
+{
+    poste.Charge({});
+    poste.Ecrit("Fraiseuse.mac", "1\n0\n0\n0\n1\n1000\n1000\n300\ncor\nP\n0");
+    QObject::connect(&m_yeux, &QTimer::timeout, &m_yeux, [this] { Regarde(); });
+}
+
+void Pilote::Regle(Genre genre) const
+{
+    ParamCom.TypeEnvoi = genre == Genre::FichierEntier ? 1 : 0;
+    ParamCom.TypeRecep = genre == Genre::Fichier     ? RecepFichier
+                         : genre == Genre::Caractere ? RecepCaracteres
+                                                     : RecepLignes;
+    ParamCom.NbCarLecture = genre == Genre::Caractere ? 1 : 512;
+    ParamCom.SeuilRecep = genre == Genre::Fichier ? 1 : 0;
+    ParamCom.TypeFinLig = EstEmission(genre) ? 0 : 3;
+    ParamCom.TailleRecep = int(Banc::TailleSalve);
+    ParamCom.DosRecep = DosJauge = m_poste.Dossier();
+    BatirChaines();
+}
+
+QString Pilote::Chemin(Genre genre) const
+{
+    return m_poste.Chemin(genre == Genre::Banc ? "PIECE.COR" : "PIECE.ISO");
+}
+
+Pilote::Deroulement Pilote::Joue(Genre genre, const Charge &charge, const std::function<void(QDialog &)> &pendant)
+{
+    m_genre = genre;
+    m_pendant = pendant;
+    m_charge = charge;
+    m_donnees = 0;
+    m_deroulement = {};
+    m_nomme = m_commence = false;
+    if (EstEmission(genre))
+        OuvreDocument(m_poste.Ecrit("PIECE.iso", charge.texte));
+    QAction *const commande = EstEmission(genre)     ? frmPrinc->Mnu_EmisProgCN
+                              : genre == Genre::Banc ? frmPrinc->Mnu_RecepBanc
+                                                     : frmPrinc->Mnu_RecepProg;
+    m_depuis.start();
+    m_yeux.start(1);
+    commande->trigger();
+    m_yeux.stop();
+    return m_deroulement;
+}
+
+/// The program has dealt with the pieces given.
+bool Pilote::Pret() const
+{
+    if (!PortOuvert || m_donnees == 0)
+        return PortOuvert;
+    if (m_genre == Genre::Banc)
+        return LigneJauge > m_donnees;
+    return !Lignes[std::size_t(m_donnees)].isEmpty();
+}
+
+void Pilote::Poursuit(const QDialog &transfert, const std::function<void(const QByteArray &)> &envoie)
+{
+    if (!Pret())
+        return;
+    const bool fini = m_donnees == m_charge.pieces.size();
+    if (m_genre == Genre::Banc && m_donnees > 0)
+        Presse(transfert, fini ? "Command6" : "Command5");
+    if (!fini)
+        envoie(m_charge.pieces[m_donnees++]);
+}
+
+void Pilote::Presse(const QWidget &fenetre, const char *bouton)
+{
+    fenetre.findChild<QAbstractButton *>(QLatin1String(bouton))->click();
+}
+
+void Pilote::Annule(Genre genre, const QWidget &transfert)
+{
+    Presse(transfert, genre == Genre::Banc ? "Command4" : "Command1");
+}
+
+/// What he does runs from the event loop and not from the timer, which has to see the windows that it opens.
+void Pilote::Regarde()
+{
+    QWidget *const fenetre = QApplication::activeModalWidget();
+    if (m_depuis.hasExpired(Patience))
+        qFatal("a transfer hangs in %s", fenetre ? qPrintable(fenetre->objectName()) : "no window");
+    m_commence = m_commence || TransfertEnCours();
+    if (fenetre == nullptr || m_gesteEnRoute)
+        return;
+    m_gesteEnRoute = true;
+    QMetaObject::invokeMethod(
+        &m_yeux,
+        [this] {
+            m_gesteEnRoute = false;
+            if (QWidget *const devant = QApplication::activeModalWidget())
+                Agit(devant);
+        },
+        Qt::QueuedConnection);
+}
+
+void Pilote::Agit(QWidget *fenetre)
+{
+    if (auto *const boite = qobject_cast<QMessageBox *>(fenetre))
+        Lit(*boite);
+    else if (fenetre->objectName() == u"CommonDialog")
+        Choisit(*fenetre);
+    else if (fenetre->objectName() == u"Rc_Fic")
+        Nomme(*fenetre);
+    else if (auto *const transfert = qobject_cast<QDialog *>(fenetre))
+        Transfere(*transfert);
+}
+
+/// The one box with an exclamation mark offers to save what has come.
+void Pilote::Lit(QMessageBox &boite)
+{
+    if (boite.icon() != QMessageBox::Question)
+        m_deroulement.avis += {boite.windowTitle(), boite.text()};
+    const bool oui = boite.icon() == QMessageBox::Question || !Sauvegarde.isEmpty();
+    QAbstractButton *bouton = boite.button(oui ? QMessageBox::Yes : QMessageBox::No);
+    (bouton ? bouton : boite.button(QMessageBox::Ok))->click();
+}
+
+void Pilote::Choisit(QWidget &dialogue) const
+{
+    const QString chemin = m_commence ? Sauvegarde : m_poste.Chemin("Fraiseuse.mac");
+    dynamic_cast<QFileDialog &>(dialogue).selectFile(chemin); // else the file that is offered stays chosen in the list
+    dialogue.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(chemin);
+    QMetaObject::invokeMethod(&dialogue, "accept");
+}
+
+/// The dialog that is still there after a transfer offers another try.
+void Pilote::Nomme(QWidget &dialogue)
+{
+    if (m_nomme) {
+        Presse(dialogue, "Command1");
+        return;
+    }
+    m_nomme = true;
+    dialogue.findChild<QLineEdit *>(QStringLiteral("Text1"))->setText(QStringLiteral("piece"));
+    Presse(dialogue, "Command2");
+}
+
+void Pilote::Transfere(QDialog &dialogue)
+{
+    if (TransfertEnCours()) {
+        m_pendant(dialogue);
+    } else if (m_commence) {
+        m_deroulement.statut = dialogue.findChild<QLabel *>(QStringLiteral("Label2"))->text();
+        Annule(m_genre, dialogue);
+    } else if (EstEmission(m_genre)) {
+        m_commence = true;
+        Presse(dialogue, "Command2");
+    }
+}

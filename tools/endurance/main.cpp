@@ -1,0 +1,138 @@
+#include "endurance/Comptes.h"
+#include "endurance/Epreuve.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QPixmapCache>
+#include <QTextStream>
+
+#include <array>
+#include <numeric>
+
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool JugeMemoire = false; // what was freed is kept for a while, and leaks are told at the end
+#else
+constexpr bool JugeMemoire = true;
+#endif
+constexpr double CroissanceMax = 1.02;
+constexpr qsizetype Fenetre = 100; // transfers at either end whose memory is compared
+
+constexpr const char *Noms[] = {"whole file, sent", "line by line, sent", "received by character",
+                                "received by line", "received by file",   "bench"};
+constexpr Sort Sorts[] = {Sort::Entier, Sort::Annule, Sort::Debranche};
+
+using Bilan = std::array<std::array<int, std::size(Sorts)>, std::size(Genres)>;
+
+QTextStream &Sortie()
+{
+    static QTextStream sortie(stdout);
+    return sortie;
+}
+
+template <typename... Colonnes>
+void Ecris(const char *nom, Colonnes... colonnes)
+{
+    Sortie() << QString::fromLatin1(nom).leftJustified(28);
+    for (const QString &colonne : {QString(colonnes)...})
+        Sortie() << colonne.rightJustified(12);
+    Sortie() << Qt::endl;
+}
+
+void EcrisBilan(const Bilan &bilan)
+{
+    const auto texte = [](int nombre) { return QString::number(nombre); };
+    const auto titre = [](const char *mot) { return QString::fromLatin1(mot); };
+    Ecris("", titre("transfers"), titre("completed"), titre("cancelled"), titre("unplugged"));
+    for (std::size_t i = 0; i < bilan.size(); ++i) {
+        const auto &[entiers, annules, debranches] = bilan[i];
+        Ecris(Noms[i], texte(entiers + annules + debranches), texte(entiers), texte(annules), texte(debranches));
+    }
+}
+
+/// One line of the table of what the process holds; false when it is not as it has to be.
+bool EcrisCompte(const char *nom, qint64 avant, qint64 apres, bool juste)
+{
+    Ecris(nom, QString::number(avant), QString::number(apres), QString::fromLatin1(juste ? "" : "WRONG"));
+    return juste;
+}
+
+qint64 Moyenne(const qint64 *debut, qsizetype nombre)
+{
+    return std::accumulate(debut, debut + nombre, qint64(0)) / nombre;
+}
+
+bool EcrisComptes(const Comptes &avant, const Comptes &apres, const QList<qint64> &memoire)
+{
+    const qsizetype nombre = std::min(Fenetre, memoire.size());
+    const qint64 premiers = Moyenne(memoire.constData(), nombre);
+    const qint64 derniers = Moyenne(memoire.constData() + memoire.size() - nombre, nombre);
+    const bool plate = !JugeMemoire || double(derniers) <= double(premiers) * CroissanceMax;
+    Ecris("", QStringLiteral("before"), QStringLiteral("after"));
+    bool juste = EcrisCompte("memory of 100, kB", premiers, derniers, plate);
+    juste = EcrisCompte("open descriptors", avant.descripteurs, apres.descripteurs,
+                        apres.descripteurs == avant.descripteurs) &&
+            juste;
+    juste = EcrisCompte("living objects", avant.objets, apres.objets, apres.objets == avant.objets) && juste;
+    return EcrisCompte("top-level windows", avant.fenetres, apres.fenetres, apres.fenetres == avant.fenetres) && juste;
+}
+
+/// nombre transfers of each kind, in turns, so that the first and the last hundred are of all kinds.
+bool Endure(const Poste &poste, int nombre, quint32 graine)
+{
+    Epreuve epreuve(poste, graine);
+    // What is made once for the life of the process is made by one transfer of each kind and fate.
+    for (const Genre genre : Genres) {
+        for (const Sort sort : Sorts)
+            epreuve.Joue(genre, sort);
+    }
+    const Comptes avant = Compte();
+    Bilan bilan{};
+    QList<qint64> memoire;
+    for (int i = 0; i < nombre; ++i) {
+        for (const Genre genre : Genres) {
+            ++bilan[std::size_t(genre)][std::size_t(epreuve.Joue(genre, epreuve.Tire()))];
+            memoire += Memoire();
+        }
+    }
+    const Comptes apres = Compte();
+    EcrisBilan(bilan);
+    const bool juste = EcrisComptes(avant, apres, memoire);
+    for (const QString &ecart : epreuve.Ecarts())
+        Sortie() << "WRONG: " << ecart << Qt::endl;
+    return juste && epreuve.Ecarts().isEmpty();
+}
+
+/// The platform without a display says it of each window.
+void Dis(QtMsgType genre, const QMessageLogContext &contexte, const QString &message)
+{
+    if (!message.contains(QLatin1String("propagateSizeHints")))
+        QTextStream(stderr) << qFormatLogMessage(genre, contexte, message) << Qt::endl;
+}
+
+} // namespace
+
+int main(int nombre, char *arguments[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // nobody watches
+    qInstallMessageHandler(Dis);
+    CompteObjets();
+    const QApplication application(nombre, arguments);
+    QCommandLineParser lecteur;
+    lecteur.setApplicationDescription(QStringLiteral(
+        "Plays transfers of each kind with the simulated machine, some cancelled or unplugged, and compares them.\n"
+        "Ends with 0 only if every one that was whole is exact and nothing is left over."));
+    lecteur.addHelpOption();
+    const QCommandLineOption chaque(QStringLiteral("chaque"), QStringLiteral("Transfers of each kind."),
+                                    QStringLiteral("number"), QStringLiteral("1000"));
+    const QCommandLineOption graine(QStringLiteral("graine"), QStringLiteral("Seed of the chance."),
+                                    QStringLiteral("number"), QStringLiteral("1"));
+    lecteur.addOptions({chaque, graine});
+    lecteur.process(application);
+    QPixmapCache::setCacheLimit(256); // kB; else the toolkit goes on filling it for thousands of transfers
+    const Poste poste(0);
+    Sortie() << "seed " << lecteur.value(graine) << Qt::endl;
+    return Endure(poste, std::max(1, lecteur.value(chaque).toInt()), lecteur.value(graine).toUInt()) ? 0 : 1;
+}
