@@ -9,14 +9,22 @@
 #include "shell/Menus.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 
 namespace {
 
-/// The files named on the command line: a file manager starts the program so.
+/// The files named on the command line: a file manager starts the program so. --help and --version end it.
 QStringList FichiersDemandes()
 {
-    QStringList fichiers = QCoreApplication::arguments().mid(1);
+    QCommandLineParser ligne;
+    ligne.addHelpOption();
+    ligne.addVersionOption();
+    ligne.addPositionalArgument(QStringLiteral("file"),
+                                QStringLiteral("A program, a .par or a .mac file to begin with."),
+                                QStringLiteral("[file...]"));
+    ligne.process(*QCoreApplication::instance());
+    QStringList fichiers = ligne.positionalArguments();
     for (QString &fichier : fichiers)
         fichier = QDir::toNativeSeparators(QDir().absoluteFilePath(fichier));
     return fichiers;
@@ -29,10 +37,11 @@ int main(int nombre, char *arguments[])
     const std::future<void> polices = LisPolices();
     QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
+    QApplication::setApplicationVersion(QStringLiteral(DORVANEL_VERSION));
     QApplication::setApplicationDisplayName(QString());              // or each title would end in the program's name
     QGuiApplication::setDesktopFileName(QStringLiteral("dorvanel")); // the desktop's icon for the window
+    const QStringList fichiers = FichiersDemandes();                 // before the start changes the current folder
     AppliqueLangueSysteme();
-    const QStringList fichiers = FichiersDemandes(); // before the start changes the current folder
 
     polices.wait();
     FrmPrinc fenetre;
@@ -44,6 +53,7 @@ int main(int nombre, char *arguments[])
     RemetDisposition(fenetre);
     Form_Load();
     fenetre.show();
+    QMetaObject::invokeMethod(&fenetre, AnnonceDossierFerme, Qt::QueuedConnection);
     for (const QString &fichier : fichiers)
         QMetaObject::invokeMethod(
             &fenetre, [fichier] { OuvreFichier(fichier); }, Qt::QueuedConnection);

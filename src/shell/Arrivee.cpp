@@ -16,5 +16,5 @@ void OuvreFichier(const QString &chemin)
     else if (extension == QLatin1String("mac"))
         ModifieConfMac(chemin);
     else
-        OuvreDocument(chemin);
+        OuvreDepose(chemin);
 }

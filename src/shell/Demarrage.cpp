@@ -16,6 +16,7 @@
 #include "shell/Reglages.h"
 
 #include <QCoreApplication>
+#include <QTemporaryFile>
 
 namespace {
 
@@ -40,6 +41,11 @@ constexpr Texte3 FichierApres{u" modifié !", u" !", u" modificado !"};
 constexpr Texte3 ConfirmationTitre{u"Quitter le programme", u"Leave the program", u"Dejar el programa"};
 constexpr Texte3 ConfirmationTexte{u"Quitter Dorvanel\r   Confirmez  ?", u"Leave Dorvanel\r   Confirm  ?",
                                    u"Dejar Dorvanel\r   Confirme  ?"};
+
+constexpr Texte3 DossierFermeTitre{u"Dossier des réglages", u"Folder of the settings", u"Carpeta de los ajustes"};
+constexpr Texte3 DossierFermeTexte{u"Rien ne peut être écrit dans le dossier :\r%1\rVos réglages ne seront pas gardés.",
+                                   u"Nothing can be written in the folder:\r%1\rYour settings will not be kept.",
+                                   u"No se puede escribir nada en la carpeta:\r%1\rSus ajustes no se guardarán."};
 
 void LisReglages()
 {
@@ -113,6 +119,13 @@ void Form_Load()
         Saute(Mnu_AffichDOS);
     AppliqueLangue();
     Saute(SauveIni);
+}
+
+void AnnonceDossierFerme()
+{
+    // With a file of another name: settings that could not be read are not written over.
+    if (!QTemporaryFile(AjouteAntislash(DossierApplication()) + QStringLiteral("XXXXXX")).open())
+        MsgBox(Texte(DossierFermeTexte).arg(DossierApplication()), Boite::Exclamation, Texte(DossierFermeTitre));
 }
 
 void Mnu_Quitter()

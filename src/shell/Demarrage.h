@@ -6,6 +6,10 @@
 /// yet. A settings file that cannot be read leaves the window in its design state, without a message.
 void Form_Load();
 
+/// Tells the operator when the application folder takes no files. Behind the start-up, which passes over that so that
+/// programs can be sent all the same.
+void AnnonceDossierFerme();
+
 /// The ordered end: offers to save a changed text, asks for confirmation and ends the process.
 void Mnu_Quitter();
 

@@ -16,7 +16,10 @@ constexpr QLatin1String Explorateur("LargeurExplorateur");
 void RemetDisposition(FrmPrinc &fenetre)
 {
     const QSettings registre(Organisation, Registre);
-    fenetre.restoreGeometry(registre.value(Fenetre).toByteArray());
+    // Of a cut one Qt would take what is missing for zeros.
+    const QByteArray place = registre.value(Fenetre).toByteArray();
+    if (place.size() == fenetre.saveGeometry().size())
+        fenetre.restoreGeometry(place);
     fenetre.setLargeurExplorateur(registre.value(Explorateur, fenetre.LargeurExplorateur()).toInt());
 }
 

@@ -100,14 +100,21 @@ void ProposeTraitementDeTexte()
         OuvreAvecTraitementDeTexte(NomFichier);
 }
 
-void ProposeEnregistrement()
+/// False when the operator wanted the text saved and it could not be: he has been told.
+bool ProposeEnregistrement()
 {
     if (NomFichier.isEmpty())
         NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
     const QString question =
         Texte(ModifieAvant) + NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") + Texte(ModifieQuestion);
-    if (Confirme(question, Boite::Exclamation, Texte(ModifieTitre)) && !NomFichier.isEmpty())
-        Saute([] { SaveFile(NomFichier); });
+    if (!Confirme(question, Boite::Exclamation, Texte(ModifieTitre)))
+        return true;
+    try {
+        SaveFile(NomFichier);
+        return true;
+    } catch (const Erreur &) {
+        return false;
+    }
 }
 
 void Text1_Change()
@@ -143,6 +150,13 @@ void Mnu_Nouveau()
     TitreFenetre(Texte(NomNouveau));
     FichierModifie = 0;
     NomFichier = Texte(NomNouveau);
+}
+
+void OuvreDepose(const QString &chemin)
+{
+    const bool modifie = FichierModifie == Vrai && !frmPrinc->Text1->EstVide();
+    if (!modifie || ProposeEnregistrement())
+        OuvreDocument(chemin);
 }
 
 void Mnu_Ouvrir()

@@ -32,6 +32,10 @@ void OpenFile(const QString &path);
 /// former document stays.
 void OuvreDocument(const QString &chemin);
 
+/// OuvreDocument() for a file that comes without a command: a changed text is offered to be saved first, and stays
+/// where that fails. A file let go over the window by mistake must not be what loses it.
+void OuvreDepose(const QString &chemin);
+
 void Mnu_Nouveau();
 void Mnu_Ouvrir();
 void Mnu_EnregistrerSous();

@@ -3,6 +3,8 @@
 
 #include "comconfig/ParamCom.h"
 #include "locale/Langue.h"
+#include "shell/Chemins.h"
+#include "shell/Demarrage.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
@@ -54,6 +56,21 @@ private Q_SLOTS:
             QCOMPARE(frmPrinc->Mnu_Fichier->title(), menus[langue]);
             QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Mnu_EditProg->isEnabled());
         }
+    }
+
+    // A folder that takes no settings is told, one that does is not.
+    void DossierFerme()
+    {
+        const Poste poste(0);
+        Operateur operateur;
+        AnnonceDossierFerme();
+        const QString absent = poste.Chemin(u"absent"_s);
+        FixeDossierApplication(absent);
+        operateur.Repond(u"Dossier des réglages"_s,
+                         u"Rien ne peut être écrit dans le dossier :\r"_s + absent +
+                             u"\rVos réglages ne seront pas gardés."_s,
+                         Boite::Exclamation, QMessageBox::Ok);
+        AnnonceDossierFerme();
     }
 
     // What the settings file holds, and how the start writes it back; one that cannot be read leaves the window as it
