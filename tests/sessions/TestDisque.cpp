@@ -43,7 +43,8 @@ enum Panne { Plein, LectureSeule, Parti };
     getrlimit(RLIMIT_FSIZE, &libre);
     const rlimit serre{rlim_t(QFileInfo(fichier).size()), libre.rlim_max};
     const uid_t avant = geteuid();
-    QFile::setPermissions(fichier, QFile::ReadOwner | QFile::ReadOther);
+    if (panne == LectureSeule)
+        QFile::setPermissions(fichier, QFile::ReadOwner | QFile::ReadOther);
     const bool gate = chmod(qPrintable(dossier), panne == LectureSeule ? 0555 : 0755) == 0 &&
                       (panne != Plein || setrlimit(RLIMIT_FSIZE, &serre) == 0) &&
                       (panne != Parti || QDir().rename(dossier, dossier + u".parti"_s)) &&
