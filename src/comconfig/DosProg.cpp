@@ -9,6 +9,7 @@
 #include "platform/FiltreTouches.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"
+#include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
@@ -75,14 +76,14 @@ void DosProg::FolderTreeview1_SelectionChange()
     Q_EMIT DossierChoisi();
 }
 
-/// A file that cannot be written is told in the system's words; the folder is in force for this run all the same.
+/// A file that cannot be written is told; the folder is in force for this run all the same.
 void DosProg::Command1_Click()
 {
     FolderTreeview1_SelectionChange();
     try {
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {
-        MsgBox(erreur.Description(), Boite::Exclamation, Texte(AbsentTitre));
+        MsgBox(TexteNonEnregistre(erreur), Boite::Exclamation, Texte(AbsentTitre));
     }
     Q_EMIT DossierApplique();
 }

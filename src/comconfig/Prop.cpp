@@ -10,6 +10,7 @@
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
+#include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "transfer/PortCom.h"
@@ -23,9 +24,9 @@ namespace {
 
 using U = Ui_Prop;
 
-constexpr Texte3 TitreFichier{u"Propriétés et configuration de la communication - Fichier : ",
-                              u"Properties and configuration of the communication - File : ",
-                              u"Propiedades y configuración de la comunicación - Fichero : "};
+constexpr Texte3 TitreNomme{u"Propriétés et configuration de la communication - Fichier : ",
+                            u"Properties and configuration of the communication - File : ",
+                            u"Propiedades y configuración de la comunicación - Fichero : "};
 constexpr Texte3 TitreNouveau{u"Propriétés et configuration de la communication - Fichier : Nouveau",
                               u"Properties and configuration of the communication - File: New",
                               u"Propiedades y configuración de la comunicación - Fichero: Nuevo"};
@@ -196,7 +197,7 @@ void Prop::NommeNouvelle()
 void Prop::Nomme(const QString &nom)
 {
     Label6->setText(nom);
-    PoseTexte(this, TitreFichier, nom);
+    PoseTexte(this, TitreNomme, nom);
 }
 
 void Prop::LimiteAuxDossiers()
@@ -268,8 +269,7 @@ void Prop::MontreSaisieRefusee(QWidget *boite, const QString &raison)
     boite->setFocus();
 }
 
-/// A "Dorvanel.CFG" that cannot be written is told in the system's words; the editor is in force for this run all the
-/// same.
+/// A "Dorvanel.CFG" that cannot be written is told; the editor is in force for this run all the same.
 void Prop::Command5_Click()
 {
     CommonDialog1->PrepareFichier(QString::fromUtf16(TitreEditeur), QString::fromUtf16(FiltreEditeur));
@@ -280,6 +280,6 @@ void Prop::Command5_Click()
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {
         if (erreur.Numero() != Erreur::DialogueAnnule)
-            MsgBox(erreur.Description(), Boite::Exclamation, QString::fromUtf16(Programme));
+            MsgBox(TexteNonEnregistre(erreur), Boite::Exclamation, QString::fromUtf16(Programme));
     }
 }

@@ -8,7 +8,6 @@
 
 #include <cerrno>
 #include <new>
-#include <system_error>
 
 #include <fcntl.h>
 
@@ -50,7 +49,7 @@ void ExigePlace(const QString &chemin, qint64 taille)
     const int cause = posix_fallocate(fichier.handle(), presente, taille - presente);
     fichier.resize(presente);
     if (cause == ENOSPC || cause == EDQUOT || cause == EFBIG)
-        Echoue(cause, QString::fromStdString(std::generic_category().message(cause)));
+        Echoue(cause, qt_error_string(cause));
 }
 
 void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QByteArray &octets)

@@ -233,6 +233,11 @@ void Mnu_EnregistrerSous()
     }
 }
 
+QString TexteNonEnregistre(const Erreur &erreur)
+{
+    return Texte(ErreurEnregistrement) + u'\r' + erreur.Description();
+}
+
 void SaveFile(const QString &path)
 {
     try {

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class Erreur;
+
 // The one CN program that the main window holds: the text stands in Text1 and nowhere else; here stand the file it came
 // from, whether it has changed, and the commands that create, open and save it.
 
@@ -18,6 +20,9 @@ void BrancheDocument();
 
 /// Puts "Dorvanel Pro version 2.7.0 : " and nom in the title of the main window.
 void TitreFenetre(const QString &nom);
+
+/// What the operator is told of a file that could not be written, with the system's words for the cause.
+QString TexteNonEnregistre(const Erreur &erreur);
 
 /// Writes the text of the pane and one CR LF to path, then shows the document's names. When that fails it says so to
 /// the operator and raises the failure on; the document then stays as it was, and so does the file where the disk has

@@ -113,7 +113,7 @@ void SauveAilleurs(const QString &texte)
             return;
         } catch (const Erreur &erreur) {
             if (erreur.Numero() != Erreur::DialogueAnnule)
-                MsgBox(erreur.Description(), Boite::Critique, Texte(ResteTitre));
+                MsgBox(TexteNonEnregistre(erreur), Boite::Critique, Texte(ResteTitre));
         }
     }
 }

@@ -200,9 +200,8 @@ private Q_SLOTS:
         }
     }
 
-    // A cancelled saving and one on a full disk end without a word: the fields are taken, only the second names its
-    // file. A folder only looked at is in the record until the one that is shown is put back. The editor goes to the
-    // settings at once, unless its choice is given up.
+    // A cancelled saving ends without a word: the fields are taken. A folder only looked at is in the record until the
+    // one that is shown is put back. The editor goes to the settings at once, unless its choice is given up.
     void Choix()
     {
         Banc banc;
@@ -220,11 +219,6 @@ private Q_SLOTS:
         prop.Command1->click();
         QCOMPARE(FicConf + NomConf + ParamCom.DosRecep + QDir::currentPath(), banc.Dossier() + banc.Dossier());
         QCOMPARE(ParamCom.TailleRecep * 10 + ParamCom.TypeEnvoi, 330);
-        QVERIFY(QFile::link(u"/dev/full"_s, banc.Chemin("plein.par")));
-        banc.Choisit(banc.Chemin("plein.par"));
-        banc.Fait("", Operateur::Clique(QMessageBox::Yes));
-        prop.Command17->click();
-        QCOMPARE(FicConf + NomConf + prop.Label6->text(), banc.Chemin("plein.par") + u"plein.par"_s);
         for (const QString &choisi : {banc.Dossier(), banc.Ecrit("Mon editeur.exe", {})}) {
             if (choisi == banc.Dossier())
                 banc.Ferme("CommonDialog");

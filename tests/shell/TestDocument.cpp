@@ -135,27 +135,6 @@ private Q_SLOTS:
         QCOMPARE(atelier.Lit("Faux.RTF"), QByteArray("G0 X1\r\n"));
     }
 
-    // A full disk, a place under a file, a folder that goes while the dialog is open: told once, and nothing of the
-    // document is lost or renamed.
-    void EnregistrementRate()
-    {
-        for (const auto &[langue, ou, titre, texte] :
-             {std::tuple{0, "plein.iso", "Erreur", "Erreur lors de l'enregistrement du fichier"},
-              {1, "P.iso/x.iso", "Error", "Error at the time of the recording of the file"},
-              {2, "parti/x.iso", "Error", "Error en el registro del fichero"}}) {
-            Atelier atelier(langue);
-            const QString chemin = atelier.Change();
-            QFile::link(u"/dev/full"_s, atelier.Chemin("plein.iso"));
-            atelier.Operateur::Choisit(atelier.Chemin(ou));
-            if (langue == 0)
-                atelier.Fait("", Operateur::Clique(QMessageBox::Yes)); // replace the file of that name
-            atelier.Repond(titre, texte, Boite::Critique, QMessageBox::Ok);
-            Operateur::Menu("Mnu_EnregistrerSous");
-            VerifieChange(chemin);
-            QCOMPARE(atelier.Lit(Iso), QByteArray("G0"));
-        }
-    }
-
     // A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
     // programs, wherever the file dialog was last used.
     void Nouveau()
