@@ -1,9 +1,12 @@
 #include "endurance/Comptes.h"
 
+#include "shell/FrmPrinc.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTextDocument>
 #include <QWidget>
 
 #include <atomic>
@@ -45,6 +48,7 @@ Comptes Compte()
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+    frmPrinc->Text1->document()->rootFrame(); // the toolkit makes it when it is first asked for
     const auto descripteurs =
         QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
     return {Memoire(), int(descripteurs), objets, int(QApplication::topLevelWidgets().size())};
