@@ -1,6 +1,7 @@
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
 #include "platform/Polices.h"
+#include "platform/StyleContraste.h"
 #include "shell/Arrivee.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
@@ -27,6 +28,7 @@ QStringList FichiersDemandes()
 int main(int nombre, char *arguments[])
 {
     const std::future<void> polices = LisPolices();
+    QApplication::setStyle(new StyleContraste); // before the application: it then makes no other
     QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
     QApplication::setApplicationDisplayName(QString());              // or each title would end in the program's name
