@@ -28,8 +28,8 @@ QStringList FichiersDemandes()
 int main(int nombre, char *arguments[])
 {
     const std::future<void> polices = LisPolices();
-    QApplication::setStyle(new StyleContraste); // before the application: it then makes no other
     QApplication application(nombre, arguments);
+    QApplication::setStyle(new StyleContraste); // not earlier: the desktop says its style to the application
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
     QApplication::setApplicationDisplayName(QString());              // or each title would end in the program's name
     QGuiApplication::setDesktopFileName(QStringLiteral("dorvanel")); // the desktop's icon for the window
