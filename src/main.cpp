@@ -1,6 +1,7 @@
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
 #include "platform/Polices.h"
+#include "platform/StyleContraste.h"
 #include "shell/Arrivee.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
@@ -36,6 +37,7 @@ int main(int nombre, char *arguments[])
 {
     const std::future<void> polices = LisPolices();
     QApplication application(nombre, arguments);
+    QApplication::setStyle(new StyleContraste); // not earlier: the desktop says its style to the application
     QApplication::setApplicationName(QStringLiteral("Dorvanel"));
     QApplication::setApplicationVersion(QStringLiteral(DORVANEL_VERSION));
     QApplication::setApplicationDisplayName(QString());              // or each title would end in the program's name

@@ -46,6 +46,9 @@ void JauTour::BrancheTuiles()
     EcritAuClic(Picture21, Text1);
     EcritAuClic(Picture1, Text2);
     EcritAuClic(Picture11, Text2);
+    // The captions cover the axes with the window's colour: that of buttons differs from it on a dark theme.
+    for (QToolButton *const legende : findChildren<QToolButton *>())
+        legende->setBackgroundRole(QPalette::Window);
     // A round plate has no nose: on the front dial its locator takes the radius back as well.
     for (const QAbstractButton *bouton : std::initializer_list<QAbstractButton *>{Picture20, Label8})
         connect(bouton, &QAbstractButton::clicked, Text1, [this] { Text1->setText(QStringLiteral("0")); });

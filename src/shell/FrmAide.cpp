@@ -206,6 +206,7 @@ void FrmAide::DresseSommaire()
         QTreeWidgetItem *const parent = parents[niveau - 1];
         auto *const ligne = parent == nullptr ? new QTreeWidgetItem(TreeView1) : new QTreeWidgetItem(parent);
         ligne->setText(0, bloc.text());
+        ligne->setToolTip(0, bloc.text()); // a long one is cut at the edge of the contents
         ligne->setData(0, Qt::UserRole, Ancre(bloc));
         std::fill(std::begin(parents) + niveau, std::end(parents), ligne);
         m_titres.append({bloc.position(), ligne});

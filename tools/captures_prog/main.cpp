@@ -1,6 +1,7 @@
 #include "captures_prog/Vues.h"
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
+#include "platform/StyleContraste.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/FrmPrinc.h"
@@ -14,7 +15,6 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QTextStream>
 #include <QTimer>
 
@@ -42,7 +42,7 @@ QPalette Sombre()
 /// The same picture on every PC: one style, one font, no blinking.
 void FixeApparence(bool sombre)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new StyleContraste(QStringLiteral("Fusion")));
     QApplication::setPalette(sombre ? Sombre() : QApplication::style()->standardPalette());
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     QApplication::setCursorFlashTime(0);
