@@ -153,11 +153,13 @@ void TestFrmPrinc::FichierDepose()
     };
     const QString autre = poste.Ecrit(u"AUTRE €.iso"_s, "G1\r\n");
     FichierModifie = Vrai;
-    Operateur operateur;
-    operateur.Repond(u"Fichier en cours modifié"_s,
-                     u"Fichier "_s + NomFichier + u" modifié !\r            Enregistrer le fichier ? "_s,
-                     Operateur::DemandeSimple, QMessageBox::No);
-    QVERIFY(depose({autre}));
+    {
+        Operateur operateur; // he knows nothing of the dialog further down
+        operateur.Repond(u"Fichier en cours modifié"_s,
+                         u"Fichier "_s + NomFichier + u" modifié !\r            Enregistrer le fichier ? "_s,
+                         Operateur::DemandeSimple, QMessageBox::No);
+        QVERIFY(depose({autre}));
+    }
     QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
     QVERIFY(FichierModifie == 0 && depose({par}) && depose({mac}));
     QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
