@@ -17,6 +17,7 @@ constexpr bool JugeMemoire = false; // what was freed is kept for a while, and l
 constexpr bool JugeMemoire = true;
 #endif
 constexpr double CroissanceMax = 1.02;
+constexpr int ObjetsUniques = 2;   // the toolkit makes some once, at no fixed moment; a leak has one for each transfer
 constexpr qsizetype Fenetre = 100; // transfers at either end whose memory is compared
 
 constexpr const char *Noms[] = {"whole file, sent", "line by line, sent", "received by character",
@@ -74,7 +75,8 @@ bool EcrisComptes(const Comptes &avant, const Comptes &apres, const QList<qint64
     juste = EcrisCompte("open descriptors", avant.descripteurs, apres.descripteurs,
                         apres.descripteurs == avant.descripteurs) &&
             juste;
-    juste = EcrisCompte("living objects", avant.objets, apres.objets, apres.objets == avant.objets) && juste;
+    juste = EcrisCompte("living objects", avant.objets, apres.objets, apres.objets <= avant.objets + ObjetsUniques) &&
+            juste;
     return EcrisCompte("top-level windows", avant.fenetres, apres.fenetres, apres.fenetres == avant.fenetres) && juste;
 }
 
