@@ -310,7 +310,7 @@ void MSComm::Recolte()
 LectureLigne MSComm::Releve(int place)
 {
     try {
-        const LectureLigne lecture = m_xonXoff.Entend(m_ligne->Lit(place));
+        LectureLigne lecture = m_xonXoff.Entend(m_ligne->Lit(place));
         SuitMachine();
         return lecture;
     } catch (const Erreur &erreur) {
