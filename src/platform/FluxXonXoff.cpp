@@ -1,5 +1,7 @@
 #include "platform/FluxXonXoff.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char Xon = 17;
@@ -21,7 +23,7 @@ LectureLigne FluxXonXoff::Entend(const LectureLigne &lecture)
     entendue.erreur = lecture.erreur;
     for (qsizetype i = 0; i < lecture.octets.size(); ++i) {
         const char octet = lecture.octets.at(i);
-        const bool fausse = lecture.fausses.contains(i);
+        const bool fausse = std::binary_search(lecture.fausses.cbegin(), lecture.fausses.cend(), i);
         if (!fausse && (octet == Xon || octet == Xoff)) {
             m_retenue = octet == Xoff;
             continue;

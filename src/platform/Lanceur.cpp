@@ -34,8 +34,9 @@ constexpr std::array Programmes{Remplacant{"libreoffice", "--writer"},
                                 Remplacant{"pluma", ""},
                                 Remplacant{"featherpad", ""},
                                 Remplacant{"xdg-open", ""}};
+constexpr std::size_t NombreTraitements = 4; // the word processors at its head
 constexpr std::span<const Remplacant> Traitements(Programmes);
-constexpr std::span<const Remplacant> Editeurs = Traitements.subspan(4);
+constexpr std::span<const Remplacant> Editeurs = Traitements.subspan(NombreTraitements);
 
 bool LancePremier(std::span<const Remplacant> remplacants, const QString &fichier)
 {

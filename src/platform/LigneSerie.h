@@ -34,7 +34,7 @@ struct CompteursLigne
 struct LectureLigne
 {
     QByteArray octets;
-    QList<qsizetype> fausses; ///< positions in octets of the characters that came with a parity error
+    QList<qsizetype> fausses; ///< rising positions in octets of characters that came with a parity error
     bool erreur = false;      ///< the counters have moved: a parity or framing error, or a break
 };
 

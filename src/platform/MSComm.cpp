@@ -118,6 +118,7 @@ void MSComm::Ouvre()
     // Linux raises both lines as it opens the device; a machine that must not see them gets them lowered at once.
     ligne->PoseDTR(m_dtr);
     ligne->PoseRTS(m_rts || m_reglage.ARtsCts());
+    m_xonXoff = FluxXonXoff(); // what the last machine was told is nothing to this one
     RegleLigne(*ligne, m_reglage);
     ligne->JetteReception(); // a closed port receives nothing
 
@@ -311,7 +312,8 @@ LectureLigne MSComm::Releve(int place)
 {
     try {
         LectureLigne lecture = m_xonXoff.Entend(m_ligne->Lit(place));
-        SuitMachine();
+        if (m_xonXoff.Actif())
+            SuitMachine();
         return lecture;
     } catch (const Erreur &erreur) {
         Panne(erreur);
