@@ -41,11 +41,6 @@ constexpr Texte3 Limite{u"Nombre de correcteurs reçus > à ", u"A number of rec
                         u"Muchos correctores recibidos > a "};
 constexpr Texte3 LimiteTitre{u"Avertissement", u"Warning", u"Advertencia"};
 
-MSComm &Controle()
-{
-    return *frmPrinc->MSComm1;
-}
-
 /// One session at the bench, from the first tool to the gauge file.
 class Seance
 {

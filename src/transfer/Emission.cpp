@@ -41,7 +41,6 @@ public:
     void Fin();
     void Echo(const QString &texte);
 
-    MSComm &Controle() { return *frmPrinc->MSComm1; }
     Ui::Em_Rc &Dialogue() { return m_dialogue; }
 
 private:
@@ -114,7 +113,7 @@ int TailleBloc(const MSComm &controle)
 
 void EnvoieBlocs(Emission &emission, const QString &texte)
 {
-    const int bloc = TailleBloc(emission.Controle());
+    const int bloc = TailleBloc(Controle());
     for (qint64 position = 1; position <= texte.size();) {
         CedeLaMain();
         emission.Ecrit(texte.mid(position - 1, bloc));
@@ -139,7 +138,7 @@ void EnvoieLignes(Emission &emission)
     for (int numero = 1; numero <= NbLignes; ++numero) {
         PrepareLigne(numero);
         const QString ligne = Lignes[static_cast<std::size_t>(numero)] + ParamCom.ChaineFinLig;
-        if (emission.Controle().PortOpen()) {
+        if (Controle().PortOpen()) {
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
             emission.Ecrit(ligne);
         }
@@ -173,7 +172,7 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
         Emission emission(dialogue, texte.size());
         OuvrePortCOM();
         emission.Debut();
-        if (emission.Controle().PortOpen())
+        if (Controle().PortOpen())
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
         EnvoieBlocs(emission, texte);
         emission.Fin();

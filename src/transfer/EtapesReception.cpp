@@ -19,11 +19,6 @@ constexpr Texte3 Reussi{u"Transfert réalisé avec succès !", u"Transfer carrie
 
 } // namespace
 
-MSComm &Controle()
-{
-    return *frmPrinc->MSComm1;
-}
-
 void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre)
 {
     ForceRECEPT = 0;

@@ -3,15 +3,11 @@
 #include "locale/Langue.h"
 #include "platform/Erreur.h"
 
-class MSComm;
 namespace Ui {
 class Em_Rc;
 }
 
 // The steps that the ways of receiving a program share.
-
-/// The serial control of the main window.
-MSComm &Controle();
 
 /// Clears the flags, shows the echo labels if the configuration asks for them, with genre in Label4, opens the port and
 /// says that the machine is awaited.

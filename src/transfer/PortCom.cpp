@@ -123,9 +123,14 @@ void MontreErreur(const Erreur &erreur, const QString &texte)
 
 } // namespace
 
+MSComm &Controle()
+{
+    return *frmPrinc->MSComm1;
+}
+
 void OuvrePortCOM()
 {
-    MSComm &controle = *frmPrinc->MSComm1;
+    MSComm &controle = Controle();
     try {
         for (const EtapeReglage etape : EtapesReglage())
             etape(controle);
@@ -144,7 +149,7 @@ void OuvrePortCOM()
 
 void FermePortCOM(Ui::Em_Rc &dialogue)
 {
-    MSComm &controle = *frmPrinc->MSComm1;
+    MSComm &controle = Controle();
     try {
         if (!controle.PortOpen())
             return;

@@ -4,12 +4,16 @@
 
 #include <QString>
 
+class MSComm;
 class QPushButton;
 namespace Ui {
 class Em_Rc;
 }
 
 // The session on the serial port: a transfer opens it with the settings of ParamCom, runs, and closes it.
+
+/// The serial control of the main window.
+MSComm &Controle();
 
 /// Gives the control the settings of ParamCom and opens the port if it is closed. A failure is told to the operator and
 /// leaves the steps behind it undone; the routine that follows meets the closed port at its first operation.
