@@ -95,6 +95,7 @@ private Q_SLOTS:
     void Dossiers()
     {
         for (const auto &[contenu, dossiers] : {std::pair{QByteArray(), u"@|@|C:\\WINDOWS\\NOTEPAD.EXE"_s},
+                                                {"\"/p\"\r\n\"/j\"\r\n\"/bin/ed\"\r\n", u"/p|/j|/bin/ed"_s},
                                                 {"\"/p\"\r\n", u"/p||"_s},
                                                 {"\"/p\r\n/j\r\n", u"||"_s}}) {
             Etabli etabli;
