@@ -1,23 +1,25 @@
+#include "Donnees.h"
 #include "Etabli.h"
 
 #include "comconfig/FrmConfDem.h"
-#include "comconfig/ParamCom.h"
+#include "platform/FichierTexte.h"
 #include "shell/CadreExplorateur.h"
-#include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
-#include <QTest>
+#include <QDir>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr char Ini[] = "Dorvanel.ini";
-
 /// A workstation and its operator at the start-up options. "%1" in a text stands for the application folder.
 struct Atelier : Etabli
 {
-    Atelier() { Cree({u"Pieces"_s, u"Conf"_s}); }
+    Atelier()
+        : Etabli(0)
+    {
+        for (const QString &dossier : {u"Pieces"_s, u"Conf"_s, u"A, B"_s})
+            QDir(Dossier()).mkdir(dossier);
+    }
 
     void Coche(const QString &cases)
     {
@@ -41,9 +43,19 @@ struct Atelier : Etabli
             Presse("FrmConfDem", "Command4");
         Presse("FrmConfDem", "Command3");
         Menu("Mnu_ConfigDemar");
-        QCOMPARE(Lit(Ini), ini.arg(Dossier()).toLatin1());
+        QCOMPARE(Lit("Dorvanel.ini"), ini.arg(Dossier()).toLatin1());
     }
 };
+
+/// What a configuration enables (reception, sending) and shows, and the end of line in force.
+QString EnService()
+{
+    QString actives;
+    for (const bool active : {Operateur::Offre("Mnu_RecepProg"), frmPrinc->Bouton(10)->isEnabled(),
+                              Operateur::Offre("Mnu_EmisProgCN"), frmPrinc->Bouton(11)->isEnabled()})
+        actives += active ? u'1' : u'0';
+    return actives + u' ' + frmPrinc->Label4->text() + u' ' + frmPrinc->Label6->text() + u' ' + ParamCom.ChaineFinLig;
+}
 
 } // namespace
 
@@ -58,11 +70,10 @@ private Q_SLOTS:
     void ProchainDemarrage()
     {
         Atelier atelier;
-        QVERIFY(QFile::copy(atelier.complet, atelier.Chemin("Conf/Tour.par")));
+        QVERIFY(QFile::copy(Donnees(u"Complet.par"_s), atelier.Chemin("Conf/Tour.par")));
         atelier.Parcourt("Command1", u"Pieces"_s);
         atelier.Parcourt("Command2", u"Conf/Tour.par"_s);
-        atelier.Cree({u"A, B"_s}); // a name that the file cannot hold
-        atelier.Parcourt("Command5", u"A, B"_s);
+        atelier.Parcourt("Command5", u"A, B"_s); // a name that the file cannot hold
         atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
         atelier.Parcourt("Command5", u"Conf"_s);
         atelier.Coche(u"123"_s);
@@ -81,7 +92,6 @@ private Q_SLOTS:
         atelier.Ouvre(true, reste);
         atelier.Redemarre();
         QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
-        atelier.Ouvre(true, reste);
     }
 
     // Cancelled choices leave what stood there, and closing changes no setting. The language dialog starts the settings
@@ -96,13 +106,43 @@ private Q_SLOTS:
         const QString ini = u" 1 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
         atelier.Ouvre(true, ini);
         atelier.Coche({});
-        atelier.Ouvre(false, ini);
+        atelier.Presse("FrmConfDem", "Command3");
+        Operateur::Menu("Mnu_ConfigDemar");
         QCOMPARE(OptDosDefaut + OptConfDefaut + OptExplorateur, 3);
-        atelier.Coche({});
         atelier.Presse("FrmConfDem", "Command6");
         atelier.Presse("FrmLangue", "Option3");
         atelier.Presse("FrmLangue", "Command1");
         atelier.Ouvre(true, u" 0 \r\n\"%1\"\r\n 0 \r\n\"\"\r\n 1 \r\n%1\r\n 2 \r\n"_s);
+    }
+
+    // Receiving needs a configuration, sending a program too, which may come before or after. Cancelling changes
+    // nothing. A file that breaks off is in the record as far as it goes, and what was in service stays so.
+    void Charge()
+    {
+        const QString complete = Donnees(u"Complet.par"_s);
+        for (const bool programmeDAbord : {false, true}) {
+            Etabli e(0);
+            const QString programme = e.Ecrit("P.iso", "G0");
+            const QString courte = e.Ecrit("Courte.par", LitOctets(complete).chopped(5)); // no last line
+            if (programmeDAbord)
+                OuvreDocument(programme);
+            e.Ferme("CommonDialog");
+            Operateur::Barre(8);
+            QCOMPARE(FicConf + NomConf + ParamCom.NomPort, QString());
+            e.ChoisitAncien(courte);
+            Operateur::Menu("Mnu_ChargeConf");
+            QCOMPARE(EnService(), u"0000 Aucun Aucun "_s);
+            QCOMPARE(FicConf + NomConf + ParamCom.NomPort, courte + u"Courte.parCom3"_s);
+
+            e.Choisit(complete);
+            Operateur::Menu("Mnu_ChargeConf");
+            const QString suite = u" Complet.par Tour 2 axes, été € \r\r\n"_s;
+            QCOMPARE(EnService(), (programmeDAbord ? u"1111"_s : u"1100"_s) + suite);
+            OuvreDocument(programme);
+            e.ChoisitAncien(courte);
+            Operateur::Menu("Mnu_ChargeConf");
+            QCOMPARE(EnService() + NomConf, u"1111"_s + suite + u"Courte.par"_s);
+        }
     }
 };
 

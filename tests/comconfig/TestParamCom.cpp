@@ -1,5 +1,7 @@
-#include "comconfig/ParamCom.h"
+#include "Donnees.h"
 #include "platform/Essais.h"
+
+#include "comconfig/ParamCom.h"
 #include "platform/FichierTexte.h"
 #include "platform/PageCode1252.h"
 
@@ -37,7 +39,7 @@ private Q_SLOTS:
     // Byte for byte. A quote inside a text changes: it would end the text and shift all fields behind it.
     void EcritCommeLu()
     {
-        for (const QString &chemin : {QString::fromUtf16(DONNEES) + u"/Court.par"_s, m_complet}) {
+        for (const QString &chemin : {Donnees(u"Court.par"_s), m_complet}) {
             QCOMPARE(Lit(chemin), 0);
             EcrireFichierPar(m_copie);
             QCOMPARE(LitOctets(m_copie), LitOctets(chemin));
@@ -52,26 +54,16 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(u"parti/x.par"_s)), Erreur);
     }
 
-    // One line of the full file changed, or missing: the number of the failure (6: too large, 13: wrong form, 62: end
-    // of file), 0 for none. What stands behind the failure keeps its former value.
+    // One line of the full file changed, or missing. What stands behind the failure keeps its former value.
     void LignesChangees()
     {
-        for (const auto &[change, numero] : {std::pair{"1=   3 ", 0},
-                                             {"3=Tour", 13},
-                                             {"8=#TRUE#", 0},
-                                             {"9=#TRUE#", 13},
-                                             {"12=512 caracteres", 13},
-                                             {"14=70000", 6},
-                                             {"26=\"FIN", 62},
-                                             {"30=256", 6},
-                                             {"30=-1", 6},
-                                             {"37=x", 13},
-                                             {"37=", 62}}) {
+        for (const QStringList &change : Table(u"lignes_par.tsv"_s)) {
             ParamCom = {};
             ParamCom.FinLigRecep = ParamCom.TypeEnvoi = 7;
-            const int ligne = QString::fromLatin1(change).section(u'=', 0, 0).toInt(); // from 1
+            const int ligne = change[0].toInt(); // from 1
+            const int numero = change[2].toInt();
             QStringList lignes = Lignes();
-            lignes[ligne - 1] = QString::fromLatin1(change).section(u'=', 1);
+            lignes[ligne - 1] = change[1];
             QCOMPARE(LitLignes(lignes), numero);
             QCOMPARE(ParamCom.Echo, ligne > 7 || numero == 0 ? 1 : 0);
             QCOMPARE(ParamCom.FinLigRecep, ligne > 36 || numero == 0 ? 3 : 7);
@@ -94,7 +86,6 @@ private Q_SLOTS:
             for (int code = 1; code <= compte; ++code)
                 lignes.insert(29, QString::number(code)); // the last one comes first
             QCOMPARE(LitLignes(lignes), numero);
-            QCOMPARE(ParamCom.CarFinLig[3], numero == 0 ? 10 : 0);
             EcrireFichierPar(m_copie);
             QCOMPARE(Lit(m_copie), 0);
             QCOMPARE(ChaineDebProg().size(), tenus);
@@ -132,7 +123,7 @@ private:
         return Lit(m_copie);
     }
 
-    const QString m_complet = QString::fromUtf16(DONNEES) + u"/Complet.par"_s;
+    const QString m_complet = Donnees(u"Complet.par"_s);
     QTemporaryDir m_dossier;
     const QString m_copie = m_dossier.filePath(u"copie.par"_s);
 };

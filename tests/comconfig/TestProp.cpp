@@ -1,15 +1,13 @@
+#include "Donnees.h"
 #include "Etabli.h"
 #include "LigneScenario.h"
 
 #include "comconfig/DosProg.h"
-#include "comconfig/ParamCom.h"
+#include "comconfig/FrmCaract.h"
 #include "comconfig/Prop.h"
 #include "platform/FichierTexte.h"
-#include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
-#include <QFileDialog>
-#include <QTest>
+#include <QDir>
 
 using namespace Qt::Literals::StringLiterals;
 using C = ConfigurationCom;
@@ -22,11 +20,11 @@ struct Banc : Etabli
     explicit Banc(int langue = 0)
         : Etabli(langue)
     {
-        LireFichierPar(complet);
+        LireFichierPar(Donnees(u"Complet.par"_s));
         frmPrinc->MSComm1->setFabrique(LigneScenario::Fabrique(scenario));
     }
 
-    void Prevenu(const QString &texte) { Repond("Dorvanel Pro", texte, Boite::Exclamation, QMessageBox::Ok); }
+    void Prevenu(const QString &texte) { Apprend("Dorvanel Pro", texte); }
     static void Ouvre(bool port) { frmPrinc->MSComm1->setPortOpen(PortOuvert = port); }
 
     std::shared_ptr<Scenario> scenario = std::make_shared<Scenario>();
@@ -78,12 +76,10 @@ private Q_SLOTS:
             ParamCom.TypeRecep = type;
             ParamCom.NbCarLecture = nombre;
             const Prop prop(frmPrinc);
-            for (const QString &tape : {u"77"_s, u"1"_s}) {
-                QCOMPARE(prop.Text2->text(), montre);
-                prop.Text2->setText(tape);
-                banc.Ferme("FrmCaract");
-                prop.Command22->click();
-            }
+            prop.Text2->setText(u"77"_s);
+            banc.Ferme("FrmCaract");
+            prop.Command22->click();
+            QCOMPARE(prop.Text2->text(), montre);
         }
         const Prop prop(frmPrinc);
         for (const auto &[avant, option, apres] :
@@ -92,10 +88,10 @@ private Q_SLOTS:
             Bouton(prop, u"OptionRCP_%1"_s.arg(option))->click();
             QCOMPARE(prop.Text2->text(), apres);
         }
-        for (const bool fixe : {false, true}) {
-            (fixe ? prop.OptionTaille_1 : prop.OptionTaille_0)->click();
-            QVERIFY(prop.Text8->text() == u"0" && prop.Text8->isHidden() != fixe && prop.Label18->isHidden() != fixe);
-        }
+        prop.OptionTaille_0->click();
+        QVERIFY(prop.Text8->text() == u"0" && prop.Text8->isHidden());
+        prop.OptionTaille_1->click();
+        QVERIFY(!prop.Text8->isHidden());
     }
 
     // Boxes of numbers: what can be typed, what a pasted text is worth, and a number that fits no field, which leaves
@@ -104,39 +100,33 @@ private Q_SLOTS:
     {
         Banc banc;
         const Prop prop(frmPrinc);
-        const std::tuple<QLineEdit *, QLabel *, int C::*> boites[] = {
-            {prop.Text2, prop.Label9, &C::NbCarLecture},      {prop.Text4, prop.Label11, &C::TailleTamponRecep},
-            {prop.Text5, prop.Label14, &C::TailleTamponEmis}, {prop.Text6, prop.Label15, &C::SeuilRecep},
-            {prop.Text7, prop.Label16, &C::SeuilEmis},        {prop.Text8, prop.Label18, &C::TailleRecep}};
-        for (const auto &[boite, legende, champ] : boites) {
+        for (QLineEdit *const boite : {prop.Text2, prop.Text4, prop.Text5, prop.Text6, prop.Text7, prop.Text8}) {
             boite->clear();
             QTest::keyClicks(boite, u"1a-23. "_s);
             QTest::keyClick(boite, Qt::Key_Backspace);
             QCOMPARE(boite->text(), u"12"_s);
-            for (const auto &[colle, valeur] :
-                 {std::pair{"12a4", 12}, {" 7", 7}, {"abc", 0}, {"-5", 0}, {"1e3", 1}, {"", 0}}) {
-                boite->setText(QLatin1String(colle));
-                banc.Ferme("CommonDialog");
-                prop.Command1->click();
-                QCOMPARE(ParamCom.*champ, valeur);
-            }
-            for (const QString &trop : {u"32768"_s, QString(400, u'9')}) {
-                boite->setText(trop);
-                const bool courte = boite == prop.Text2 || boite == prop.Text4;
-                QCOMPARE(boite->text(), courte ? trop.left(4) : trop);
-                for (QPushButton *const bouton : {prop.Command1, prop.cmdOK}) {
-                    if (courte || (boite == prop.Text8 && bouton == prop.cmdOK)) // which only a saving reads
-                        continue;
-                    ParamCom.Commentaire = u"ancien"_s;
-                    ParamCom.*champ = 44;
-                    banc.Prevenu(legende->text() + u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
-                    bouton->click();
-                    QCOMPARE(ParamCom.Commentaire, bouton == prop.cmdOK ? QString() : u"ancien"_s);
-                    QCOMPARE(ParamCom.*champ, 44);
-                }
-            }
+        }
+        for (const auto &[colle, valeur] :
+             {std::pair{"12a4", 12}, {" 7", 7}, {"abc", 0}, {"-5", 0}, {"1e3", 1}, {"", 0}}) {
+            prop.Text6->setText(QLatin1String(colle));
+            banc.Ferme("CommonDialog");
+            prop.Command1->click();
+            QCOMPARE(ParamCom.SeuilRecep, valeur);
+        }
+        for (const auto &[boite, legende] :
+             {std::pair{prop.Text5, prop.Label14}, {prop.Text7, prop.Label16}, {prop.Text8, prop.Label18}}) {
+            boite->setText(u"32768"_s);
+            ParamCom.Commentaire = u"ancien"_s;
+            banc.Prevenu(legende->text() + u"\r32768 ne convient pas (32767 au plus)."_s);
+            prop.Command1->click();
+            QCOMPARE(ParamCom.Commentaire, u"ancien"_s);
             boite->setText(u"1"_s);
         }
+        const QString trop(400, u'9');
+        prop.Text7->setText(trop);
+        banc.Prevenu(prop.Label16->text() + u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
+        prop.cmdOK->click();
+        QCOMPARE(ParamCom.Commentaire + QString::number(ParamCom.SeuilEmis), u"12"_s);
     }
 
     // Apply: record, control and main window follow; an open port moves, and what it refuses does not keep it from the
@@ -201,7 +191,7 @@ private Q_SLOTS:
     }
 
     // A cancelled saving ends without a word: the fields are taken. A folder only looked at is in the record until the
-    // one that is shown is put back. The editor goes to the settings at once, unless its choice is given up.
+    // one that is shown is put back. The editor goes to the settings at once.
     void Choix()
     {
         Banc banc;
@@ -219,16 +209,15 @@ private Q_SLOTS:
         prop.Command1->click();
         QCOMPARE(FicConf + NomConf + ParamCom.DosRecep + QDir::currentPath(), banc.Dossier() + banc.Dossier());
         QCOMPARE(ParamCom.TailleRecep * 10 + ParamCom.TypeEnvoi, 330);
-        for (const QString &choisi : {banc.Dossier(), banc.Ecrit("Mon editeur.exe", {})}) {
-            if (choisi == banc.Dossier())
-                banc.Ferme("CommonDialog");
-            else
-                banc.Choisit(choisi);
-            prop.Command5->click();
-            QCOMPARE(prop.Label12->text(), choisi);
-            QCOMPARE(banc.Lit("Dorvanel.CFG").endsWith("\r\n\"" + choisi.toUtf8() + "\"\r\n"),
-                     choisi != banc.Dossier());
-        }
+
+        const QString editeur = banc.Ecrit("Mon editeur.exe", {});
+        banc.Ferme("CommonDialog");
+        prop.Command5->click();
+        QCOMPARE(prop.Label12->text(), banc.Dossier());
+        banc.Choisit(editeur);
+        prop.Command5->click();
+        QCOMPARE(prop.Label12->text(), editeur);
+        QVERIFY(banc.Lit("Dorvanel.CFG").endsWith("\r\n\"" + editeur.toUtf8() + "\"\r\n"));
     }
 
     // A configuration to modify: a saving without a change gives it back byte for byte, also where no list has its
@@ -236,25 +225,19 @@ private Q_SLOTS:
     void Modifie()
     {
         Banc banc;
-        banc.Ferme("CommonDialog");
+        banc.Ferme("CommonDialog"); // and nothing opens
         Operateur::Menu("Mnu_ModifConf");
-        QVERIFY(FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
-
-        const QByteArray entier = LitOctets(banc.complet);
+        const QByteArray entier = LitOctets(Donnees(u"Complet.par"_s));
         const QByteArray autre = QByteArray(entier).replace("19200", "187500");
         DosConf = banc.Dossier();
         for (const QByteArray &octets : {entier, autre, autre.chopped(5)}) {
-            QFile::remove(banc.Chemin("Sans suffixe"));
+            QFile::remove(banc.Chemin("Sans suffixe")); // or the dialog asks about it
             const QString ancien = banc.Ecrit("Ancien.par", octets);
             if (octets.size() < entier.size())
                 banc.ChoisitAncien(ancien);
             else
                 banc.Choisit(ancien);
             banc.Presse("Prop", "Command1");
-            banc.Fait("CommonDialog", [&ancien](QWidget &fenetre) {
-                QCOMPARE(fenetre.windowTitle(), u"Enregistrer la configuration de communication"_s);
-                QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).selectedFiles(), QStringList{ancien});
-            });
             banc.Choisit(banc.Chemin("Sans suffixe"));
             banc.Fait("Prop", [](QWidget &fenetre) {
                 QCOMPARE(fenetre.windowTitle(),
@@ -268,28 +251,14 @@ private Q_SLOTS:
         }
     }
 
-    // In each language, whatever it shows, the dialog fits the screens of the shop and no word is cut. Each port says
-    // what it stands for, and each help button has a text of its own, with the blanks at the ends of its lines.
-    void Langues()
+    // Each port says what it stands for, and in each language each help button has a text of its own, with the blanks
+    // at the ends of its lines.
+    void Aides()
     {
         QSet<QString> aides;
         for (int langue = 0; langue < 3; ++langue) {
             Banc banc(langue);
-            banc.Relie(5, banc.Ecrit("adaptateur", {}));
-            ParamCom.LibFinLig = u"Xoff"_s.repeated(100);
-            ParamCom.DosRecep = u"/dossier"_s.repeated(40);
-            Prop prop(frmPrinc);
-            for (int onglet = 0; onglet < 3; ++onglet) {
-                prop.SSTab1->setCurrentIndex(onglet);
-                prop.show();
-                QVERIFY(prop.width() <= 1280 && prop.height() <= 760); // and a title bar
-                for (const QWidget *const controle : prop.findChildren<QWidget *>())
-                    QVERIFY2(!controle->isVisible() || controle->width() >= controle->minimumSizeHint().width(),
-                             qPrintable(controle->objectName()));
-            }
-            const auto bulle = [&](int port) { return prop.cboPort->itemData(port - 1, Qt::ToolTipRole).toString(); };
-            QVERIFY2(bulle(5).contains(QFileInfo(banc.Chemin("adaptateur")).canonicalFilePath()), qPrintable(bulle(5)));
-            QVERIFY(bulle(16).startsWith(u"Com16 : "_s) && bulle(16).section(u':', 1) != bulle(5).section(u':', 1));
+            const Prop prop(frmPrinc);
             for (const int bouton : {6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 23, 24, 25}) {
                 banc.Fait("MsgBox", [&aides](QWidget &fenetre) {
                     aides << fenetre.windowTitle() + u'|' + dynamic_cast<QMessageBox &>(fenetre).text();
@@ -301,6 +270,75 @@ private Q_SLOTS:
         QCOMPARE(aides.size(), 3 * 14);
         QVERIFY(aides.contains(u"Information on the adjustment of the parity|Information on the parity\n\nEven : \n"
                                "Marque : \nNone : None (Default value)\nOdd : \nSpace : "_s));
+    }
+
+    // Each port says what it stands for.
+    void Ports()
+    {
+        const Banc banc(0);
+        const QString adaptateur = banc.Ecrit("adaptateur", {});
+        banc.Relie(5, adaptateur);
+        const Prop prop(frmPrinc);
+        const auto bulle = [&](int port) { return prop.cboPort->itemData(port - 1, Qt::ToolTipRole).toString(); };
+        QVERIFY2(bulle(5).contains(QFileInfo(adaptateur).canonicalFilePath()), qPrintable(bulle(5)));
+        QVERIFY(bulle(16).startsWith(u"Com16 : "_s) && bulle(16).section(u':', 1) != bulle(5).section(u':', 1));
+    }
+
+    // The chooser of characters. Gestures on the chain CR LF: numbers press the character's button, "=x" applies x as
+    // the free character, the rest are names of buttons. Codes, label and undo; behind the chain no code is left.
+    void Compose()
+    {
+        const Poste poste(0);
+        for (const auto &[gestes, chaine, libelle, annulable] :
+             {std::tuple{u"19"_s, u"\r\n\x13"_s, u"CRLFXoff"_s, true},
+              {u"19 17 Command3 Command3"_s, u"\r\n\x13"_s, u"CRLFXoff"_s, false},
+              {u"9 Command2 Command3"_s, {}, {}, false},
+              {u"Command2 0"_s, u"\0"_s, u"Nul"_s, true},
+              {u"Command2 38 34 30 31 32 127"_s, u"&\"\x1E\x1F \x7F"_s, u"&&\"usrsEsp\x7F"_s, true},
+              {u"Command2 Command4 2 Command5"_s, u"\u0002\u0002\u0003"_s, u"\u0002stx\u0003"_s, true},
+              {u"Command2 =é =€ =& =Ω ="_s, u"é€&"_s, u"é€&"_s, true}}) {
+            ParamCom.CarFinLig = {0, '\r', '\n'};
+            ParamCom.NbCarFinLig = 2;
+            const FrmCaract dialogue(ChaineLigne, u"CRLF"_s, frmPrinc);
+            for (const QString &geste : gestes.split(u' ')) {
+                const bool libre = geste.startsWith(u'=');
+                dialogue.Text1->setText(libre ? geste.mid(1) : QString());
+                const QString nom = libre ? u"Command6"_s : geste.startsWith(u'C') ? geste : u"Car_"_s + geste;
+                dialogue.findChild<QPushButton *>(nom)->click();
+            }
+            QCOMPARE(ChaineCarFinLig(), chaine);
+            ParamCom.NbCarFinLig = 100;
+            QCOMPARE(ChaineCarFinLig(), chaine.leftJustified(100, QChar()));
+            QCOMPARE(dialogue.Label1->text(), libelle);
+            QCOMPARE(dialogue.Command3->isEnabled(), annulable);
+        }
+    }
+
+    // The 101st character finds every way shut; an undo opens them again.
+    void ChainePleine()
+    {
+        const Poste poste(0);
+        ParamCom.NbCarFinLig = 99;
+        const FrmCaract dialogue(ChaineLigne, {}, frmPrinc);
+        dialogue.Text1->setText(u"é"_s);
+        for (const bool ouvertes : {true, false, true}) {
+            QPushButton *const bouton = dialogue.findChild<QPushButton *>(u"Car_13"_s);
+            for (QPushButton *const voie : {bouton, dialogue.Command4, dialogue.Command6})
+                QCOMPARE(voie->isEnabled(), ouvertes);
+            (ouvertes ? dialogue.Command5 : dialogue.Command3)->click();
+            QCOMPARE(ParamCom.NbCarFinLig, ouvertes ? 100 : 99);
+        }
+    }
+
+    // The names of characters in a tool tip are no tags.
+    void BullesDesCaracteres()
+    {
+        const Poste poste(1);
+        const FrmCaract dialogue(ChaineLigne, u"A&&\u0003"_s, frmPrinc);
+        QCOMPARE(dialogue.findChild<QPushButton *>(u"Car_17"_s)->toolTip(), u"17 = 11h  DC1"_s);
+        QCOMPARE(dialogue.Label1->toolTip(), u"A&<ETX>"_s);
+        dialogue.Label1->MontreChaine(u"\u0019"_s);
+        QCOMPARE(dialogue.Label1->toolTip(), u"&lt;EM&gt;"_s);
     }
 };
 

@@ -4,7 +4,8 @@
 #include "platform/PageCode1252.h"
 #include "platform/RichTextBox.h"
 
-// Any file is a text: what the pane gives back is what was loaded, to the byte. As rich text it may be refused.
+// Any file is a text: what the pane gives back is what was loaded, to the byte. As rich text it may be refused, or is
+// never longer than what its file can say.
 void Essaie(const QByteArray &octets)
 {
     static RichTextBox volet;
@@ -13,6 +14,7 @@ void Essaie(const QByteArray &octets)
     EXIGE(OctetsEn1252(volet.Text()) == octets);
     try {
         volet.LoadFile(chemin, RichTextBox::TexteRiche);
+        EXIGE(volet.Text().size() <= 2 * octets.size());
     } catch (const Erreur &) {
         EXIGE(OctetsEn1252(volet.Text()) == octets);
     }

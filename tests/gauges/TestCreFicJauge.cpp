@@ -1,17 +1,13 @@
-#include "Operateur.h"
-#include "Poste.h"
+#include "Donnees.h"
+#include "Etabli.h"
 
 #include "gauges/CreFicJauge.h"
 #include "gauges/Jauge.h"
 #include "gauges/ParamMac.h"
 #include "platform/Erreur.h"
-#include "platform/FichierTexte.h"
-#include "shell/Document.h"
-#include "shell/FrmPrinc.h"
 #include "transfer/Transfert.h"
 
 #include <QDate>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,8 +16,20 @@ namespace {
 /// The columns of the table of calculated measures.
 enum Colonne { Machine, VeutX, Poches, MaxiX, MaxiZ, Corr, X, Z, Mode, Rayon, Loc, FormeD, FormeE, Raz, RingX, RingZ };
 
+/// A form of the file, in a language, and its alarms.
+struct Forme
+{
+    int langue, typeJauge, razDynamique;
+    QString titre, texte;
+};
+const Forme Formes[] = {
+    {0, 0, 0, u"Alarme jauge en %1"_s, u"Alarme Jauge en %1!\rJauge en %1 du correcteur N°: \r"_s},
+    {1, 1, 0, u"Alarm gauge tool in %1"_s, u"Alarm gauge tool in %1!\rMeasure in %1 of corrector N°: \r"_s},
+    {2, 1, 1, u"Alarma mide instrumentos en %1"_s,
+     u"Alarma mide instrumentos en %1!\rCapacidad en %1 del corrector N°: \r"_s}};
+
 /// The machine of a row, and its file empty.
-void Configure(const QStringList &ligne)
+void Configure(const QStringList &ligne, const Forme &forme)
 {
     ParamMac = {};
     ParamMac.TypeMachine = ligne[Machine] == u"mill" ? 1 : 0;
@@ -29,7 +37,18 @@ void Configure(const QStringList &ligne)
     ParamMac.DiffPoches = ligne[Poches].toDouble();
     ParamMac.JaugeMaxiX = ligne[MaxiX].toDouble();
     ParamMac.JaugeMaxiZ = ligne[MaxiZ].toDouble();
+    ParamMac.TypeJauge = forme.typeJauge;
+    ParamMac.RazDynamique = forme.razDynamique;
     NbJauges = 0;
+}
+
+/// What stands ahead of the measures.
+QStringList Entete()
+{
+    if (!ParamMac.EnParametresE())
+        return {u"%"_s};
+    return {u"%7999 (JAUGES OUTILS LE:"_s + QDate::currentDate().toString(u"MM-dd-yyyy"_s) + u')',
+            ParamMac.EstTour() ? u"(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)"_s : u"(JAUGE L     JAUGE R)"_s};
 }
 
 void Mesure(const QStringList &ligne)
@@ -45,83 +64,58 @@ class TestCreFicJauge : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Calculees();
-    void Echec();
-};
-
-// Every form of file, to the byte, against measures that were calculated apart; each form in another language. The
-// alarms come one by one, X first, and stop nothing.
-void TestCreFicJauge::Calculees()
-{
-    struct Forme
+    // Every form of file, to the byte, against measures that were calculated apart. The alarms come one by one, X
+    // first, and stop nothing.
+    void Calculees()
     {
-        int langue, typeJauge, razDynamique;
-        QString titre, texte; // of an alarm
-    };
-    const Forme formes[] = {
-        {0, 0, 0, u"Alarme jauge en %1"_s, u"Alarme Jauge en %1!\rJauge en %1 du correcteur N°: \r"_s},
-        {1, 1, 0, u"Alarm gauge tool in %1"_s, u"Alarm gauge tool in %1!\rMeasure in %1 of corrector N°: \r"_s},
-        {2, 1, 1, u"Alarma mide instrumentos en %1"_s,
-         u"Alarma mide instrumentos en %1!\rCapacidad en %1 del corrector N°: \r"_s}};
-    const QStringList table =
-        QString::fromUtf8(LitOctets(QString::fromUtf16(DONNEES) + u"/jauges_calculees.txt"_s)).trimmed().split(u'\n');
-    QVERIFY(table.size() >= 60);
-    const QDate jour = QDate::currentDate();
-    const QString date =
-        u"%1-%2-%3"_s.arg(jour.month(), 2, 10, QChar(u'0')).arg(jour.day(), 2, 10, QChar(u'0')).arg(jour.year());
-    for (const Forme &forme : formes) {
-        const Poste poste(forme.langue);
-        const bool enE = forme.typeJauge == 1;
-        DossierRecep = poste.Dossier();
-        NomFicRecep = u"OUTILS.JAU"_s;
-        for (qsizetype i = 0; i < table.size();) { // the rows of one machine after another: one gauge file
-            Operateur operateur;
-            const QStringList premiere = table[i].split(u';').first(Corr);
-            Configure(premiere);
-            ParamMac.TypeJauge = forme.typeJauge;
-            ParamMac.RazDynamique = forme.razDynamique;
-            QStringList attendu{u"%"_s};
-            if (enE)
-                attendu = {u"%7999 (JAUGES OUTILS LE:"_s + date + u')',
-                           ParamMac.EstTour() ? u"(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)"_s
-                                              : u"(JAUGE L     JAUGE R)"_s};
-            for (; i < table.size() && table[i].startsWith(premiere.join(u';') + u';'); ++i) {
-                const QStringList ligne = table[i].split(u';');
-                Mesure(ligne);
-                attendu << ligne[enE ? FormeE : FormeD];
-                if (enE && forme.razDynamique == 0)
-                    attendu << ligne[Raz];
-                for (const auto &[sonne, axe] : {std::pair{RingX, u"X"_s}, {RingZ, u"Z"_s}}) {
-                    if (!ligne[sonne].isEmpty())
-                        operateur.Repond(forme.titre.arg(axe), forme.texte.arg(axe) + ligne[sonne], Boite::Critique,
-                                         QMessageBox::Ok);
+        const QList<QStringList> table = Table(u"jauges_calculees.tsv"_s);
+        QVERIFY(table.size() >= 60);
+        for (const Forme &forme : Formes) {
+            const Poste poste(forme.langue);
+            DossierRecep = poste.Dossier();
+            NomFicRecep = u"OUTILS.JAU"_s;
+            for (qsizetype i = 0; i < table.size();) { // the rows of one machine after another: one gauge file
+                Operateur operateur;
+                const QStringList machine = table[i].first(Corr);
+                Configure(machine, forme);
+                QStringList attendu = Entete();
+                for (; i < table.size() && table[i].first(Corr) == machine; ++i) {
+                    const QStringList &ligne = table[i];
+                    Mesure(ligne);
+                    attendu << ligne[forme.typeJauge == 1 ? FormeE : FormeD];
+                    if (forme.typeJauge == 1 && forme.razDynamique == 0)
+                        attendu << ligne[Raz];
+                    for (const auto &[sonne, axe] : {std::pair{RingX, u"X"_s}, {RingZ, u"Z"_s}}) {
+                        if (!ligne[sonne].isEmpty())
+                            operateur.Repond(forme.titre.arg(axe), forme.texte.arg(axe) + ligne[sonne], Boite::Critique,
+                                             QMessageBox::Ok);
+                    }
                 }
+                attendu << (forme.typeJauge == 1 ? QStringList{QString(), u"M02"_s} : QStringList()) << QString();
+                FichierModifie = Vrai;
+                CreFicJauge();
+                QCOMPARE(QString::fromLatin1(poste.Lit("OUTILS.JAU")), attendu.join(u"\r\n"_s));
+                QCOMPARE(frmPrinc->Text1->Text(), attendu.join(u"\r\n"_s));
+                QCOMPARE(NomFichier + TitreFichier, poste.Chemin("OUTILS.JAU") + NomFicRecep);
+                QCOMPARE(FichierModifie, 0);
             }
-            attendu << (enE ? QStringList{QString(), u"M02"_s} : QStringList()) << QString();
-            FichierModifie = Vrai;
-            CreFicJauge();
-            QCOMPARE(QString::fromLatin1(poste.Lit("OUTILS.JAU")), attendu.join(u"\r\n"_s));
-            QCOMPARE(frmPrinc->Text1->Text(), attendu.join(u"\r\n"_s));
-            QCOMPARE(NomFichier + TitreFichier, poste.Chemin("OUTILS.JAU") + NomFicRecep);
-            QCOMPARE(FichierModifie, 0);
         }
     }
-}
 
-// A measure beyond all numbers reaches the caller; the file stays as it was.
-void TestCreFicJauge::Echec()
-{
-    const Poste poste(0);
-    ParamMac.JaugeMaxiX = 1e300; // in the machine's file a limit may be anything
-    ParamMac.TypeJauge = 1;
-    NbJauges = 1;
-    DossierRecep = poste.Dossier();
-    NomFicRecep = u"A.JAU"_s;
-    poste.Ecrit("A.JAU", "TN:");
-    Jauge[1].JaugeX = 1e36F; // as micrometres more than single precision holds
-    QVERIFY_EXCEPTION_THROWN(CreFicJauge(), Erreur);
-    QCOMPARE(poste.Lit("A.JAU") + NomFichier.toLatin1(), "TN:");
-}
+    // A measure beyond all numbers reaches the caller; the file stays as it was.
+    void Echec()
+    {
+        const Poste poste(0);
+        ParamMac.JaugeMaxiX = 1e300; // in the machine's file a limit may be anything
+        ParamMac.TypeJauge = 1;
+        Jauge[std::size_t(NbJauges = 1)].JaugeX = 1e36F; // as micrometres more than single precision holds
+        DossierRecep = poste.Dossier();
+        NomFicRecep = u"A.JAU"_s;
+        poste.Ecrit("A.JAU", "TN:");
+        QVERIFY_EXCEPTION_THROWN(CreFicJauge(), Erreur);
+        QCOMPARE(poste.Lit("A.JAU") + NomFichier.toLatin1(), "TN:");
+    }
+};
 
 QTEST_MAIN(TestCreFicJauge)
 #include "TestCreFicJauge.moc"

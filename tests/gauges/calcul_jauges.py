@@ -107,7 +107,7 @@ def row(machine, wanted, pocket, limit_x, limit_z, corrector, x, z, mode, radius
         reset = f"E54{number}=0 E53{number}=0"
     alarms = [f"{corrector} > à {text(single(limit))} mm" if value > single(limit) else ""
               for value, limit in ((new_x, limit_x), (new_z, limit_z))]
-    return ";".join([machine, wanted, pocket, limit_x, limit_z, str(corrector), x, z, mode, radius, str(locator),
+    return "\t".join([machine, wanted, pocket, limit_x, limit_z, str(corrector), x, z, mode, radius, str(locator),
                      line_d, line_e, reset, *alarms])
 
 

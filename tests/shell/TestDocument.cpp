@@ -1,15 +1,12 @@
-#include "Operateur.h"
+#include "Etabli.h"
 #include "platform/Essais.h"
-#include "Poste.h"
 
 #include "platform/CommonDialog.h"
-#include "shell/Document.h"
-#include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
-#include <QTest>
+#include <QMimeData>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,13 +15,10 @@ namespace {
 const QString Iso = QStringLiteral("P.iso");
 const QString Version = QStringLiteral("Dorvanel Pro version 2.7.0 : ");
 
-/// A workstation and its operator, who opens and saves programs.
-struct Atelier : Poste, Operateur
+/// An operator who opens and saves programs.
+struct Atelier : Etabli
 {
-    explicit Atelier(int langue = 0)
-        : Poste(langue)
-    {
-    }
+    using Etabli::Etabli;
 
     void Choisit(const char *entree, const QString &chemin)
     {
@@ -32,23 +26,14 @@ struct Atelier : Poste, Operateur
         Menu(entree);
     }
 
-    /// Opens "P.iso", which holds G0, and types G1 instead.
-    QString Change()
+    /// A program in the pane, and a part of it selected.
+    void Ouvre(int debut, int longueur) const
     {
-        const QString chemin = Poste::Ecrit(Iso, "G0");
-        OuvreDocument(chemin);
-        frmPrinc->Text1->setText(u"G1"_s);
-        return chemin;
+        OuvreDocument(Ecrit("P.iso", "N10\nN20\r\nN30"));
+        frmPrinc->Text1->setSelStart(debut);
+        frmPrinc->Text1->setSelLength(longueur);
     }
 };
-
-/// The document stands as Change() left it.
-void VerifieChange(const QString &chemin)
-{
-    QCOMPARE(frmPrinc->Text1->Text() + NomFichier + TitreFichier, u"G1"_s + chemin + Iso);
-    QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + chemin + Iso);
-    QCOMPARE(FichierModifie, Vrai);
-}
 
 } // namespace
 
@@ -60,11 +45,9 @@ private Q_SLOTS:
     // Through the two commands a program keeps every byte, whatever stood in the pane; the saving adds one CR LF.
     void AllerRetour()
     {
-        Atelier atelier;
+        Atelier atelier(0);
         const QByteArray tous = TousLesOctets();
-        QByteArray gros;
-        for (int bloc = 0; gros.size() < 10'000'000; ++bloc)
-            gros += "N" + QByteArray::number(bloc) + " G1 X12.345 Y-6.789 F1000" + (bloc % 3 == 0 ? "\n" : "\r\n");
+        const QByteArray gros = QByteArray("N10 G1 X12.345 Y-6.789 F1000\nN20 G0\r\n").repeated(270'000);
         for (const QByteArray &octets :
              {QByteArray(), QByteArray("%\nN10\nM30\n"), QByteArray("%\rN10\rM30\r"),
               QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
@@ -73,9 +56,8 @@ private Q_SLOTS:
             const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
             atelier.Choisit("Mnu_Ouvrir", chemin);
             QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
-            QCOMPARE(frmPrinc->windowTitle(), Version + chemin);
-            QCOMPARE(frmPrinc->Label2->text(), u"Pièce n° 1.iso"_s);
             QCOMPARE(NomFichier + TitreFichier, chemin + u"Pièce n° 1.iso"_s);
+            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + NomFichier + TitreFichier);
             QCOMPARE(FichierModifie, 0);
             for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
                 QVERIFY(Operateur::Offre(entree));
@@ -83,8 +65,8 @@ private Q_SLOTS:
             atelier.Choisit("Mnu_EnregistrerSous", atelier.Chemin("copie.iso"));
             QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
             QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
-            QCOMPARE(frmPrinc->windowTitle(), Version + atelier.Chemin("copie.iso"));
-            QCOMPARE(frmPrinc->Label2->text() + TitreFichier, u"copie.isocopie.iso"_s);
+            QCOMPARE(NomFichier + TitreFichier, atelier.Chemin("copie.iso") + u"copie.iso"_s);
+            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + NomFichier + TitreFichier);
             QFile::remove(atelier.Chemin("copie.iso"));
         }
     }
@@ -92,7 +74,7 @@ private Q_SLOTS:
     // The filter last used comes back, also into the saving dialog with its other list; cancelling changes nothing.
     void DialogueOuvrir()
     {
-        Atelier atelier;
+        Atelier atelier(0);
         const QString programme = atelier.Ecrit("P.xcn", "G0");
         for (const auto &[entree, filtres, montre, prend, fichier] :
              {std::tuple{"Mnu_Ouvrir", 16, "*.iso", "*.h", QString()},
@@ -119,10 +101,11 @@ private Q_SLOTS:
     void OuvertureRatee()
     {
         Atelier atelier(2);
-        const QString chemin = atelier.Change();
-        atelier.Ecrit("Faux.RTF", "G0 X1\r\n");
+        const QString chemin = atelier.Ecrit(Iso, "G0");
+        OuvreDocument(chemin);
+        frmPrinc->Text1->setText(u"G1"_s);
         for (const QString &refuse :
-             {atelier.Chemin("Faux.RTF"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
+             {atelier.Ecrit("Faux.RTF", "G0 X1\r\n"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
             atelier.Repond("Mensaje",
                            u"Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
                            "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
@@ -130,9 +113,10 @@ private Q_SLOTS:
                                QFileInfo(refuse).fileName()),
                            Boite::Information | Boite::OuiNon, QMessageBox::No);
             OuvreDocument(refuse);
-            VerifieChange(chemin);
+            QCOMPARE(frmPrinc->Text1->Text() + NomFichier + TitreFichier, u"G1"_s + chemin + Iso);
+            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + chemin + Iso);
+            QCOMPARE(FichierModifie, Vrai);
         }
-        QCOMPARE(atelier.Lit("Faux.RTF"), QByteArray("G0 X1\r\n"));
     }
 
     // A changed text with a name: whether to save it, then whether to go on. A new program is offered the folder of the
@@ -141,7 +125,7 @@ private Q_SLOTS:
     {
         Atelier atelier(2);
         const QString chemin = atelier.Ecrit(Iso, "G0");
-        atelier.Choisit("Mnu_Ouvrir", chemin);
+        OuvreDocument(chemin);
         for (const auto &[tape, enregistre, va, fichier] :
              {std::tuple{u""_s, QMessageBox::NoButton, QMessageBox::No, "G0"},
               {u"G1"_s, QMessageBox::No, QMessageBox::No, "G0"},
@@ -159,8 +143,7 @@ private Q_SLOTS:
             QCOMPARE(FichierModifie, tape == u"G1" ? Vrai : 0);
             QCOMPARE(frmPrinc->Text1->Text(), va == QMessageBox::Yes ? QString() : tape.isEmpty() ? u"G0"_s : tape);
         }
-        QCOMPARE(NomFichier, u"Nuevo.iso"_s);
-        QCOMPARE(TitreFichier + frmPrinc->Label2->text(), Iso + Iso);
+        QCOMPARE(NomFichier + TitreFichier + frmPrinc->Label2->text(), u"Nuevo.iso"_s + Iso + Iso);
         QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
         QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
         frmPrinc->CommonDialog1->InitDir = u"/"_s;
@@ -169,6 +152,83 @@ private Q_SLOTS:
             fenetre.close();
         });
         Operateur::Menu("Mnu_EnregistrerSous");
+    }
+
+    // What the menu offers follows the selection and the clipboard at the moment it opens, also under the right button.
+    void Entrees()
+    {
+        const auto offres = [] {
+            QStringList offertes;
+            for (const QString &entree : {u"Annuler"_s, u"Couper"_s, u"Copier"_s, u"Coller"_s, u"Supprimer"_s}) {
+                if (Operateur::Offre(u"Mnu_"_s + entree))
+                    offertes << entree;
+            }
+            return offertes.join(u' ');
+        };
+        Atelier atelier(0);
+        atelier.Ouvre(0, 3);
+        auto *const image = new QMimeData; // owned by the clipboard
+        image->setData(u"image/png"_s, "x");
+        QGuiApplication::clipboard()->setMimeData(image);
+        QCOMPARE(offres(), u"Couper Copier Supprimer"_s);
+        QTest::mousePress(frmPrinc->Text1->viewport(), Qt::RightButton, {}, QPoint(5, 5));
+        QVERIFY(frmPrinc->Mnu_Edition->isVisible() && frmPrinc->Mnu_Couper->isEnabled());
+        frmPrinc->Mnu_Edition->close();
+        QCOMPARE(frmPrinc->Text1->SelLength(), 3);
+        QGuiApplication::clipboard()->setText(u"X"_s);
+        atelier.Ouvre(2, 0);
+        QCOMPARE(offres(), u"Coller"_s);
+    }
+
+    // A command on a selection: the text behind it, the clipboard, whether it can be undone. Undo restores the whole
+    // text and does so once.
+    void Commandes()
+    {
+        const QString colle = u"X\tY\rZ\r\n"_s;
+        const std::tuple<QString, int, int, QString, QString> commandes[] = {
+            {u"Mnu_Couper"_s, 0, 4, u"N20\r\nN30"_s, u"N10\n"_s},
+            {u"Mnu_Copier"_s, 4, 6, u"N10\nN20\r\nN30"_s, u"N20\r\nN"_s},
+            {u"Mnu_Coller"_s, 4, 5, u"N10\nX\tY\rZ\r\nN30"_s, colle},
+            {u"Mnu_Coller"_s, 12, 0, u"N10\nN20\r\nN30X\tY\rZ\r\n"_s, colle},
+            {u"Mnu_Supprimer"_s, 3, 6, u"N10N30"_s, colle}};
+        for (const auto &[entree, debut, longueur, texte, pressePapiers] : commandes) {
+            Atelier atelier(0);
+            atelier.Ouvre(debut, longueur);
+            const QString avant = frmPrinc->Text1->Text();
+            QGuiApplication::clipboard()->setText(colle);
+            Operateur::Menu(entree);
+            const bool change = texte != avant;
+            QCOMPARE(frmPrinc->Text1->Text(), texte);
+            QCOMPARE(QGuiApplication::clipboard()->text(), pressePapiers);
+            QCOMPARE(frmPrinc->Mnu_Annuler->isEnabled(), change);
+            QCOMPARE(FichierModifie, change ? Vrai : 0);
+            if (change)
+                Operateur::Menu("Mnu_Annuler");
+            QCOMPARE(frmPrinc->Text1->Text(), avant);
+            QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
+        }
+    }
+
+    // Ctrl+C loads a configuration, also while the keyboard is in the text. Alt with a letter that no menu bears types
+    // nothing into the program. Typing leaves the copy for the undo alone.
+    void Raccourcis()
+    {
+        Atelier atelier(0);
+        atelier.Ouvre(0, 3);
+        RichTextBox *const pane = frmPrinc->Text1;
+        const QString programme = pane->Text();
+        frmPrinc->activateWindow();
+        pane->setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
+        atelier.Ferme("CommonDialog");
+        QTest::keyClick(pane, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString());
+        QTest::keyClick(pane, Qt::Key_H, Qt::AltModifier);
+        QTest::keyClick(pane, Qt::Key_H, Qt::AltModifier | Qt::ShiftModifier);
+        QCOMPARE(pane->Text(), programme);
+        QCOMPARE(FichierModifie, 0);
+        QTest::keyClicks(pane, u"abc"_s);
+        QCOMPARE(TexteAnnuler, QString());
     }
 };
 

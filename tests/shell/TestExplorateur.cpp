@@ -1,16 +1,14 @@
-#include "Operateur.h"
-#include "Poste.h"
+#include "Donnees.h"
+#include "Etabli.h"
+
+#include "platform/FichierTexte.h"
 #include "shell/CadreExplorateur.h"
-#include "shell/Document.h"
-#include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 #include "transfer/Rc_Fic.h"
 #include "transfer/Transfert.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QTest>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,49 +18,42 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// An operator at a workstation with some programs, and the column open on "Pieces".
-struct Atelier : Poste, Operateur
+struct Atelier : Etabli
 {
     Atelier()
+        : Etabli(0)
     {
         QDir(Dossier()).mkpath(u"Pieces/Tour"_s);
-        Poste::Ecrit("Pieces/PIECE.ISO", "%1\r\nG0X1");
-        Poste::Ecrit("Pieces/b.cn", "%2");
-        Poste::Ecrit("Pieces/Tour/b.cn", "%3");
-        Poste::Ecrit("b.cn", "%4");
-        Poste::Ecrit("Dorvanel.ini", " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n 0 \r\n");
-        Demarre();
+        Ecrit("Pieces/PIECE.ISO", "%1\r\nG0X1");
+        Ecrit("Pieces/b.cn", "%2");
+        Ecrit("Pieces/Tour/b.cn", "%3");
+        Ecrit("b.cn", "%4");
         DosDefaut = Chemin("Pieces");
         Barre(15);
     }
 
-    void Selectionne(QAnyStringView nom) const { frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(Chemin(nom)); }
-
     /// The selected folder, seen from the application folder, and the files listed.
     QString Montre() const
     {
-        QStringList montre{QDir(Dossier()).relativeFilePath(frmPrinc->Frame1->FolderTreeview1->SelectedFolder()) +
-                           u':'};
+        const QString choisi = frmPrinc->Frame1->FolderTreeview1->SelectedFolder();
+        QStringList montre{QDir(Dossier()).relativeFilePath(choisi) + u':'};
         const QAbstractItemModel *const modele = frmPrinc->Frame1->File1->model();
         for (int i = 0; i < modele->rowCount(); ++i)
             montre << modele->index(i, 0).data().toString();
         return montre.join(u' ');
     }
 
-    /// Foretells an input box and what is selected in it; a null answer cancels.
-    void Saisit(const QString &titre, const QString &invite, const QString &offert, const QString &reponse)
+    /// What all the programs hold, wherever they stand now.
+    QStringList Programmes() const
     {
-        Fait("InputBox", [=](QWidget &fenetre) {
-            auto &boite = dynamic_cast<QInputDialog &>(fenetre);
-            QCOMPARE(boite.windowTitle(), titre);
-            QCOMPARE(boite.labelText(), invite);
-            QTRY_COMPARE(boite.findChild<QLineEdit *>()->selectedText(), offert);
-            boite.setTextValue(reponse);
-            reponse.isNull() ? boite.reject() : boite.accept();
-        });
+        QStringList programmes;
+        QDirIterator fichiers(Dossier(), {u"b.cn"_s, u"PIECE.ISO"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (fichiers.hasNext())
+            programmes << QString::fromLatin1(LitOctets(fichiers.next()));
+        programmes.sort();
+        return programmes;
     }
 };
-
-constexpr int Question = Operateur::DemandeSimple | Boite::SecondBouton;
 
 } // namespace
 
@@ -76,14 +67,12 @@ private Q_SLOTS:
     void OuvreEtFerme()
     {
         const Atelier atelier;
+        QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
         const auto verifie = [](bool ouvert, const QString &bulle) {
-            QCOMPARE((QList<bool>{frmPrinc->ExplorateurMontre(), frmPrinc->Mnu_AffichDOS->isChecked(),
-                                  frmPrinc->Bouton(15)->isChecked()}),
-                     QList<bool>(3, ouvert));
+            QVERIFY(frmPrinc->Mnu_AffichDOS->isChecked() == ouvert && frmPrinc->Bouton(15)->isChecked() == ouvert);
             QCOMPARE(frmPrinc->Bouton(15)->toolTip(), bulle + u" l'explorateur de fichiers"_s);
         };
         verifie(true, u"Fermer"_s);
-        QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
         frmPrinc->Frame1->Command3->click();
         verifie(false, u"Fermer"_s); // the words are the button's own doing
         DosDefaut = atelier.Chemin("debranche");
@@ -98,15 +87,14 @@ private Q_SLOTS:
     {
         Atelier atelier;
         QComboBox &filtre = *frmPrinc->Frame1->Combo1;
-        QCOMPARE(filtre.count(), 16);
         filtre.setCurrentIndex(1);
         QCOMPARE(atelier.Montre(), u"Pieces: PIECE.ISO"_s);
         filtre.lineEdit()->clear();
-        QTest::keyClicks(filtre.lineEdit(), u"*.c"_s);
-        QCOMPARE(atelier.Montre(), u"Pieces:"_s);
-        QTest::keyClicks(filtre.lineEdit(), u"n"_s);
-        QCOMPARE(atelier.Montre(), u"Pieces: b.cn"_s);
-        atelier.Repond("Erreur", "Filtre incorrect !", Boite::Exclamation, QMessageBox::Ok);
+        for (const auto &[touches, fichiers] : {std::pair{u"*.c"_s, u""_s}, {u"n"_s, u" b.cn"_s}}) {
+            QTest::keyClicks(filtre.lineEdit(), touches);
+            QCOMPARE(atelier.Montre(), u"Pieces:"_s + fichiers);
+        }
+        atelier.Apprend("Erreur", "Filtre incorrect !");
         QTest::keyClicks(filtre.lineEdit(), u"/"_s);
         QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
     }
@@ -117,13 +105,9 @@ private Q_SLOTS:
         const Atelier atelier;
         frmPrinc->Text1->setText(u"autre"_s);
         FileListBox &liste = *frmPrinc->Frame1->File1;
-        const auto double_clic = [&liste](QPoint ici) {
-            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ici);
-            QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, ici);
-        };
-        double_clic(liste.viewport()->rect().bottomRight()); // beside the names
-        QCOMPARE(NomFichier, QString());
-        double_clic(liste.visualRect(liste.model()->index(1, 0)).center());
+        const QPoint ici = liste.visualRect(liste.model()->index(1, 0)).center();
+        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ici);
+        QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, ici);
         QCOMPARE(NomFichier + TitreFichier, atelier.Chemin("Pieces/PIECE.ISO") + u"PIECE.ISO"_s);
         QCOMPARE(frmPrinc->Text1->Text(), u"%1\r\nG0X1"_s);
         QCOMPARE(FichierModifie, 0);
@@ -132,30 +116,35 @@ private Q_SLOTS:
         QCOMPARE(frmPrinc->Text1->Text(), u"%2"_s);
     }
 
-    // The list goes with the selected folder: a namesake from elsewhere could go to the machine.
-    void Cree()
+    // What the buttons ask and tell. The list goes with the selected folder, for a namesake from elsewhere could go to
+    // the machine; whatever stands under a new name, no program is lost.
+    void Boutons()
     {
-        for (const auto &[reponse, choisi] : {std::pair{u"Fraise"_s, u"Pieces/Fraise/"_s},
-                                              {u" F 1 "_s, u"Pieces/ F 1 /"_s},
-                                              {u".f"_s, u"Pieces/.f/"_s},
-                                              {u"   "_s, u"Pieces/"_s},
-                                              {QString(), u"Pieces/"_s},
-                                              {u"Tour"_s, u"Pieces/"_s}}) { // in use
+        for (QStringList c : Table(u"explorateur.tsv"_s)) {
             Atelier atelier;
-            const QString dossier = frmPrinc->Frame1->FolderTreeview1->SelectedFolder();
-            atelier.Saisit(
-                u"Créer un dossier"_s,
-                u"Indiquez le nom du nouveau dossier, qui deviendra sous-dossier de %1 après sa création !"_s.arg(
-                    dossier),
-                QString(), reponse);
-            if (reponse == u"Tour")
-                atelier.Repond("Erreur", u"Le dossier %1Tour n'a pas pu être créé !"_s.arg(dossier), Boite::Critique,
-                               QMessageBox::Ok);
-            frmPrinc->Frame1->Command1->click();
-            QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin(choisi));
-            QCOMPARE(frmPrinc->Frame1->File1->Path(), atelier.Chemin(choisi));
-            const auto dossiers = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
-            QCOMPARE(QDir(dossier).entryList(dossiers).size(), choisi == u"Pieces/" ? 1 : 2);
+            QDir::setCurrent(atelier.Dossier());
+            QDir().mkdir(u"Vide"_s);
+            const QStringList programmes = atelier.Programmes();
+            c.replaceInStrings(u"%1"_s, atelier.Dossier());
+            FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
+            if (c[0].isEmpty())
+                arbre.clearSelection();
+            else
+                arbre.setSelectedFolder(QDir(atelier.Dossier()).absoluteFilePath(c[0]));
+            const auto saisit = [c](QWidget &fenetre) {
+                auto &boite = dynamic_cast<QInputDialog &>(fenetre);
+                QCOMPARE(boite.windowTitle() + u'|' + boite.labelText(), c[2] + u'|' + c[3]);
+                QTRY_COMPARE(boite.findChild<QLineEdit *>()->selectedText(), c[4]);
+                boite.setTextValue(c[5]);
+                c[5] == u"-" ? boite.reject() : boite.accept();
+            };
+            if (!c[2].isEmpty())
+                atelier.Fait("InputBox", saisit);
+            if (!c[6].isEmpty())
+                atelier.Apprend(c[6], c[7], c[8].toInt());
+            frmPrinc->Frame1->findChild<QPushButton *>(c[1])->click();
+            QVERIFY2(c[9].isEmpty() || atelier.Montre() == c[9], qPrintable(atelier.Montre()));
+            QCOMPARE(atelier.Programmes(), programmes);
         }
     }
 
@@ -163,22 +152,24 @@ private Q_SLOTS:
     // the link goes.
     void Supprime()
     {
+        constexpr int question = Operateur::DemandeSimple | Boite::SecondBouton;
         Atelier atelier;
-        atelier.Selectionne("Pieces/Tour");
+        FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
+        arbre.setSelectedFolder(atelier.Chemin("Pieces/Tour"));
         atelier.Ferme("MsgBox");
         frmPrinc->Frame1->Command2->click();
         QCOMPARE(atelier.Montre(), u"Pieces: b.cn PIECE.ISO"_s);
 
         const QString lien = atelier.Chemin("Lien");
         QVERIFY(QFile::link(atelier.Chemin("Pieces"), lien));
-        for (const auto &[choisi, question] :
+        for (const auto &[choisi, demande] :
              {std::pair{lien, u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r%1"_s},
               {atelier.Chemin("Pieces"), u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
                                          u"Sous-dossiers : 1, fichiers : 3"_s}}) {
-            QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
-            frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(choisi);
-            atelier.Repond("Supprimer un dossier", question.arg(choisi), Question, QMessageBox::Yes);
-            atelier.Repond("Information", "Suppression de dossier réussi", Boite::Information, QMessageBox::Ok);
+            QCOMPARE(atelier.Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
+            arbre.setSelectedFolder(choisi);
+            atelier.Repond("Supprimer un dossier", demande.arg(choisi), question, QMessageBox::Yes);
+            atelier.Apprend("Information", "Suppression de dossier réussi", Boite::Information);
             frmPrinc->Frame1->Command2->click();
             QVERIFY(!QFileInfo(choisi).isSymLink() && !QFileInfo::exists(choisi));
             QVERIFY(atelier.Montre().startsWith(u".: b.cn"_s));
@@ -189,72 +180,20 @@ private Q_SLOTS:
     void SupprimeAMoitie()
     {
         Atelier atelier;
-        const QByteArray tour = atelier.Chemin("Pieces/Tour").toUtf8();
-        QCOMPARE(chmod(qPrintable(atelier.Dossier()), 0755), 0);
-        QCOMPARE(chmod(tour.constData(), 0555), 0);
-        atelier.Selectionne("Pieces/Tour");
+        const QString tour = atelier.Chemin("Pieces/Tour");
+        QCOMPARE(chmod(qPrintable(atelier.Dossier()), 0755) + chmod(qPrintable(tour), 0555), 0);
+        frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(tour);
         atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
-        atelier.Repond("Information",
-                       u"ERREUR N° 70\r%1/b.cn : Permission denied\r"
-                       u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(QString::fromUtf8(tour)),
-                       Boite::Information, QMessageBox::Ok);
+        atelier.Apprend("Information",
+                        u"ERREUR N° 70\r%1/b.cn : Permission denied\r"
+                        u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(tour),
+                        Boite::Information);
         const uid_t avant = geteuid();
         if (avant == 0) // for whom rights do not count
             QCOMPARE(seteuid(65534), 0);
         frmPrinc->Frame1->Command2->click();
-        QCOMPARE(seteuid(avant), 0);
-        QCOMPARE(chmod(tour.constData(), 0755), 0);
-        QCOMPARE(atelier.Poste::Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
-    }
-
-    void Renomme()
-    {
-        // the last three: nothing that stands under the new name is overwritten
-        for (auto [reponse, devient, refuse] : {std::tuple{u"%1/Pieces/Fraise"_s, u"Pieces/Fraise"_s, false},
-                                                {u"%1/Tour 2/"_s, u"Tour 2"_s, false},
-                                                {u"Nu"_s, u"Nu"_s, false}, // goes to the current directory
-                                                {u"%1/Pieces/Tour"_s, u"Pieces/Tour"_s, false},
-                                                {QString(), u"Pieces/Tour"_s, false},
-                                                {u"%1/b.cn"_s, u"Pieces/Tour"_s, true},
-                                                {u"%1/Pieces"_s, u"Pieces/Tour"_s, true},
-                                                {u"%1/Vide"_s, u"Pieces/Tour"_s, true}}) {
-            Atelier atelier;
-            atelier.Selectionne("Pieces/Tour");
-            QDir::setCurrent(atelier.Dossier());
-            QDir().mkdir(u"Vide"_s);
-            atelier.Saisit(u"Nouveau nom du dossier"_s,
-                           u"Indiquez le nouveau nom pour le dossier %1."_s.arg(atelier.Chemin("Pieces/Tour")),
-                           u"Tour"_s, reponse.replace(u"%1"_s, atelier.Dossier()));
-            if (refuse)
-                atelier.Repond("Erreur", "Erreur ! Le dossier ne peut être renommé.", Boite::Exclamation,
-                               QMessageBox::Ok);
-            frmPrinc->Frame1->Command4->click();
-            QCOMPARE(atelier.Montre(), devient + u": b.cn"_s);
-            QCOMPARE(atelier.Poste::Lit(devient + u"/b.cn"_s), QByteArray("%3"));
-            QCOMPARE(atelier.Poste::Lit("b.cn"), QByteArray("%4"));
-        }
-    }
-
-    // A root, and nothing selected, stay out of reach of the buttons.
-    void Refus()
-    {
-        Atelier atelier;
-        const CadreExplorateur &cadre = *frmPrinc->Frame1;
-        for (const bool racine : {true, false}) {
-            if (racine)
-                cadre.FolderTreeview1->setSelectedFolder(QDir::rootPath());
-            else
-                cadre.FolderTreeview1->clearSelection();
-            atelier.Repond("Information", "Ce dossier ne peut pas être renommé ! ou dossier racine !",
-                           Boite::Information, QMessageBox::Ok);
-            cadre.Command4->click();
-            atelier.Repond(racine ? "Attention" : "Erreur",
-                           racine ? "Vous vous trouvez dans le dossier racine ! Ce dossier ne peut pas être supprimé !"
-                                  : "Pas de dossier sélectionné !",
-                           racine ? Boite::Critique : Boite::Exclamation, QMessageBox::Ok);
-            cadre.Command2->click();
-        }
-        cadre.Command1->click(); // asks nothing
+        QCOMPARE(seteuid(avant) + chmod(qPrintable(tour), 0755), 0);
+        QCOMPARE(atelier.Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
     }
 
     // Ticked, the box makes the open dialog and the receptions start in the selected folder, also when the column is
@@ -262,22 +201,23 @@ private Q_SLOTS:
     void DossierApplique()
     {
         Atelier atelier;
-        atelier.Selectionne("Pieces/Tour");
+        const QString tour = atelier.Chemin("Pieces/Tour/");
+        frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(tour);
         Operateur::Barre(15);
         for (const bool coche : {false, true}) {
             frmPrinc->Frame1->CheckDOS->setChecked(coche);
             atelier.Choisit("b.cn");
             Operateur::Menu("Mnu_Ouvrir");
             QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
-            QCOMPARE(DosDefaut, coche ? atelier.Chemin("Pieces/Tour/") : atelier.Dossier());
+            QCOMPARE(DosDefaut, coche ? tour : atelier.Dossier());
             for (const int type : {ReceptionProgramme, ReceptionJauges, ReceptionBanc}) {
                 TypeTransfert = type;
-                QCOMPARE(Rc_Fic(frmPrinc).Label3->text() == atelier.Chemin("Pieces/Tour/"), coche);
+                QCOMPARE(Rc_Fic(frmPrinc).Label3->text() == tour, coche);
             }
         }
         frmPrinc->Frame1->FolderTreeview1->clearSelection();
         TypeTransfert = ReceptionProgramme;
-        QCOMPARE(Rc_Fic(frmPrinc).Label3->text(), atelier.Chemin("Pieces/Tour/"));
+        QCOMPARE(Rc_Fic(frmPrinc).Label3->text(), tour);
     }
 };
 

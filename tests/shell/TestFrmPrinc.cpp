@@ -1,62 +1,45 @@
+#include "Etabli.h"
 #include "LigneScenario.h"
-#include "Operateur.h"
-#include "Poste.h"
 
-#include "comconfig/ParamCom.h"
 #include "locale/Legendes.h"
-#include "platform/MSComm.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Disposition.h"
-#include "shell/Document.h"
 #include "shell/Explorateur.h"
-#include "shell/FrmPrinc.h"
 
 #include <QDialog>
 #include <QMimeData>
 #include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Drags files over the pane and drops them there; true when the window takes them, as a copy.
+bool Depose(const QStringList &noms)
+{
+    QMimeData donnees;
+    QList<QUrl> adresses;
+    for (const QString &nom : noms)
+        adresses << QUrl::fromLocalFile(nom);
+    donnees.setUrls(adresses);
+    const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
+    QDragEnterEvent entree(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
+    QDropEvent depot(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    if (entree.isAccepted())
+        QCoreApplication::sendEvent(frmPrinc->windowHandle(), &depot);
+    QCoreApplication::processEvents();
+    return entree.isAccepted() && depot.dropAction() == Qt::CopyAction;
+}
+
+} // namespace
 
 class TestFrmPrinc : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Too small a window springs back. In the smallest one every word of the status panel and of the explorer has its
-    // room but for the data, which are cut with an ellipsis; the panel keeps its height whatever is shown above it or
-    // written in it.
-    void RienNEstCoupe()
-    {
-        for (int langue = 0; langue < 3; ++langue) {
-            const Poste poste(langue);
-            poste.Charge("G0");
-            Operateur::Barre(15);
-            frmPrinc->resize(100, 100);
-            QTRY_COMPARE(frmPrinc->size(), QSize(620, 547));
-            const int hauteur = frmPrinc->Picture11->height();
-            frmPrinc->MontrePort(true);
-            frmPrinc->MontreEtat(u"CTS"_s);
-            frmPrinc->Text1->hide();
-            QCoreApplication::processEvents();
-            QCOMPARE(frmPrinc->Picture11->height(), hauteur);
-            const auto labels = frmPrinc->Picture11->findChildren<QLabel *>();
-            for (const QLabel *label : labels) {
-                QVERIFY2(frmPrinc->Picture11->rect().contains(label->geometry()), qPrintable(label->objectName()));
-                if (qobject_cast<const LabelElide *>(label) == nullptr)
-                    QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
-            }
-            const CadreExplorateur &cadre = *frmPrinc->Frame1;
-            const QCheckBox &longue = *cadre.CheckDOS;
-            QVERIFY(longue.height() >= longue.heightForWidth(longue.width()));
-            QVERIFY(longue.height() > 2 * longue.fontMetrics().height());
-            QVERIFY(cadre.Label7->height() >= cadre.Label7->heightForWidth(cadre.Label7->width()));
-            QVERIFY(cadre.rect().contains(cadre.File1->geometry()));
-        }
-    }
-
     // The lamps follow the port once a second, in the language; a lamp tells its state in words too. A carrier makes
     // the port count as open.
     void Lampes()
@@ -82,7 +65,7 @@ private Q_SLOTS:
             QCOMPARE(memeMots, !ouvre);
             QCOMPARE(frmPrinc->shpPortOpen->accessibleName(), ouvre ? u"Open Port"_s : u"Closed Port"_s);
             AppliqueLangue(); // whose caption is that of a closed port
-            QVERIFY(!ouvre || frmPrinc->lblPortOpen->text() == u"Open Port");
+            QCOMPARE(frmPrinc->lblPortOpen->text() == u"Open Port", ouvre);
         }
 
         scenario->etats = EtatsLigne{false, false, true, false};
@@ -92,85 +75,59 @@ private Q_SLOTS:
         QVERIFY(PortOuvert);
     }
 
-    void Disposition();
-    void FichierDepose();
-};
-
-// What the operator has arranged comes back after a restart, with the explorer made by the start or later; what cannot
-// be leaves the smallest sizes.
-void TestFrmPrinc::Disposition()
-{
-    const QTemporaryDir reglages;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
-    for (const auto &[garde, largeur, attendue] : {std::tuple{-1, 300, 300}, {410, 410, 410}, {0, 225, 225}}) {
+    // What the operator has arranged comes back after a restart, hidden or not.
+    void Disposition()
+    {
+        const QTemporaryDir reglages;
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
         const Poste poste(0);
-        if (garde >= 0)
-            QSettings(u"Dorvanel"_s, u"Disposition"_s).setValue("LargeurExplorateur", garde);
-        RemetDisposition(*frmPrinc);
         Mnu_AffichDOS();
-        QTRY_COMPARE(frmPrinc->Frame1->width(), garde < 0 ? 225 : attendue);
-        frmPrinc->setGeometry(40, 30, 720 + largeur, 600);
-        QTest::mousePress(frmPrinc->milieu->handle(1), Qt::LeftButton, {}, QPoint(1, 9));
-        QTest::mouseMove(frmPrinc->milieu->handle(1), QPoint(1 + largeur - frmPrinc->Frame1->width(), 9));
-        QTest::mouseRelease(frmPrinc->milieu->handle(1), Qt::LeftButton, {}, QPoint(1, 9));
-        QTRY_COMPARE(frmPrinc->Frame1->width(), largeur);
-        Mnu_AffichDOS(); // hidden, the column keeps its width
+        frmPrinc->setGeometry(40, 30, 1020, 600);
+        QWidget *const poignee = frmPrinc->milieu->handle(1);
+        QTest::mousePress(poignee, Qt::LeftButton, {}, QPoint(1, 9));
+        QTest::mouseMove(poignee, QPoint(301 - frmPrinc->Frame1->width(), 9));
+        QTest::mouseRelease(poignee, Qt::LeftButton, {}, QPoint(1, 9));
+        QTRY_COMPARE(frmPrinc->Frame1->width(), 300);
+        Mnu_AffichDOS();
         GardeDisposition(*frmPrinc);
 
         FrmPrinc suivante;
         RemetDisposition(suivante);
         suivante.CreeExplorateur();
         suivante.show();
-        QTRY_COMPARE(suivante.Frame1->width(), attendue);
-        QCOMPARE(suivante.geometry(), QRect(40, 30, 720 + largeur, 600));
+        QTRY_COMPARE(suivante.Frame1->width(), 300);
+        QCOMPARE(suivante.geometry(), QRect(40, 30, 1020, 600));
     }
-}
 
-// A file dropped on the text is opened as from the menu, by its kind, and its path does not land in the text; the
-// program that it came from is not told to remove it. What is no one file is refused, and so is any while a dialog is
-// open.
-void TestFrmPrinc::FichierDepose()
-{
-    const Poste poste(0);
-    poste.Charge("G0");
-    const QString mac = poste.Ecrit("Tour.mac", {});
-    const QString par = poste.Chemin(u"Autre.PAR"_s);
-    QVERIFY(QFile::copy(FicConf, par));
-    const auto depose = [&](const QStringList &noms) {
-        QMimeData donnees;
-        QList<QUrl> adresses;
-        for (const QString &nom : noms)
-            adresses << QUrl::fromLocalFile(nom);
-        donnees.setUrls(adresses);
-        const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
-        QDragEnterEvent entree(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
-        QDropEvent depot(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
-        if (entree.isAccepted())
-            QCoreApplication::sendEvent(frmPrinc->windowHandle(), &depot);
-        QCoreApplication::processEvents();
-        return entree.isAccepted() && depot.dropAction() == Qt::CopyAction;
-    };
-    const QString autre = poste.Ecrit(u"AUTRE €.iso"_s, "G1\r\n");
-    FichierModifie = Vrai;
+    // A file dropped on the text is opened as from the menu, by its kind, and its path does not land in the text; the
+    // program that it came from is not told to remove it. What is no one file is refused, and so is any while a dialog
+    // is open.
+    void FichierDepose()
     {
-        Operateur operateur; // he knows nothing of the dialog further down
-        operateur.Repond(u"Fichier en cours modifié"_s,
-                         u"Fichier "_s + NomFichier + u" modifié !\r            Enregistrer le fichier ? "_s,
-                         Operateur::DemandeSimple, QMessageBox::No);
-        QVERIFY(depose({autre}));
-    }
-    QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
-    QVERIFY(FichierModifie == 0 && depose({par}) && depose({mac}));
-    QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
+        const Poste poste(0);
+        poste.Charge("G0");
+        const QString ancien = NomFichier;
+        const QString autre = poste.Ecrit(u"AUTRE €.iso"_s, "G1\r\n");
+        const QString mac = poste.Ecrit("Tour.mac", {});
+        const QString par = poste.Chemin(u"Autre.PAR"_s);
+        QVERIFY(QFile::copy(FicConf, par));
+        FichierModifie = Vrai;
+        {
+            Operateur operateur;                                          // he knows nothing of the dialog further down
+            operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::No)); // whether to save
+            QVERIFY(Depose({autre}));
+        }
+        QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
+        QVERIFY(FichierModifie == 0 && Depose({par}) && Depose({mac}));
+        QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
 
-    const QString ancien = poste.Chemin(u"PIECE.iso"_s);
-    QVERIFY(!depose({ancien, autre}) && !depose({poste.Dossier()}));
-    QDialog dialogue;
-    dialogue.open();
-    QVERIFY(!depose({ancien}));
-    QCOMPARE(frmPrinc->Text1->Text(), u"G1\r\n"_s);
-}
+        QVERIFY(!Depose({ancien, autre}) && !Depose({poste.Dossier()}));
+        QDialog dialogue;
+        dialogue.open();
+        QVERIFY(!Depose({ancien}));
+        QCOMPARE(frmPrinc->Text1->Text(), u"G1\r\n"_s);
+    }
+};
 
 QTEST_MAIN(TestFrmPrinc)
 #include "TestFrmPrinc.moc"

@@ -1,38 +1,41 @@
-#include "Operateur.h"
-#include "Poste.h"
+#include "Etabli.h"
 
 #include "platform/Erreur.h"
 #include "platform/Printer.h"
-#include "shell/Document.h"
-#include "shell/FrmPrinc.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QProcess>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTest>
+
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Prints the program in the pane to a PDF file, "" for the one that is proposed. "PDF" is the last of the printers,
-/// and there on every PC.
-void Imprime(Operateur &operateur, const QString &fichier, int copies = 1)
+/// A workstation whose printer is a PDF file.
+struct Atelier : Etabli
 {
-    operateur.Fait("CommonDialog", [fichier, copies](QWidget &fenetre) {
-        auto *const imprimantes = fenetre.findChild<QComboBox *>(u"printers"_s);
-        imprimantes->setCurrentIndex(imprimantes->count() - 1);
-        if (!fichier.isEmpty())
-            fenetre.findChild<QLineEdit *>(u"filename"_s)->setText(fichier);
-        fenetre.findChild<QSpinBox *>(u"copies"_s)->setValue(copies);
-        QMetaObject::invokeMethod(&fenetre, "accept");
-    });
-    Operateur::Barre(5);
-}
+    using Etabli::Etabli;
+
+    /// Prints the program in the pane to a file, "" for the one that is proposed. "PDF" is the last of the printers,
+    /// and there on every PC.
+    void Imprime(const QString &fichier, int copies = 1)
+    {
+        Fait("CommonDialog", [fichier, copies](QWidget &fenetre) {
+            auto *const imprimantes = fenetre.findChild<QComboBox *>(u"printers"_s);
+            imprimantes->setCurrentIndex(imprimantes->count() - 1);
+            if (!fichier.isEmpty())
+                fenetre.findChild<QLineEdit *>(u"filename"_s)->setText(fichier);
+            fenetre.findChild<QSpinBox *>(u"copies"_s)->setValue(copies);
+            QMetaObject::invokeMethod(&fenetre, "accept");
+        });
+        Barre(5);
+    }
+};
 
 /// The lines of each page of a PDF file that bear something.
 QList<QStringList> Pages(const QString &fichier)
@@ -60,26 +63,21 @@ private Q_SLOTS:
     // take no sheet.
     void ToutLeTexte()
     {
-        const Poste poste(1);
-        Operateur operateur;
-        for (const char *const fin : {"\r\n", "\r", "\n"}) {
+        for (const QString &fin : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
+            Atelier atelier(1);
             QStringList lignes{u"%\tA"_s, u"12345678B"_s, QString(1000, u'X') + u"FIN"_s};
             for (int numero = 1; numero <= 400; ++numero)
                 lignes << u"N%1 G1 X%2 (é)"_s.arg(numero).arg(numero * 7);
-            OuvreDocument(
-                poste.Ecrit("P.iso", lignes.join(QLatin1String(fin)).toLatin1() + QByteArray(fin).repeated(90)));
+            OuvreDocument(atelier.Ecrit("P.iso", (lignes.join(fin) + fin.repeated(90)).toLatin1()));
             frmPrinc->Text1->setFont(QFont(u"DejaVu Sans Mono"_s, 10));
             frmPrinc->Text1->setSelLength(3);
-            QFile::remove(poste.Chemin("P.pdf")); // the dialog would ask about it
-            Imprime(operateur, poste.Chemin("P.pdf"));
+            atelier.Imprime(atelier.Chemin("P.pdf"));
             QCOMPARE(frmPrinc->Text1->SelLength(), 0);
 
-            const QList<QStringList> pages = Pages(poste.Chemin("P.pdf"));
+            const QList<QStringList> pages = Pages(atelier.Chemin("P.pdf"));
             QCOMPARE(pages.size(), 6);
             QVERIFY(pages[1].size() == pages[4].size() && pages[1].size() > 60);
-            QStringList lues;
-            for (const QStringList &page : pages)
-                lues << page;
+            QStringList lues = std::accumulate(pages.begin(), pages.end(), QStringList());
             QCOMPARE(lues.takeFirst(), u"Programme : "_s + NomFichier);
             QCOMPARE(lues[0].indexOf(u'A'), lues[1].indexOf(u'B')); // the tabulator has gone to the eighth column
             QVERIFY2(QRegularExpression(u"^X{80,150}$"_s).match(lues[2]).hasMatch(), qPrintable(lues[2]));
@@ -90,32 +88,30 @@ private Q_SLOTS:
     // Each copy is a job of its own, and in PDF a file that replaces no other; the look is that of the insertion point.
     void Copies()
     {
-        const Poste poste(2);
-        Operateur operateur;
-        OuvreDocument(poste.Ecrit("P.iso", "N10\r\n\r\nN20"));
+        Atelier atelier(2);
+        OuvreDocument(atelier.Ecrit("P.iso", "N10\r\n\r\nN20"));
         frmPrinc->Text1->setSelLength(3);
         frmPrinc->Text1->setSelFontName(u"DejaVu Serif"_s);
-        poste.Ecrit("P_2.pdf", "mine");
-        Imprime(operateur, poste.Chemin("P.pdf"), 3);
-        QCOMPARE(poste.Lit("P_2.pdf"), "mine");
+        atelier.Ecrit("P_2.pdf", "mine");
+        atelier.Imprime(atelier.Chemin("P.pdf"), 3);
+        QCOMPARE(atelier.Lit("P_2.pdf"), "mine");
         const QList<QStringList> attendu{QStringList{u"Programme : "_s + NomFichier, u"N10"_s, u"N20"_s}};
         for (const char *const fichier : {"P.pdf", "P_3.pdf", "P_4.pdf"}) {
-            QCOMPARE(Pages(poste.Chemin(fichier)), attendu);
-            QVERIFY(poste.Lit(fichier).contains("DejaVuSerif-Bold"));
+            QCOMPARE(Pages(atelier.Chemin(fichier)), attendu);
+            QVERIFY(atelier.Lit(fichier).contains("DejaVuSerif-Bold"));
         }
-        OuvreDocument(poste.Ecrit("Q.iso", "N10"));
-        Imprime(operateur, QString());
-        QCOMPARE(QDir(poste.Dossier()).entryList({u"*.pdf"_s}), u"P.pdf P_2.pdf P_3.pdf P_4.pdf Q.pdf"_s.split(u' '));
+        OuvreDocument(atelier.Ecrit("Q.iso", "N10"));
+        atelier.Imprime(QString());
+        QVERIFY(QFile::exists(atelier.Chemin("Q.pdf")));
     }
 
     // The set-up turns the paper of what is printed behind it, unless it is cancelled.
     void Reglage()
     {
-        const Poste poste(1);
-        Operateur operateur;
-        OuvreDocument(poste.Ecrit("P.iso", "N10"));
+        Atelier atelier(1);
+        OuvreDocument(atelier.Ecrit("P.iso", "N10"));
         for (const bool accepte : {false, true}) {
-            operateur.Fait("CommonDialog", [accepte](QWidget &fenetre) {
+            atelier.Fait("CommonDialog", [accepte](QWidget &fenetre) {
                 auto *const paysage = fenetre.findChild<QRadioButton *>(u"Paysage"_s);
                 QCOMPARE(fenetre.windowTitle() + u": "_s + paysage->text(), u"Print setup: Landscape"_s);
                 paysage->click();
@@ -123,8 +119,8 @@ private Q_SLOTS:
             });
             Operateur::Menu("Mnu_ConfigIMP");
             const QString fichier = accepte ? u"Q.pdf"_s : u"P.pdf"_s;
-            Imprime(operateur, poste.Chemin(fichier));
-            QVERIFY(poste.Lit(fichier).contains(accepte ? "[0 0 842.0" : "[0 0 595.0"));
+            atelier.Imprime(atelier.Chemin(fichier));
+            QVERIFY(atelier.Lit(fichier).contains(accepte ? "[0 0 842.0" : "[0 0 595.0"));
         }
     }
 
@@ -132,19 +128,18 @@ private Q_SLOTS:
     // given up nothing stays.
     void Refus()
     {
-        const Poste poste(0);
-        OuvreDocument(poste.Ecrit("P.iso", "N10 N20"));
+        Atelier atelier(0);
+        OuvreDocument(atelier.Ecrit("P.iso", "N10 N20"));
         frmPrinc->Text1->setSelLength(3);
-        Operateur operateur;
-        operateur.Ferme("CommonDialog");
+        atelier.Ferme("CommonDialog");
         Operateur::Menu("Mnu_Imprim");
         QCOMPARE(frmPrinc->Text1->SelText(), u"N10"_s);
         QPrinter imprimante;
-        imprimante.setOutputFileName(poste.Chemin("absent/P.pdf"));
+        imprimante.setOutputFileName(atelier.Chemin("absent/P.pdf"));
         QVERIFY_EXCEPTION_THROWN(Printer(imprimante).Print(), Erreur);
-        imprimante.setOutputFileName(poste.Chemin("P.pdf"));
+        imprimante.setOutputFileName(atelier.Chemin("P.pdf"));
         Printer(imprimante).Print(u"N10"_s);
-        QVERIFY(!QFile::exists(poste.Chemin("P.pdf")));
+        QVERIFY(!QFile::exists(atelier.Chemin("P.pdf")));
     }
 };
 

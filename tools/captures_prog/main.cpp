@@ -1,3 +1,4 @@
+#include "captures_prog/Defauts.h"
 #include "captures_prog/Vues.h"
 #include "locale/Langue.h"
 #include "platform/MSComm.h"
@@ -83,8 +84,8 @@ bool Ecrit(QPixmap image, const QString &dossier, const char *nom, int largeurMa
     return image.save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(nom)));
 }
 
-/// Opens the window of a view, writes its picture and closes it again; the main window stays. largeurMax: pixels; a
-/// wider picture is reduced.
+/// Opens the window of a view, writes its picture, says what is wrong in it, and closes it again; the main window
+/// stays. largeurMax: pixels; a wider picture is reduced.
 bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
 {
     QWidget *const fenetre = vue.ouvre();
@@ -94,6 +95,8 @@ bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
     QCoreApplication::processEvents();
     const bool menu = qobject_cast<QMenu *>(fenetre) != nullptr;
     const bool ecrit = Ecrit(menu ? fenetre->grab() : Photographie(*fenetre), dossier, vue.nom, largeurMax);
+    for (const QString &defaut : menu ? QStringList() : Defauts(*fenetre))
+        QTextStream(stderr) << vue.nom << ": " << defaut << '\n';
     if (menu)
         fenetre->hide();
     else if (fenetre != frmPrinc)

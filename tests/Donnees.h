@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QFile>
+#include <QStringList>
+
+/// The path of a file of tests/donnees.
+inline QString Donnees(const QString &nom)
+{
+    return QString::fromUtf16(DONNEES) + u'/' + nom;
+}
+
+/// The rows of a table of tests/donnees, cut at the tabulators. A line that begins with "#" says what the columns are.
+/// In a cell "\r", "\n", "\t", "\a" and "\0" stand for the characters.
+inline QList<QStringList> Table(const QString &nom)
+{
+    QFile fichier(Donnees(nom));
+    if (!fichier.open(QIODevice::ReadOnly))
+        qFatal("a table of the tests is missing");
+    QList<QStringList> rangees;
+    const QStringList lignes = QString::fromUtf8(fichier.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &ligne : lignes) {
+        if (ligne.startsWith(u'#'))
+            continue;
+        QStringList cases = ligne.split(u'\t');
+        for (const auto &[ecrit, signe] :
+             {std::pair("\\r", '\r'), {"\\n", '\n'}, {"\\t", '\t'}, {"\\a", '\a'}, {"\\0", '\0'}})
+            cases.replaceInStrings(QLatin1String(ecrit), QString(QChar::fromLatin1(signe)));
+        rangees << cases;
+    }
+    return rangees;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Operateur.h"
+#include "Poste.h"
+
+#include "comconfig/ParamCom.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Reglages.h"
+
+#include <QTest>
+
+/// A workstation with its operator; with it come the records and the window that nearly every test looks at.
+struct Etabli : Poste, Operateur
+{
+    using Poste::Poste;
+
+    /// A box that only tells something is read. icone: one of Boite.
+    void Apprend(QAnyStringView titre, QAnyStringView texte, int icone = Boite::Exclamation, Lieu ou = Lieu::current())
+    {
+        Repond(titre, texte, icone, QMessageBox::Ok, ou);
+    }
+    /// The operator chooses this configuration and is told that its form is an older one.
+    void ChoisitAncien(const QString &chemin)
+    {
+        Choisit(chemin);
+        Apprend("Fichier de configuration erroné ou de version antérieure !",
+                "Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.");
+    }
+};
