@@ -97,19 +97,21 @@ private Q_SLOTS:
 };
 
 // What the operator has arranged comes back after a restart, with the explorer made by the start or later; what cannot
-// be leaves the smallest sizes.
+// be leaves the smallest sizes, and a window that sticks out of the screen comes back wholly on it.
 void TestFrmPrinc::Disposition()
 {
     const QTemporaryDir reglages;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
-    for (const auto &[garde, largeur, attendue] : {std::tuple{-1, 300, 300}, {410, 410, 410}, {0, 225, 225}}) {
+    for (const auto &[garde, largeur, attendue, dehors] :
+         {std::tuple{-1, 300, 300, 0}, {410, 410, 410, 0}, {0, 225, 225, 300}}) {
         const Poste poste(0);
         if (garde >= 0)
             QSettings(u"Dorvanel"_s, u"Disposition"_s).setValue("LargeurExplorateur", garde);
         RemetDisposition(*frmPrinc);
         Mnu_AffichDOS();
         QTRY_COMPARE(frmPrinc->Frame1->width(), garde < 0 ? 225 : attendue);
-        frmPrinc->setGeometry(40, 30, 720 + largeur, 600);
+        const QRect place(20, 200, 780, 600); // in the corner of the screen
+        frmPrinc->setGeometry(place.translated(dehors, dehors));
         QTest::mousePress(frmPrinc->milieu->handle(1), Qt::LeftButton, {}, QPoint(1, 9));
         QTest::mouseMove(frmPrinc->milieu->handle(1), QPoint(1 + largeur - frmPrinc->Frame1->width(), 9));
         QTest::mouseRelease(frmPrinc->milieu->handle(1), Qt::LeftButton, {}, QPoint(1, 9));
@@ -122,7 +124,7 @@ void TestFrmPrinc::Disposition()
         suivante.CreeExplorateur();
         suivante.show();
         QTRY_COMPARE(suivante.Frame1->width(), attendue);
-        QCOMPARE(suivante.geometry(), QRect(40, 30, 720 + largeur, 600));
+        QCOMPARE(suivante.geometry(), place);
     }
 }
 
@@ -143,13 +145,16 @@ void TestFrmPrinc::FichierDepose()
             adresses << QUrl::fromLocalFile(nom);
         donnees.setUrls(adresses);
         const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
-        QDragEnterEvent entree(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+        const Qt::DropActions offertes = Qt::MoveAction | Qt::CopyAction; // with this key, to move it
+        QDragEnterEvent entree(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
         QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
-        QDropEvent depot(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+        QDragMoveEvent passage(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(frmPrinc->windowHandle(), &passage);
+        QDropEvent depot(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
         if (entree.isAccepted())
             QCoreApplication::sendEvent(frmPrinc->windowHandle(), &depot);
         QCoreApplication::processEvents();
-        return entree.isAccepted() && depot.dropAction() == Qt::CopyAction;
+        return entree.isAccepted() && passage.dropAction() == Qt::CopyAction && depot.dropAction() == Qt::CopyAction;
     };
     const QString autre = poste.Ecrit(u"AUTRE €.iso"_s, "G1\r\n");
     FichierModifie = Vrai;
