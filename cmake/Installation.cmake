@@ -36,7 +36,7 @@ install(FILES ${PAQUET}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${CMA
 
 # Documents
 set(DOCS ${CMAKE_INSTALL_DATADIR}/doc/dorvanel)
-install(FILES README.md CHANGELOG.md ${PAQUET}/copyright DESTINATION ${DOCS})
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md ${PAQUET}/copyright DESTINATION ${DOCS})
 install(FILES docs/fenetre.png docs/branchement.md DESTINATION ${DOCS}/docs)
 install(FILES docs/70-dorvanel.rules DESTINATION ${DOCS}/examples)
 foreach(DOCUMENT changelog dorvanel.1)

@@ -123,7 +123,7 @@ void Form_Load()
 
 void AnnonceDossierFerme()
 {
-    // With a file of another name: settings that could not be read are not written over.
+    // With a file that nobody sees: settings that could not be read are not written over.
     if (!QTemporaryFile(AjouteAntislash(DossierApplication()) + QStringLiteral("XXXXXX")).open())
         MsgBox(Texte(DossierFermeTexte).arg(DossierApplication()), Boite::Exclamation, Texte(DossierFermeTitre));
 }

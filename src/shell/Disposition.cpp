@@ -2,7 +2,11 @@
 
 #include "shell/FrmPrinc.h"
 
+#include <QScreen>
 #include <QSettings>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -11,6 +15,21 @@ const QString Registre = QStringLiteral("Disposition");
 constexpr QLatin1String Fenetre("Fenetre");
 constexpr QLatin1String Explorateur("LargeurExplorateur");
 
+/// Brings a window that sticks out of its screen wholly onto it. The screen may have become smaller since the last run;
+/// Qt itself moves only a window of which nothing at all would be seen.
+void RentreDansEcran(FrmPrinc &fenetre)
+{
+    QRect libre = fenetre.screen()->availableGeometry();
+    QRect place = fenetre.geometry();
+    if (fenetre.isMaximized() || libre.contains(place))
+        return;
+    libre.setTop(libre.top() + fenetre.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    place.setSize(place.size().boundedTo(libre.size()));
+    place.moveBottomRight({std::min(place.right(), libre.right()), std::min(place.bottom(), libre.bottom())});
+    place.moveTopLeft({std::max(place.left(), libre.left()), std::max(place.top(), libre.top())});
+    fenetre.setGeometry(place);
+}
+
 } // namespace
 
 void RemetDisposition(FrmPrinc &fenetre)
@@ -18,8 +37,8 @@ void RemetDisposition(FrmPrinc &fenetre)
     const QSettings registre(Organisation, Registre);
     // Of a cut one Qt would take what is missing for zeros.
     const QByteArray place = registre.value(Fenetre).toByteArray();
-    if (place.size() == fenetre.saveGeometry().size())
-        fenetre.restoreGeometry(place);
+    if (place.size() == fenetre.saveGeometry().size() && fenetre.restoreGeometry(place))
+        RentreDansEcran(fenetre);
     fenetre.setLargeurExplorateur(registre.value(Explorateur, fenetre.LargeurExplorateur()).toInt());
 }
 

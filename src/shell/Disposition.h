@@ -6,7 +6,7 @@ class FrmPrinc;
 // the next where the desktop keeps such things (on Linux $XDG_CONFIG_HOME/Dorvanel/Disposition.conf), apart from the
 // program's own settings, which travel with its folder from one PC to another.
 
-/// Puts the window as the last run left it, within the screens that there are now; before the start, which may make the
+/// Puts the window as the last run left it, wholly on a screen that there is now; before the start, which may make the
 /// explorer column. Without a last run, or with something unreadable, it stays as it is.
 void RemetDisposition(FrmPrinc &fenetre);
 

@@ -107,7 +107,8 @@ bool ProposeEnregistrement()
         NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
     const QString question =
         Texte(ModifieAvant) + NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") + Texte(ModifieQuestion);
-    if (!Confirme(question, Boite::Exclamation, Texte(ModifieTitre)))
+    // A stroke of Escape must not be what gives the text up for a dropped file.
+    if (!Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)))
         return true;
     try {
         SaveFile(NomFichier);

@@ -270,12 +270,20 @@ void FrmPrinc::closeEvent(QCloseEvent *evenement)
 void FrmPrinc::dragEnterEvent(QDragEnterEvent *evenement)
 {
     // A dialog stands open: a transfer may be sending the text of the pane.
-    if (QApplication::activeModalWidget() == nullptr && !FichierTire(*evenement->mimeData()).isEmpty())
-        evenement->acceptProposedAction();
+    evenement->setAccepted(QApplication::activeModalWidget() == nullptr &&
+                           !FichierTire(*evenement->mimeData()).isEmpty());
+    evenement->setDropAction(Qt::CopyAction);
+}
+
+/// The program that the file was dragged from keeps it, even where it offers to move it. On an X display it goes by the
+/// last answer before the drop.
+void FrmPrinc::dragMoveEvent(QDragMoveEvent *evenement)
+{
+    evenement->setDropAction(Qt::CopyAction);
 }
 
 /// The file is opened when the drop is over: a question that comes with it must not hold up the program that it was
-/// dragged from. That program keeps its file, even where it offers to move it.
+/// dragged from.
 void FrmPrinc::dropEvent(QDropEvent *evenement)
 {
     const QString chemin = FichierTire(*evenement->mimeData());

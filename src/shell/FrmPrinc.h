@@ -86,6 +86,7 @@ protected:
     void changeEvent(QEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
     void dragEnterEvent(QDragEnterEvent *evenement) override;
+    void dragMoveEvent(QDragMoveEvent *evenement) override;
     void dropEvent(QDropEvent *evenement) override;
 
 private:

@@ -24,13 +24,16 @@ bool Depose(const QStringList &noms)
         adresses << QUrl::fromLocalFile(nom);
     donnees.setUrls(adresses);
     const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
-    QDragEnterEvent entree(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    const Qt::DropActions offertes = Qt::MoveAction | Qt::CopyAction; // with this key, to move it
+    QDragEnterEvent entree(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
-    QDropEvent depot(ici, Qt::MoveAction | Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QDragMoveEvent passage(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
+    QCoreApplication::sendEvent(frmPrinc->windowHandle(), &passage);
+    QDropEvent depot(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
     if (entree.isAccepted())
         QCoreApplication::sendEvent(frmPrinc->windowHandle(), &depot);
     QCoreApplication::processEvents();
-    return entree.isAccepted() && depot.dropAction() == Qt::CopyAction;
+    return entree.isAccepted() && passage.dropAction() == Qt::CopyAction && depot.dropAction() == Qt::CopyAction;
 }
 
 } // namespace
@@ -75,28 +78,32 @@ private Q_SLOTS:
         QVERIFY(PortOuvert);
     }
 
-    // What the operator has arranged comes back after a restart, hidden or not.
+    // What the operator has arranged comes back after a restart, hidden or not; a window that sticks out of the screen
+    // comes back wholly on it.
     void Disposition()
     {
         const QTemporaryDir reglages;
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
-        const Poste poste(0);
-        Mnu_AffichDOS();
-        frmPrinc->setGeometry(40, 30, 1020, 600);
-        QWidget *const poignee = frmPrinc->milieu->handle(1);
-        QTest::mousePress(poignee, Qt::LeftButton, {}, QPoint(1, 9));
-        QTest::mouseMove(poignee, QPoint(301 - frmPrinc->Frame1->width(), 9));
-        QTest::mouseRelease(poignee, Qt::LeftButton, {}, QPoint(1, 9));
-        QTRY_COMPARE(frmPrinc->Frame1->width(), 300);
-        Mnu_AffichDOS();
-        GardeDisposition(*frmPrinc);
+        const QRect place(20, 200, 780, 600); // in the corner of the screen
+        for (const int dehors : {0, 300}) {
+            const Poste poste(0);
+            Mnu_AffichDOS();
+            frmPrinc->setGeometry(place.translated(dehors, dehors));
+            QWidget *const poignee = frmPrinc->milieu->handle(1);
+            QTest::mousePress(poignee, Qt::LeftButton, {}, QPoint(1, 9));
+            QTest::mouseMove(poignee, QPoint(301 - frmPrinc->Frame1->width(), 9));
+            QTest::mouseRelease(poignee, Qt::LeftButton, {}, QPoint(1, 9));
+            QTRY_COMPARE(frmPrinc->Frame1->width(), 300);
+            Mnu_AffichDOS();
+            GardeDisposition(*frmPrinc);
 
-        FrmPrinc suivante;
-        RemetDisposition(suivante);
-        suivante.CreeExplorateur();
-        suivante.show();
-        QTRY_COMPARE(suivante.Frame1->width(), 300);
-        QCOMPARE(suivante.geometry(), QRect(40, 30, 1020, 600));
+            FrmPrinc suivante;
+            RemetDisposition(suivante);
+            suivante.CreeExplorateur();
+            suivante.show();
+            QTRY_COMPARE(suivante.Frame1->width(), 300);
+            QCOMPARE(suivante.geometry(), place);
+        }
     }
 
     // A file dropped on the text is opened as from the menu, by its kind, and its path does not land in the text; the
