@@ -4,7 +4,6 @@
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/Erreur.h"
-#include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
 namespace {
@@ -37,7 +36,7 @@ void FrmLangue::Command1_Click()
     Saute([] {
         SauveIni();
         AvertitRelance();
-        frmPrinc->MontreLangue();
+        MontreLangue();
     });
     AppliqueLangue();
     accept();
@@ -46,7 +45,7 @@ void FrmLangue::Command1_Click()
 void Mnu_Lang(int langue)
 {
     LangIndex = langue;
-    frmPrinc->MontreLangue();
+    MontreLangue();
     AppliqueLangue();
     Saute([] {
         SauveIni();
