@@ -1,3 +1,4 @@
+#include "Operateur.h"
 #include "Poste.h"
 
 #include "captures_prog/Vues.h"
@@ -240,6 +241,8 @@ private Q_SLOTS:
     void Legendes();
     void Fenetres_data() { Legendes_data(); }
     void Fenetres();
+    void Dialogues_data() { Legendes_data(); }
+    void Dialogues();
 };
 
 void TestTextes::Legendes_data()
@@ -295,6 +298,32 @@ void TestTextes::Fenetres()
             delete fenetre;
     }
     QVERIFY(Aucun(defauts));
+}
+
+// The words on the buttons of all boxes and dialogs that are the toolkit's.
+void TestTextes::Dialogues()
+{
+    QFETCH(int, langue);
+    const QString attendus[] = {
+        u"Annuler,Choisir,Enregistrer,Imprimer,Non,OK,Options >>,Oui,Ouvrir,Sélectionner une couleur"_s,
+        u"Cancel,Choose,No,OK,Open,Options >>,Print,Save,Select Color,Yes"_s,
+        u"Abrir,Aceptar,Cancelar,Guardar,Imprimir,No,Opciones >>,Selecciona color,Seleccionar,Sí"_s};
+    const Poste poste(langue);
+    poste.Charge("G0");
+    Operateur operateur;
+    QStringList mots;
+    for (const VueModale &vue : VuesModales) {
+        operateur.Fait(QString::fromLatin1(vue.nom).section(u'_', 0, 0), [&mots](QWidget &fenetre) {
+            for (const QPushButton *const bouton : fenetre.findChildren<QPushButton *>())
+                if (bouton->isVisible())
+                    mots << bouton->text().remove(u'&');
+            QMetaObject::invokeMethod(&fenetre, "reject");
+        });
+        vue.demande();
+    }
+    mots.removeDuplicates();
+    mots.sort();
+    QCOMPARE(mots.join(u','), attendus[langue]);
 }
 
 QTEST_MAIN(TestTextes)
