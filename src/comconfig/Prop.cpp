@@ -10,6 +10,7 @@
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
+#include "platform/EntreeOptions.h"
 #include "platform/GardePlaces.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
@@ -116,6 +117,7 @@ Prop::Prop(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
+    EntreAuChoix(this);
     GardePlaces({LabelFinTrans, Command20, LabelFinLigne, Command21, Label18, Text8});
     RemplitListes(*this);
     BrancheOptions(*this);

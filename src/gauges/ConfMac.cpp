@@ -4,6 +4,7 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/EntreeOptions.h"
 #include "platform/Erreur.h"
 #include "platform/FiltreTouches.h"
 #include "platform/GardePlaces.h"
@@ -56,6 +57,7 @@ ConfMac::ConfMac(QWidget *parent, const QString &chemin)
 {
     setupUi(this);
     AppliqueLegendes(this);
+    EntreAuChoix(this);
     GardePlaces({Frame2, Label6, Text6, Frame7});
     for (const Longueur &longueur : Longueurs)
         LimiteTouches(this->*longueur.saisie, QStringLiteral("[-.0-9]*"));

@@ -3,6 +3,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
+#include "platform/EntreeOptions.h"
 #include "platform/Erreur.h"
 #include "shell/Reglages.h"
 
@@ -22,6 +23,7 @@ FrmLangue::FrmLangue(QWidget *parent)
     : QDialog(parent)
 {
     setupUi(this);
+    EntreAuChoix(this);
     QRadioButton *const options[] = {Option1, Option2, Option3};
     if (LangIndex >= 0 && LangIndex <= 2)
         options[LangIndex]->setChecked(true);
