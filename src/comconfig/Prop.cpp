@@ -10,6 +10,8 @@
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
+#include "platform/EntreeOptions.h"
+#include "platform/GardePlaces.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
@@ -115,7 +117,8 @@ Prop::Prop(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    GardePlaces();
+    EntreAuChoix(this);
+    GardePlaces({LabelFinTrans, Command20, LabelFinLigne, Command21, Label18, Text8});
     RemplitListes(*this);
     BrancheOptions(*this);
     BrancheCommandes();
@@ -138,17 +141,6 @@ void Prop::BrancheCommandes()
     for (QPushButton *const ferme : {cmdCancel, Command18, Command4})
         connect(ferme, &QPushButton::clicked, this, &Prop::reject);
     connect(Command5, &QPushButton::clicked, this, &Prop::Command5_Click);
-}
-
-/// A box that comes and goes leaves its room free, so that nothing moves under the mouse.
-void Prop::GardePlaces()
-{
-    for (QWidget *const passager :
-         std::initializer_list<QWidget *>{LabelFinTrans, Command20, LabelFinLigne, Command21, Label18, Text8}) {
-        QSizePolicy place = passager->sizePolicy();
-        place.setRetainSizeWhenHidden(true);
-        passager->setSizePolicy(place);
-    }
 }
 
 /// The label that the chooser leaves fits the codes, however it was closed.

@@ -39,7 +39,6 @@ private:
     void Command1_Click();
     void Command5_Click();
 
-    void GardePlaces();
     void BrancheCommandes();
     void BrancheChaines();
     void BrancheDossiers();

@@ -4,8 +4,10 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/EntreeOptions.h"
 #include "platform/Erreur.h"
 #include "platform/FiltreTouches.h"
+#include "platform/GardePlaces.h"
 #include "platform/Nombres.h"
 
 #include <algorithm>
@@ -47,14 +49,6 @@ void Montre(QLineEdit *saisie, const QString &texte)
     saisie->setText(texte);
 }
 
-/// Hides it without closing up the place, so that what the operator is about to click stays where it is.
-void GardePlace(QWidget *controle)
-{
-    QSizePolicy politique = controle->sizePolicy();
-    politique.setRetainSizeWhenHidden(true);
-    controle->setSizePolicy(politique);
-}
-
 } // namespace
 
 ConfMac::ConfMac(QWidget *parent, const QString &chemin)
@@ -63,8 +57,8 @@ ConfMac::ConfMac(QWidget *parent, const QString &chemin)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    for (QWidget *controle : std::initializer_list<QWidget *>{Frame2, Label6, Text6, Frame7})
-        GardePlace(controle);
+    EntreAuChoix(this);
+    GardePlaces({Frame2, Label6, Text6, Frame7});
     for (const Longueur &longueur : Longueurs)
         LimiteTouches(this->*longueur.saisie, QStringLiteral("[-.0-9]*"));
     LimiteTouches(Text3, QStringLiteral("[0-9]*"));
@@ -125,7 +119,7 @@ void ConfMac::PrendTextes()
 void ConfMac::MontreNom()
 {
     if (!m_chemin.isEmpty())
-        MontreDonnee(this, Texte(PrefixeTitre) + NomMac);
+        PoseTexte(this, PrefixeTitre, NomMac);
 }
 
 void ConfMac::Command2_Click()

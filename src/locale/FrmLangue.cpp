@@ -3,8 +3,8 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
+#include "platform/EntreeOptions.h"
 #include "platform/Erreur.h"
-#include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 
 namespace {
@@ -23,6 +23,7 @@ FrmLangue::FrmLangue(QWidget *parent)
     : QDialog(parent)
 {
     setupUi(this);
+    EntreAuChoix(this);
     QRadioButton *const options[] = {Option1, Option2, Option3};
     if (LangIndex >= 0 && LangIndex <= 2)
         options[LangIndex]->setChecked(true);
@@ -37,7 +38,7 @@ void FrmLangue::Command1_Click()
     Saute([] {
         SauveIni();
         AvertitRelance();
-        frmPrinc->MontreLangue();
+        MontreLangue();
     });
     AppliqueLangue();
     accept();
@@ -46,7 +47,7 @@ void FrmLangue::Command1_Click()
 void Mnu_Lang(int langue)
 {
     LangIndex = langue;
-    frmPrinc->MontreLangue();
+    MontreLangue();
     AppliqueLangue();
     Saute([] {
         SauveIni();

@@ -10,6 +10,10 @@
 
 namespace {
 
+// What the entries of the language menu read.
+constexpr Texte3 NomsLangues[] = {
+    {u"Français", u"French", u"Francés"}, {u"Anglais", u"English", u"Inglés"}, {u"Espagnol", u"Spanish", u"Español"}};
+
 constexpr char Donnee[] = "donnee"; // property of a control that shows data
 
 constexpr const LegendesFenetre *Fenetres[] = {
@@ -71,6 +75,21 @@ void AppliqueLangue()
     const auto fenetres = QApplication::topLevelWidgets();
     for (QWidget *fenetre : fenetres)
         AppliqueLegendes(fenetre);
+}
+
+void MontreLangue()
+{
+    const auto fenetres = QApplication::topLevelWidgets();
+    for (const QWidget *const fenetre : fenetres) {
+        for (int langue = 0; langue < 3; ++langue) {
+            auto *const entree = fenetre->findChild<QAction *>(QStringLiteral("Mnu_Lang_%1").arg(langue));
+            const QString nom = Texte(NomsLangues[langue]);
+            if (entree == nullptr || nom.isNull())
+                continue;
+            entree->setChecked(langue == LangIndex);
+            entree->setText(nom);
+        }
+    }
 }
 
 void AppliqueLegendes(QWidget *fenetre)

@@ -9,6 +9,9 @@ struct Texte3;
 /// hears of it by a LanguageChange event.
 void AppliqueLangue();
 
+/// Checks the entry of LangIndex in the language menu and names the three languages in that language.
+void MontreLangue();
+
 /// Same for one window, which calls it as it is made. fenetre: a window whose objectName is a key of the table.
 void AppliqueLegendes(QWidget *fenetre);
 

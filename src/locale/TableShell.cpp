@@ -85,7 +85,6 @@ constexpr Legende FrmPrinc[] = {
     {"Text2", Nom, u"Reception", u"Recepción"},
     {"FolderTreeview1", Nom, u"Directories", u"Directorios"},
     {"File1", Nom, u"Files", u"Ficheros"},
-    {"Combo1", Bulle, u"Filter of the files shown", u"Filtro de los ficheros mostrados"},
 };
 
 constexpr Legende Apropos[] = {

@@ -108,7 +108,7 @@ void Form_Load()
     DesactiveTransferts();
     DosAppli = DossierApplication();
     Saute(LisDossiers);
-    frmPrinc->MontreLangue();
+    MontreLangue();
     if (DosConf.isEmpty())
         DosConf = DossierApplication();
     if (OptDosDefaut == 0)

@@ -3,6 +3,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/CommonDialog.h"
+#include "platform/GardePlaces.h"
 #include "platform/Icone.h"
 #include "platform/MSComm.h"
 #include "shell/CadreExplorateur.h"
@@ -23,9 +24,6 @@ using namespace std::chrono_literals;
 
 constexpr Texte3 PortOuvertTexte{u"Port Ouvert", u"Open Port", u"Port Abierto"};
 constexpr Texte3 PortFermeTexte{u"Port Fermé", u"Closed Port", u"Port Ferrado"};
-// What an entry of the language menu reads, by language and entry.
-constexpr Texte3 NomsLangues[] = {
-    {u"Français", u"French", u"Francés"}, {u"Anglais", u"English", u"Inglés"}, {u"Espagnol", u"Spanish", u"Español"}};
 
 constexpr Texte3 AllumeeTexte{u" : actif", u": on", u": activo"};
 constexpr Texte3 EteinteTexte{u" : inactif", u": off", u": inactivo"};
@@ -76,9 +74,7 @@ FrmPrinc::FrmPrinc()
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is not for hiding
     NommeControles();
     PoseIcones();
-    QSizePolicy politique = Etat->sizePolicy();
-    politique.setRetainSizeWhenHidden(true);
-    Etat->setSizePolicy(politique);
+    GardePlaces({Etat});
     connect(&UpdateTimer, &QTimer::timeout, this, &FrmPrinc::UpdateTimer_Timer);
     connect(&Timer2, &QTimer::timeout, this, &FrmPrinc::Timer2_Timer);
     UpdateTimer.start(1000ms);
@@ -175,17 +171,6 @@ void FrmPrinc::MontreExplorateur(bool montre)
     Frame1->setVisible(montre);
     Mnu_AffichDOS->setChecked(montre);
     Bouton(15)->setChecked(montre);
-}
-
-void FrmPrinc::MontreLangue()
-{
-    QAction *const entrees[] = {Mnu_Lang_0, Mnu_Lang_1, Mnu_Lang_2};
-    if (LangIndex < 0 || LangIndex > 2)
-        return;
-    for (int i = 0; i < 3; ++i) {
-        entrees[i]->setChecked(i == LangIndex);
-        entrees[i]->setText(Texte(NomsLangues[i]));
-    }
 }
 
 void FrmPrinc::MontreEtat(const QString &message)

@@ -75,9 +75,6 @@ public:
     /// Shows or hides the explorer column, which has been made, with the menu entry and button 15 that follow it.
     void MontreExplorateur(bool montre);
 
-    /// Checks the entry of LangIndex in the language menu and names the three languages in that language.
-    void MontreLangue();
-
 Q_SIGNALS:
     void Form_Unload();                        ///< the operator closes the window; it closes when the handler returns
     void FichierDepose(const QString &chemin); ///< the operator has dropped a file on the window, or on the pane in it

@@ -7,6 +7,7 @@
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CentreFeuille.h"
+#include "platform/GardePlaces.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Confirmation.h"
@@ -108,13 +109,7 @@ Em_Rc::Em_Rc(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    // The buttons stay where they are while lines of the dialog come and go above them.
-    for (QWidget *passager : {static_cast<QWidget *>(Progression), static_cast<QWidget *>(Label3),
-                              static_cast<QWidget *>(Label4), static_cast<QWidget *>(Frame2)}) {
-        QSizePolicy politique = passager->sizePolicy();
-        politique.setRetainSizeWhenHidden(true);
-        passager->setSizePolicy(politique);
-    }
+    GardePlaces({Progression, Label3, Label4, Frame2}); // lines above the buttons
     Command2->installEventFilter(this);
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);

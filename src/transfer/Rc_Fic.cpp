@@ -8,6 +8,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
+#include "platform/EntreeOptions.h"
 #include "platform/FichierTexte.h"
 #include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
@@ -63,6 +64,7 @@ Rc_Fic::Rc_Fic(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
+    EntreAuChoix(this);
     Text1->setValidator(new FiltreTouches(QString::fromUtf16(InterditsNom), Text1));
     connect(Text1, &QLineEdit::textChanged, this,
             [this](const QString &texte) { Command2->setEnabled(!texte.isEmpty()); });

@@ -20,6 +20,7 @@
 
 #include <QDir>
 #include <QMenu>
+#include <QPushButton>
 
 #include <memory>
 
@@ -179,6 +180,33 @@ private Q_SLOTS:
                 defauts << QLatin1String(vue.nom) + u": "_s + defaut;
         }
         QVERIFY(Aucun(defauts));
+    }
+
+    // The words on the buttons of all boxes and dialogs that are the toolkit's.
+    void Dialogues_data() { Legendes_data(); }
+    void Dialogues()
+    {
+        QFETCH(int, langue);
+        const QString attendus[] = {
+            u"Annuler,Choisir,Enregistrer,Imprimer,Non,OK,Options >>,Oui,Ouvrir,Sélectionner une couleur"_s,
+            u"Cancel,Choose,No,OK,Open,Options >>,Print,Save,Select Color,Yes"_s,
+            u"Abrir,Aceptar,Cancelar,Guardar,Imprimir,No,Opciones >>,Selecciona color,Seleccionar,Sí"_s};
+        const Poste poste(langue);
+        poste.Charge("G0");
+        Operateur operateur;
+        QStringList mots;
+        for (const VueModale &vue : VuesModales) {
+            operateur.Fait(QString::fromLatin1(vue.nom).section(u'_', 0, 0), [&mots](QWidget &fenetre) {
+                for (const QPushButton *const bouton : fenetre.findChildren<QPushButton *>())
+                    if (bouton->isVisible())
+                        mots << bouton->text().remove(u'&');
+                QMetaObject::invokeMethod(&fenetre, "reject");
+            });
+            vue.demande();
+        }
+        mots.removeDuplicates();
+        mots.sort();
+        QCOMPARE(mots.join(u','), attendus[langue]);
     }
 
     // A change of language writes over no data, and over no entry without a translation; a language that is none

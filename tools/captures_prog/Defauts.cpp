@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace {
 
@@ -75,8 +76,9 @@ QStringList LettresDoubles(const QWidget &fenetre)
     return doubles;
 }
 
-/// Steps of the tabulator that go back: upwards, but for the top of a column on the right, or to the left. The dial
-/// goes by the numbers on it; the chooser begins with what closes it, the main window and the help with their text.
+/// Steps of the tabulator that go back: upwards, but for the top of a column on the right, or to the left; and those to
+/// an option that is not the chosen one of its group, from where an arrow would choose another. The dial goes by the
+/// numbers on it; the chooser begins with what closes it, the main window and the help with their text.
 QStringList Detours(const QWidget &fenetre)
 {
     if (QStringList{QStringLiteral("JauTour"), QStringLiteral("FrmCaract"), QStringLiteral("frmPrinc"),
@@ -88,6 +90,8 @@ QStringList Detours(const QWidget &fenetre)
     for (const QWidget *w = fenetre.nextInFocusChain(); w != &fenetre; w = w->nextInFocusChain()) {
         if (!w->isVisible() || !w->isEnabled() || w->window() != &fenetre || (w->focusPolicy() & Qt::TabFocus) == 0)
             continue;
+        if (const auto *const option = qobject_cast<const QRadioButton *>(w); option != nullptr && !option->isChecked())
+            detours << QStringLiteral("to %1, which is not chosen").arg(w->objectName());
         const QRect ici(w->mapTo(&fenetre, QPoint()), w->size());
         if (avant != nullptr) {
             const QRect la(avant->mapTo(&fenetre, QPoint()), avant->size());
