@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 
@@ -30,15 +31,10 @@ constexpr double Angles[] = {0, 315, 270, 225, 180, 135, 90, 45, 0};
 Tuile::Tuile(QWidget *parent)
     : QAbstractButton(parent)
 {
+    setCheckable(true);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-void Tuile::Designe(bool designee)
-{
-    m_designee = designee;
-    update();
 }
 
 QSize Tuile::sizeHint() const
@@ -50,12 +46,18 @@ void Tuile::paintEvent(QPaintEvent *)
 {
     QPainter dessin(this);
     dessin.setRenderHint(QPainter::Antialiasing);
-    const bool vive = m_designee || hasFocus() || underMouse();
-    dessin.setPen(Trait(vive ? palette().highlight().color() : Contour, m_designee ? 3 : 1));
+    const bool vive = isChecked() || hasFocus() || underMouse();
+    dessin.setPen(Trait(vive ? palette().highlight().color() : Contour, isChecked() ? 3 : 1));
     dessin.setBrush(isDown() ? palette().midlight() : palette().base());
     constexpr double marge = 2;
     constexpr double arrondi = 6;
     dessin.drawRoundedRect(QRectF(rect()).adjusted(marge, marge, -marge, -marge), arrondi, arrondi);
+    if (hasFocus()) {
+        QStyleOptionFocusRect foyer;
+        foyer.initFrom(this);
+        foyer.rect = rect().adjusted(5, 5, -5, -5); // inside the outline
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &foyer, &dessin, this);
+    }
     dessin.translate(QRectF(rect()).center());
     const double echelle = std::min(width(), height()) / Cote;
     dessin.scale(echelle, echelle);

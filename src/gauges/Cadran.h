@@ -5,7 +5,7 @@
 // The pictures of the dial dialog, drawn for any size and any theme. A tile is clicked or, with the keyboard, stepped
 // to and pressed with the space bar; a click leaves the keyboard where it is.
 
-/// A tile that gives a value to a box.
+/// A tile that gives a value to a box. It is checked while its value stands there.
 class Tuile : public QAbstractButton
 {
     Q_OBJECT
@@ -15,12 +15,11 @@ public:
     explicit Tuile(QWidget *parent);
 
     const QString &Valeur() const { return m_valeur; }
-    /// Shows the tile as the one whose value stands in the box, or as any other.
-    void Designe(bool designee);
 
     QSize sizeHint() const override;
 
 protected:
+    void nextCheckState() override {} // the box says which tile is checked, not the click
     void paintEvent(QPaintEvent *) override;
     /// Draws the figure, in a square of Cote units around (0, 0).
     virtual void Dessine(QPainter &dessin) const = 0;
@@ -29,7 +28,6 @@ protected:
 
 private:
     QString m_valeur;
-    bool m_designee = false;
 };
 
 /// A cutting plate with its nose radius, in mm, written on it: the rounder the larger.

@@ -85,7 +85,7 @@ void JauTour::DesigneTuiles()
     for (Tuile *tuile : tuiles) {
         const bool estPlaquette = tuile->parentWidget() == Picture21;
         const QString saisi = (estPlaquette ? Text1 : Text2)->text();
-        tuile->Designe(!saisi.isEmpty() && Val(saisi) == Val(tuile->Valeur()));
+        tuile->setChecked(!saisi.isEmpty() && Val(saisi) == Val(tuile->Valeur()));
     }
 }
 

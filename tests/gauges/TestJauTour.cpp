@@ -4,6 +4,8 @@
 #include "gauges/JauTour.h"
 #include "gauges/ParamMac.h"
 
+#include <QAbstractButton>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -42,7 +44,8 @@ private Q_SLOTS:
                      {u"Picture%1"_s.arg(image), u"Label%1"_s.arg((avant ? 8 : 17) + localisateur)}) {
                     d.Text1->setText(u"0.4"_s);
                     QCOMPARE(Clique(d, nom), (avant && localisateur == 0 ? u"0/%1"_s : u"0.4/%1"_s).arg(localisateur));
-                    const auto *const tuile = d.findChild<QWidget *>(nom);
+                    const auto *const tuile = d.findChild<QAbstractButton *>(nom);
+                    QCOMPARE(tuile->isChecked(), nom.startsWith(u'P')); // heard as the one chosen
                     const QPoint place = tuile->mapTo(cadran, tuile->rect().center()) - cadran->rect().center();
                     const int cotes[] = {1, 1, 0, -1, -1, -1, 0, 1, 1};
                     const int hauteurs[] = {0, -1, -1, -1, 0, 1, 1, 1, 0};
