@@ -101,6 +101,8 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
     Bilan bilan{};
     QList<qint64> tas;
     QList<qint64> pages;
+    for (QList<qint64> *const serie : {&tas, &pages})
+        serie->reserve(nombre * qsizetype(std::size(Genres))); // it is not what grows
     for (int i = 0; i < nombre; ++i) {
         for (const Genre genre : Genres) {
             ++bilan[std::size_t(genre)][std::size_t(epreuve.Joue(genre, epreuve.Tire()))];
