@@ -33,10 +33,12 @@ void CalculeLigne(const QString &texte)
 
 void CalculeMaxi()
 {
-    const auto derniere = std::find_if(Lignes.rbegin(), Lignes.rend() - 1, [](const QString &ligne) {
-        return std::any_of(ligne.begin(), ligne.end(), [](QChar caractere) { return caractere != u' '; });
-    });
-    LigneMaxi = static_cast<int>(Lignes.rend() - 1 - derniere);
+    const auto blanche = [](const QString &ligne) {
+        return ligne.isEmpty() || std::all_of(ligne.begin(), ligne.end(), [](QChar c) { return c == u' '; });
+    };
+    LigneMaxi = CapaciteLignes;
+    while (LigneMaxi > 0 && blanche(Lignes[static_cast<std::size_t>(LigneMaxi)]))
+        --LigneMaxi;
 }
 
 QString TexteLignes()

@@ -2,6 +2,7 @@
 
 #include "platform/Erreur.h"
 #include "platform/PageCode1252.h"
+#include "platform/Reprise.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,6 +11,7 @@
 #include <new>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -59,6 +61,10 @@ void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QByteArray &oc
     errno = 0;
     if (fichier.write(octets) != octets.size())
         Echoue(fichier, errno);
+    // The system takes everything at first. That a stick was pulled meanwhile, it tells only here.
+    const int cause = Reprise([&fichier] { return fsync(fichier.handle()); }) < 0 ? errno : 0;
+    if (cause != 0 && cause != EINVAL && cause != EROFS) // a device has nothing to keep
+        Echoue(cause, TexteSysteme(cause));
     // A network drive may find out only here that it has no room.
     errno = 0;
     fichier.close();

@@ -17,8 +17,8 @@ QByteArray LitOctets(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
 QString LitFichierTexte(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
 
 /// Creates or empties the file at chemin and writes texte to it. A disk without room for it is found out before the
-/// file is emptied; what a write that fails later has left stays on the disk. Raises FichierIntrouvable, AccesRefuse,
-/// DisqueSature, ErreurFichier.
+/// file is emptied; what a write that fails later has left stays on the disk. When it returns the disk holds the text.
+/// Raises FichierIntrouvable, AccesRefuse, DisqueSature, ErreurFichier.
 void EcritFichierTexte(const QString &chemin, const QString &texte);
 
 /// Adds texte at the end of the file at chemin, which must exist; what it held is not touched. Raises as

@@ -90,8 +90,10 @@ LignePosix::LignePosix(const QString &chemin)
         EchecOuverture(chemin, errno);
     try {
         Reserve(chemin);
-        if (const int erreur = PrepareTerminal(m_fd))
+        if (const int erreur = PrepareTerminal(m_fd)) {
+            Libere();
             EchecOuverture(chemin, erreur);
+        }
     } catch (...) {
         close(m_fd);
         throw;
@@ -104,8 +106,7 @@ LignePosix::LignePosix(const QString &chemin)
 
 LignePosix::~LignePosix()
 {
-    // Where someone else keeps the device open, as a simulated machine does, the exclusive use would outlast us.
-    Reprise([this] { return ioctl(m_fd, TIOCNXCL); });
+    Libere();
     close(m_fd);
 }
 
@@ -116,6 +117,12 @@ void LignePosix::Reserve(const QString &chemin)
         EchecOuverture(chemin, errno);
     if (Reprise([&] { return ioctl(m_fd, TIOCEXCL); }) < 0)
         EchecOuverture(chemin, errno);
+}
+
+/// Where someone else keeps the device open, as a simulated machine does, the exclusive use would outlast us.
+void LignePosix::Libere()
+{
+    Reprise([this] { return ioctl(m_fd, TIOCNXCL); });
 }
 
 void LignePosix::Regle(const ReglagePort &reglage)
@@ -209,11 +216,11 @@ std::optional<EtatsLigne> LignePosix::Etats()
     return etats;
 }
 
+/// A device that has gone says nothing more: its last counters stand, for each that fell to 0 would be an event.
 CompteursLigne LignePosix::Compteurs()
 {
-    CompteursLigne compteurs = m_compteurs;
-    CompteursPilote(compteurs);
-    return compteurs;
+    CompteursPilote(m_compteurs);
+    return m_compteurs;
 }
 
 /// False, and compteurs untouched, for a driver that does not count.

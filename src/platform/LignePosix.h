@@ -34,6 +34,7 @@ public:
 
 private:
     void Reserve(const QString &chemin);
+    void Libere();
     void PoseSortie(int ligne, bool actif);
     SensMarques Sens();
     bool CompteursPilote(CompteursLigne &compteurs) const;
@@ -43,6 +44,6 @@ private:
     PiloteUsb m_usb = PiloteUsb::Aucun;
     bool m_avecParite = false;
     DecodeurMarques m_decodeur;
-    CompteursLigne m_compteurs;      // by marks where the driver does not count
+    CompteursLigne m_compteurs;      // the driver's when last asked, or by marks
     CompteursLigne m_comptesMarques; // what the driver had counted at the last mark
 };

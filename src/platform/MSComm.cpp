@@ -153,6 +153,8 @@ void MSComm::Ferme()
     if (!vivante)
         return;
 
+    // A system that holds the machine back until its queue is read says XON now; it would not when it is closed.
+    ligne->JetteReception();
     const Duree tempsLigne = cadence.Reste(Horloge::now()) + cadence.Temps(2) + Transit;
     const auto fin = Horloge::now() + tempsLigne;
     if (!abandon)
@@ -428,6 +430,12 @@ int MSComm::OutBufferCount() const
 {
     ExigeVivant();
     return m_emission.Nombre();
+}
+
+int MSComm::EnRoute() const
+{
+    ExigeVivant();
+    return m_ligne->NonEmis();
 }
 
 void MSComm::ViderEmission()

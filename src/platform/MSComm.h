@@ -36,7 +36,8 @@
 /// Sending. Output only queues. From the queue the system gets at most what the line carries in the next moment
 /// (CadenceEmission), since what it holds cannot be called back: USB adapters and pseudo-terminals buffer hundreds of
 /// characters. So an XOFF or a cancel takes effect within a few characters, OutBufferCount tells what the machine has
-/// still to get, and it falls to 0 a few characters before the line falls idle, in time for the next line of text.
+/// still to get, and it falls to 0 a few characters before the line falls idle, in time for the next line of text. A
+/// sending is over only when EnRoute is 0 too: a machine that stops the line over those last ones would never get them.
 /// OutBufferCount = 0 (ViderEmission) first gives what was just written, up to 100 characters, its line time, unless
 /// the machine holds the line. Closing the port gives its line time to what has left the queue; what still waits there
 /// is thrown away, since then the sending was cancelled. Both keep the event loop turning meanwhile, with the
@@ -194,6 +195,9 @@ public:
     void Output(const QString &texte);
     /// Characters that have not gone to the line yet.
     int OutBufferCount() const;
+    /// Characters handed over that the system still holds, as far as it knows: those that a closing may lose when the
+    /// machine holds the line.
+    int EnRoute() const;
     /// Throws away what waits for sending, after its line time: see Sending above.
     void ViderEmission();
 

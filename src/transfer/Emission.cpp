@@ -14,6 +14,10 @@
 #include "transfer/PortCom.h"
 #include "ui_Em_Rc.h"
 
+#include <QElapsedTimer>
+
+#include <optional>
+
 namespace {
 
 constexpr Texte3 DebutProgramme{u"Emission Début de programme", u"Sending Beginning of program",
@@ -28,25 +32,38 @@ constexpr Texte3 Succes{u"Transfert terminé avec succès !", u"Transfer finishe
 
 constexpr int BlocParDefaut = 512; // for a configuration whose transmit buffer holds nothing
 
-/// One sending: the steps that both ways share, and the progress that the operator sees.
+constexpr qint64 PasAffichage = 40; // milliseconds between two texts that the eye could read
+
+/// One sending: the steps that both ways share, and the progress that the operator sees. A label that changes lays the
+/// dialog out anew, which takes as long as a fast line takes for a line of text: what the next text would replace at
+/// once is not shown, the last one is, as soon as none follows.
 class Emission
 {
 public:
     /// total: characters that the body will send, for the progress bar.
     Emission(Ui::Em_Rc &dialogue, qint64 total);
+    ~Emission() { Montre(); }
+    Q_DISABLE_COPY_MOVE(Emission)
 
     void Debut();
     void Ecrit(const QString &texte);
     void Attend();
     void Fin();
+    /// texte has to live as long as this.
+    void Statut(const Texte3 &texte, const QString &suite = {});
     void Echo(const QString &texte);
 
-    Ui::Em_Rc &Dialogue() { return m_dialogue; }
-
 private:
+    void Montre();
+    void MontreParfois();
+
     Ui::Em_Rc &m_dialogue;
     Avancement m_avancement;
     qint64 m_ecrits = 0;
+    const Texte3 *m_statut = nullptr; // what is still to be shown
+    QString m_suite;
+    std::optional<QString> m_echo;
+    QElapsedTimer m_depuis; // since something was shown
 };
 
 Emission::Emission(Ui::Em_Rc &dialogue, qint64 total)
@@ -64,7 +81,7 @@ void Emission::Debut()
         return;
     const QString debut = ChaineDebProg() + ParamCom.ChaineFinLig;
     Echo(debut);
-    PoseTexte(m_dialogue.Label2, DebutProgramme);
+    Statut(DebutProgramme);
     if (!Controle().PortOpen())
         return;
     frmPrinc->shpSend->setFillColor(Lampe::Verte);
@@ -77,6 +94,17 @@ void Emission::Ecrit(const QString &texte)
     m_ecrits += texte.size();
 }
 
+/// What a machine says during a sending, an echo above all, is for nobody. In full buffers it would stand before an XON
+/// or XOFF, and make us hold the machine back in turn.
+void EcarteReponses()
+{
+    MSComm &controle = Controle();
+    if (2 * controle.InBufferCount() < controle.InBufferSize())
+        return;
+    while (!controle.Input().isEmpty()) {
+    }
+}
+
 /// Waits until the transmit buffer is empty, for as long as the machine holds the line.
 void Emission::Attend()
 {
@@ -85,25 +113,56 @@ void Emission::Attend()
         CedeLaMain();
         restent = Controle().OutBufferCount();
         m_avancement.Montre(m_ecrits - restent);
+        EcarteReponses();
+        MontreParfois();
     } while (restent != 0);
 }
 
 void Emission::Fin()
 {
+    Montre();
     if (!Controle().PortOpen())
         return;
     frmPrinc->shpSend->setFillColor(Lampe::Verte);
     Controle().Output(ParamCom.ChaineFinTrans);
-    PoseTexte(m_dialogue.Label2, FinDeTransfert);
+    Statut(FinDeTransfert);
     Echo(ParamCom.ChaineFinTrans);
+    Montre();
     Attend();
+    while (Controle().EnRoute() != 0)
+        CedeLaMain();
     frmPrinc->shpSend->setFillColor(Lampe::Rouge);
+}
+
+void Emission::Statut(const Texte3 &texte, const QString &suite)
+{
+    m_statut = &texte;
+    m_suite = suite;
 }
 
 void Emission::Echo(const QString &texte)
 {
     if (ParamCom.Echo == 1)
-        m_dialogue.Label3->setText(ControlesVisibles(texte));
+        m_echo = texte;
+}
+
+void Emission::MontreParfois()
+{
+    if (!m_depuis.isValid() || m_depuis.elapsed() >= PasAffichage)
+        Montre();
+}
+
+void Emission::Montre()
+{
+    if (m_statut == nullptr && !m_echo)
+        return;
+    if (m_statut != nullptr)
+        PoseTexte(m_dialogue.Label2, *m_statut, m_suite);
+    if (m_echo)
+        m_dialogue.Label3->setText(ControlesVisibles(*m_echo));
+    m_statut = nullptr;
+    m_echo.reset();
+    m_depuis.start();
 }
 
 int TailleBloc(const MSComm &controle)
@@ -118,7 +177,7 @@ void EnvoieBlocs(Emission &emission, const QString &texte)
         CedeLaMain();
         emission.Ecrit(texte.mid(position - 1, bloc));
         position += bloc;
-        PoseTexte(emission.Dialogue().Label2, EmissionBloc, TexteNombre(position));
+        emission.Statut(EmissionBloc, TexteNombre(position));
         emission.Echo(QString::number(position));
         emission.Attend();
     }
@@ -144,7 +203,7 @@ void EnvoieLignes(Emission &emission)
         }
         emission.Echo(ligne);
         emission.Attend();
-        PoseTexte(emission.Dialogue().Label2, EmissionLigne, TexteNombre(numero));
+        emission.Statut(EmissionLigne, TexteNombre(numero));
     }
 }
 

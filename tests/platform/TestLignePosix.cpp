@@ -3,10 +3,13 @@
 #include "platform/DecodeurMarques.h"
 #include "platform/ErreurPort.h"
 #include "platform/LignePosix.h"
+#include "platform/TerminalPosix.h"
+#include "transfer/AppelsSysteme.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
@@ -152,6 +155,82 @@ private Q_SLOTS:
         QByteArray venus;
         QTRY_VERIFY(!(venus += machine.Lit(65536)).isEmpty());
         QCOMPARE(venus, QByteArray("b"));
+    }
+
+    // What a serial chip tells, each in its place: lines, counters, and by them the sense of a mark.
+    void puce()
+    {
+        using C = CompteursLigne;
+        PaireTerminaux machine;
+        const QTemporaryDir dossier;
+        const QString chemin = dossier.filePath(QStringLiteral("Com2"));
+        QVERIFY(QFile::link(machine.Chemin(), chemin));
+        PuceFeinte puce;
+        puce.compteurs = {1, 2, 3, 4, 0, 0, 5, 6, 7, 8, 9, {}};
+        LignePosix ligne(chemin);
+        const auto etats = [&](int lignes) {
+            puce.lignes = lignes;
+            const EtatsLigne lus = ligne.Etats().value_or(EtatsLigne());
+            return QList<bool>{lus.cts, lus.dsr, lus.cd, lus.anneau};
+        };
+        QCOMPARE(etats(TIOCM_CTS | TIOCM_CD | TIOCM_DTR), QList<bool>({true, false, true, false}));
+        QCOMPARE(etats(TIOCM_DSR | TIOCM_RI), QList<bool>({false, true, false, true}));
+        unsigned rang = 0;
+        for (const auto champ :
+             {&C::cts, &C::dsr, &C::anneau, &C::cd, &C::trame, &C::cadence, &C::parite, &C::pauses, &C::debordements})
+            QCOMPARE(ligne.Compteurs().*champ, ++rang);
+
+        // The driver's marks come from the other end, past the terminal's own.
+        const auto recoit = [&](const char *hexa) {
+            termios terminal{};
+            tcgetattr(machine.Maitre(), &terminal);
+            terminal.c_iflag = 0;
+            tcsetattr(machine.Maitre(), TCSANOW, &terminal);
+            machine.Ecrit(QByteArray::fromHex(hexa));
+            LectureLigne lecture;
+            const bool venue = QTest::qWaitFor([&] { return (lecture = ligne.Lit(100)).erreur; });
+            return venue ? lecture : LectureLigne();
+        };
+        ++puce.compteurs.parity;
+        QCOMPARE(recoit("FF0058").fausses, QList<qsizetype>{0});
+        ++puce.compteurs.frame;
+        QCOMPARE(recoit("FF0058").fausses, QList<qsizetype>());
+        QCOMPARE(recoit("FF0000").octets, QByteArray(1, '\0'));
+        ++puce.compteurs.brk;
+        QCOMPARE(recoit("FF0000").octets, QByteArray());
+        const unsigned pauses = ligne.Compteurs().pauses;
+        puce.Tait(); // a driver that does not count, or has gone
+        QCOMPARE(ligne.Compteurs().pauses, pauses);
+        ligne.Regle(LitReglagePort(QStringLiteral("9600,e,8,1")));
+        QCOMPARE(recoit("FF0000FF0058").fausses, QList<qsizetype>{0});
+        QCOMPARE(ligne.Compteurs().pauses, pauses + 1);
+        QVERIFY(!ligne.Etats());
+    }
+
+    // What a device takes otherwise than asked is refused with its number, and what it had stands again.
+    void reglageRefuse()
+    {
+        PaireTerminaux machine;
+        const QTemporaryDir dossier;
+        const QString chemin = dossier.filePath(QStringLiteral("Com2"));
+        QVERIFY(QFile::link(machine.Chemin(), chemin));
+        const LignePosix ligne(chemin);
+        PuceFeinte puce;
+        for (const auto &[vitesse, texte, numero] : {std::tuple{0, "9600,n,7,1", ErreurPort::BitsDonnees},
+                                                     {0, "9600,e,8,1", ErreurPort::Reglage},
+                                                     {9312, "9600,n,8,1", 0},
+                                                     {9311, "9600,n,8,1", ErreurPort::Vitesse}}) {
+            puce.vitesse = 0;
+            RegleTerminal(ligne.Descripteur(), LitReglagePort(QStringLiteral("9600,n,8,2")), true);
+            puce.vitesse = unsigned(vitesse);
+            QCOMPARE(NumeroErreur([&, texte = texte] {
+                         RegleTerminal(ligne.Descripteur(), LitReglagePort(QLatin1String(texte)), true);
+                     }),
+                     numero);
+            termios terminal{};
+            QCOMPARE(tcgetattr(ligne.Descripteur(), &terminal), 0);
+            QCOMPARE((terminal.c_cflag & CSTOPB) != 0, numero != 0);
+        }
     }
 };
 

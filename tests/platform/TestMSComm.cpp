@@ -354,6 +354,23 @@ private Q_SLOTS:
         QCOMPARE(NumeroErreur([&] { m_port->setHandshaking(1); }), ErreurPort::Lecture);
         QVERIFY(m_port->PortOpen() && !m_port->CDHolding());
     }
+
+    // Another port only when this one is closed. What came and was not read goes then, lest the system go on holding
+    // the machine back.
+    void changeDePort()
+    {
+        for (const int inconnu : {0, 17})
+            QCOMPARE(NumeroErreur([&] { m_port->setCommPort(inconnu); }), ErreurPort::Inconnu);
+        m_port->setInBufferSize(1);
+        Ouvre();
+        m_scenario->Envoie("abc");
+        QTRY_COMPARE(m_port->InBufferCount(), 1);
+        QCOMPARE(NumeroErreur([&] { m_port->setCommPort(3); }), ErreurPort::DejaOuvert);
+        m_port->setPortOpen(false);
+        QCOMPARE(m_scenario->EnAttente(), 0);
+        m_port->setCommPort(3);
+        QCOMPARE(m_port->CommPort(), 3);
+    }
 };
 
 QTEST_MAIN(TestMSComm)

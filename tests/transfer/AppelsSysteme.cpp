@@ -16,6 +16,7 @@ Appel rate = Appel::Aucun;
 int erreurRatee = 0;
 int reglages = 0; // since the opening
 std::chrono::nanoseconds avance{0};
+const PuceFeinte *puce = nullptr;
 
 bool Echoue(int erreur)
 {
@@ -39,6 +40,18 @@ bool TroubleTransport(Appel appel, size_t &taille)
     if (tempete)
         taille = 1;
     return tempete && coups % 5 == 0 && Echoue(EAGAIN);
+}
+
+/// True when the chip has answered.
+bool PuceRepond(unsigned long demande, void *donnees)
+{
+    if (puce == nullptr || (demande != TIOCMGET && demande != TIOCGICOUNT))
+        return false;
+    if (demande == TIOCMGET)
+        *static_cast<int *>(donnees) = puce->lignes;
+    else
+        *static_cast<serial_icounter_struct *>(donnees) = puce->compteurs;
+    return true;
 }
 
 Appel AppelDe(unsigned long demande)
@@ -96,7 +109,12 @@ int __wrap_ioctl(int fd, unsigned long demande, ...)
     va_start(suite, demande);
     void *const donnees = va_arg(suite, void *);
     va_end(suite);
-    return fd == ligne && Trouble(AppelDe(demande)) ? -1 : __real_ioctl(fd, demande, donnees);
+    if (fd == ligne && (Trouble(AppelDe(demande)) || PuceRepond(demande, donnees)))
+        return puce == nullptr ? -1 : 0;
+    const int resultat = __real_ioctl(fd, demande, donnees);
+    if (fd == ligne && puce != nullptr && puce->vitesse != 0 && demande == TCGETS2)
+        static_cast<termios2 *>(donnees)->c_ospeed = puce->vitesse;
+    return resultat;
 }
 
 ssize_t __wrap_read(int fd, void *octets, size_t taille)
@@ -151,4 +169,14 @@ HorlogeAvancee::~HorlogeAvancee()
 void HorlogeAvancee::Avance(std::chrono::nanoseconds duree)
 {
     avance += duree;
+}
+
+PuceFeinte::PuceFeinte()
+{
+    puce = this;
+}
+
+void PuceFeinte::Tait()
+{
+    puce = nullptr;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <linux/serial.h>
 
 // A system that fails: the calls of the program's serial line to it, and its clock, are replaced by the linker in the
 // test that includes this (see tests/CMakeLists.txt). Only the device that the program opens as Com2 is touched.
@@ -31,4 +32,16 @@ class HorlogeAvancee
 public:
     ~HorlogeAvancee();
     void Avance(std::chrono::nanoseconds duree);
+};
+
+/// While it lives, the line has a serial chip behind it.
+struct PuceFeinte
+{
+    PuceFeinte();
+    ~PuceFeinte() { Tait(); }
+    static void Tait(); ///< it has gone
+
+    int lignes = 0; ///< TIOCM_...
+    serial_icounter_struct compteurs{};
+    unsigned vitesse = 0; ///< what it makes of any speed; 0: that speed
 };

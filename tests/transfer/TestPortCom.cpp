@@ -7,9 +7,14 @@
 #include "platform/ErreurPort.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
+#include "transfer/Emission.h"
+#include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 
+#include <QFile>
 #include <QTest>
+
+#include <cerrno>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,7 +35,19 @@ struct Atelier
     MSComm &controle = *frmPrinc->MSComm1;
 };
 
+int clesRetirees = 0; // writings that are taken and never reach the disk
+
 } // namespace
+
+// The linker puts this in the place of the system's.
+extern "C" int __real_fsync(int fd);
+extern "C" int __wrap_fsync(int fd) // NOLINT(bugprone-reserved-identifier)
+{
+    if (clesRetirees-- <= 0)
+        return __real_fsync(fd);
+    errno = EIO;
+    return -1;
+}
 
 class TestPortCom : public QObject
 {
@@ -126,6 +143,110 @@ private Q_SLOTS:
         PortOuvert = false;
         Operateur::Menu("Mnu_FermePortCom");
         QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
+    }
+
+    // The machine stops the line over the last characters, which the system has already: they are waited for.
+    void FinRetenue()
+    {
+        const Atelier atelier;
+        atelier.ligne->immobile = true;
+        Em_Rc dialogue(frmPrinc);
+        int coups = 0;
+        QTimer machine;
+        connect(&machine, &QTimer::timeout, this, [&] {
+            if (atelier.ligne->ecrits.size() < 3 || ++coups < 60)
+                return;
+            QCOMPARE(dialogue.Label2->text(), u"Emission fin de transfert"_s);
+            atelier.ligne->immobile = false;
+            atelier.ligne->nonEmis = 0;
+        });
+        machine.start(1);
+        EnvoiFich_FinFich(dialogue);
+        QVERIFY(coups >= 60);
+        QCOMPARE(dialogue.Label2->text(), u"Transfert terminé avec succès !"_s);
+        QCOMPARE(atelier.ligne->ecrits, QByteArray("G0\x04"));
+        QCOMPARE(atelier.ligne->jetsEmission, 0);
+    }
+
+    // A machine that echoes each character is never told to stop in the midst of its program.
+    void MachineEcho()
+    {
+        const Atelier atelier;
+        const QByteArray programme(3000, 'N');
+        frmPrinc->Text1->setText(QString::fromLatin1(programme));
+        atelier.ligne->obeitXoff = false;
+        qsizetype rendus = 0;
+        QTimer machine;
+        connect(&machine, &QTimer::timeout, this, [&] {
+            atelier.ligne->Envoie(atelier.ligne->ecrits.mid(rendus));
+            rendus = atelier.ligne->ecrits.size();
+        });
+        machine.start(1);
+        Em_Rc dialogue(frmPrinc);
+        EnvoiFich_FinFich(dialogue);
+        QCOMPARE(atelier.ligne->ecrits, programme + '\x04');
+    }
+
+    // A closing that fails is told, and the operator closes the dialog himself.
+    void FermeRate()
+    {
+        struct LigneCollee : LigneScenario
+        {
+            using LigneScenario::LigneScenario;
+            void JetteEmission() override { throw Erreur(ErreurPort::Lecture, u"stuck"_s); }
+        };
+        Atelier atelier;
+        atelier.controle.setFabrique([&](int) { return std::make_unique<LigneCollee>(atelier.ligne); });
+        OuvrePortCOM();
+        atelier.controle.Output(QString(5000, u'N'));
+        atelier.operateur.LitErreur(8020, u"Erreur de lecture du périphérique de communication"_s);
+        Em_Rc dialogue(frmPrinc);
+        FermePortCOM(dialogue);
+        QCOMPARE(dialogue.Command1->text(), u"&Fermer"_s);
+        QVERIFY(!atelier.controle.PortOpen() && !atelier.ligne->ouverte);
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Ouvert"_s); // until the lamps' timer looks
+    }
+
+    // Another configuration from inside the dialog that names the file.
+    void AutreConfiguration()
+    {
+        Atelier atelier;
+        const QString autre = atelier.poste.Chemin("Tour.par");
+        QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
+        atelier.operateur.Presse("Rc_Fic", "Command4");
+        atelier.operateur.Choisit(autre);
+        atelier.operateur.Fait("Rc_Fic", [](QWidget &fenetre) {
+            QCOMPARE(Operateur::Lu("Label4"), u"Tour.par  Tour 2 axes, été €"_s);
+            QVERIFY(fenetre.findChild<QAbstractButton *>(u"Option1_3"_s)->isChecked());
+            fenetre.close();
+        });
+        Operateur::Menu("Mnu_RecepProg");
+        QCOMPARE(frmPrinc->Label4->text(), u"Tour.par"_s);
+    }
+
+    // The stick on which the rest of a failed reception is to be saved was pulled: told and asked again, also after a
+    // choice that was given up, until it is written.
+    void SauvegardeRatee()
+    {
+        Atelier atelier;
+        const auto accepte = [&] {
+            atelier.operateur.Repond("Enregistrer les lignes reçues",
+                                     "La réception n'a pas abouti, les lignes déjà reçues ne sont pas enregistrées.\r"
+                                     "Les enregistrer dans un fichier ?",
+                                     Operateur::DemandeSimple, QMessageBox::Yes);
+        };
+        clesRetirees = 1;
+        accepte();
+        atelier.operateur.Choisit(atelier.poste.Chemin("RESTE.ISO"));
+        atelier.operateur.Repond("Enregistrer les lignes reçues",
+                                 u"Erreur lors de l'enregistrement du fichier\r"_s + qt_error_string(EIO),
+                                 Boite::Critique, QMessageBox::Ok);
+        accepte();
+        atelier.operateur.Ferme("CommonDialog");
+        accepte();
+        atelier.operateur.Choisit(atelier.poste.Chemin("RESTE2.ISO"));
+        SauveAilleurs(u"G0\r\n"_s);
+        QCOMPARE(atelier.poste.Lit("RESTE2.ISO"), QByteArray("G0\r\n"));
     }
 };
 

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <atomic>
+#include <malloc.h>
 #include <unistd.h>
 
 // The toolkit's table of hooks for tools that watch a program; it stands in none of its public headers.
@@ -30,7 +31,13 @@ void CompteObjets()
     qtHookData[Mort] = reinterpret_cast<quintptr>(+[](QObject *) { --objets; });
 }
 
-qint64 Memoire()
+qint64 Tas()
+{
+    const auto tas = mallinfo2();
+    return static_cast<qint64>(tas.uordblks + tas.hblkhd) / 1024;
+}
+
+qint64 Pages()
 {
     QFile pages(QStringLiteral("/proc/self/statm"));
     if (!pages.open(QIODevice::ReadOnly))
@@ -51,5 +58,5 @@ Comptes Compte()
     frmPrinc->Text1->document()->rootFrame(); // the toolkit makes it when it is first asked for
     const auto descripteurs =
         QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
-    return {Memoire(), int(descripteurs), objets, int(QApplication::topLevelWidgets().size())};
+    return {int(descripteurs), objets, int(QApplication::topLevelWidgets().size())};
 }

@@ -5,7 +5,6 @@
 /// What a process holds at one moment.
 struct Comptes
 {
-    qint64 memoire = 0; ///< resident, in kB
     int descripteurs = 0;
     int objets = 0; ///< living QObjects
     int fenetres = 0;
@@ -17,5 +16,8 @@ void CompteObjets();
 /// Everything that waits to be deleted is deleted first.
 Comptes Compte();
 
-/// Resident memory in kB.
-qint64 Memoire();
+/// Memory in kB that the process has asked for and not given back.
+qint64 Tas();
+
+/// Resident memory in kB: also what the allocator keeps for later.
+qint64 Pages();
