@@ -18,13 +18,14 @@ namespace {
 /// A workstation whose ports are all the same scripted line.
 struct Atelier
 {
-    Atelier()
+    explicit Atelier(int langue = 0)
+        : poste(langue)
     {
         poste.Charge("G0");
         controle.setFabrique(LigneScenario::Fabrique(ligne));
     }
 
-    Poste poste{0};
+    const Poste poste;
     Operateur operateur;
     std::shared_ptr<Scenario> ligne = std::make_shared<Scenario>();
     MSComm &controle = *frmPrinc->MSComm1;
@@ -126,6 +127,26 @@ private Q_SLOTS:
         PortOuvert = false;
         Operateur::Menu("Mnu_FermePortCom");
         QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
+    }
+
+    // What happens on the line is told in the operator's language; lost characters empty the buffer.
+    void Evenements()
+    {
+        using Compteurs = CompteursLigne;
+        const std::tuple<int, unsigned Compteurs::*, QString> evenements[] = {
+            {0, &Compteurs::parite, u"Erreur de parité"_s},
+            {1, &Compteurs::debordements, u"Going beyond of the plug of receiving"_s},
+            {2, &Compteurs::cts, u"Cambio de Préstamo que debe emitirse (CTS) detectado"_s}};
+        for (const auto &[langue, compteur, texte] : evenements) {
+            const Atelier atelier(langue);
+            OuvrePortCOM();
+            atelier.ligne->Envoie("perdu");
+            QTRY_COMPARE(atelier.controle.InBufferCount(), 5);
+            ++((*atelier.ligne).compteurs.*compteur);
+            QTRY_COMPARE(frmPrinc->Etat->text(), u"État : "_s + texte);
+            QTRY_COMPARE(atelier.controle.InBufferCount(), compteur == &Compteurs::debordements ? 0 : 5);
+            QCOMPARE(frmPrinc->Etat->isHidden(), compteur != &Compteurs::cts);
+        }
     }
 };
 
