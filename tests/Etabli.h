@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Operateur.h"
-#include "Poste.h"
+#include "pilote/Operateur.h"
+#include "pilote/Poste.h"
 
 #include "comconfig/ParamCom.h"
 #include "shell/Document.h"

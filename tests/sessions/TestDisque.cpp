@@ -1,6 +1,6 @@
-#include "Operateur.h"
+#include "pilote/Operateur.h"
+#include "pilote/Poste.h"
 #include "platform/Essais.h"
-#include "Poste.h"
 
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmConfDem.h"
@@ -10,7 +10,6 @@
 #include "gauges/CreFicJauge.h"
 #include "gauges/Jauge.h"
 #include "locale/FrmLangue.h"
-#include "locale/Langue.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
@@ -24,8 +23,6 @@
 
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,47 +30,31 @@ namespace {
 
 constexpr char Ini[] = "Dorvanel.ini";
 
-enum Panne { Plein, LectureSeule, Parti };
-
-/// Until the guard goes, the disk has no room beyond what the file holds, the folder may not be written, or is gone.
-[[nodiscard]] auto Gate(Panne panne, const QString &dossier, const QString &fichier)
+/// Until the guard goes, the disk has no room beyond what the file holds, or the folder of a folder to be made is gone.
+[[nodiscard]] auto Gate(const Poste &poste, const QString &fichier, bool dossier)
 {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit libre{};
     getrlimit(RLIMIT_FSIZE, &libre);
-    const rlimit serre{rlim_t(QFileInfo(fichier).size()), libre.rlim_max};
-    const uid_t avant = geteuid();
-    if (panne == LectureSeule)
-        QFile::setPermissions(fichier, QFile::ReadOwner | QFile::ReadOther);
-    const bool gate = chmod(qPrintable(dossier), panne == LectureSeule ? 0555 : 0755) == 0 &&
-                      (panne != Plein || setrlimit(RLIMIT_FSIZE, &serre) == 0) &&
-                      (panne != Parti || QDir().rename(dossier, dossier + u".parti"_s)) &&
-                      (panne != LectureSeule || avant != 0 || seteuid(65534) == 0); // for root rights do not count
-    return qScopeGuard([=] {
-        QVERIFY(gate && setrlimit(RLIMIT_FSIZE, &libre) == 0 && seteuid(avant) == 0);
-        QVERIFY(panne != Parti || QDir().rename(dossier + u".parti"_s, dossier));
-        QCOMPARE(chmod(qPrintable(dossier), 0755), 0);
-        QFile::setPermissions(fichier, QFile::ReadOwner | QFile::WriteOwner);
+    const rlimit serre{rlim_t(QFileInfo(poste.Chemin(fichier)).size()), libre.rlim_max};
+    const QString parti = poste.Dossier() + u".parti"_s;
+    const bool gate = dossier ? QDir().rename(poste.Dossier(), parti) : setrlimit(RLIMIT_FSIZE, &serre) == 0;
+    return qScopeGuard([=, &poste] {
+        QVERIFY(gate && setrlimit(RLIMIT_FSIZE, &libre) == 0);
+        QVERIFY(!dossier || QDir().rename(parti, poste.Dossier()));
     });
 }
 
-constexpr Texte3 TitreErreur{u"Erreur", u"Error", u"Error"};
-constexpr Texte3 NonEnregistre{u"Erreur lors de l'enregistrement du fichier",
-                               u"Error at the time of the recording of the file", u"Error en el registro del fichero"};
-constexpr Texte3 NonCree{u"Le dossier %1 n'a pas pu être créé !", u"The repertory %1  could not be to create !",
-                         u"El directorio %1 no pudo ser crear !"};
-constexpr Texte3 NonCreeRecep{u"Le dossier <%1> n'a pas pu être créé !", u"The directory <%1> could not be created !",
-                              u"El directorio <%1>  no pudo crearse !"};
+const QString NonEnregistre = QStringLiteral("Error at the time of the recording of the file");
 
-/// A workstation with a changed text, and its operator before the dialogs that write. Each fault has its language.
+/// A workstation with a changed text, and its operator before the dialogs that write.
 struct Atelier : Poste, Operateur
 {
-    Atelier(Panne laPanne, const QString &leFichier)
-        : Poste(laPanne)
-        , panne(laPanne)
+    explicit Atelier(const QString &leFichier)
+        : Poste(1)
         , fichier(leFichier)
     {
-        Ecrit(Ini, u" 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n %1 \r\n"_s.arg(LangIndex).toLatin1());
+        Ecrit(Ini, " 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n 1 \r\n");
         OuvreDocument(Ecrit("P.iso", "ANCIEN\r\n"));
         frmPrinc->Text1->setText(texte);
         Menu("Mnu_AffichDOS");
@@ -83,38 +64,28 @@ struct Atelier : Poste, Operateur
         Jauge[std::size_t(NbJauges = 1)] = {1, 50, 10, 0, 0, u' '};
     }
 
-    void Dit(const Texte3 &dit, const QString &titre, int icone = Boite::Critique)
+    void Dit(const QString &dit, const QString &titre = u"Error"_s, int icone = Boite::Critique)
     {
-        const QString cause = qt_error_string(std::array{EFBIG, EACCES, ENOENT}[panne]);
+        const QString cause = qt_error_string(fichier == u"Neuf" ? ENOENT : EFBIG);
         const QString details = icone == Boite::Critique ? QString() : u'\r' + cause;
         if (echoue)
-            Repond(titre, Texte(dit).replace(u"%1"_s, Chemin(fichier)) + details, icone, QMessageBox::Ok);
+            Repond(titre, dit + details, icone, QMessageBox::Ok);
     }
     void Nomme()
     {
         Choisit(Chemin(fichier));
-        if (!echoue || panne != Parti)
-            Fait("", Clique(QMessageBox::Yes)); // replace the file of that name
+        Fait("", Clique(QMessageBox::Yes)); // replace the file of that name
     }
     /// Whether to save is answered Yes, what comes behind it No.
     void Garde(const std::function<void()> &commande, bool suite = true)
     {
         Fait("MsgBox", Clique(QMessageBox::Yes));
-        Dit(NonEnregistre, Texte(TitreErreur));
+        Dit(NonEnregistre);
         if (suite)
             Fait("MsgBox", Clique(QMessageBox::No));
         commande();
         QCOMPARE(FichierModifie, echoue ? Vrai : 0);
     }
-    /// Written, French needs a new start, and a box says so.
-    void Parle(const std::function<void()> &commande)
-    {
-        if (!echoue && LangIndex == 0)
-            Fait("MsgBox", Clique(QMessageBox::Ok));
-        commande();
-    }
-
-    const Panne panne;
     const QString fichier, racine = ParamCom.DosRecep = DosJauge = DossierRecep = Dossier();
     QString texte = u"G1 X12.5 Z4"_s;
     bool echoue = true;
@@ -137,7 +108,7 @@ const Ecrivain Ecrivains[] = {
     {"save as", "AUTRE.ISO",
      [](Atelier &a) {
          a.Nomme();
-         a.Dit(NonEnregistre, Texte(TitreErreur));
+         a.Dit(NonEnregistre);
          Operateur::Menu("Mnu_EnregistrerSous");
          const QString nom = a.echoue ? u"P.iso"_s : a.fichier;
          QCOMPARE(NomFichier + TitreFichier + frmPrinc->Label2->text(), a.Chemin(nom) + nom + nom);
@@ -161,17 +132,15 @@ const Ecrivain Ecrivains[] = {
      }},
     {"start", Ini,
      [](Atelier &a) {
-         if (a.echoue && a.panne == Parti)
-             a.Presse("FrmLangue", "Command1");
          a.Redemarre();
          a.texte.clear();
      }},
     {"options", Ini, [](Atelier &a) { a.options.Command4->click(); }},
-    {"language dialog", Ini, [](Atelier &a) { a.Parle([&a] { a.langue.Command1->click(); }); }},
-    {"language menu", Ini, [](Atelier &a) { a.Parle([] { Operateur::Menu(u"Mnu_Lang_%1"_s.arg(LangIndex)); }); }},
+    {"language dialog", Ini, [](Atelier &a) { a.langue.Command1->click(); }},
+    {"language menu", Ini, [](Atelier &) { Operateur::Menu("Mnu_Lang_1"); }},
     {"reception folder", "Dorvanel.CFG",
      [](Atelier &a) {
-         a.Dit(NonEnregistre, Texte(TitreErreur), Boite::Exclamation);
+         a.Dit(NonEnregistre, u"Error"_s, Boite::Exclamation);
          a.dosProg.Command1->click();
      }},
     {"editor", "Dorvanel.CFG",
@@ -189,12 +158,12 @@ const Ecrivain Ecrivains[] = {
              fenetre.findChild<QLineEdit *>()->setText(a.fichier);
              dynamic_cast<QDialog &>(fenetre).accept();
          });
-         a.Dit(NonCree, Texte(TitreErreur));
+         a.Dit(u"The repertory %1  could not be to create !"_s.arg(a.Chemin(a.fichier)));
          frmPrinc->Frame1->Command1->click();
      }},
     {"folder for receptions", "Neuf", [](Atelier &a) {
          NumeroErreur([&a] { a.dosProg.FolderTreeview1->setSelectedFolder(a.racine); });
-         a.Dit(NonCreeRecep, u"Erreur"_s);
+         a.Dit(u"The directory <%1> could not be created !"_s.arg(a.Chemin(a.fichier)), u"Erreur"_s);
          a.dosProg.Command4->click();
          QCOMPARE(a.dosProg.Frame1->isHidden(), !a.echoue);
      }}};
@@ -221,26 +190,22 @@ void TestDisque::Pannes()
     QFETCH(int, rang);
     const QString fichier = QString::fromLatin1(Ecrivains[rang].fichier);
     const bool dossier = fichier == u"Neuf";
-    for (const Panne panne : {Plein, LectureSeule, Parti}) {
-        if (dossier && panne == Plein) // a folder has no size
-            continue;
-        Atelier atelier(panne, fichier);
-        if (!dossier && fichier != QLatin1String(Ini))
-            atelier.Ecrit(fichier, "ANCIEN\r\n");
-        const QByteArray avant = atelier.Lit(fichier);
-        {
-            const auto gate = Gate(panne, atelier.Dossier(), atelier.Chemin(fichier));
-            Ecrivains[rang].joue(atelier);
-        }
-        QCOMPARE(frmPrinc->Text1->Text(), atelier.texte);
-        QCOMPARE(FichierModifie, atelier.texte.isEmpty() ? 0 : Vrai);
-        QCOMPARE(atelier.Lit(fichier) + atelier.Lit("P.iso"), avant + "ANCIEN\r\n");
-        QVERIFY(!QFileInfo(atelier.Chemin(fichier)).isDir());
-        atelier.echoue = false;
+    Atelier atelier(fichier);
+    if (!dossier && fichier != QLatin1String(Ini))
+        atelier.Ecrit(fichier, "ANCIEN\r\n");
+    const QByteArray avant = atelier.Lit(fichier);
+    {
+        const auto gate = Gate(atelier, fichier, dossier);
         Ecrivains[rang].joue(atelier);
-        QCOMPARE(QFileInfo(atelier.Chemin(fichier)).isDir(), dossier);
-        QVERIFY(dossier || (atelier.Lit(fichier) != avant && atelier.Lit(fichier).endsWith("\r\n")));
     }
+    QCOMPARE(frmPrinc->Text1->Text(), atelier.texte);
+    QCOMPARE(FichierModifie, atelier.texte.isEmpty() ? 0 : Vrai);
+    QCOMPARE(atelier.Lit(fichier) + atelier.Lit("P.iso"), avant + "ANCIEN\r\n");
+    QVERIFY(!QFileInfo(atelier.Chemin(fichier)).isDir());
+    atelier.echoue = false;
+    Ecrivains[rang].joue(atelier);
+    QCOMPARE(QFileInfo(atelier.Chemin(fichier)).isDir(), dossier);
+    QVERIFY(dossier || (atelier.Lit(fichier) != avant && atelier.Lit(fichier).endsWith("\r\n")));
 }
 
 QTEST_MAIN(TestDisque)

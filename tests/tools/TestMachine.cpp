@@ -37,9 +37,7 @@ private Q_SLOTS:
             {"", "\4", "\4N1\r\n\4N2", {"", "N1\r\n", "N2"}},
             {"", "M30", "MM3M30M3", {"MM3", "M3"}},
             {"%\r", "\4", "\4%%\rN1\4N2", {"N1", ""}},
-            {"%", "%", "%N1%%N2%%", {"N1", "N2", ""}},
-            {"%%", "%%", "%%%N%%", {"%N", ""}}, // the end does not eat the beginning
-            {"", "", "N1\4", {"N1\4"}}};
+            {"%%", "%%", "%%%N%%", {"%N", ""}}}; // the end does not eat the beginning
         for (const auto &[debut, fin, flot, textes] : cas) {
             Decoupe decoupe(debut, fin);
             QByteArrayList trouves;
@@ -53,25 +51,12 @@ private Q_SLOTS:
         }
     }
 
-    void LitOptionsEtReglages()
+    void OptionsFausses()
     {
-        const auto lit = [](const char *ligne) {
-            return LitOptions((QStringLiteral("machine ") + QLatin1String(ligne)).split(u' '));
-        };
-        const ReglageMachine machine =
-            lit("--bits 10.5 --fin 13,4 --debut 37 --tampon 100 --retient 50,20 --retient 9").Machine;
-        QCOMPARE(machine.Ligne.DemiBits, 21);
-        QCOMPARE(machine.Debut + machine.Fin, "%\r\4");
-        QCOMPARE(machine.Tampon.MarqueHaute, 75);
-        QCOMPARE(machine.Tampon.MarqueBasse, 25);
-        QCOMPARE(machine.Tampon.Arrets[0].Apres, 9); // in the order in which they come
-        QCOMPARE(machine.Tampon.Arrets[1].DureeMs, 20);
-        for (const char *faux :
-             {"--fin 256", "--fin 4,", "--vitesse -1", "--bits 0", "--reglage 9600", "--retient 0", "--retient 5,x",
-              "--cloche 0", "--morceaux 8", "--morceaux 0,5", "--tampon 10 --haut 11", "--bas 800", "--coupe x"})
-            QVERIFY_THROWS_EXCEPTION(OptionFausse, lit(faux));
-        for (const char *faux : {"9600,n,8", "9600,x,8,1", "9600,n,9,1", "0,n,8,1", "9600,n,8,3", "9600,,8,1"})
-            QVERIFY(!LitReglageLigne(QLatin1String(faux)));
+        for (const char *faux : {"--fin 256", "--vitesse -1", "--bits 0", "--reglage 9600,x,8,1", "--retient 5,x",
+                                 "--cloche 0", "--morceaux 0,5", "--tampon 10 --haut 11", "--coupe x"})
+            QVERIFY_THROWS_EXCEPTION(OptionFausse,
+                                     LitOptions((QStringLiteral("machine ") + QLatin1String(faux)).split(u' ')));
     }
 
     // A PC that does not listen to XOFF overruns the buffer; nothing else is lost.
@@ -115,24 +100,6 @@ private Q_SLOTS:
         recu += Lit(pc, texte.size() + 1 - recu.size());
         QCOMPARE(recu, texte + '\4');
         QVERIFY(machine.Etat().Envoi.Octets.isEmpty()); // XON and XOFF are no answer
-        QVERIFY(Ecrit(pc, "\n"));
-        QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Envoi.Reponse == Retour::Faux; }));
-    }
-
-    // What the bench's list says stands in the columns that the program reads; after the last tool comes the first.
-    void ListeDuBanc()
-    {
-        Banc banc("# outils\r\n\r\n  7   102.36 -12.5 D\r\n\"BANC PRET\"\n99999 1234567890 x R");
-        QCOMPARE(banc.Nombre(), 3);
-        const QByteArray salve = banc.Mesure();
-        QCOMPARE(salve.left(8) + salve.mid(24, 9) + salve.mid(49, 9) + salve.mid(58),
-                 "TN:    7   102.36    -12.5   D" + QByteArray(6, ' ') + "\r\n");
-        QCOMPARE(banc.Mesure(), QByteArray("BANC PRET").leftJustified(68) + "\r\n");
-        QCOMPARE(banc.Mesure().left(33).right(9), "123456789");
-        QCOMPARE(banc.Mesure(), salve);
-        QCOMPARE(banc.Numero(), 1);
-        for (const char *fausse : {"", "# rien", "1 2 3", "1 2 3 R D", "\"non"})
-            QVERIFY_THROWS_EXCEPTION(ListeFausse, Banc{fausse});
     }
 
     // The program, as an operator uses it: a link, keys, stored files, and a clean end.
@@ -140,10 +107,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir dossier;
         const auto chemin = [&dossier](const char *nom) { return dossier.filePath(QLatin1String(nom)); };
-        for (const auto &[nom, texte] :
-             {std::pair("001.txt", "N1\r\n"), {"piece.txt", "N1\r\n"}, {"outils.txt", "5 1 2 D"}}) {
-            EcritFichierTexte(chemin(nom), QLatin1String(texte));
-        }
+        EcritFichierTexte(chemin("001.txt"), QStringLiteral("N1\r\n"));
+        EcritFichierTexte(chemin("outils.txt"), QStringLiteral("5 1 2 D"));
         QProcess machine;
         QByteArray sortie;
         const auto dit = [&](const char *ligne) {
@@ -152,7 +117,7 @@ private Q_SLOTS:
         };
         machine.setWorkingDirectory(dossier.path());
         machine.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../tools/machine/machine"),
-                      QStringLiteral("--cloche 4 --vitesse 115200 --stockage . --lien Com2 --envoie piece.txt "
+                      QStringLiteral("--cloche 4 --vitesse 115200 --stockage . --lien Com2 --envoie 001.txt "
                                      "--banc outils.txt")
                           .split(u' '));
         QTRY_VERIFY(dit("Keys"));

@@ -1,6 +1,6 @@
 #include "LigneScenario.h"
-#include "Operateur.h"
-#include "Poste.h"
+#include "pilote/Operateur.h"
+#include "pilote/Poste.h"
 
 #include "comconfig/ParamCom.h"
 #include "locale/Langue.h"
@@ -23,13 +23,14 @@ namespace {
 /// A workstation whose ports are all the same scripted line.
 struct Atelier
 {
-    Atelier()
+    explicit Atelier(int langue = 0)
+        : poste(langue)
     {
         poste.Charge("G0");
         controle.setFabrique(LigneScenario::Fabrique(ligne));
     }
 
-    Poste poste{0};
+    const Poste poste;
     Operateur operateur;
     std::shared_ptr<Scenario> ligne = std::make_shared<Scenario>();
     MSComm &controle = *frmPrinc->MSComm1;
@@ -207,23 +208,6 @@ private Q_SLOTS:
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Ouvert"_s); // until the lamps' timer looks
     }
 
-    // Another configuration from inside the dialog that names the file.
-    void AutreConfiguration()
-    {
-        Atelier atelier;
-        const QString autre = atelier.poste.Chemin("Tour.par");
-        QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
-        atelier.operateur.Presse("Rc_Fic", "Command4");
-        atelier.operateur.Choisit(autre);
-        atelier.operateur.Fait("Rc_Fic", [](QWidget &fenetre) {
-            QCOMPARE(Operateur::Lu("Label4"), u"Tour.par  Tour 2 axes, été €"_s);
-            QVERIFY(fenetre.findChild<QAbstractButton *>(u"Option1_3"_s)->isChecked());
-            fenetre.close();
-        });
-        Operateur::Menu("Mnu_RecepProg");
-        QCOMPARE(frmPrinc->Label4->text(), u"Tour.par"_s);
-    }
-
     // The stick on which the rest of a failed reception is to be saved was pulled: told and asked again, also after a
     // choice that was given up, until it is written.
     void SauvegardeRatee()
@@ -247,6 +231,26 @@ private Q_SLOTS:
         atelier.operateur.Choisit(atelier.poste.Chemin("RESTE2.ISO"));
         SauveAilleurs(u"G0\r\n"_s);
         QCOMPARE(atelier.poste.Lit("RESTE2.ISO"), QByteArray("G0\r\n"));
+    }
+
+    // What happens on the line is told in the operator's language; lost characters empty the buffer.
+    void Evenements()
+    {
+        using Compteurs = CompteursLigne;
+        const std::tuple<int, unsigned Compteurs::*, QString> evenements[] = {
+            {0, &Compteurs::parite, u"Erreur de parité"_s},
+            {1, &Compteurs::debordements, u"Going beyond of the plug of receiving"_s},
+            {2, &Compteurs::cts, u"Cambio de Préstamo que debe emitirse (CTS) detectado"_s}};
+        for (const auto &[langue, compteur, texte] : evenements) {
+            const Atelier atelier(langue);
+            OuvrePortCOM();
+            atelier.ligne->Envoie("perdu");
+            QTRY_COMPARE(atelier.controle.InBufferCount(), 5);
+            ++((*atelier.ligne).compteurs.*compteur);
+            QTRY_COMPARE(frmPrinc->Etat->text(), u"État : "_s + texte);
+            QTRY_COMPARE(atelier.controle.InBufferCount(), compteur == &Compteurs::debordements ? 0 : 5);
+            QCOMPARE(frmPrinc->Etat->isHidden(), compteur != &Compteurs::cts);
+        }
     }
 };
 

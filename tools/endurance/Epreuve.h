@@ -1,7 +1,7 @@
 #pragma once
 
-#include "endurance/Pilote.h"
 #include "machine/MachineSimulee.h"
+#include "pilote/Pilote.h"
 
 #include <QRandomGenerator>
 

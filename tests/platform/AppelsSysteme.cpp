@@ -7,16 +7,11 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+Systeme systeme;
+
 namespace {
 
-int ligne = -1; // the device of Com2
-bool tempete = false;
-int coups = 0;
-Appel rate = Appel::Aucun;
-int erreurRatee = 0;
-int reglages = 0; // since the opening
-std::chrono::nanoseconds avance{0};
-const PuceFeinte *puce = nullptr;
+int ligne = -1; // what was last opened as Com2
 
 bool Echoue(int erreur)
 {
@@ -27,9 +22,9 @@ bool Echoue(int erreur)
 /// True when the call fails, with its errno set.
 bool Trouble(Appel appel)
 {
-    if (rate == appel && appel != Appel::Aucun)
-        return Echoue(erreurRatee);
-    return tempete && ++coups % 2 == 0 && Echoue(EINTR);
+    if (systeme.rate == appel && appel != Appel::Aucun)
+        return Echoue(systeme.erreur);
+    return systeme.tempete && ++systeme.coups % 2 == 0 && Echoue(EINTR);
 }
 
 /// The same for a call that moves characters; taille: how many it may move.
@@ -37,32 +32,30 @@ bool TroubleTransport(Appel appel, size_t &taille)
 {
     if (Trouble(appel))
         return true;
-    if (tempete)
+    if (systeme.tempete)
         taille = 1;
-    return tempete && coups % 5 == 0 && Echoue(EAGAIN);
+    return systeme.tempete && systeme.coups % 5 == 0 && Echoue(EAGAIN);
 }
 
 /// True when the chip has answered.
 bool PuceRepond(unsigned long demande, void *donnees)
 {
-    if (puce == nullptr || (demande != TIOCMGET && demande != TIOCGICOUNT))
+    if (systeme.puce == nullptr || (demande != TIOCMGET && demande != TIOCGICOUNT))
         return false;
     if (demande == TIOCMGET)
-        *static_cast<int *>(donnees) = puce->lignes;
+        *static_cast<int *>(donnees) = systeme.puce->lignes;
     else
-        *static_cast<serial_icounter_struct *>(donnees) = puce->compteurs;
+        *static_cast<serial_icounter_struct *>(donnees) = systeme.puce->compteurs;
     return true;
 }
 
 Appel AppelDe(unsigned long demande)
 {
     switch (demande) {
-    case TIOCEXCL:
-        return Appel::Reserve;
     case TCGETS2:
         return Appel::Interroge;
     case TCSETS2:
-        return ++reglages == 1 ? Appel::Regle : Appel::Regle2;
+        return Appel::Regle;
     default:
         return Appel::Aucun;
     }
@@ -73,12 +66,9 @@ Appel AppelDe(unsigned long demande)
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's
 extern "C" {
 int __real_open(const char *chemin, int drapeaux, ...);
-int __real_close(int fd);
-int __real_flock(int fd, int operation);
 int __real_ioctl(int fd, unsigned long demande, ...);
 ssize_t __real_read(int fd, void *octets, size_t taille);
 ssize_t __real_write(int fd, const void *octets, size_t taille);
-std::chrono::steady_clock::time_point __real__ZNSt6chrono3_V212steady_clock3nowEv() noexcept;
 
 int __wrap_open(const char *chemin, int drapeaux, ...)
 {
@@ -87,20 +77,7 @@ int __wrap_open(const char *chemin, int drapeaux, ...)
         return __real_open(chemin, drapeaux);
     if (Trouble(Appel::Ouvre))
         return -1;
-    reglages = 0;
     return ligne = __real_open(chemin, drapeaux);
-}
-
-int __wrap_close(int fd)
-{
-    if (fd == ligne)
-        ligne = -1;
-    return __real_close(fd);
-}
-
-int __wrap_flock(int fd, int operation)
-{
-    return fd == ligne && Trouble(Appel::Verrouille) ? -1 : __real_flock(fd, operation);
 }
 
 int __wrap_ioctl(int fd, unsigned long demande, ...)
@@ -109,11 +86,13 @@ int __wrap_ioctl(int fd, unsigned long demande, ...)
     va_start(suite, demande);
     void *const donnees = va_arg(suite, void *);
     va_end(suite);
-    if (fd == ligne && (Trouble(AppelDe(demande)) || PuceRepond(demande, donnees)))
-        return puce == nullptr ? -1 : 0;
+    if (fd == ligne && Trouble(AppelDe(demande)))
+        return -1;
+    if (fd == ligne && PuceRepond(demande, donnees))
+        return 0;
     const int resultat = __real_ioctl(fd, demande, donnees);
-    if (fd == ligne && puce != nullptr && puce->vitesse != 0 && demande == TCGETS2)
-        static_cast<termios2 *>(donnees)->c_ospeed = puce->vitesse;
+    if (fd == ligne && systeme.puce != nullptr && systeme.puce->vitesse != 0 && demande == TCGETS2)
+        static_cast<termios2 *>(donnees)->c_ospeed = systeme.puce->vitesse;
     return resultat;
 }
 
@@ -126,57 +105,5 @@ ssize_t __wrap_write(int fd, const void *octets, size_t taille)
 {
     return fd == ligne && TroubleTransport(Appel::Ecrit, taille) ? -1 : __real_write(fd, octets, taille);
 }
-
-std::chrono::steady_clock::time_point __wrap__ZNSt6chrono3_V212steady_clock3nowEv() noexcept
-{
-    return __real__ZNSt6chrono3_V212steady_clock3nowEv() + avance;
-}
 }
 // NOLINTEND(bugprone-reserved-identifier)
-
-Tempete::Tempete()
-{
-    tempete = true;
-    coups = 0;
-}
-
-Tempete::~Tempete()
-{
-    tempete = false;
-}
-
-int Tempete::Coups() const
-{
-    return coups;
-}
-
-Rate::Rate(Appel appel, int erreur)
-{
-    rate = appel;
-    erreurRatee = erreur;
-}
-
-Rate::~Rate()
-{
-    rate = Appel::Aucun;
-}
-
-HorlogeAvancee::~HorlogeAvancee()
-{
-    avance = {};
-}
-
-void HorlogeAvancee::Avance(std::chrono::nanoseconds duree)
-{
-    avance += duree;
-}
-
-PuceFeinte::PuceFeinte()
-{
-    puce = this;
-}
-
-void PuceFeinte::Tait()
-{
-    puce = nullptr;
-}

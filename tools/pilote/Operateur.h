@@ -9,13 +9,14 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <source_location>
 
-/// The operator of a test. It is told beforehand which boxes and dialogs will come, in order, and what to do in each;
-/// then the test gives a command, and the operator works inside the modal loops that the command runs.
+/// An operator by script. He is told beforehand which boxes and dialogs will come, in order, and what to do in each;
+/// then a command is given, and he works inside the modal loops that it runs.
 ///
-/// The test fails on a modal window that was not foretold (it is closed, so that nothing hangs), on one that says
-/// something else than foretold, on one that never came, and when a dialog stands still for too long.
+/// It is a failure when a modal window comes that was not foretold (it is closed, so that nothing hangs), when one says
+/// something else than foretold, when one never comes, and when a dialog stands still for too long.
 class Operateur
 {
 public:
@@ -26,8 +27,16 @@ public:
     static constexpr int Demande = Boite::Question | Boite::OuiNon | Boite::SecondBouton;
     static constexpr int DemandeSimple = Boite::Exclamation | Boite::OuiNon;
 
-    /// The line of the test that foretold something; a failure is reported there.
+    /// The line that foretold something; a failure is reported there.
     using Lieu = std::source_location;
+
+    /// Who is told of failures. By default the process ends with the first one; the tests set another.
+    struct Temoin
+    {
+        void (*echec)(const QString &message, const Lieu &ou);
+        bool (*enEchec)(); ///< there has been one: every window is closed, so that all comes to its end
+    };
+    static Temoin temoin;
 
     Operateur();
     ~Operateur();
@@ -48,8 +57,16 @@ public:
     void Saisit(QAnyStringView fenetre, QAnyStringView saisie, QAnyStringView texte, Lieu ou = Lieu::current());
     void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::current());
     void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::current());
+    /// From now on this is done, again and again, in each window of that objectName where nothing foretold is to be
+    /// done at the moment.
+    void Habitude(QAnyStringView fenetre, Geste geste);
 
-    /// Opens the menus down to the entry and chooses it; the test fails when it is disabled.
+    /// The same as gestures, in a window that stands open.
+    static void Presse(const QWidget &fenetre, QAnyStringView bouton, Lieu ou = Lieu::current());
+    static void Saisit(const QWidget &fenetre, QAnyStringView saisie, QAnyStringView texte);
+    static void Choisit(QWidget &dialogue, QAnyStringView chemin);
+
+    /// Opens the menus down to the entry and chooses it; a failure when it is disabled.
     static void Menu(QAnyStringView entree, Lieu ou = Lieu::current());
     /// True when the operator can choose the entry: it and all menus above it are enabled when they open.
     static bool Offre(QAnyStringView entree);
@@ -68,14 +85,15 @@ private:
     };
 
     void Regarde();
-    void Agit(QWidget *fenetre);
+    void Agit(QWidget &fenetre);
+    bool AgitCommePredit(QWidget &fenetre);
     bool Annoncee(const QWidget &fenetre) const;
-    void Etonne(QWidget *fenetre);
+    void Etonne(QWidget &fenetre);
 
     QTimer m_yeux;
     std::deque<Attente> m_attentes;
+    std::map<QString, Geste> m_habitudes;
     QList<QPointer<QWidget>> m_connues; // windows that were foretold and may stand open
     QElapsedTimer m_dernierGeste;
     bool m_gesteEnRoute = false;
-    bool m_abandon = false; // the test has failed: every window is closed, so that it ends
 };

@@ -1,4 +1,4 @@
-#include "endurance/Pilote.h"
+#include "pilote/Pilote.h"
 
 #include "comconfig/ParamCom.h"
 #include "gauges/Jauge.h"
@@ -12,9 +12,6 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace {
@@ -77,7 +74,10 @@ Pilote::Pilote(const Poste &poste)
 {
     poste.Charge({});
     poste.Ecrit("Fraiseuse.mac", "1\n0\n0\n0\n1\n1000\n1000\n300\ncor\nP\n0");
-    QObject::connect(&m_yeux, &QTimer::timeout, &m_yeux, [this] { Regarde(); });
+    Habitude("MsgBox", [this](QWidget &boite) { Lit(dynamic_cast<QMessageBox &>(boite)); });
+    Habitude("CommonDialog", [this](QWidget &dialogue) { ChoisitFichier(dialogue); });
+    Habitude("Rc_Fic", [this](const QWidget &dialogue) { Nomme(dialogue); });
+    Habitude("Em_Rc", [this](QWidget &dialogue) { Transfere(dynamic_cast<QDialog &>(dialogue)); });
 }
 
 void Pilote::Regle(Genre genre) const
@@ -109,13 +109,8 @@ Pilote::Deroulement Pilote::Joue(Genre genre, const Charge &charge, const std::f
     m_nomme = m_commence = false;
     if (EstEmission(genre))
         OuvreDocument(m_poste.Ecrit("PIECE.iso", charge.texte));
-    QAction *const commande = EstEmission(genre)     ? frmPrinc->Mnu_EmisProgCN
-                              : genre == Genre::Banc ? frmPrinc->Mnu_RecepBanc
-                                                     : frmPrinc->Mnu_RecepProg;
     m_depuis.start();
-    m_yeux.start(1);
-    commande->trigger();
-    m_yeux.stop();
+    Menu(EstEmission(genre) ? "Mnu_EmisProgCN" : genre == Genre::Banc ? "Mnu_RecepBanc" : "Mnu_RecepProg");
     return m_deroulement;
 }
 
@@ -126,7 +121,7 @@ bool Pilote::Pret() const
         return PortOuvert;
     if (m_genre == Genre::Banc)
         return LigneJauge > m_donnees;
-    return !Lignes[std::size_t(m_donnees)].isEmpty();
+    return Pris ? Pris() : !Lignes[std::size_t(m_donnees)].isEmpty();
 }
 
 void Pilote::Poursuit(const QDialog &transfert, const std::function<void(const QByteArray &)> &envoie)
@@ -140,46 +135,9 @@ void Pilote::Poursuit(const QDialog &transfert, const std::function<void(const Q
         envoie(m_charge.pieces[m_donnees++]);
 }
 
-void Pilote::Presse(const QWidget &fenetre, const char *bouton)
-{
-    fenetre.findChild<QAbstractButton *>(QLatin1String(bouton))->click();
-}
-
 void Pilote::Annule(Genre genre, const QWidget &transfert)
 {
     Presse(transfert, genre == Genre::Banc ? "Command4" : "Command1");
-}
-
-/// What he does runs from the event loop and not from the timer, which has to see the windows that it opens.
-void Pilote::Regarde()
-{
-    QWidget *const fenetre = QApplication::activeModalWidget();
-    if (m_depuis.hasExpired(Patience))
-        qFatal("a transfer hangs in %s", fenetre ? qPrintable(fenetre->objectName()) : "no window");
-    m_commence = m_commence || TransfertEnCours();
-    if (fenetre == nullptr || m_gesteEnRoute)
-        return;
-    m_gesteEnRoute = true;
-    QMetaObject::invokeMethod(
-        &m_yeux,
-        [this] {
-            m_gesteEnRoute = false;
-            if (QWidget *const devant = QApplication::activeModalWidget())
-                Agit(devant);
-        },
-        Qt::QueuedConnection);
-}
-
-void Pilote::Agit(QWidget *fenetre)
-{
-    if (auto *const boite = qobject_cast<QMessageBox *>(fenetre))
-        Lit(*boite);
-    else if (fenetre->objectName() == u"CommonDialog")
-        Choisit(*fenetre);
-    else if (fenetre->objectName() == u"Rc_Fic")
-        Nomme(*fenetre);
-    else if (auto *const transfert = qobject_cast<QDialog *>(fenetre))
-        Transfere(*transfert);
 }
 
 /// The one box with an exclamation mark offers to save what has come.
@@ -192,32 +150,34 @@ void Pilote::Lit(QMessageBox &boite)
     (bouton ? bouton : boite.button(QMessageBox::Ok))->click();
 }
 
-void Pilote::Choisit(QWidget &dialogue) const
+void Pilote::ChoisitFichier(QWidget &dialogue) const
 {
     const QString chemin = m_commence ? Sauvegarde : m_poste.Chemin("Fraiseuse.mac");
     dynamic_cast<QFileDialog &>(dialogue).selectFile(chemin); // else the file that is offered stays chosen in the list
-    dialogue.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(chemin);
-    QMetaObject::invokeMethod(&dialogue, "accept");
+    Choisit(dialogue, chemin);
 }
 
 /// The dialog that is still there after a transfer offers another try.
-void Pilote::Nomme(QWidget &dialogue)
+void Pilote::Nomme(const QWidget &dialogue)
 {
     if (m_nomme) {
         Presse(dialogue, "Command1");
         return;
     }
     m_nomme = true;
-    dialogue.findChild<QLineEdit *>(QStringLiteral("Text1"))->setText(QStringLiteral("piece"));
+    Saisit(dialogue, "Text1", "piece");
     Presse(dialogue, "Command2");
 }
 
 void Pilote::Transfere(QDialog &dialogue)
 {
+    if (m_depuis.hasExpired(Patience))
+        temoin.echec(QStringLiteral("the transfer hangs"), Lieu::current());
+    m_commence = m_commence || TransfertEnCours();
     if (TransfertEnCours()) {
         m_pendant(dialogue);
     } else if (m_commence) {
-        m_deroulement.statut = dialogue.findChild<QLabel *>(QStringLiteral("Label2"))->text();
+        m_deroulement.statut = Lu("Label2");
         Annule(m_genre, dialogue);
     } else if (EstEmission(m_genre)) {
         m_commence = true;

@@ -1,15 +1,10 @@
 #pragma once
 
-#include "Poste.h"
+#include "pilote/Operateur.h"
+#include "pilote/Poste.h"
 
 #include <QByteArrayList>
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QTimer>
-
-#include <functional>
-
-class QMessageBox;
 
 /// The ways in which bytes cross the line.
 enum class Genre { FichierEntier, LigneParLigne, Caractere, Ligne, Fichier, Banc };
@@ -33,9 +28,9 @@ struct Charge
 /// diameter.
 Charge ChargeDe(Genre genre, const QByteArrayList &lignes);
 
-/// An operator who plays whole transfers by rule: he confirms, names the file, starts, reads what he is told, and
-/// closes when it is over. What is particular to one transfer is given along with it.
-class Pilote
+/// An operator who plays whole transfers by habit: he confirms, names the file, starts, reads what he is told, and
+/// closes when it is over. What is particular to one transfer is given along with it, or foretold to him.
+class Pilote : public Operateur
 {
 public:
     /// The workstation has started. It gets a configuration for the machine on Com2, and one of a mill.
@@ -60,29 +55,25 @@ public:
     QString Chemin(Genre genre) const;
     /// Where he saves what a failed reception offers him; empty: he declines.
     QString Sauvegarde;
+    /// True when all that the machine has sent is with the program; for a line that can be looked into.
+    Condition Pris;
 
     /// Plays one transfer of charge to its end, whatever that is. pendant: called again and again while it runs.
     Deroulement Joue(Genre genre, const Charge &charge, const std::function<void(QDialog &transfert)> &pendant);
     /// From inside pendant, as long as nothing disturbs a reception: once the program has dealt with all that came
     /// before, the machine gives its next piece, and the operator of a bench goes on to the next tool or to the end.
     void Poursuit(const QDialog &transfert, const std::function<void(const QByteArray &piece)> &envoie);
-    /// A button of the dialog is pressed.
-    static void Presse(const QWidget &fenetre, const char *bouton);
     /// The cancel button of a kind's dialog.
     static void Annule(Genre genre, const QWidget &transfert);
 
 private:
-    void Regarde();
-    void Agit(QWidget *fenetre);
     void Lit(QMessageBox &boite);
-    void Choisit(QWidget &dialogue) const;
-    void Nomme(QWidget &dialogue);
+    void ChoisitFichier(QWidget &dialogue) const;
+    void Nomme(const QWidget &dialogue);
     void Transfere(QDialog &dialogue);
     bool Pret() const;
 
     const Poste &m_poste;
-    QTimer m_yeux;
-    bool m_gesteEnRoute = false;
     QElapsedTimer m_depuis;
 
     Genre m_genre = Genre::FichierEntier;

@@ -1,4 +1,4 @@
-#include "Poste.h"
+#include "pilote/Poste.h"
 
 #include "comconfig/CommandesConf.h"
 #include "comconfig/ParamCom.h"

@@ -1,0 +1,178 @@
+#include "pilote/Pilote.h"
+
+#include "comconfig/ParamCom.h"
+#include "comconfig/Prop.h"
+#include "machine/Banc.h"
+#include "machine/MachineSimulee.h"
+#include "platform/MSComm.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/PortCom.h"
+#include "transfer/Transfert.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Whole sessions of an operator, through menus, buttons, boxes and the line.
+class TestSessions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CommandeInconnue();
+    void BancTour();
+    void XoffPerdu();
+};
+
+namespace {
+
+/// Opens the chooser from the properties dialog and presses its buttons; a name with "=" types the free character
+/// first.
+void Compose(Operateur &operateur, const char *bouton, const QStringList &gestes)
+{
+    operateur.Presse("Prop", bouton);
+    for (const QString &geste : gestes) {
+        operateur.Saisit("FrmCaract", "Text1", geste.section(u'=', 1));
+        operateur.Presse("FrmCaract", geste.section(u'=', 0, 0));
+    }
+    operateur.Presse("FrmCaract", "Command1");
+}
+
+} // namespace
+
+// A control that nobody knows gets its configuration: made, its chains composed, applied to the port, saved, loaded
+// again, and used in both directions.
+void TestSessions::CommandeInconnue()
+{
+    ReglageMachine reglage;
+    reglage.Fin = "\x03\xE9";
+    MachineSimulee machine(reglage);
+    const MachineSimulee voisine;
+    const Poste poste(0);
+    Pilote pilote(poste);
+    poste.Relie(1, voisine.Chemin());
+    poste.Relie(2, machine.Chemin());
+    ParamCom.NumPort = 1;
+    OuvrePortCOM(); // a port that stayed open, and on the wrong machine
+
+    LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s); // of which the new one keeps nothing that is seen
+    pilote.Presse("Prop", "OptFinLig_4");
+    Compose(pilote, "Command21", {u"Car_13"_s, u"Car_13"_s, u"Car_17"_s, u"Command3"_s, u"Car_10"_s});
+    pilote.Presse("Prop", "OptFinTrans_2");
+    Compose(pilote, "Command20", {u"Car_4"_s, u"Command2"_s, u"Car_3"_s, u"Command6=é"_s});
+    Compose(pilote, "Command22", {u"Car_37"_s});
+    pilote.Fait("Prop", [](QWidget &fenetre) {
+        auto &prop = dynamic_cast<Prop &>(fenetre);
+        QCOMPARE(prop.windowTitle(), u"Propriétés et configuration de la communication - Fichier : Nouveau"_s);
+        QCOMPARE(prop.Label6->text() + prop.Text1->text(), u"Nouveau"_s);
+        prop.OptionEnvoi_0->click();
+        prop.Text1->setText(u"Commande inconnue"_s);
+        prop.cboSpeed->setCurrentText(u"115200"_s);
+        prop.cboDataBits->setCurrentText(u"8"_s);
+        prop.cboParity->setCurrentText(u"None"_s);
+        prop.optFlow_1->click();
+        prop.Option1_3->click();
+        prop.cmdOK->click();
+        QVERIFY(frmPrinc->MSComm1->PortOpen());
+        QCOMPARE(frmPrinc->MSComm1->CommPort(), 2);
+    });
+    pilote.Presse("Prop", "Command1");
+    pilote.Choisit(poste.Chemin("Inconnue.par"));
+    pilote.Presse("Prop", "cmdCancel");
+    Operateur::Menu("Mnu_CreConf");
+    QFile attendu(QString::fromUtf16(DONNEES) + u"/Inconnue.par"_s);
+    QVERIFY(attendu.open(QIODevice::ReadOnly));
+    QCOMPARE(poste.Lit("Inconnue.par"), attendu.readAll().replace("@", poste.Dossier().toUtf8()));
+
+    ParamCom = {};
+    pilote.Choisit(poste.Chemin("Inconnue.par"));
+    Operateur::Barre(8);
+    pilote.Joue(Genre::LigneParLigne, {"N10 G0\r\nN20 M30", {}, {}}, [](const QDialog &) {});
+    QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
+    QCOMPARE(machine.Programmes()[0].Brut, QByteArray("%\r\r\nN10 G0\r\r\r\nN20 M30\r\r\n\x03\xE9"));
+
+    Envoi envoi;
+    envoi.Texte = "O1\r\r\nG1 X5\r\r\n";
+    envoi.PauseLigneMs = 150;
+    bool emis = false;
+    pilote.Joue(Genre::Ligne, {}, [&](const QDialog &) {
+        if (PortOuvert && !std::exchange(emis, true))
+            machine.Emet(envoi);
+    });
+    QCOMPARE(poste.Lit("PIECE.ISO"), QByteArray("O1\r\n\r\nG1 X5\r\n\r\n\r\n"));
+    QVERIFY(machine.Attend([](const EtatMachine &etat) { return etat.Envoi.Reponse == Retour::Juste; }));
+}
+
+// A presetting bench at 1200 baud, a lathe, and Spanish: a diameter for a machine that wants radii, the pocket of an
+// even corrector, a locator that turns X round, a corrector that the machine does not have, an alarm. The bell rings
+// before the first burst, and in the midst of the others.
+void TestSessions::BancTour()
+{
+    constexpr int vitesse = 1200;
+    MachineSimulee machine(ReglageMachine{{vitesse, 20}, {}, {}, "\x04", true});
+    const Poste poste(2);
+    Pilote pilote(poste);
+    poste.Relie(2, machine.Chemin());
+    poste.Ecrit("Fraiseuse.mac", // which he chooses
+                "0\r\n1\r\n.05\r\n0\r\n0\r\n100\r\n200\r\n32\r\n\"jau\"\r\n\"%7999\"\r\n0\r\n");
+    pilote.Regle(Genre::Banc);
+    ParamCom.Vitesse = QString::number(vitesse);
+    ParamCom.NbCarLecture = 1; // so that a bell is always read alone
+    pilote.Fait(
+        "Em_Rc", [](QWidget &) {}, [] { return PortOuvert; });
+    pilote.Repond("Error de número de corrector",
+                  "Atención número de corrector 99999|   prohibición para la instrumentos Nø: 3", Boite::Critique,
+                  QMessageBox::Ok);
+    pilote.Saisit("InputBox", "", "7");
+    pilote.Fait("InputBox", [](QWidget &boite) { QMetaObject::invokeMethod(&boite, "accept"); });
+    for (const auto &[rayon, localisateur] : {std::pair{".8", "3"}, {"0.4", "5"}, {"1.2", "0"}, {"", "8"}}) {
+        pilote.Saisit("JauTour", "Text1", rayon);
+        pilote.Saisit("JauTour", "Text2", localisateur);
+        pilote.Presse("JauTour", "Command1");
+    }
+    pilote.Repond("Alarma mide instrumentos en X",
+                  "Alarma mide instrumentos en X!\rCapacidad en X del corrector N°: \r12 > à 100 mm", Boite::Critique,
+                  QMessageBox::Ok);
+    Banc banc("1 102.3604 51.0005 D\n2 98.12 26 R\n99999 87.051 12.25 D\n12 120 203 D");
+    Charge charge;
+    for (const int cloche : {0, 53, 53, 53})
+        charge.pieces += banc.Mesure().insert(cloche, '\a');
+    pilote.Joue(Genre::Banc, charge, [&](const QDialog &transfert) {
+        pilote.Poursuit(transfert, [&](const QByteArray &piece) {
+            Envoi salve{piece};
+            salve.Salve = true;
+            machine.Emet(salve);
+        });
+    });
+    const QByteArray attendu = "%\r\nD1 X25.5 Z102.36 R.8 C3\r\nD2 X-25.95 Z98.12 R.4 C5\r\n"
+                               "D7 X6.125 Z87.051 R1.2 C0\r\nD12 X101.55 Z120 R0 C8\r\n";
+    QCOMPARE(poste.Lit("PIECE.JAU"), attendu);
+    QCOMPARE(frmPrinc->Text1->Text().toLatin1(), attendu);
+    QCOMPARE(TitreFichier, u"PIECE.JAU"_s);
+}
+
+// The XOFF of a slow machine does not reach the PC: the machine is overrun, and says so itself; the PC gave each
+// character once, and the next machine gets them all.
+void TestSessions::XoffPerdu()
+{
+    MachineSimulee lente({{115200, 20}, {16, 12, 4, 100, {}}, {}, "\x04", false});
+    const Poste poste(0);
+    Pilote pilote(poste);
+    const Charge charge = ChargeDe(Genre::FichierEntier, {QByteArray(200, 'N')});
+    pilote.Regle(Genre::FichierEntier);
+    const auto envoie = [&](const MachineSimulee &machine) {
+        poste.Relie(2, machine.Chemin());
+        return pilote.Joue(Genre::FichierEntier, charge, [](QDialog &) {}).avis.size();
+    };
+    QCOMPARE(envoie(lente), 0);
+    QVERIFY(lente.Attend([](const EtatMachine &etat) { return etat.Recus == 201; }));
+    QVERIFY(lente.Etat().Perdus > 0 && lente.Programmes().empty());
+    MachineSimulee rapide;
+    QCOMPARE(envoie(rapide), 0);
+    QVERIFY(rapide.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
+    QCOMPARE(rapide.Programmes()[0].Brut, charge.attendu);
+}
+
+QTEST_MAIN(TestSessions)
+#include "TestSessions.moc"

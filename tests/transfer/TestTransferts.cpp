@@ -1,0 +1,405 @@
+#include "Etabli.h"
+#include "platform/Essais.h"
+
+#include "comconfig/ParamCom.h"
+#include "gauges/Lignes.h"
+#include "shell/Document.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr char Dialogue[] = "Em_Rc";
+
+/// A line at a time, as the receptions by line and by character ask for.
+QByteArrayList ParLignes(const QByteArray &programme)
+{
+    QByteArrayList pieces;
+    const QByteArrayList lignes = programme.split('\n');
+    for (const QByteArray &ligne : lignes.first(lignes.size() - 1))
+        pieces << ligne + '\n';
+    if (!lignes.last().isEmpty())
+        pieces << lignes.last();
+    return pieces;
+}
+
+} // namespace
+
+/// Transfers from the question to the last byte: what goes out for a text, what stays of what comes in, and what the
+/// operator sees and does meanwhile.
+class TestTransferts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Annonce();
+    void AutreConfiguration();
+    void FichierExistant();
+    void Emissions();
+    void EmissionMontree();
+    void Receptions();
+    void ReceptionForcee_data() { RangsGenres(2, 4); }
+    void ReceptionForcee();
+    void ReceptionTenue_data() { RangsGenres(2, 4); }
+    void ReceptionTenue();
+    void TropDeLignes();
+    void TropGrand();
+    void AnnuleeALaFin();
+};
+
+// A sending is confirmed: a No ends it, a Yes shows what to do at the machine; closing before the start touches
+// neither port nor lamp.
+void TestTransferts::Annonce()
+{
+    const Poste poste(2);
+    poste.Charge("G0");
+    Operateur operateur;
+    const QString titre = u"Emisión de un fichero Cabidas instrumentos"_s;
+    const QString question = titre + u"\rConfirme la emisión del fichero mide PIECE.iso sobre el puerto Com2 ?"_s;
+    operateur.Repond(titre, question, Operateur::Demande, QMessageBox::No);
+    Operateur::Barre(11);
+    QCOMPARE(TypeTransfert, 0);
+
+    operateur.Repond(titre, question, Operateur::Demande, QMessageBox::Yes);
+    operateur.Fait(Dialogue, [](QWidget &fenetre) {
+        QCOMPARE(fenetre.windowTitle(), u"Emisión de las Cabidas instrumentos"_s);
+        QCOMPARE(Operateur::Lu("Label1"), u"\nSobre máquina hacer un a Entrega a Cero\n\n"
+                                          u"Validar el método Cargamento de las Cabidas instrumentos\n"
+                                          u"Apoyar en Salida de Ciclo"_s);
+        QCOMPARE(Operateur::Lu("Label2"), u"Luego presionan el botón < Emisión... >"_s);
+        QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
+        for (const char *cache : {"Command7", "Frame4"}) // those of a reception and of a bench
+            QVERIFY(!fenetre.findChild<QWidget *>(QLatin1String(cache))->isVisible());
+        fenetre.close();
+    });
+    frmPrinc->UpdateTimer.stop();
+    frmPrinc->shpPortOpen->setFillColor(Lampe::Verte);
+    Operateur::Menu("Mnu_EmisJauge");
+    QCOMPARE(TypeTransfert, 2);
+    QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
+}
+
+// Another configuration from inside the dialog; a cancelled choice leaves the first, and a file that breaks off,
+// which is told, leaves its name.
+void TestTransferts::AutreConfiguration()
+{
+    const Poste poste(1);
+    poste.Charge("G0");
+    const QString autre = poste.Chemin("Tour.par");
+    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
+    DosConf = u"/"_s; // not where this choice begins
+    Operateur operateur;
+    operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
+    operateur.Presse(Dialogue, "Command3");
+    operateur.Fait("CommonDialog", [](QWidget &fenetre) {
+        QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory(), QDir(DosAppli));
+        fenetre.close();
+    });
+    operateur.Presse(Dialogue, "Command3");
+    operateur.Choisit(poste.Ecrit("Faux.par", "3\r\nCom3\r\n"));
+    operateur.Repond("Erroneous file of configuration",
+                     "File of configuration of former version !\rModify to record some again.", Boite::Exclamation,
+                     QMessageBox::Ok);
+    operateur.Fait(Dialogue, [](QWidget &) {
+        QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
+        QCOMPARE(frmPrinc->Label4->text(), u"Machine.par"_s);
+    });
+    operateur.Presse(Dialogue, "Command3");
+    operateur.Choisit(autre);
+    operateur.Fait(Dialogue, [](QWidget &) { QCOMPARE(Operateur::Lu("Label5"), u"Tour.par  Tour 2 axes, été €"_s); });
+    operateur.Presse(Dialogue, "Command1");
+    Operateur::Menu("Mnu_EmisProgCN");
+    QCOMPARE(FicConf + frmPrinc->Label4->text(), autre + u"Tour.par"_s);
+    QCOMPARE(ParamCom.ChaineFinLig, u"\r\r\n"_s);
+}
+
+// The name takes only what a file name may hold, and an existing file is replaced only when the operator says so.
+void TestTransferts::FichierExistant()
+{
+    const Poste poste(0);
+    poste.Charge("ANCIEN");
+    ParamCom.DosRecep = poste.Dossier();
+    poste.Ecrit("PIECE.ISO", "PRECIEUX");
+    Operateur operateur;
+    operateur.Fait("Rc_Fic", [](const QWidget &fenetre) {
+        auto *const nom = fenetre.findChild<QLineEdit *>(u"Text1"_s);
+        QVERIFY(!fenetre.findChild<QWidget *>(u"Command2"_s)->isEnabled());
+        QTest::keyClicks(nom, u"pi ,e/c\"e"_s);
+        nom->insert(u"é°"_s);
+        QCOMPARE(nom->text(), u"piece"_s);
+        Operateur::Presse(fenetre, "Command2");
+    });
+    operateur.Repond("Fichier existant !",
+                     u"Remplacer le fichier PIECE.ISO\rDans le dossier %1\rConfirmez  ?"_s.arg(poste.Dossier()),
+                     Operateur::Demande, QMessageBox::No);
+    operateur.Presse("Rc_Fic", "Command1");
+    Operateur::Menu("Mnu_RecepProg");
+    QCOMPARE(poste.Lit("PIECE.ISO"), QByteArray("PRECIEUX"));
+}
+
+// What the machine gets, byte for byte, twice in a row: so nothing follows the end of the first.
+void TestTransferts::Emissions()
+{
+    constexpr Genre entier = Genre::FichierEntier, lignes = Genre::LigneParLigne;
+    const QByteArray tous = TousLesOctets();
+    // beginning of the program, type of line end: 0 LF, 3 CR LF
+    const std::tuple<Genre, QByteArray, QByteArray, int, QByteArray> cas[] = {
+        {entier, "", "%O", 3, "%O\r\n\x04"},
+        {entier, "12345678", "", 3, "12345678\x04"}, // exactly a buffer
+        {entier, "123456789", "", 3, "123456789\x04"},
+        {entier, " A\r\nB\nC\rD \r\n", "", 3, " A\r\nB\nC\rD \r\n\x04"},
+        {entier, tous, "\xFF", 0, "\xFF\n" + tous + "\x04"},
+        {lignes, "", "", 3, "\r\n\x04"},
+        {lignes, "A\r\nB", "%", 0, "%\nA\r\nB\n\x04"},
+        {lignes, "A\r\nB", "", 3, "A\r\r\nB\r\n\x04"},
+        {lignes, "  A \r\n B \r\n\r\n C  ", "", 0, "A \r\n B \r\n\r\n C\n\x04"},
+        {lignes, "\tA\r\r\nB\rC\n\rD\t\n", "", 3, "\tA\r\r\r\nB\rC\n\rD\t\n\r\n\x04"}, // LF alone cuts no line
+        {lignes, tous, "", 0, tous + "\n\x04"}};
+    for (const auto &[genre, texte, debut, finLigne, attendu] : cas) {
+        Etabli etabli(genre);
+        ParamCom.TypeFinLig = finLigne;
+        ParamCom.NbCarDebProg = int(debut.size());
+        for (int i = 0; i < debut.size(); ++i)
+            ParamCom.CarDebProg[std::size_t(i) + 1] = static_cast<unsigned char>(debut[i]);
+        BatirChaines();
+        ParamCom.TailleTamponEmis = 8;
+        etabli.charge.texte = texte;
+        for (int fois = 1; fois <= 2; ++fois) {
+            QCOMPARE(etabli.Joue().statut, u"Transfert terminé avec succès !"_s);
+            QCOMPARE(etabli.ligne->ecrits, attendu.repeated(fois));
+            QCOMPARE(frmPrinc->Text1->Text().size(), texte.size());
+        }
+    }
+}
+
+// A double click on the button, and a hand left on Enter: all that sends once. While the machine holds the line in the
+// third piece, the dialog shows how far the sending is; at the end it shows the end.
+void TestTransferts::EmissionMontree()
+{
+    QByteArray corps;
+    for (const char lettre : {'A', 'B', 'C'})
+        corps += QByteArray(98, lettre) + "\r\n";
+    for (const auto &[genre, echo, statut, echoLu] :
+         {std::tuple{Genre::FichierEntier, false, u"Emission du fichier. Bloc :  301"_s, QString()},
+          {Genre::FichierEntier, true, u"Emission du fichier. Bloc :  301"_s, u"301"_s},
+          {Genre::LigneParLigne, true, u"Emission ligne  2"_s, u"C␍␊"_s}}) {
+        Etabli etabli(genre);
+        etabli.charge.texte = corps + 'D';
+        etabli.ligne->accepte = 210;
+        ParamCom.Echo = echo ? 1 : 0;
+        ParamCom.TailleTamponEmis = 100;
+        etabli.pilote.Fait(Dialogue, [](QWidget &fenetre) {
+            auto *const bouton = fenetre.findChild<QPushButton *>(u"Command2"_s);
+            QTest::mouseClick(bouton, Qt::LeftButton);
+            QTest::mouseDClick(bouton, Qt::LeftButton);
+            QTest::mouseRelease(bouton, Qt::LeftButton);
+            for (const bool marquee : {true, false}) {
+                QKeyEvent entree(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, marquee);
+                QApplication::sendEvent(bouton, &entree);
+                QApplication::sendEvent(&fenetre, &entree);
+            }
+        });
+        etabli.pilote.Fait(
+            Dialogue,
+            [&](const QWidget &fenetre) {
+                const auto controle = [&](const QString &nom) { return fenetre.findChild<QWidget *>(nom); };
+                QCOMPARE(etabli.ligne->accepte, 0);
+                QCOMPARE(controle(u"Label3"_s)->isVisible(), echo);
+                QVERIFY(Operateur::Lu("Label3").endsWith(echoLu));
+                QVERIFY(!controle(u"Label4"_s)->isVisible() && !controle(u"Frame2"_s)->isVisible());
+                QVERIFY(!controle(u"Command2"_s)->isEnabled());
+                QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Verte);
+                etabli.ligne->accepte = 1'000'000;
+            },
+            [echo = echo, statut = statut] {
+                return Operateur::Lu("Label2") == statut &&
+                       (echo || Operateur::Lu("Progression").startsWith(u"69 %  -  reste "));
+            });
+        etabli.pilote.Fait(
+            Dialogue,
+            [&](QWidget &) {
+                QCOMPARE(Operateur::Lu("Label3") == u"␄", echo);
+                QCOMPARE(Operateur::Lu("Command1"), u"&Annuler"_s);
+                QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
+            },
+            [] { return Operateur::Lu("Label2") == u"Transfert terminé avec succès !"; });
+        QCOMPARE(etabli.Joue().avis.size(), 0);
+        QCOMPARE(etabli.ligne->ecrits, corps + (genre == Genre::FichierEntier ? "D\x04" : "D\n\x04"));
+    }
+}
+
+// What a machine may send: nothing, a program, the end string in the middle or not alone, any byte. To the file on the
+// disk, the pane, the answer to the machine and the names of the document.
+void TestTransferts::Receptions()
+{
+    constexpr Genre lignes = Genre::Ligne, caracteres = Genre::Caractere, fichier = Genre::Fichier;
+    const QByteArray tous = TousLesOctets();
+    const QByteArray sansFin = QByteArray(tous).replace(FinTrans, "");
+    const QByteArray avale = QByteArray(sansFin).replace('\r', "").replace("\n", "\r\n");
+    const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
+    const QByteArray milieu = "A\x04 B\r\n";
+    // type of line end; what the operator has added to each
+    const std::tuple<Genre, int, int, QByteArray, QByteArray> cas[] = {
+        {lignes, 3, 0, "", "\r\n"},
+        {lignes, 3, 0, deux, deux + "\r\n"},
+        {lignes, 3, 3, "A\r\nB\r\n", "A\r\n\r\nB\r\n\r\n\r\n"},
+        {lignes, 0, 1, "A\nB\n", "A\n\r\nB\n\r\n\r\n"},
+        {lignes, 3, 0, milieu + tous + "\r\n", milieu + tous + "\r\n\r\n"},
+        {caracteres, 3, 0, "", "\r\n"},
+        {caracteres, 3, 0, deux, deux + "\r\n"},
+        {caracteres, 4, 0, "A\r\r\nB\r\r\n", "A\r\nB\r\n\r\n"}, // a chain of the operator's own
+        {caracteres, 3, 0, "A\r\n" + milieu, "A\r\n\r\n"},
+        {caracteres, 3, 0, sansFin + "\r\n", avale + "\r\n\r\n"},
+        {fichier, 3, 0, "", "\r\n"},
+        {fichier, 3, 0, milieu + tous, milieu + tous + "\r\n"}};
+    for (const auto &[genre, finLigne, option, envoye, attendu] : cas) {
+        Etabli etabli(genre);
+        ParamCom.Echo = 1;
+        ParamCom.TypeFinLig = finLigne;
+        ParamCom.FinLigRecep = option;
+        ParamCom.NbCarFinLig = 3;
+        ParamCom.CarFinLig = {0, 13, 13, 10};
+        BatirChaines();
+        etabli.charge.pieces = ParLignes(envoye) << FinTrans;
+        const bool parFichier = genre == fichier;
+        etabli.pilote.Fait(
+            Dialogue,
+            [parFichier](QWidget &) { QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s); },
+            [] { return Operateur::Lu("Label2") == u"Transfert réalisé avec succès !" && !PortOuvert; });
+        QCOMPARE(etabli.Joue().avis.size(), 0);
+        QCOMPARE(etabli.Disque(), attendu);
+        QCOMPARE(etabli.ligne->ecrits, QByteArray(FinTrans));
+        QCOMPARE(frmPrinc->Text1->Text().size(), attendu.size() - (parFichier ? 2 : 0));
+        QCOMPARE(FichierModifie, 0);
+        QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
+        QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
+        QVERIFY(frmPrinc->Text2->isHidden());
+    }
+}
+
+// The operator forces the end, or thinks better of it while characters come: before the first character, behind a line
+// and in the midst of one.
+void TestTransferts::ReceptionForcee()
+{
+    QFETCH(int, rang);
+    Etabli etabli(Genres[rang]);
+    const QByteArray programme = etabli.Envoye().chopped(1);
+    for (const qsizetype position : {0, 4, 5}) {
+        for (const bool force : {true, false}) {
+            etabli.ligne = std::make_shared<Scenario>();
+            etabli.PreditEnsuite();
+            if (force) {
+                etabli.pilote.Repond(
+                    "Forcer la fin de réception",
+                    "Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
+                    Operateur::Demande, QMessageBox::Yes);
+            } else {
+                etabli.pilote.Fait("MsgBox", [&](QWidget &) { etabli.ligne->Envoie("Z\r\n"); });
+                etabli.pilote.Fait("MsgBox", Operateur::Clique(QMessageBox::No),
+                                   [] { return frmPrinc->MSComm1->InBufferCount() == 3; });
+            }
+            bool presse = false;
+            const auto deroulement = etabli.Joue(position, [&](const QDialog &transfert) {
+                if (std::exchange(presse, true))
+                    return !force;
+                Operateur::Presse(transfert, "Command7");
+                return false;
+            });
+            QCOMPARE(deroulement.avis.size(), 0);
+            const bool coupeLigne = position == 5 && etabli.genre != Genre::Fichier;
+            const QByteArray venu =
+                force ? programme.left(coupeLigne ? 4 : position) : QByteArray(programme).insert(position, "Z\r\n");
+            QCOMPARE(etabli.Disque(), venu + "\r\n");
+            QCOMPARE(etabli.ligne->ecrits, QByteArray(FinTrans));
+        }
+    }
+}
+
+// A machine that holds the line until the end, by CTS or by XOFF, gets no end string, and the reception does not wait
+// for it.
+void TestTransferts::ReceptionTenue()
+{
+    QFETCH(int, rang);
+    Etabli etabli(Genres[rang]);
+    for (const bool parCts : {true, false}) {
+        etabli.ligne = std::make_shared<Scenario>();
+        ParamCom.ControleFlux = parCts ? 2 : 1;
+        etabli.ligne->accepte = parCts ? 1'000'000 : 0;
+        const auto deroulement = etabli.Joue(2, [&](const QDialog &) {
+            etabli.ligne->etats->cts = !parCts;
+            return frmPrinc->MSComm1->CTSHolding() != parCts;
+        });
+        QCOMPARE(deroulement.avis.size(), 0);
+        QCOMPARE(etabli.Disque(), etabli.charge.attendu);
+        QCOMPARE(etabli.ligne->ecrits, QByteArray());
+        QVERIFY(!etabli.ligne->ouverte);
+    }
+}
+
+// The table holds 25000 lines. A text of more leaves the count of the sending before it, and so many of its lines go. A
+// reception has no place for the empty line at its end: told, and all of them can be saved.
+void TestTransferts::TropDeLignes()
+{
+    const QByteArray pleine = QByteArray("N\r\n").repeated(CapaciteLignes);
+    {
+        Etabli etabli(Genre::LigneParLigne);
+        etabli.charge.texte = "A\r\nB\r\nC";
+        etabli.Joue();
+        etabli.charge.texte = pleine;
+        QCOMPARE(etabli.Joue().avis.size(), 0);
+        QCOMPARE(NbLignes, 3);
+        QCOMPARE(etabli.ligne->ecrits, QByteArray("A\r\nB\r\nC\n\x04N\r\nN\r\nN\r\n\x04"));
+    }
+    Etabli etabli(Genre::Ligne);
+    etabli.ligne->sansVidage = true; // all stands ready at once
+    ParamCom.TypeFinLig = 0;
+    BatirChaines();
+    ParamCom.TailleTamponRecep = 2; // so that nothing waits behind a line end
+    etabli.charge.pieces = {QByteArray("N\n").repeated(CapaciteLignes)};
+    etabli.PreditEnsuite();
+    etabli.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
+    etabli.pilote.Ferme("CommonDialog"); // he thinks better of it: offered once more
+    etabli.Joue();
+    QCOMPARE(etabli.poste.Lit("sauve.txt"), pleine);
+}
+
+// A file that is too large for the pane stands whole on the disk; the pane gives way to the word processor, which is
+// offered at the end and once more when the dialog closes.
+void TestTransferts::TropGrand()
+{
+    Etabli etabli(Genre::Ligne);
+    const QByteArray programme = (QByteArray(900, 'X') + "\r\n").repeated(73);
+    etabli.charge.pieces = ParLignes(programme) << FinTrans;
+    etabli.PreditEnsuite();
+    for (int fois = 1; fois <= 2; ++fois)
+        etabli.pilote.Repond("Message",
+                             "Le fichier PIECE.ISO est trop volumineux pour être ouvert par Brovane.\r"
+                             "           Voulez-vous utiliser WordPad pour lire ce fichier ?",
+                             Boite::Information | Boite::OuiNon, QMessageBox::No);
+    QCOMPARE(etabli.Joue().avis.size(), 0);
+    QCOMPARE(etabli.Disque(), programme + "\r\n");
+    QVERIFY(frmPrinc->Text1->isHidden() && frmPrinc->Text1->Text().isEmpty());
+    QCOMPARE(NomFichier, etabli.poste.Chemin("PIECE.ISO"));
+}
+
+// Cancelled in the very moment in which the end has come: nothing is stored, and the file dialog waits for another try.
+void TestTransferts::AnnuleeALaFin()
+{
+    Etabli etabli(Genre::Fichier);
+    connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [&etabli] {
+        if (FinTransfert == 1 && AnnuleRECEPT != 1)
+            Pilote::Annule(etabli.genre, *QApplication::activeModalWidget());
+    });
+    const auto avis = etabli.Joue().avis;
+    QCOMPARE(avis, (QList<Pilote::Avis>{{u"Bouton Annuler cliqué"_s, u"AnnuleRECEPT% = 1"_s}}));
+    QCOMPARE(etabli.Disque(), QByteArray("ANCIEN"));
+    QCOMPARE(FinTransfert, 0);
+}
+
+QTEST_MAIN(TestTransferts)
+#include "TestTransferts.moc"
