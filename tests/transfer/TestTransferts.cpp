@@ -39,7 +39,7 @@ class TestTransferts : public QObject
 private Q_SLOTS:
     void Annonce();
     void AutreConfiguration();
-    void FichierExistant();
+    void DialogueReception();
     void Emissions();
     void EmissionMontree();
     void Receptions();
@@ -119,7 +119,8 @@ void TestTransferts::AutreConfiguration()
 }
 
 // The name takes only what a file name may hold, and an existing file is replaced only when the operator says so.
-void TestTransferts::FichierExistant()
+// Another configuration brings its line end.
+void TestTransferts::DialogueReception()
 {
     const Poste poste(0);
     poste.Charge("ANCIEN");
@@ -137,8 +138,17 @@ void TestTransferts::FichierExistant()
     operateur.Repond("Fichier existant !",
                      u"Remplacer le fichier PIECE.ISO\rDans le dossier %1\rConfirmez  ?"_s.arg(poste.Dossier()),
                      Operateur::Demande, QMessageBox::No);
-    operateur.Presse("Rc_Fic", "Command1");
+    const QString autre = poste.Chemin("Tour.par");
+    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
+    operateur.Presse("Rc_Fic", "Command4");
+    operateur.Choisit(autre);
+    operateur.Fait("Rc_Fic", [](const QWidget &fenetre) {
+        QCOMPARE(Operateur::Lu("Label4"), u"Tour.par  Tour 2 axes, été €"_s);
+        QVERIFY(fenetre.findChild<QAbstractButton *>(u"Option1_3"_s)->isChecked());
+        Operateur::Presse(fenetre, "Command1");
+    });
     Operateur::Menu("Mnu_RecepProg");
+    QCOMPARE(frmPrinc->Label4->text(), u"Tour.par"_s);
     QCOMPARE(poste.Lit("PIECE.ISO"), QByteArray("PRECIEUX"));
 }
 
