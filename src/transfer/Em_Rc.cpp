@@ -129,7 +129,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
         return;
     Form_Activate();
     m_coup.start(); // the hand that has just confirmed may still lean on its key
-    adjustSize(); // a long comment of the configuration takes lines
+    adjustSize();   // a long comment of the configuration takes lines
     CentreFeuille(this);
 }
 
@@ -207,8 +207,8 @@ void Em_Rc::Command1_Click()
 void Em_Rc::Command2_Click()
 {
     const EnTransfert enTransfert;
-    // A second click would start a second sending inside the first. The focus of a button that is disabled would pass to
-    // the cancel button, where a second stroke of the space bar would end the sending.
+    // A second click would start a second sending inside the first. The focus of a button that is disabled would pass
+    // to the cancel button, where a second stroke of the space bar would end the sending.
     setFocus();
     Command2->setEnabled(false);
     if (ParamCom.TypeEnvoi == 0)
