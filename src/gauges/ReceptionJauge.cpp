@@ -200,9 +200,8 @@ void Seance::AnnonceLimite()
 void Seance::PermetSuite(bool permis)
 {
     // The focus of a button that is disabled passes to the next one, which cancels: a second stroke of the space bar
-    // would throw the session away.
-    if (QWidget *const foyer = m_dialogue.Frame4->window()->focusWidget())
-        foyer->clearFocus();
+    // would throw the session away. It would pass there too when the dialog has no focus and comes back to the front.
+    m_dialogue.Frame4->window()->setFocus();
     m_dialogue.Command5->setEnabled(permis);
     m_dialogue.Command6->setEnabled(permis);
     if (permis)

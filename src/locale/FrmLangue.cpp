@@ -37,6 +37,7 @@ void FrmLangue::Command1_Click()
     OptExplorateur = 1;
     Saute([] {
         SauveIni();
+        AppliqueLangueSysteme(); // for the button of the box
         AvertitRelance();
         MontreLangue();
     });

@@ -2,6 +2,7 @@
 
 #include "platform/Icone.h"
 
+#include <QPainter>
 #include <QStyleOptionButton>
 
 #include <algorithm>
@@ -17,6 +18,23 @@ constexpr std::pair<QStyle::StandardPixmap, const char *> Dessins[] = {
 bool EstSombre(const QPalette &palette)
 {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+/// The keyboard is on this control, and the operator uses it.
+bool AFoyer(const QStyleOption &option)
+{
+    return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
+}
+
+void DessineFoyer(QPainter &peintre, const QRect &place, const QPalette &palette)
+{
+    constexpr double rayon = 2;
+    peintre.save();
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(palette.color(QPalette::WindowText));
+    peintre.setBrush(Qt::NoBrush);
+    peintre.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), rayon, rayon);
+    peintre.restore();
 }
 
 /// True for the toolkit's own picture: a desktop's comes in larger sizes too.
@@ -38,6 +56,11 @@ static void PrendDessins()
 void StyleContraste::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *peintre,
                                    const QWidget *widget) const
 {
+    if (element == PE_FrameFocusRect && EstSombre(option->palette)) {
+        if (option->state.testFlag(State_KeyboardFocusChange))
+            DessineFoyer(*peintre, option->rect, option->palette);
+        return;
+    }
     const auto *const bouton = qstyleoption_cast<const QStyleOptionButton *>(option);
     const bool indicateur = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
     if (bouton == nullptr || !indicateur || !EstSombre(option->palette)) {
@@ -46,7 +69,28 @@ void StyleContraste::drawPrimitive(PrimitiveElement element, const QStyleOption 
     }
     QStyleOptionButton clair(*bouton);
     clair.palette.setColor(QPalette::Window, option->palette.color(QPalette::WindowText)); // the outline comes from it
+    clair.state.setFlag(State_HasFocus, false);                                            // or from the highlight
     QProxyStyle::drawPrimitive(element, &clair, peintre, widget);
+}
+
+void StyleContraste::drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre,
+                                 const QWidget *widget) const
+{
+    QProxyStyle::drawControl(element, option, peintre, widget);
+    const bool muet = element == CE_PushButton ? baseStyle()->name() == QLatin1String("fusion")
+                                               : element == CE_TabBarTabLabel && EstSombre(option->palette);
+    if (muet && AFoyer(*option))
+        DessineFoyer(*peintre, option->rect.adjusted(3, 3, -3, -3), option->palette);
+}
+
+void StyleContraste::drawComplexControl(ComplexControl controle, const QStyleOptionComplex *option, QPainter *peintre,
+                                        const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(controle, option, peintre, widget);
+    const auto *const liste = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (controle == CC_ComboBox && liste != nullptr && !liste->editable && AFoyer(*option) &&
+        EstSombre(option->palette))
+        DessineFoyer(*peintre, option->rect.adjusted(3, 3, -3, -3), option->palette);
 }
 
 QIcon StyleContraste::standardIcon(StandardPixmap genre, const QStyleOption *option, const QWidget *widget) const

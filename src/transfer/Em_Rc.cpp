@@ -128,7 +128,8 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     if (evenement->spontaneous())
         return;
     Form_Activate();
-    adjustSize(); // a long comment of the configuration takes lines
+    m_coup.start(); // the hand that has just confirmed may still lean on its key
+    adjustSize();   // a long comment of the configuration takes lines
     CentreFeuille(this);
 }
 
@@ -175,6 +176,7 @@ void Em_Rc::MontreMode()
 void Em_Rc::CommenceReception()
 {
     const EnTransfert enTransfert;
+    setFocus(); // or the button that cancels would have it when the box closes, and a second stroke would press it
     if (!ConfirmeTransfert(TypeTransfert)) {
         reject();
         return;
@@ -186,6 +188,8 @@ void Em_Rc::CommenceReception()
     constexpr void (*receptions[])(Ui::Em_Rc &) = {ReceptionLigne, ReceptionCar, ReceptionFichier};
     if (ParamCom.TypeRecep >= 0 && ParamCom.TypeRecep < static_cast<int>(std::size(receptions)))
         receptions[ParamCom.TypeRecep](*this);
+    if (FinTransfert == 1)
+        Command1->setFocus();
 }
 
 void Em_Rc::MontreConfigurationChoisie()
@@ -203,9 +207,9 @@ void Em_Rc::Command1_Click()
 void Em_Rc::Command2_Click()
 {
     const EnTransfert enTransfert;
-    // A second click would start a second sending inside the first. Without the focus it does not pass to the cancel
-    // button, where a second stroke of the space bar would end the sending.
-    Command2->clearFocus();
+    // A second click would start a second sending inside the first. The focus of a button that is disabled would pass
+    // to the cancel button, where a second stroke of the space bar would end the sending.
+    setFocus();
     Command2->setEnabled(false);
     if (ParamCom.TypeEnvoi == 0)
         EnvoiFich_Lig_Lig(*this);
@@ -239,6 +243,7 @@ void Em_Rc::Command7_Click()
 {
     // The reception stands still until the box is answered; it must not begin on top of it.
     const MSComm::SansEvenements sansEvenements(*frmPrinc->MSComm1);
+    setFocus(); // a second stroke would ask again
     if (Confirme(Texte(ForcerTexte), Boite::Question | Boite::SecondBouton, Texte(ForcerTitre)))
         ForceRECEPT = 1;
 }

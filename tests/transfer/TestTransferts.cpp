@@ -187,8 +187,8 @@ void TestTransferts::Emissions()
     }
 }
 
-// A double click on the button, and a hand left on Enter: all that sends once. While the machine holds the line in the
-// third piece, the dialog shows how far the sending is; at the end it shows the end.
+// A double click on the button, and a hand left on Enter since the confirmation: all that sends once. While the machine
+// holds the line in the third piece, the dialog shows how far the sending is; at the end it shows the end.
 void TestTransferts::EmissionMontree()
 {
     QByteArray corps;
@@ -203,16 +203,21 @@ void TestTransferts::EmissionMontree()
         etabli.ligne->accepte = 210;
         ParamCom.Echo = echo ? 1 : 0;
         ParamCom.TailleTamponEmis = 100;
-        etabli.pilote.Fait(Dialogue, [](QWidget &fenetre) {
+        etabli.pilote.Fait(Dialogue, [&](QWidget &fenetre) {
             auto *const bouton = fenetre.findChild<QPushButton *>(u"Command2"_s);
+            const auto appuie = [&] {
+                for (const bool marquee : {true, false}) {
+                    QKeyEvent entree(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, marquee);
+                    QApplication::sendEvent(bouton, &entree);
+                    QApplication::sendEvent(&fenetre, &entree);
+                }
+            };
+            appuie(); // still from the confirmation
+            QVERIFY(bouton->isEnabled() && etabli.ligne->ecrits.isEmpty());
             QTest::mouseClick(bouton, Qt::LeftButton);
             QTest::mouseDClick(bouton, Qt::LeftButton);
             QTest::mouseRelease(bouton, Qt::LeftButton);
-            for (const bool marquee : {true, false}) {
-                QKeyEvent entree(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, marquee);
-                QApplication::sendEvent(bouton, &entree);
-                QApplication::sendEvent(&fenetre, &entree);
-            }
+            appuie();
         });
         etabli.pilote.Fait(
             Dialogue,
