@@ -16,7 +16,7 @@ struct Etabli : Poste, Operateur
     using Poste::Poste;
 
     /// A box that only tells something is read. icone: one of Boite.
-    void Apprend(QAnyStringView titre, QAnyStringView texte, int icone = Boite::Exclamation, Lieu ou = Lieu::current())
+    void Apprend(QAnyStringView titre, QAnyStringView texte, int icone = Boite::Exclamation, Lieu ou = Lieu::Ici())
     {
         Repond(titre, texte, icone, QMessageBox::Ok, ou);
     }

@@ -6,7 +6,7 @@ namespace {
 
 void Echec(const QString &message, const Operateur::Lieu &ou)
 {
-    QTest::qFail(qPrintable(message), ou.file_name(), static_cast<int>(ou.line()));
+    QTest::qFail(qPrintable(message), ou.fichier, static_cast<int>(ou.ligne));
 }
 
 } // namespace

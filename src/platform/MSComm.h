@@ -32,6 +32,7 @@
 /// Receiving. The control takes from the system no more than InBufferSize has room for. The rest stays with the system,
 /// whose queue fills, whereupon the system's flow control (XOFF, RTS) holds the machine back. So a program that is slow
 /// to read loses nothing, unless there is no flow control, and then event 1008 says so where the driver counts it.
+/// Closing the port throws away what was not read, whereupon a machine that was held back may go on.
 ///
 /// Sending. Output only queues. From the queue the system gets at most what the line carries in the next moment
 /// (CadenceEmission), since what it holds cannot be called back: USB adapters and pseudo-terminals buffer hundreds of
@@ -49,11 +50,12 @@
 /// it still holds counts on top, so that a line slower than its Settings, or one that the machine holds, is not fed.
 ///
 /// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy, or by the control
-/// behind an adapter whose driver does not, see Adapters; with them on, the characters 17 and 19 never reach Input. The system does the same for RTS and CTS where the chip does not; RTSEnable
-/// then waits until the handshake is off again. A line counts as held when the system goes on refusing characters, when
-/// CTS is low under that handshake, or when the system's own backlog stands still for clearly longer than its line
-/// time. CTS is looked at before each handover as well as every 50 ms, so that it holds the sending also behind a
-/// driver that takes the setting and does nothing about it.
+/// behind an adapter whose driver does not, see Adapters; with them on, the characters 17 and 19 never reach Input. The
+/// system does the same for RTS and CTS where the chip does not; RTSEnable then waits until the handshake is off again.
+/// A line counts as held when the system goes on refusing characters, when CTS is low under that handshake, or when the
+/// system's own backlog stands still for clearly longer than its line time. CTS is looked at before each handover as
+/// well as every 50 ms, so that it holds the sending also behind a driver that takes the setting and does nothing about
+/// it.
 ///
 /// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent: 1 sending (the queue has
 /// fallen below SThreshold), 2 reception (RThreshold characters wait, and new ones have come), 3 CTS, 4 DSR, 5 CD, 6
@@ -78,25 +80,27 @@
 ///
 /// Adapters. What the common ones do on Linux, and what comes of it here:
 ///
-///   The PC's own port (8250 family) has 16 characters of FIFO each way and counts every kind of error. The driver deals
-///   with XOFF and CTS between two fillings of the FIFO, so up to 16 characters still leave; the machine must have room
-///   for them, and every machine that says XOFF does.
+///   The PC's own port (8250 family) has 16 characters of FIFO each way and counts every kind of error. The driver
+///   deals with XOFF and CTS between two fillings of the FIFO, so up to 16 characters still leave; the machine must
+///   have room for them, and every machine that says XOFF does.
 ///
-///   FTDI (ftdi_sio) has 128 characters towards the line and 256 from it. It deals with XOFF and CTS in the chip, within
-///   a character or two; when both are asked for, the chip does RTS/CTS alone. Received characters cross the USB when 62
-///   have gathered or when the latency timer runs out, 16 ms as delivered: they come in bursts, and a wait for one
-///   character is up to 16 ms too long. Nothing here hangs on the gap between two characters, so that costs time in an
-///   exchange of single characters and nothing else. Where it does cost, the timer is the file latency_timer of the
-///   device under /sys/bus/usb-serial/devices, or 1 ms with "setserial DEVICE low_latency"; the control leaves both as
-///   the owner of the PC has set them.
+///   FTDI (ftdi_sio) has 128 characters towards the line and 256 from it. It deals with XOFF and CTS in the chip,
+///   within a character or two; when both are asked for, the chip does RTS/CTS alone. Received characters cross the USB
+///   when 62 have gathered or when the latency timer runs out, 16 ms as delivered: they come in bursts, and a wait for
+///   one character is up to 16 ms too long. The control looks at no gap between two characters, so that costs time in
+///   an exchange of single characters and nothing else; a program that takes a silence for an end has to wait longer
+///   than that. Where it does cost, the timer is the file latency_timer of the device under
+///   /sys/bus/usb-serial/devices, or 1 ms with "setserial DEVICE low_latency"; the control leaves both as the owner of
+///   the PC has set them.
 ///
 ///   PL2303 (pl2303) has 256 characters each way. Only newer chips deal with XON/XOFF, and the driver does not tell
 ///   which, so none is relied on. It has no counters, and its error status belongs to a whole USB packet: a parity
 ///   error marks all the characters that crossed with the bad one. ParityReplace then replaces more than one, and a
 ///   text with such an event has to be received again.
 ///
-///   CH340 (ch341) sends packets of 32 characters, tells neither parity nor framing errors by mark or counter, and deals
-///   with RTS/CTS in the chip with recent kernels only. A machine that is checked by parity wants another adapter.
+///   CH340 (ch341) sends packets of 32 characters, tells neither parity nor framing errors by mark or counter, and
+///   deals with RTS/CTS in the chip with recent kernels only. A machine that is checked by parity wants another
+///   adapter.
 ///
 ///   XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, pl2303, or any with RTS/CTS besides): Linux
 ///   would take the XOFF out of what is read and go on sending, because these drivers have no way to be stopped, nor

@@ -54,7 +54,7 @@ void Printer::Print(const QString &texte)
     for (const QStringView ligne : qTokenize(lignes, u'\n')) {
         Ligne(ligne.toString());
         if (Suivi && ++numero % pas == 0)
-            Suivi(ligne.end() - lignes.cbegin());
+            Suivi(ligne.data() + ligne.size() - lignes.constData());
     }
 }
 

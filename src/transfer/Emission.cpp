@@ -12,9 +12,8 @@
 #include "shell/FrmPrinc.h"
 #include "transfer/Avancement.h"
 #include "transfer/PortCom.h"
+#include "transfer/RythmeAffichage.h"
 #include "ui_Em_Rc.h"
-
-#include <QElapsedTimer>
 
 #include <optional>
 
@@ -32,11 +31,8 @@ constexpr Texte3 Succes{u"Transfert terminé avec succès !", u"Transfer finishe
 
 constexpr int BlocParDefaut = 512; // for a configuration whose transmit buffer holds nothing
 
-constexpr qint64 PasAffichage = 40; // milliseconds between two texts that the eye could read
-
-/// One sending: the steps that both ways share, and the progress that the operator sees. A label that changes lays the
-/// dialog out anew, which takes as long as a fast line takes for a line of text: what the next text would replace at
-/// once is not shown, the last one is, as soon as none follows.
+/// One sending: the steps that both ways share, and the progress that the operator sees. What the next text would
+/// replace before he has read it is not shown; the last one is, as soon as none follows.
 class Emission
 {
 public:
@@ -54,8 +50,9 @@ public:
     void Echo(const QString &texte);
 
 private:
+    void Tourne();
+    void AttendLigne();
     void Montre();
-    void MontreParfois();
 
     Ui::Em_Rc &m_dialogue;
     Avancement m_avancement;
@@ -63,7 +60,7 @@ private:
     const Texte3 *m_statut = nullptr; // what is still to be shown
     QString m_suite;
     std::optional<QString> m_echo;
-    QElapsedTimer m_depuis; // since something was shown
+    RythmeAffichage m_rythme;
 };
 
 Emission::Emission(Ui::Em_Rc &dialogue, qint64 total)
@@ -82,6 +79,7 @@ void Emission::Debut()
     const QString debut = ChaineDebProg() + ParamCom.ChaineFinLig;
     Echo(debut);
     Statut(DebutProgramme);
+    Montre();
     if (!Controle().PortOpen())
         return;
     frmPrinc->shpSend->setFillColor(Lampe::Verte);
@@ -105,17 +103,35 @@ void EcarteReponses()
     }
 }
 
-/// Waits until the transmit buffer is empty, for as long as the machine holds the line.
+/// One turn of a wait, which lasts for as long as the machine holds the line or until the operator cancels.
+void Emission::Tourne()
+{
+    CedeLaMain();
+    EcarteReponses();
+    if (m_rythme.Permet())
+        Montre();
+}
+
+/// Waits until the transmit buffer is empty.
 void Emission::Attend()
 {
     int restent = 0;
     do {
-        CedeLaMain();
+        Tourne();
         restent = Controle().OutBufferCount();
         m_avancement.Montre(m_ecrits - restent);
-        EcarteReponses();
-        MontreParfois();
     } while (restent != 0);
+}
+
+/// Waits until the system holds nothing any more. Nor does one whose device has gone, which the turn behind tells.
+void Emission::AttendLigne()
+{
+    int enRoute = 0;
+    do {
+        enRoute = Controle().EnRoute();
+        Tourne();
+    } while (enRoute != 0);
+    Controle().ExigeVivant();
 }
 
 void Emission::Fin()
@@ -129,8 +145,7 @@ void Emission::Fin()
     Echo(ParamCom.ChaineFinTrans);
     Montre();
     Attend();
-    while (Controle().EnRoute() != 0)
-        CedeLaMain();
+    AttendLigne();
     frmPrinc->shpSend->setFillColor(Lampe::Rouge);
 }
 
@@ -146,12 +161,6 @@ void Emission::Echo(const QString &texte)
         m_echo = texte;
 }
 
-void Emission::MontreParfois()
-{
-    if (!m_depuis.isValid() || m_depuis.elapsed() >= PasAffichage)
-        Montre();
-}
-
 void Emission::Montre()
 {
     if (m_statut == nullptr && !m_echo)
@@ -162,7 +171,7 @@ void Emission::Montre()
         m_dialogue.Label3->setText(ControlesVisibles(*m_echo));
     m_statut = nullptr;
     m_echo.reset();
-    m_depuis.start();
+    m_rythme.Note();
 }
 
 int TailleBloc(const MSComm &controle)

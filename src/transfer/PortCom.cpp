@@ -116,6 +116,13 @@ constexpr Texte3 SansDroit{
     u"    sudo adduser $USER dialout\rluego cerrar la sesión y volver a abrirla."};
 constexpr Texte3 Fermer{u"&Fermer", u"&Close", u"&Cerrarse"};
 
+/// Closes the port for an operator who has turned away from the transfer.
+void FermeSansMessage()
+{
+    Saute([] { Controle().setPortOpen(false); });
+    PortOuvert = false;
+}
+
 void MontreErreur(const Erreur &erreur, const QString &texte)
 {
     MsgBox(texte, Boite::Critique, Texte(ErreurNumero) + TexteNombre(erreur.Numero()) + Texte(Fermeture));
@@ -181,11 +188,10 @@ void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue)
 
 void CoupePortCOM(Ui::Em_Rc &dialogue)
 {
-    if (!frmPrinc->MSComm1->PortOpen())
+    if (!Controle().PortOpen())
         return;
     PoseTexte(dialogue.Label2, Fermeture);
-    Saute([] { frmPrinc->MSComm1->setPortOpen(false); });
-    PortOuvert = false;
+    FermeSansMessage();
 }
 
 QString TexteErreurPort(const Erreur &erreur)
@@ -199,14 +205,12 @@ QString TexteErreurPort(const Erreur &erreur)
 
 void Mnu_Com()
 {
-    PortOuvert = frmPrinc->MSComm1->PortOpen();
+    PortOuvert = Controle().PortOpen();
     frmPrinc->Mnu_FermePortCom->setEnabled(PortOuvert);
 }
 
 void Mnu_FermePortCom()
 {
-    if (!frmPrinc->MSComm1->PortOpen())
-        return;
-    Saute([] { frmPrinc->MSComm1->setPortOpen(false); });
-    PortOuvert = false;
+    if (Controle().PortOpen())
+        FermeSansMessage();
 }

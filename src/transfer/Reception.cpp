@@ -13,15 +13,12 @@
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
+#include "transfer/RythmeAffichage.h"
 #include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
-#include <QElapsedTimer>
-
 namespace {
-
-constexpr qint64 PasEcho = 40; // milliseconds between two echoes of characters that come without a pause
 
 constexpr Texte3 TropDeLignes{u"La réception dépasse 25000 lignes.", u"The reception exceeds 25000 lines.",
                               u"La recepción sobrepasa 25000 líneas."};
@@ -52,8 +49,7 @@ public:
     void Range(const QString &fin = QString());
     void MontreFinLigne(const TexteLigne &texte);
     void MontreEcho(const QString &ligne, const QString &lu);
-    /// True for a character that others follow already: the eye could not read its echo, and drawing it takes as
-    /// long as a fast line takes for the next one.
+    /// True for a character that others follow already and whose echo the eye could not read.
     bool EchoSuperflu();
     /// Goes on to the next line. Raises IndiceHorsPlage past the last one of the table.
     void Suivante();
@@ -69,7 +65,7 @@ public:
 private:
     Ui::Em_Rc &m_dialogue;
     int m_compteur = 1;
-    QElapsedTimer m_depuisEcho;
+    RythmeAffichage m_rythme; // of the echo
 };
 
 void Remplissage::Range(const QString &fin)
@@ -99,10 +95,9 @@ void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
 
 bool Remplissage::EchoSuperflu()
 {
-    if (m_depuisEcho.isValid() && m_depuisEcho.elapsed() < PasEcho && Controle().PortOpen() &&
-        Controle().InBufferCount() > 0)
+    if (!m_rythme.Permet() && Controle().PortOpen() && Controle().InBufferCount() > 0)
         return true;
-    m_depuisEcho.start();
+    m_rythme.Note();
     return false;
 }
 

@@ -13,10 +13,10 @@
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
+#include "transfer/RythmeAffichage.h"
 #include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
-#include <QElapsedTimer>
 #include <QScopedValueRollback>
 
 namespace {
@@ -40,8 +40,6 @@ constexpr Texte3 Analyse{u"Réception en cours... Analyse : ", u"Receiving in pr
 constexpr Texte3 AttenteFin{u"En attente du caractère de fin de transfert...",
                             u"On standby of the character of end of transfer...",
                             u"En espera del carácter de final de transferencia..."};
-
-constexpr qint64 PasAffichage = 40; // milliseconds between two numbers that the eye could read
 
 Ui::Em_Rc *enAttente = nullptr; // dialog of the reception that waits for its events
 bool enRecolte = false;         // that reception is being gathered further down the stack
@@ -82,15 +80,15 @@ void Recolte(Ui::Em_Rc &dialogue)
 {
     Prend();
     PoseTexte(dialogue.Label2, EnCours);
-    QElapsedTimer depuis;
+    RythmeAffichage rythme;
     bool vivante = true;
     int passe = 0;
     do {
         ++passe;
         CedeLaMain();
-        if (!depuis.isValid() || depuis.elapsed() >= PasAffichage) {
+        if (rythme.Permet()) {
             MontrePasse(dialogue, passe);
-            depuis.start();
+            rythme.Note();
         }
         vivante = Prend();
     } while (!FinTrouvee() && vivante && AnnuleRECEPT != 1 && ForceRECEPT != 1);

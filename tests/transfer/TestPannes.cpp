@@ -1,6 +1,7 @@
 #include "Etabli.h"
 
 #include "comconfig/ParamCom.h"
+#include "gauges/Jauge.h"
 
 #include <chrono>
 
@@ -79,6 +80,7 @@ class TestPannes : public QObject
 private Q_SLOTS:
     void Coupures_data() { RangsGenres(); }
     void Coupures();
+    void BancDebranche();
     void PortPris_data() { RangsGenres(); }
     void PortPris();
     void LigneFautive_data() { RangsGenres(2); }
@@ -129,6 +131,26 @@ void TestPannes::Coupures()
     }
 }
 
+// The plug is pulled while the operator of a bench decides: another tool is not to be had, but the end is, and either
+// way the disk has the tool that came.
+void TestPannes::BancDebranche()
+{
+    for (const bool encore : {true, false}) {
+        Etabli etabli(Genre::Banc);
+        const QByteArray outil = etabli.charge.pieces[0];
+        const QStringList dits = Titres(etabli.Joue(outil.size(), [&](const QDialog &transfert) {
+            if (NbJauges != 1 || LigneJauge != 2)
+                return false;
+            etabli.ligne->Debranche();
+            Pilote::Presse(transfert, encore ? "Command5" : "Command6");
+            return true;
+        }));
+        QCOMPARE(dits, encore ? QStringList(ErreurN(8020)) : QStringList());
+        QCOMPARE(etabli.Disque(), encore ? outil + "\r\n" : ChargeDe(Genre::Banc, {"1 101.5 12 D"}).attendu);
+        etabli.VerifiePret();
+    }
+}
+
 // Between two transfers another program has taken the port, or the adapter has gone. A reception waits until the
 // operator cancels, a sending ends by itself; one that has nothing to send does not even notice.
 void TestPannes::PortPris()
@@ -157,7 +179,7 @@ void TestPannes::PortPris()
 }
 
 // A parity or framing error, a break, lost characters behind every character of a reception: it goes on, and nothing
-// that came is touched.
+// that came is touched. What waits when the system has lost some goes with them, but for a bench.
 void TestPannes::LigneFautive()
 {
     QFETCH(int, rang);
@@ -179,14 +201,18 @@ void TestPannes::LigneFautive()
                 etabli.pilote.Poursuit(transfert, [&](const QByteArray &piece) { file = piece; });
             if ((file.isEmpty() && !envoye) || !etabli.Pris() || evenements.count(code) < fautes)
                 return;
+            envoye = !envoye;
             if (envoye) {
-                ++fautes;
-                ++((*etabli.ligne).compteurs.*compteur);
-            } else {
                 etabli.ligne->Envoie(file.left(cran), {0});
                 file.remove(0, cran);
+                return;
             }
-            envoye = !envoye;
+            ++fautes;
+            ++((*etabli.ligne).compteurs.*compteur);
+            if (code == 1008 && etabli.genre != Genre::Banc) {
+                etabli.ligne->Envoie("Z", {0}); // before the reception has its next turn
+                QVERIFY(QTest::qWaitFor([&] { return evenements.count(code) == fautes; }));
+            }
         });
         QCOMPARE(Titres(deroulement), QStringList());
         QCOMPARE(etabli.Disque(), etabli.charge.attendu);

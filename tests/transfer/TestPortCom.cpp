@@ -146,27 +146,38 @@ private Q_SLOTS:
         QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
     }
 
-    // The machine stops the line over the last characters, which the system has already: they are waited for.
+    // The machine stops the line over the last characters, which the system has already: they are waited for, until it
+    // takes them, the operator cancels or the plug is pulled.
     void FinRetenue()
     {
-        const Atelier atelier;
-        atelier.ligne->immobile = true;
-        Em_Rc dialogue(frmPrinc);
-        int coups = 0;
-        QTimer machine;
-        connect(&machine, &QTimer::timeout, this, [&] {
-            if (atelier.ligne->ecrits.size() < 3 || ++coups < 60)
-                return;
-            QCOMPARE(dialogue.Label2->text(), u"Emission fin de transfert"_s);
-            atelier.ligne->immobile = false;
-            atelier.ligne->nonEmis = 0;
-        });
-        machine.start(1);
-        EnvoiFich_FinFich(dialogue);
-        QVERIFY(coups >= 60);
-        QCOMPARE(dialogue.Label2->text(), u"Transfert terminé avec succès !"_s);
-        QCOMPARE(atelier.ligne->ecrits, QByteArray("G0\x04"));
-        QCOMPARE(atelier.ligne->jetsEmission, 0);
+        for (const auto &[numero, texte] : {std::pair{0, QString()},
+                                            {8018, u"Opération valide uniquement quand le port est ouvert"_s},
+                                            {8020, u"Erreur de lecture du périphérique de communication"_s}}) {
+            Atelier atelier;
+            Scenario &ligne = *atelier.ligne;
+            ligne.immobile = true;
+            Em_Rc dialogue(frmPrinc);
+            int coups = 0;
+            QTimer machine;
+            connect(&machine, &QTimer::timeout, this, [&, numero = numero] {
+                if (ligne.ecrits.size() < 3 || ++coups != 60)
+                    return;
+                QCOMPARE(dialogue.Label2->text(), u"Emission fin de transfert"_s);
+                if (numero == 8018)
+                    return dialogue.reject();
+                ligne.nonEmis = 0; // nor does a system hold anything for a device that has gone
+                if (numero == 8020)
+                    ligne.Debranche();
+            });
+            machine.start(1);
+            if (numero != 0)
+                atelier.operateur.LitErreur(numero, texte);
+            EnvoiFich_FinFich(dialogue);
+            QVERIFY(coups >= 60 && !PortOuvert && !ligne.ouverte);
+            QCOMPARE(dialogue.Label2->text() == u"Transfert terminé avec succès !", numero == 0);
+            QCOMPARE(ligne.ecrits, QByteArray("G0\x04"));
+            QCOMPARE(ligne.jetsEmission, numero == 8018 ? 1 : 0);
+        }
     }
 
     // A machine that echoes each character is never told to stop in the midst of its program.

@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QThread>
 
 namespace {
@@ -97,7 +98,7 @@ Sort Epreuve::Joue(Genre genre, Sort voulu)
     m_agi = false;
     m_donnes = m_avant = 0;
     MachineSimulee machine(Reglage());
-    m_machine = &machine;
+    const QScopedValueRollback presente(m_machine, &machine);
     m_poste.Relie(2, machine.Chemin());
     m_pilote.Regle(genre);
     ParamCom.Vitesse = QString::number(Vitesse);

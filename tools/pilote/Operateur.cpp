@@ -48,11 +48,9 @@ QMenu *MenuDe(const QAction *entree)
 
 } // namespace
 
-constinit Operateur::Temoin Operateur::temoin{[](const QString &message, const Lieu &ou) {
-                                                  qFatal("%s:%u: %s", ou.file_name(), unsigned(ou.line()),
-                                                         qPrintable(message));
-                                              },
-                                              [] { return false; }};
+constinit Operateur::Temoin Operateur::temoin{
+    [](const QString &message, const Lieu &ou) { qFatal("%s:%u: %s", ou.fichier, ou.ligne, qPrintable(message)); },
+    [] { return false; }};
 
 Operateur::Operateur()
 {
@@ -251,6 +249,6 @@ void Operateur::Etonne(QWidget &fenetre)
 {
     const QString attendue = m_attentes.empty() ? QStringLiteral("nothing") : m_attentes.front().fenetre;
     temoin.echec(QStringLiteral("unexpected: %1; foretold: %2").arg(Decrit(fenetre), attendue),
-                 m_attentes.empty() ? Lieu::current() : m_attentes.front().ou);
+                 m_attentes.empty() ? Lieu::Ici() : m_attentes.front().ou);
     QMetaObject::invokeMethod(&fenetre, "reject");
 }

@@ -172,7 +172,7 @@ void Pilote::Nomme(const QWidget &dialogue)
 void Pilote::Transfere(QDialog &dialogue)
 {
     if (m_depuis.hasExpired(Patience))
-        temoin.echec(QStringLiteral("the transfer hangs"), Lieu::current());
+        temoin.echec(QStringLiteral("the transfer hangs"), Lieu::Ici());
     m_commence = m_commence || TransfertEnCours();
     if (TransfertEnCours()) {
         m_pendant(dialogue);
