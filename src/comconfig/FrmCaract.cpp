@@ -64,7 +64,7 @@ QString Bulle(int code)
 {
     constexpr int base = 16;
     const QString hexa = QStringLiteral("%1").arg(code, 2, base, QLatin1Char('0')).toUpper();
-    return QStringLiteral("%1 = %2h  %3").arg(code).arg(hexa, LabelChaine::NomCaractere(code)).trimmed();
+    return QStringLiteral("%1 = %2h  %3").arg(code).arg(hexa, NomCaractere(code)).trimmed();
 }
 
 } // namespace
@@ -128,7 +128,7 @@ void FrmCaract::ChoisitBouton(QPushButton *bouton, int code, const QString &lege
 {
     constexpr int marge = 16; // pixels
     const bool muet = legende == QString(QChar(code)) && !legende.at(0).isPrint();
-    bouton->setText(muet ? LabelChaine::NomCaractere(code) : legende);
+    bouton->setText(muet ? NomCaractere(code) : legende);
     bouton->setToolTip(Bulle(code));
     bouton->setMinimumWidth(bouton->fontMetrics().horizontalAdvance(QStringLiteral("Xoff")) + marge);
     connect(bouton, &QPushButton::clicked, this, [this, code, legende] { Ajoute(code, legende); });

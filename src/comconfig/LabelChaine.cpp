@@ -1,5 +1,7 @@
 #include "comconfig/LabelChaine.h"
 
+#include "platform/PageCode1252.h"
+
 #include <QPainter>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -7,11 +9,6 @@
 #include <utility>
 
 namespace {
-
-// As manuals of controls name them, by their code.
-constexpr const char *Noms[] = {"NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT",  "LF",
-                                "VT",  "FF",  "CR",  "SO",  "SI",  "DLE", "DC1", "DC2", "DC3", "DC4", "NAK",
-                                "SYN", "ETB", "CAN", "EM",  "SUB", "ESC", "FS",  "GS",  "RS",  "US",  "SP"};
 
 /// The lines, each as its place in texte and its length, into which a width cuts it.
 QList<std::pair<int, int>> Lignes(const QString &texte, const QFont &police, int largeur)
@@ -69,20 +66,7 @@ QSize LabelChaine::minimumSizeHint() const
 
 QString LabelChaine::Visible(const QString &libelle)
 {
-    QString visible;
-    for (const QChar caractere : libelle) {
-        const QString nom = caractere == u' ' ? QString() : NomCaractere(caractere.unicode());
-        visible += nom.isEmpty() ? QString(caractere) : u'<' + nom + u'>';
-    }
-    return visible.replace(QLatin1String("&&"), QLatin1String("&"));
-}
-
-QString LabelChaine::NomCaractere(int code)
-{
-    constexpr int suppression = 127;
-    if (code < static_cast<int>(std::size(Noms)))
-        return QLatin1String(Noms[code]);
-    return code == suppression ? QStringLiteral("DEL") : QString();
+    return ControlesVisibles(libelle).replace(QLatin1String("&&"), QLatin1String("&"));
 }
 
 void LabelChaine::paintEvent(QPaintEvent *)

@@ -20,8 +20,6 @@ public:
 
     /// The form in which the label shows libelle.
     static QString Visible(const QString &libelle);
-    /// Name of a character that shows nothing by itself; "" for the others. code: of code page 1252.
-    static QString NomCaractere(int code);
 
 protected:
     void paintEvent(QPaintEvent *) override;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace {
 
@@ -12,6 +13,11 @@ constexpr std::array<char16_t, 32> Hauts{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E,
                                          0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                          0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                          0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+// As manuals of controls name them, by their code.
+constexpr const char *Noms[] = {"NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT",  "LF",
+                                "VT",  "FF",  "CR",  "SO",  "SI",  "DLE", "DC1", "DC2", "DC3", "DC4", "NAK",
+                                "SYN", "ETB", "CAN", "EM",  "SUB", "ESC", "FS",  "GS",  "RS",  "US",  "SP"};
 
 bool EstHaut(char16_t code)
 {
@@ -55,14 +61,20 @@ bool EstEn1252(QChar caractere)
     return Octet(caractere.unicode()) >= 0;
 }
 
+QString NomCaractere(int code)
+{
+    constexpr int suppression = 127;
+    if (code < static_cast<int>(std::size(Noms)))
+        return QLatin1String(Noms[code]);
+    return code == suppression ? QStringLiteral("DEL") : QString();
+}
+
 QString ControlesVisibles(const QString &texte)
 {
-    constexpr char16_t premierImprimable = 0x20;
-    constexpr char16_t imageDuNul = 0x2400;
-    QString visible = texte;
-    for (QChar &caractere : visible) {
-        if (caractere.unicode() < premierImprimable)
-            caractere = QChar(imageDuNul + caractere.unicode());
+    QString visible;
+    for (const QChar caractere : texte) {
+        const QString nom = caractere == u' ' ? QString() : NomCaractere(caractere.unicode());
+        visible += nom.isEmpty() ? QString(caractere) : u'<' + nom + u'>';
     }
     return visible;
 }

@@ -16,6 +16,10 @@ QByteArray OctetsEn1252(const QString &texte);
 /// True when the code page has the character.
 bool EstEn1252(QChar caractere);
 
-/// texte with its control characters (codes below 32) as the pictures that stand for them, so that the eyes see a CR or
-/// an EOT that a label would show as nothing.
+/// Name of a character that shows nothing by itself, as manuals of controls give it; "" for the others. code: of the
+/// code page.
+QString NomCaractere(int code);
+
+/// texte with the names of its control characters in their place, as in "G0<CR><LF>": a label would show them as
+/// nothing. A blank stays one.
 QString ControlesVisibles(const QString &texte);

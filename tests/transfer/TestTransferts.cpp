@@ -197,7 +197,7 @@ void TestTransferts::EmissionMontree()
     for (const auto &[genre, echo, statut, echoLu] :
          {std::tuple{Genre::FichierEntier, false, u"Emission du fichier. Bloc :  301"_s, QString()},
           {Genre::FichierEntier, true, u"Emission du fichier. Bloc :  301"_s, u"301"_s},
-          {Genre::LigneParLigne, true, u"Emission ligne  2"_s, u"C␍␊"_s}}) {
+          {Genre::LigneParLigne, true, u"Emission ligne  2"_s, u"C<CR><LF>"_s}}) {
         Etabli etabli(genre);
         etabli.charge.texte = corps + 'D';
         etabli.ligne->accepte = 210;
@@ -238,7 +238,7 @@ void TestTransferts::EmissionMontree()
         etabli.pilote.Fait(
             Dialogue,
             [&](QWidget &) {
-                QCOMPARE(Operateur::Lu("Label3") == u"␄", echo);
+                QCOMPARE(Operateur::Lu("Label3") == u"<EOT>", echo);
                 QCOMPARE(Operateur::Lu("Command1"), u"&Annuler"_s);
                 QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
             },
