@@ -1,6 +1,7 @@
 #include "shell/Reglages.h"
 
 #include "locale/Langue.h"
+#include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
 #include "platform/LecteurChamps.h"
 #include "platform/Nombres.h"
@@ -31,6 +32,13 @@ QString LigneNombre(int nombre)
 QString LigneCitee(const QString &texte)
 {
     return u'"' + texte + QStringLiteral("\"\r\n");
+}
+
+bool DejaEcrit(const QString &chemin, const QString &texte)
+{
+    bool pareil = false;
+    Saute([&] { pareil = LitFichierTexte(chemin, TailleMaxReglages) == texte; });
+    return pareil;
 }
 
 /// The language is the one number that may be a text: a comma in the line before it pushes half a path into its place.
@@ -67,9 +75,12 @@ void LisIni()
 
 void SauveIni()
 {
-    EcritFichierTexte(CheminIni(), LigneNombre(OptDosDefaut) + LigneCitee(DosDefaut) + LigneNombre(OptConfDefaut) +
-                                       LigneCitee(FicConfDefaut) + LigneNombre(OptExplorateur) + DosConf +
-                                       QStringLiteral("\r\n") + LigneNombre(LangIndex));
+    const QString texte = LigneNombre(OptDosDefaut) + LigneCitee(DosDefaut) + LigneNombre(OptConfDefaut) +
+                          LigneCitee(FicConfDefaut) + LigneNombre(OptExplorateur) + DosConf + QStringLiteral("\r\n") +
+                          LigneNombre(LangIndex);
+    // Every start saves, and a slow disk would keep the operator waiting for what stands there already.
+    if (!DejaEcrit(CheminIni(), texte))
+        EcritFichierTexte(CheminIni(), texte);
 }
 
 void IniParDefaut()

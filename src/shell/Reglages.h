@@ -25,7 +25,7 @@ QString CheminCfg();
 /// fields ahead of the failure are then already in their variables.
 void LisIni();
 
-/// Writes "Dorvanel.ini" whole. Raises what EcritFichierTexte raises.
+/// Writes "Dorvanel.ini" whole, unless it stands so already. Raises what EcritFichierTexte raises.
 void SauveIni();
 
 /// The values of a first run, which has no "Dorvanel.ini" yet. LangIndex stays: the operator is asked for it.

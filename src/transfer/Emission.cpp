@@ -38,7 +38,7 @@ class Emission
 public:
     /// total: characters that the body will send, for the progress bar.
     Emission(Ui::Em_Rc &dialogue, qint64 total);
-    ~Emission() { Montre(); }
+    ~Emission();
     Q_DISABLE_COPY_MOVE(Emission)
 
     void Debut();
@@ -70,6 +70,13 @@ Emission::Emission(Ui::Em_Rc &dialogue, qint64 total)
     m_dialogue.Frame2->hide();
     m_dialogue.Label3->setVisible(ParamCom.Echo == 1);
     m_dialogue.Label4->hide();
+}
+
+/// A failure leaves the last text to be read; a cancel has closed the port and said so.
+Emission::~Emission()
+{
+    if (Controle().PortOpen())
+        Montre();
 }
 
 void Emission::Debut()

@@ -1,4 +1,4 @@
-#include "Etabli.h"
+#include "EssaiTransfert.h"
 
 #include "comconfig/ParamCom.h"
 #include "gauges/Jauge.h"
@@ -29,31 +29,31 @@ QStringList Titres(const Pilote::Deroulement &deroulement)
 }
 
 /// What there is of a reception once that many characters have come.
-QByteArray Venu(const Etabli &etabli, qsizetype nombre)
+QByteArray Venu(const EssaiTransfert &essai, qsizetype nombre)
 {
-    QByteArray venu = etabli.Envoye().left(nombre);
-    if (etabli.genre == Genre::Banc)
+    QByteArray venu = essai.Envoye().left(nombre);
+    if (essai.genre == Genre::Banc)
         return {};
     if (venu.endsWith(FinTrans))
         venu.chop(1);
-    return etabli.genre == Genre::Caractere && venu.endsWith('\r') ? venu.chopped(1) : venu;
+    return essai.genre == Genre::Caractere && venu.endsWith('\r') ? venu.chopped(1) : venu;
 }
 
 /// A transfer that the plug or the operator cuts short once that many characters have crossed the line. At the very end
 /// of a reception it is the answer that finds the line gone.
-QStringList Coupe(Etabli &etabli, bool debranche, qsizetype position)
+QStringList Coupe(EssaiTransfert &essai, bool debranche, qsizetype position)
 {
-    etabli.ligne = std::make_shared<Scenario>();
-    const bool reponse = !EstEmission(etabli.genre) && position == etabli.Envoye().size();
-    etabli.ligne->accepte = reponse ? 0 : EstEmission(etabli.genre) ? int(position) : 1'000'000;
-    etabli.ligne->casse = debranche;
-    if (debranche && etabli.ligne->accepte <= position)
-        return Titres(etabli.Joue());
-    return Titres(etabli.Joue(position, [&](QDialog &transfert) {
+    essai.ligne = std::make_shared<Scenario>();
+    const bool reponse = !EstEmission(essai.genre) && position == essai.Envoye().size();
+    essai.ligne->accepte = reponse ? 0 : EstEmission(essai.genre) ? int(position) : 1'000'000;
+    essai.ligne->casse = debranche;
+    if (debranche && essai.ligne->accepte <= position)
+        return Titres(essai.Joue());
+    return Titres(essai.Joue(position, [&](QDialog &transfert) {
         if (debranche)
-            etabli.ligne->Debranche();
+            essai.ligne->Debranche();
         else if (position % 2 == 0)
-            Pilote::Annule(etabli.genre, transfert);
+            Pilote::Annule(essai.genre, transfert);
         else
             transfert.close();
         return true;
@@ -97,34 +97,34 @@ private Q_SLOTS:
 void TestPannes::Coupures()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
-    const bool emission = EstEmission(etabli.genre), banc = etabli.genre == Genre::Banc;
-    const qsizetype total = emission ? etabli.charge.attendu.size() - 1 : etabli.Envoye().size();
+    EssaiTransfert essai(Genres[rang]);
+    const bool emission = EstEmission(essai.genre), banc = essai.genre == Genre::Banc;
+    const qsizetype total = emission ? essai.charge.attendu.size() - 1 : essai.Envoye().size();
     for (const bool debranche : {true, false}) {
         for (qsizetype position = 0; position <= total; position += banc ? 23 : 1) {
             if (!emission && !debranche && position == total)
                 break; // it is over
-            etabli.poste.Ecrit("PIECE.ISO", "ANCIEN");
-            const QString volet = emission ? QString::fromLatin1(etabli.charge.texte) : frmPrinc->Text1->Text();
-            const QStringList dits = Coupe(etabli, debranche, position);
-            const QByteArray venu = Venu(etabli, position);
+            essai.poste.Ecrit("PIECE.ISO", "ANCIEN");
+            const QString volet = emission ? QString::fromLatin1(essai.charge.texte) : frmPrinc->Text1->Text();
+            const QStringList dits = Coupe(essai, debranche, position);
+            const QByteArray venu = Venu(essai, position);
             QStringList attendus;
             if (debranche)
                 attendus =
                     QStringList(ErreurN(8020)) + (emission || venu.isEmpty() ? QStringList() : QStringList(Offre));
-            else if (emission || etabli.genre == Genre::Fichier)
+            else if (emission || essai.genre == Genre::Fichier)
                 attendus = {emission ? ErreurN(8018) : AnnuleDite};
             QCOMPARE(dits, attendus);
             QCOMPARE(frmPrinc->Text1->Text(), volet);
             if (emission)
-                QCOMPARE(etabli.ligne->ecrits, etabli.charge.attendu.left(position));
+                QCOMPARE(essai.ligne->ecrits, essai.charge.attendu.left(position));
             else if (banc)
-                QCOMPARE(etabli.Disque(), position < 70 ? QByteArray() : etabli.charge.pieces[0] + "\r\n");
+                QCOMPARE(essai.Disque(), position < 70 ? QByteArray() : essai.charge.pieces[0] + "\r\n");
             else
-                QCOMPARE(etabli.Disque() + etabli.ligne->ecrits, QByteArray("ANCIEN"));
+                QCOMPARE(essai.Disque() + essai.ligne->ecrits, QByteArray("ANCIEN"));
             if (dits.contains(Offre))
-                QCOMPARE(etabli.poste.Lit("sauve.txt"), venu);
-            etabli.VerifiePret();
+                QCOMPARE(essai.poste.Lit("sauve.txt"), venu);
+            essai.VerifiePret();
             if (QTest::currentTestFailed())
                 return;
         }
@@ -136,18 +136,18 @@ void TestPannes::Coupures()
 void TestPannes::BancDebranche()
 {
     for (const bool encore : {true, false}) {
-        Etabli etabli(Genre::Banc);
-        const QByteArray outil = etabli.charge.pieces[0];
-        const QStringList dits = Titres(etabli.Joue(outil.size(), [&](const QDialog &transfert) {
+        EssaiTransfert essai(Genre::Banc);
+        const QByteArray outil = essai.charge.pieces[0];
+        const QStringList dits = Titres(essai.Joue(outil.size(), [&](const QDialog &transfert) {
             if (NbJauges != 1 || LigneJauge != 2)
                 return false;
-            etabli.ligne->Debranche();
+            essai.ligne->Debranche();
             Pilote::Presse(transfert, encore ? "Command5" : "Command6");
             return true;
         }));
         QCOMPARE(dits, encore ? QStringList(ErreurN(8020)) : QStringList());
-        QCOMPARE(etabli.Disque(), encore ? outil + "\r\n" : ChargeDe(Genre::Banc, {"1 101.5 12 D"}).attendu);
-        etabli.VerifiePret();
+        QCOMPARE(essai.Disque(), encore ? outil + "\r\n" : ChargeDe(Genre::Banc, {"1 101.5 12 D"}).attendu);
+        essai.VerifiePret();
     }
 }
 
@@ -156,25 +156,25 @@ void TestPannes::BancDebranche()
 void TestPannes::PortPris()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
-    const Charge charge = etabli.charge;
+    EssaiTransfert essai(Genres[rang]);
+    const Charge charge = essai.charge;
     for (const auto &[refus, vide] : {std::pair{8005, false}, {8002, false}, {8002, true}}) {
-        etabli.refus = refus;
+        essai.refus = refus;
         if (vide)
-            etabli.charge.texte.clear();
-        const QStringList dits = Titres(etabli.Joue(0, [&](QDialog &transfert) {
-            if (!EstEmission(etabli.genre))
-                Pilote::Annule(etabli.genre, transfert);
+            essai.charge.texte.clear();
+        const QStringList dits = Titres(essai.Joue(0, [&](QDialog &transfert) {
+            if (!EstEmission(essai.genre))
+                Pilote::Annule(essai.genre, transfert);
             return true;
         }));
         QStringList attendus{ErreurN(refus)};
-        if (etabli.genre == Genre::LigneParLigne || (etabli.genre == Genre::FichierEntier && !vide))
+        if (essai.genre == Genre::LigneParLigne || (essai.genre == Genre::FichierEntier && !vide))
             attendus << ErreurN(8018);
-        else if (etabli.genre == Genre::Fichier)
+        else if (essai.genre == Genre::Fichier)
             attendus << AnnuleDite;
         QCOMPARE(dits, attendus);
-        etabli.charge = charge;
-        etabli.VerifiePret();
+        essai.charge = charge;
+        essai.VerifiePret();
     }
 }
 
@@ -183,7 +183,7 @@ void TestPannes::PortPris()
 void TestPannes::LigneFautive()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
+    EssaiTransfert essai(Genres[rang]);
     QList<int> evenements;
     connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [&] { evenements << frmPrinc->MSComm1->CommEvent(); });
     for (const auto &[code, compteur] : {std::pair{1009, &CompteursLigne::parite},
@@ -195,27 +195,27 @@ void TestPannes::LigneFautive()
         qsizetype fautes = 0;
         evenements.clear();
         bool envoye = false;
-        const int cran = etabli.genre == Genre::Banc ? 24 : 1;
-        const auto deroulement = etabli.pilote.Joue(etabli.genre, etabli.charge, [&](const QDialog &transfert) {
+        const int cran = essai.genre == Genre::Banc ? 24 : 1;
+        const auto deroulement = essai.pilote.Joue(essai.genre, essai.charge, [&](const QDialog &transfert) {
             if (file.isEmpty() && !envoye)
-                etabli.pilote.Poursuit(transfert, [&](const QByteArray &piece) { file = piece; });
-            if ((file.isEmpty() && !envoye) || !etabli.Pris() || evenements.count(code) < fautes)
+                essai.pilote.Poursuit(transfert, [&](const QByteArray &piece) { file = piece; });
+            if ((file.isEmpty() && !envoye) || !essai.Pris() || evenements.count(code) < fautes)
                 return;
             envoye = !envoye;
             if (envoye) {
-                etabli.ligne->Envoie(file.left(cran), {0});
+                essai.ligne->Envoie(file.left(cran), {0});
                 file.remove(0, cran);
                 return;
             }
             ++fautes;
-            ++((*etabli.ligne).compteurs.*compteur);
-            if (code == 1008 && etabli.genre != Genre::Banc) {
-                etabli.ligne->Envoie("Z", {0}); // before the reception has its next turn
+            ++((*essai.ligne).compteurs.*compteur);
+            if (code == 1008 && essai.genre != Genre::Banc) {
+                essai.ligne->Envoie("Z", {0}); // before the reception has its next turn
                 QVERIFY(QTest::qWaitFor([&] { return evenements.count(code) == fautes; }));
             }
         });
         QCOMPARE(Titres(deroulement), QStringList());
-        QCOMPARE(etabli.Disque(), etabli.charge.attendu);
+        QCOMPARE(essai.Disque(), essai.charge.attendu);
         QVERIFY(fautes >= 5);
     }
 }
@@ -224,27 +224,27 @@ void TestPannes::LigneFautive()
 void TestPannes::Retenue()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
+    EssaiTransfert essai(Genres[rang]);
     ParamCom.ControleFlux = 2;
-    for (qsizetype position = 0; position < etabli.charge.attendu.size(); ++position) {
-        etabli.ligne = std::make_shared<Scenario>();
-        etabli.ligne->accepte = int(position);
+    for (qsizetype position = 0; position < essai.charge.attendu.size(); ++position) {
+        essai.ligne = std::make_shared<Scenario>();
+        essai.ligne->accepte = int(position);
         int regards = 0;
-        const auto deroulement = etabli.Joue(position, [&](const QDialog &) {
-            etabli.ligne->etats->cts = regards != 0 && etabli.ligne->regards > regards + 3;
+        const auto deroulement = essai.Joue(position, [&](const QDialog &) {
+            essai.ligne->etats->cts = regards != 0 && essai.ligne->regards > regards + 3;
             if (frmPrinc->MSComm1->CTSHolding())
                 return false;
             if (regards == 0) {
                 avance += std::chrono::minutes(1);
-                etabli.ligne->accepte = 1'000'000;
-                regards = std::max(1, etabli.ligne->regards);
+                essai.ligne->accepte = 1'000'000;
+                regards = std::max(1, essai.ligne->regards);
             }
-            return etabli.ligne->etats->cts;
+            return essai.ligne->etats->cts;
         });
         QCOMPARE(Titres(deroulement), QStringList());
-        QCOMPARE(etabli.ligne->ecrits, etabli.charge.attendu);
+        QCOMPARE(essai.ligne->ecrits, essai.charge.attendu);
     }
-    etabli.VerifiePret();
+    essai.VerifiePret();
 }
 
 // The machine is reset in the midst of a transfer: a break and DSR tell of it, the line stays silent. A sending goes
@@ -252,25 +252,25 @@ void TestPannes::Retenue()
 void TestPannes::MachineRelancee()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
-    const bool emission = EstEmission(etabli.genre);
-    etabli.ligne->accepte = emission ? 2 : 100;
+    EssaiTransfert essai(Genres[rang]);
+    const bool emission = EstEmission(essai.genre);
+    essai.ligne->accepte = emission ? 2 : 100;
     int etape = 0;
-    const QStringList dits = Titres(etabli.Joue(2, [&](const QDialog &transfert) {
-        etabli.ligne->compteurs.pauses = 1;
-        etabli.ligne->etats->dsr = etape > 0;
+    const QStringList dits = Titres(essai.Joue(2, [&](const QDialog &transfert) {
+        essai.ligne->compteurs.pauses = 1;
+        essai.ligne->etats->dsr = etape > 0;
         if (frmPrinc->MSComm1->DSRHolding() != (etape > 0))
             return false;
-        etabli.ligne->accepte = 100;
+        essai.ligne->accepte = 100;
         if (etape > 0 && !emission)
-            Pilote::Annule(etabli.genre, transfert);
+            Pilote::Annule(essai.genre, transfert);
         return ++etape == 2;
     }));
-    QCOMPARE(dits, etabli.genre == Genre::Fichier ? QStringList(AnnuleDite) : QStringList());
-    QCOMPARE(etabli.ligne->ecrits, emission ? etabli.charge.attendu : QByteArray());
+    QCOMPARE(dits, essai.genre == Genre::Fichier ? QStringList(AnnuleDite) : QStringList());
+    QCOMPARE(essai.ligne->ecrits, emission ? essai.charge.attendu : QByteArray());
     if (!emission)
-        QCOMPARE(etabli.Disque(), QByteArray(etabli.genre == Genre::Banc ? "" : "ANCIEN"));
-    etabli.VerifiePret();
+        QCOMPARE(essai.Disque(), QByteArray(essai.genre == Genre::Banc ? "" : "ANCIEN"));
+    essai.VerifiePret();
 }
 
 // The disk is full, the folder may not be written or has gone, when the file of a reception is to be written: told, and
@@ -278,26 +278,26 @@ void TestPannes::MachineRelancee()
 void TestPannes::Disque()
 {
     for (const Genre genre : {Genre::Caractere, Genre::Ligne, Genre::Fichier, Genre::Banc}) {
-        Etabli etabli(genre);
-        const QString bon = etabli.poste.Dossier();
+        EssaiTransfert essai(genre);
+        const QString bon = essai.poste.Dossier();
         // the folder, or what the file is a link to
         const std::pair<const char *, const char *> defauts[] = {
             {nullptr, "/dev/full"}, {"/sys", nullptr}, {"/absent", nullptr}};
         for (const auto &[dossier, cible] : defauts) {
             ParamCom.DosRecep = DosJauge = dossier ? QString::fromLatin1(dossier) : bon;
-            QFile::remove(etabli.pilote.Chemin(genre));
+            QFile::remove(essai.pilote.Chemin(genre));
             if (cible)
-                QFile::link(QLatin1String(cible), etabli.pilote.Chemin(genre));
-            const auto deroulement = etabli.Joue();
+                QFile::link(QLatin1String(cible), essai.pilote.Chemin(genre));
+            const auto deroulement = essai.Joue();
             QVERIFY(!deroulement.avis.isEmpty() && deroulement.avis[0].titre.startsWith(u"Erreur N°: "_s));
             if (genre != Genre::Banc || cible) { // a bench knows before the first tool
                 QCOMPARE(deroulement.avis.size(), 2);
-                QCOMPARE(etabli.poste.Lit("sauve.txt"), genre == Genre::Banc ? etabli.charge.pieces[0] + "\r\n"
-                                                                             : Venu(etabli, etabli.Envoye().size()));
+                QCOMPARE(essai.poste.Lit("sauve.txt"),
+                         genre == Genre::Banc ? essai.charge.pieces[0] + "\r\n" : Venu(essai, essai.Envoye().size()));
             }
-            QFile::remove(etabli.pilote.Chemin(genre));
+            QFile::remove(essai.pilote.Chemin(genre));
             ParamCom.DosRecep = DosJauge = bon;
-            etabli.VerifiePret();
+            essai.VerifiePret();
         }
     }
 }

@@ -1,4 +1,4 @@
-#include "Etabli.h"
+#include "EssaiTransfert.h"
 #include "platform/Essais.h"
 
 #include "comconfig/ParamCom.h"
@@ -171,17 +171,17 @@ void TestTransferts::Emissions()
         {lignes, "\tA\r\r\nB\rC\n\rD\t\n", "", 3, "\tA\r\r\r\nB\rC\n\rD\t\n\r\n\x04"}, // LF alone cuts no line
         {lignes, tous, "", 0, tous + "\n\x04"}};
     for (const auto &[genre, texte, debut, finLigne, attendu] : cas) {
-        Etabli etabli(genre);
+        EssaiTransfert essai(genre);
         ParamCom.TypeFinLig = finLigne;
         ParamCom.NbCarDebProg = int(debut.size());
         for (int i = 0; i < debut.size(); ++i)
             ParamCom.CarDebProg[std::size_t(i) + 1] = static_cast<unsigned char>(debut[i]);
         BatirChaines();
         ParamCom.TailleTamponEmis = 8;
-        etabli.charge.texte = texte;
+        essai.charge.texte = texte;
         for (int fois = 1; fois <= 2; ++fois) {
-            QCOMPARE(etabli.Joue().statut, u"Transfert terminé avec succès !"_s);
-            QCOMPARE(etabli.ligne->ecrits, attendu.repeated(fois));
+            QCOMPARE(essai.Joue().statut, u"Transfert terminé avec succès !"_s);
+            QCOMPARE(essai.ligne->ecrits, attendu.repeated(fois));
             QCOMPARE(frmPrinc->Text1->Text().size(), texte.size());
         }
     }
@@ -198,12 +198,12 @@ void TestTransferts::EmissionMontree()
          {std::tuple{Genre::FichierEntier, false, u"Emission du fichier. Bloc :  301"_s, QString()},
           {Genre::FichierEntier, true, u"Emission du fichier. Bloc :  301"_s, u"301"_s},
           {Genre::LigneParLigne, true, u"Emission ligne  2"_s, u"C<CR><LF>"_s}}) {
-        Etabli etabli(genre);
-        etabli.charge.texte = corps + 'D';
-        etabli.ligne->accepte = 210;
+        EssaiTransfert essai(genre);
+        essai.charge.texte = corps + 'D';
+        essai.ligne->accepte = 210;
         ParamCom.Echo = echo ? 1 : 0;
         ParamCom.TailleTamponEmis = 100;
-        etabli.pilote.Fait(Dialogue, [&](QWidget &fenetre) {
+        essai.pilote.Fait(Dialogue, [&](QWidget &fenetre) {
             auto *const bouton = fenetre.findChild<QPushButton *>(u"Command2"_s);
             const auto appuie = [&] {
                 for (const bool marquee : {true, false}) {
@@ -213,29 +213,29 @@ void TestTransferts::EmissionMontree()
                 }
             };
             appuie(); // still from the confirmation
-            QVERIFY(bouton->isEnabled() && etabli.ligne->ecrits.isEmpty());
+            QVERIFY(bouton->isEnabled() && essai.ligne->ecrits.isEmpty());
             QTest::mouseClick(bouton, Qt::LeftButton);
             QTest::mouseDClick(bouton, Qt::LeftButton);
             QTest::mouseRelease(bouton, Qt::LeftButton);
             appuie();
         });
-        etabli.pilote.Fait(
+        essai.pilote.Fait(
             Dialogue,
             [&](const QWidget &fenetre) {
                 const auto controle = [&](const QString &nom) { return fenetre.findChild<QWidget *>(nom); };
-                QCOMPARE(etabli.ligne->accepte, 0);
+                QCOMPARE(essai.ligne->accepte, 0);
                 QCOMPARE(controle(u"Label3"_s)->isVisible(), echo);
                 QVERIFY(Operateur::Lu("Label3").endsWith(echoLu));
                 QVERIFY(!controle(u"Label4"_s)->isVisible() && !controle(u"Frame2"_s)->isVisible());
                 QVERIFY(!controle(u"Command2"_s)->isEnabled());
                 QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Verte);
-                etabli.ligne->accepte = 1'000'000;
+                essai.ligne->accepte = 1'000'000;
             },
             [echo = echo, statut = statut] {
                 return Operateur::Lu("Label2") == statut &&
                        (echo || Operateur::Lu("Progression").startsWith(u"69 %  -  reste "));
             });
-        etabli.pilote.Fait(
+        essai.pilote.Fait(
             Dialogue,
             [&](QWidget &) {
                 QCOMPARE(Operateur::Lu("Label3") == u"<EOT>", echo);
@@ -243,8 +243,8 @@ void TestTransferts::EmissionMontree()
                 QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
             },
             [] { return Operateur::Lu("Label2") == u"Transfert terminé avec succès !"; });
-        QCOMPARE(etabli.Joue().avis.size(), 0);
-        QCOMPARE(etabli.ligne->ecrits, corps + (genre == Genre::FichierEntier ? "D\x04" : "D\n\x04"));
+        QCOMPARE(essai.Joue().avis.size(), 0);
+        QCOMPARE(essai.ligne->ecrits, corps + (genre == Genre::FichierEntier ? "D\x04" : "D\n\x04"));
     }
 }
 
@@ -273,22 +273,22 @@ void TestTransferts::Receptions()
         {fichier, 3, 0, "", "\r\n"},
         {fichier, 3, 0, milieu + tous, milieu + tous + "\r\n"}};
     for (const auto &[genre, finLigne, option, envoye, attendu] : cas) {
-        Etabli etabli(genre);
+        EssaiTransfert essai(genre);
         ParamCom.Echo = 1;
         ParamCom.TypeFinLig = finLigne;
         ParamCom.FinLigRecep = option;
         ParamCom.NbCarFinLig = 3;
         ParamCom.CarFinLig = {0, 13, 13, 10};
         BatirChaines();
-        etabli.charge.pieces = ParLignes(envoye) << FinTrans;
+        essai.charge.pieces = ParLignes(envoye) << FinTrans;
         const bool parFichier = genre == fichier;
-        etabli.pilote.Fait(
+        essai.pilote.Fait(
             Dialogue,
             [parFichier](QWidget &) { QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s); },
             [] { return Operateur::Lu("Label2") == u"Transfert réalisé avec succès !" && !PortOuvert; });
-        QCOMPARE(etabli.Joue().avis.size(), 0);
-        QCOMPARE(etabli.Disque(), attendu);
-        QCOMPARE(etabli.ligne->ecrits, QByteArray(FinTrans));
+        QCOMPARE(essai.Joue().avis.size(), 0);
+        QCOMPARE(essai.Disque(), attendu);
+        QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
         QCOMPARE(frmPrinc->Text1->Text().size(), attendu.size() - (parFichier ? 2 : 0));
         QCOMPARE(FichierModifie, 0);
         QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
@@ -302,35 +302,35 @@ void TestTransferts::Receptions()
 void TestTransferts::ReceptionForcee()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
-    const QByteArray programme = etabli.Envoye().chopped(1);
+    EssaiTransfert essai(Genres[rang]);
+    const QByteArray programme = essai.Envoye().chopped(1);
     for (const qsizetype position : {0, 4, 5}) {
         for (const bool force : {true, false}) {
-            etabli.ligne = std::make_shared<Scenario>();
-            etabli.PreditEnsuite();
+            essai.ligne = std::make_shared<Scenario>();
+            essai.PreditEnsuite();
             if (force) {
-                etabli.pilote.Repond(
+                essai.pilote.Repond(
                     "Forcer la fin de réception",
                     "Fermer la réception et enregistrer les lignes reçues !\rConfirmez la fin de réception ?",
                     Operateur::Demande, QMessageBox::Yes);
             } else {
-                etabli.pilote.Fait("MsgBox", [&](QWidget &) { etabli.ligne->Envoie("Z\r\n"); });
-                etabli.pilote.Fait("MsgBox", Operateur::Clique(QMessageBox::No),
-                                   [] { return frmPrinc->MSComm1->InBufferCount() == 3; });
+                essai.pilote.Fait("MsgBox", [&](QWidget &) { essai.ligne->Envoie("Z\r\n"); });
+                essai.pilote.Fait("MsgBox", Operateur::Clique(QMessageBox::No),
+                                  [] { return frmPrinc->MSComm1->InBufferCount() == 3; });
             }
             bool presse = false;
-            const auto deroulement = etabli.Joue(position, [&](const QDialog &transfert) {
+            const auto deroulement = essai.Joue(position, [&](const QDialog &transfert) {
                 if (std::exchange(presse, true))
                     return !force;
                 Operateur::Presse(transfert, "Command7");
                 return false;
             });
             QCOMPARE(deroulement.avis.size(), 0);
-            const bool coupeLigne = position == 5 && etabli.genre != Genre::Fichier;
+            const bool coupeLigne = position == 5 && essai.genre != Genre::Fichier;
             const QByteArray venu =
                 force ? programme.left(coupeLigne ? 4 : position) : QByteArray(programme).insert(position, "Z\r\n");
-            QCOMPARE(etabli.Disque(), venu + "\r\n");
-            QCOMPARE(etabli.ligne->ecrits, QByteArray(FinTrans));
+            QCOMPARE(essai.Disque(), venu + "\r\n");
+            QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
         }
     }
 }
@@ -340,19 +340,19 @@ void TestTransferts::ReceptionForcee()
 void TestTransferts::ReceptionTenue()
 {
     QFETCH(int, rang);
-    Etabli etabli(Genres[rang]);
+    EssaiTransfert essai(Genres[rang]);
     for (const bool parCts : {true, false}) {
-        etabli.ligne = std::make_shared<Scenario>();
+        essai.ligne = std::make_shared<Scenario>();
         ParamCom.ControleFlux = parCts ? 2 : 1;
-        etabli.ligne->accepte = parCts ? 1'000'000 : 0;
-        const auto deroulement = etabli.Joue(2, [&](const QDialog &) {
-            etabli.ligne->etats->cts = !parCts;
+        essai.ligne->accepte = parCts ? 1'000'000 : 0;
+        const auto deroulement = essai.Joue(2, [&](const QDialog &) {
+            essai.ligne->etats->cts = !parCts;
             return frmPrinc->MSComm1->CTSHolding() != parCts;
         });
         QCOMPARE(deroulement.avis.size(), 0);
-        QCOMPARE(etabli.Disque(), etabli.charge.attendu);
-        QCOMPARE(etabli.ligne->ecrits, QByteArray());
-        QVERIFY(!etabli.ligne->ouverte);
+        QCOMPARE(essai.Disque(), essai.charge.attendu);
+        QCOMPARE(essai.ligne->ecrits, QByteArray());
+        QVERIFY(!essai.ligne->ouverte);
     }
 }
 
@@ -362,57 +362,57 @@ void TestTransferts::TropDeLignes()
 {
     const QByteArray pleine = QByteArray("N\r\n").repeated(CapaciteLignes);
     {
-        Etabli etabli(Genre::LigneParLigne);
-        etabli.charge.texte = "A\r\nB\r\nC";
-        etabli.Joue();
-        etabli.charge.texte = pleine;
-        QCOMPARE(etabli.Joue().avis.size(), 0);
+        EssaiTransfert essai(Genre::LigneParLigne);
+        essai.charge.texte = "A\r\nB\r\nC";
+        essai.Joue();
+        essai.charge.texte = pleine;
+        QCOMPARE(essai.Joue().avis.size(), 0);
         QCOMPARE(NbLignes, 3);
-        QCOMPARE(etabli.ligne->ecrits, QByteArray("A\r\nB\r\nC\n\x04N\r\nN\r\nN\r\n\x04"));
+        QCOMPARE(essai.ligne->ecrits, QByteArray("A\r\nB\r\nC\n\x04N\r\nN\r\nN\r\n\x04"));
     }
-    Etabli etabli(Genre::Ligne);
-    etabli.ligne->sansVidage = true; // all stands ready at once
+    EssaiTransfert essai(Genre::Ligne);
+    essai.ligne->sansVidage = true; // all stands ready at once
     ParamCom.TypeFinLig = 0;
     BatirChaines();
     ParamCom.TailleTamponRecep = 2; // so that nothing waits behind a line end
-    etabli.charge.pieces = {QByteArray("N\n").repeated(CapaciteLignes)};
-    etabli.PreditEnsuite();
-    etabli.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
-    etabli.pilote.Ferme("CommonDialog"); // he thinks better of it: offered once more
-    etabli.Joue();
-    QCOMPARE(etabli.poste.Lit("sauve.txt"), pleine);
+    essai.charge.pieces = {QByteArray("N\n").repeated(CapaciteLignes)};
+    essai.PreditEnsuite();
+    essai.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
+    essai.pilote.Ferme("CommonDialog"); // he thinks better of it: offered once more
+    essai.Joue();
+    QCOMPARE(essai.poste.Lit("sauve.txt"), pleine);
 }
 
 // A file that is too large for the pane stands whole on the disk; the pane gives way to the word processor, which is
 // offered at the end and once more when the dialog closes.
 void TestTransferts::TropGrand()
 {
-    Etabli etabli(Genre::Ligne);
+    EssaiTransfert essai(Genre::Ligne);
     const QByteArray programme = (QByteArray(900, 'X') + "\r\n").repeated(73);
-    etabli.charge.pieces = ParLignes(programme) << FinTrans;
-    etabli.PreditEnsuite();
+    essai.charge.pieces = ParLignes(programme) << FinTrans;
+    essai.PreditEnsuite();
     for (int fois = 1; fois <= 2; ++fois)
-        etabli.pilote.Repond("Message",
-                             "Le fichier PIECE.ISO est trop volumineux pour être ouvert par Brovane.\r"
-                             "           Voulez-vous utiliser WordPad pour lire ce fichier ?",
-                             Boite::Information | Boite::OuiNon, QMessageBox::No);
-    QCOMPARE(etabli.Joue().avis.size(), 0);
-    QCOMPARE(etabli.Disque(), programme + "\r\n");
+        essai.pilote.Repond("Message",
+                            "Le fichier PIECE.ISO est trop volumineux pour être ouvert par Brovane.\r"
+                            "           Voulez-vous utiliser WordPad pour lire ce fichier ?",
+                            Boite::Information | Boite::OuiNon, QMessageBox::No);
+    QCOMPARE(essai.Joue().avis.size(), 0);
+    QCOMPARE(essai.Disque(), programme + "\r\n");
     QVERIFY(frmPrinc->Text1->isHidden() && frmPrinc->Text1->Text().isEmpty());
-    QCOMPARE(NomFichier, etabli.poste.Chemin("PIECE.ISO"));
+    QCOMPARE(NomFichier, essai.poste.Chemin("PIECE.ISO"));
 }
 
 // Cancelled in the very moment in which the end has come: nothing is stored, and the file dialog waits for another try.
 void TestTransferts::AnnuleeALaFin()
 {
-    Etabli etabli(Genre::Fichier);
-    connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [&etabli] {
+    EssaiTransfert essai(Genre::Fichier);
+    connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [&essai] {
         if (FinTransfert == 1 && AnnuleRECEPT != 1)
-            Pilote::Annule(etabli.genre, *QApplication::activeModalWidget());
+            Pilote::Annule(essai.genre, *QApplication::activeModalWidget());
     });
-    const auto avis = etabli.Joue().avis;
+    const auto avis = essai.Joue().avis;
     QCOMPARE(avis, (QList<Pilote::Avis>{{u"Bouton Annuler cliqué"_s, u"AnnuleRECEPT% = 1"_s}}));
-    QCOMPARE(etabli.Disque(), QByteArray("ANCIEN"));
+    QCOMPARE(essai.Disque(), QByteArray("ANCIEN"));
     QCOMPARE(FinTransfert, 0);
 }
 

@@ -13,10 +13,10 @@
 constexpr char FinTrans[] = "\x04";
 
 /// A workstation whose operator plays transfers of a kind with a machine on a scripted line.
-class Etabli
+class EssaiTransfert
 {
 public:
-    explicit Etabli(Genre leGenre)
+    explicit EssaiTransfert(Genre leGenre)
         : genre(leGenre)
         , charge(ChargeDe(leGenre, leGenre == Genre::Banc ? QByteArrayList{"1 101.5 12 D", "2 98.5 7 D"}
                                                           : QByteArrayList{"AB", "C"}))
