@@ -95,7 +95,7 @@ void StyleContraste::drawComplexControl(ComplexControl controle, const QStyleOpt
 
 QIcon StyleContraste::standardIcon(StandardPixmap genre, const QStyleOption *option, const QWidget *widget) const
 {
-    const QIcon icone = QProxyStyle::standardIcon(genre, option, widget);
+    QIcon icone = QProxyStyle::standardIcon(genre, option, widget);
     const auto *const dessin =
         std::find_if(std::begin(Dessins), std::end(Dessins), [genre](const auto &d) { return d.first == genre; });
     if (dessin == std::end(Dessins) || !EstGrossier(icone))
