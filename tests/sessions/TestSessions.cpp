@@ -1,3 +1,4 @@
+#include "Donnees.h"
 #include "pilote/Pilote.h"
 
 #include "comconfig/ParamCom.h"
@@ -56,7 +57,7 @@ void TestSessions::CommandeInconnue()
     ParamCom.NumPort = 1;
     OuvrePortCOM(); // a port that stayed open, and on the wrong machine
 
-    LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s); // of which the new one keeps nothing that is seen
+    LireFichierPar(Donnees(u"Complet.par"_s)); // of which the new one keeps nothing that is seen
     pilote.Presse("Prop", "OptFinLig_4");
     Compose(pilote, "Command21", {u"Car_13"_s, u"Car_13"_s, u"Car_17"_s, u"Command3"_s, u"Car_10"_s});
     pilote.Presse("Prop", "OptFinTrans_2");
@@ -81,7 +82,7 @@ void TestSessions::CommandeInconnue()
     pilote.Choisit(poste.Chemin("Inconnue.par"));
     pilote.Presse("Prop", "cmdCancel");
     Operateur::Menu("Mnu_CreConf");
-    QFile attendu(QString::fromUtf16(DONNEES) + u"/Inconnue.par"_s);
+    QFile attendu(Donnees(u"Inconnue.par"_s));
     QVERIFY(attendu.open(QIODevice::ReadOnly));
     QCOMPARE(poste.Lit("Inconnue.par"), attendu.readAll().replace("@", poste.Dossier().toUtf8()));
 

@@ -1,3 +1,4 @@
+#include "Donnees.h"
 #include "LigneScenario.h"
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
@@ -71,7 +72,7 @@ private Q_SLOTS:
         Em_Rc dialogue(frmPrinc);
         FermePortCOM(dialogue);
         LangIndex = 2;
-        LireFichierPar(QString::fromUtf16(DONNEES) + u"/Complet.par"_s);
+        LireFichierPar(Donnees(u"Complet.par"_s));
         ParamCom.BitsDonnees = u"5"_s; // which alone go with 1.5 stop bits
         OuvrePortCOM();
         QCOMPARE((QList<int>{c.CommPort(), c.InputLen(), c.NullDiscard(), c.InBufferSize(), c.OutBufferSize(),

@@ -1,3 +1,4 @@
+#include "Donnees.h"
 #include "EssaiTransfert.h"
 #include "platform/Essais.h"
 
@@ -91,7 +92,7 @@ void TestTransferts::AutreConfiguration()
     const Poste poste(1);
     poste.Charge("G0");
     const QString autre = poste.Chemin("Tour.par");
-    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
+    QVERIFY(QFile::copy(Donnees(u"Complet.par"_s), autre));
     DosConf = u"/"_s; // not where this choice begins
     Operateur operateur;
     operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
@@ -139,7 +140,7 @@ void TestTransferts::DialogueReception()
                      u"Remplacer le fichier PIECE.ISO\rDans le dossier %1\rConfirmez  ?"_s.arg(poste.Dossier()),
                      Operateur::Demande, QMessageBox::No);
     const QString autre = poste.Chemin("Tour.par");
-    QVERIFY(QFile::copy(QString::fromUtf16(DONNEES) + u"/Complet.par"_s, autre));
+    QVERIFY(QFile::copy(Donnees(u"Complet.par"_s), autre));
     operateur.Presse("Rc_Fic", "Command4");
     operateur.Choisit(autre);
     operateur.Fait("Rc_Fic", [](const QWidget &fenetre) {
