@@ -30,7 +30,8 @@ add_custom_command(OUTPUT ${ICONES} DEPENDS icones ${ICONE}
 install(FILES ${ICONE} RENAME dorvanel.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 
 # The desktop: menu entry, file types, software catalogue
-install(FILES ${PAQUET}/dorvanel.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${PAQUET}/dorvanel.desktop ${PAQUET}/zz-dorvanel-autres.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${PAQUET}/dorvanel.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 install(FILES ${PAQUET}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
