@@ -13,7 +13,23 @@
 #include <QCommandLineParser>
 #include <QDir>
 
+#include <algorithm>
+#include <string_view>
+
 namespace {
+
+void Presente()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Dorvanel"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(DORVANEL_VERSION));
+}
+
+bool VeutDesMots(int nombre, char *arguments[])
+{
+    constexpr std::string_view mots[] = {"-h", "--help", "--help-all", "-v", "--version"};
+    return std::any_of(arguments + 1, arguments + nombre,
+                       [&](std::string_view argument) { return std::ranges::count(mots, argument) > 0; });
+}
 
 /// The files named on the command line: a file manager starts the program so. --help and --version end it.
 QStringList FichiersDemandes()
@@ -35,12 +51,15 @@ QStringList FichiersDemandes()
 
 int main(int nombre, char *arguments[])
 {
+    Presente();
+    if (VeutDesMots(nombre, arguments)) { // without a display too: a graphic application would end the process there
+        const QCoreApplication application(nombre, arguments);
+        FichiersDemandes();
+    }
     const std::future<void> polices = LisPolices();
     QApplication application(nombre, arguments);
-    QApplication::setStyle(new StyleContraste); // not earlier: the desktop says its style to the application
-    QApplication::setApplicationName(QStringLiteral("Dorvanel"));
-    QApplication::setApplicationVersion(QStringLiteral(DORVANEL_VERSION));
-    QApplication::setApplicationDisplayName(QString());              // or each title would end in the program's name
+    QApplication::setStyle(new StyleContraste);         // not earlier: the desktop says its style to the application
+    QApplication::setApplicationDisplayName(QString()); // or each title would end in the program's name
     QGuiApplication::setDesktopFileName(QStringLiteral("dorvanel")); // the desktop's icon for the window
     const QStringList fichiers = FichiersDemandes();                 // before the start changes the current folder
     AppliqueLangueSysteme();

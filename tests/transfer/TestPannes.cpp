@@ -280,9 +280,9 @@ void TestPannes::Disque()
     for (const Genre genre : {Genre::Caractere, Genre::Ligne, Genre::Fichier, Genre::Banc}) {
         EssaiTransfert essai(genre);
         const QString bon = essai.poste.Dossier();
-        // the folder, or what the file is a link to
+        // the folder, or what the file is a link to; where the pseudo-terminals are, not even root makes a file
         const std::pair<const char *, const char *> defauts[] = {
-            {nullptr, "/dev/full"}, {"/sys", nullptr}, {"/absent", nullptr}};
+            {nullptr, "/dev/full"}, {"/dev/pts", nullptr}, {"/absent", nullptr}};
         for (const auto &[dossier, cible] : defauts) {
             ParamCom.DosRecep = DosJauge = dossier ? QString::fromLatin1(dossier) : bon;
             QFile::remove(essai.pilote.Chemin(genre));
