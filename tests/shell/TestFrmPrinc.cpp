@@ -15,16 +15,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Drags files over the pane and drops them there; true when the window takes them, as a copy. disparait: the first one
-/// has gone when it is let go.
-bool Depose(const QStringList &noms, bool disparait = false)
+/// Drags files over the pane, or sur, and drops them there; true when the window takes them, as a copy. disparait: the
+/// first one has gone when it is let go.
+bool Depose(const QStringList &noms, bool disparait = false, const QWidget *sur = frmPrinc->Text1)
 {
     QMimeData donnees;
     QList<QUrl> adresses;
     for (const QString &nom : noms)
         adresses << QUrl::fromLocalFile(nom);
     donnees.setUrls(adresses);
-    const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
+    const QPoint ici = sur->mapTo(frmPrinc, sur->rect().center());
     const Qt::DropActions offertes = Qt::MoveAction | Qt::CopyAction; // with this key, to move it
     QDragEnterEvent entree(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
@@ -140,7 +140,8 @@ private Q_SLOTS:
             QVERIFY(Depose({poste.Ecrit("Parti.iso", "G2")}, true));
         }
         QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
-        QVERIFY(Depose({par}));
+        Mnu_AffichDOS();
+        QVERIFY(Depose({par}, false, frmPrinc->Frame1->Combo1));
         QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
 
         QVERIFY(!Depose({ancien, autre}) && !Depose({poste.Dossier()}));
