@@ -57,8 +57,8 @@ private Q_SLOTS:
         }
     }
 
-    // A folder that takes no settings is told, one that does is not. A full disk leaves no half settings behind, so that
-    // the next start is a first one again.
+    // A folder that takes no settings is told, one that does is not. A full disk leaves no half settings behind, so
+    // that the next start is a first one again.
     void DossierFerme()
     {
         rlimit libre{};
