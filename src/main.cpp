@@ -74,10 +74,13 @@ int main(int nombre, char *arguments[])
     RemetDisposition(fenetre);
     Form_Load();
     fenetre.show();
-    QMetaObject::invokeMethod(&fenetre, AnnonceDossierFerme, Qt::QueuedConnection);
-    for (const QString &fichier : fichiers)
-        QMetaObject::invokeMethod(
-            &fenetre, [fichier] { OuvreFichier(fichier); }, Qt::QueuedConnection);
+    // One behind the other: the box or the dialog of one would let the next ones in on top of it.
+    const auto arrivees = [&fichiers] {
+        AnnonceDossierFerme();
+        for (const QString &fichier : fichiers)
+            OuvreFichier(fichier);
+    };
+    QMetaObject::invokeMethod(&fenetre, arrivees, Qt::QueuedConnection);
     const int fin = QApplication::exec();
     GardeDisposition(fenetre);
     return fin;

@@ -3,10 +3,21 @@
 #include "gauges/ChoixMac.h"
 #include "gauges/ConfMac.h"
 #include "gauges/ParamMac.h"
+#include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/Boites.h"
 #include "platform/Erreur.h"
 #include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
+
+namespace {
+
+constexpr Texte3 RefuseTitre{u"Configuration machine", u"Machine configuration", u"Configuración máquina"};
+constexpr Texte3 RefuseTexte{u"Ce fichier n'est pas une configuration machine :\r",
+                             u"This file is no machine configuration:\r",
+                             u"Este fichero no es una configuración máquina:\r"};
+
+} // namespace
 
 void Mn_CreeConfMac()
 {
@@ -34,6 +45,6 @@ void ModifieConfMac(const QString &chemin)
         LitMac(NomCompletMac);
         ConfMac(frmPrinc, NomCompletMac).exec();
     } catch (const Erreur &) {
-        // No machine configuration.
+        MsgBox(Texte(RefuseTexte) + chemin, Boite::Exclamation, Texte(RefuseTitre));
     }
 }

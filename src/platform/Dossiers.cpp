@@ -29,7 +29,7 @@ fs::path EnChemin(const QString &chemin)
                        : cause == std::errc::no_space_on_device ? Erreur::DisqueSature
                                                                 : Erreur::ErreurFichier;
     throw Erreur(numero, QDir::toNativeSeparators(QFileInfo(chemin).filePath()) + QLatin1String(" : ") +
-                             QString::fromStdString(cause.message()));
+                             qt_error_string(cause.value()));
 }
 
 void Exige(const fs::path &chemin, std::error_code cause)

@@ -64,7 +64,7 @@ void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QByteArray &oc
     // The system takes everything at first. That a stick was pulled meanwhile, it tells only here.
     const int cause = Reprise([&fichier] { return fsync(fichier.handle()); }) < 0 ? errno : 0;
     if (cause != 0 && cause != EINVAL && cause != EROFS) // a device has nothing to keep
-        Echoue(cause, TexteSysteme(cause));
+        Echoue(cause, qt_error_string(cause));
     // A network drive may find out only here that it has no room.
     errno = 0;
     fichier.close();

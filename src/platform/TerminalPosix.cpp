@@ -93,7 +93,7 @@ void RegleTerminal(int fd, const ReglagePort &reglage, bool verifie)
 {
     termios2 ancien{};
     if (Reprise([&] { return ioctl(fd, TCGETS2, &ancien); }) < 0)
-        throw Erreur(ErreurPort::Reglage, TexteSysteme());
+        throw Erreur(ErreurPort::Reglage, qt_error_string());
 
     termios2 demande = ancien;
     RendBrut(demande);
@@ -101,7 +101,7 @@ void RegleTerminal(int fd, const ReglagePort &reglage, bool verifie)
     demande.c_cflag = Commande(reglage);
     demande.c_ispeed = demande.c_ospeed = static_cast<speed_t>(reglage.vitesse);
     if (Reprise([&] { return ioctl(fd, TCSETS2, &demande); }) < 0) {
-        const QString texte = TexteSysteme();
+        const QString texte = qt_error_string();
         Reprise([&] { return ioctl(fd, TCSETS2, &ancien); });
         throw Erreur(ErreurPort::Reglage, texte);
     }
@@ -112,7 +112,7 @@ void RegleTerminal(int fd, const ReglagePort &reglage, bool verifie)
     Reprise([&] { return ioctl(fd, TCGETS2, &obtenu); });
     if (const int numero = ReglageRefuse(demande, obtenu)) {
         Reprise([&] { return ioctl(fd, TCSETS2, &ancien); });
-        throw Erreur(numero, TexteSysteme(EINVAL));
+        throw Erreur(numero, qt_error_string(EINVAL));
     }
 }
 

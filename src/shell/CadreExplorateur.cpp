@@ -2,6 +2,8 @@
 
 #include "platform/Icone.h"
 
+#include <QLineEdit>
+
 namespace {
 
 /// The filters offered; the first is in force when the column is made.
@@ -24,4 +26,5 @@ CadreExplorateur::CadreExplorateur(QWidget *parent)
     Combo1->addItems(Motifs);
     // A completion would put a filter in force that the operator has not typed.
     Combo1->setCompleter(nullptr);
+    Combo1->lineEdit()->setAcceptDrops(false); // a file is for the window; its path is no filter
 }

@@ -2,33 +2,42 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-
-#include <filesystem>
-#include <system_error>
 
 namespace {
 
 QString DossierFixe;
 
-/// Copies what the program was shipped with, over nothing that is there; a sample that cannot be copied is passed over.
+/// Copies what the program was shipped with, over nothing that is there. Each sample comes whole or, where the disk is
+/// full or the start is broken off, not at all: nobody sends half a program. The user may change his copies even of
+/// samples that belong to nobody.
 void CopieExemples(const QString &de, const QString &vers)
 {
-    using std::filesystem::copy_options;
     for (const QLatin1String nom : {QLatin1String("/Conf"), QLatin1String("/Programmes")}) {
-        std::error_code echec;
-        std::filesystem::copy(QFileInfo(de + nom).filesystemFilePath(), QFileInfo(vers + nom).filesystemFilePath(),
-                              copy_options::recursive | copy_options::skip_existing, echec);
+        QDir().mkpath(vers + nom);
+        const QFileInfoList exemples = QDir(de + nom).entryInfoList(QDir::Files);
+        for (const QFileInfo &exemple : exemples) {
+            QFile copie(vers + nom + u'/' + exemple.fileName());
+            if (QFile::copy(exemple.filePath(), copie.fileName())) // under its name only when it is whole
+                copie.setPermissions(copie.permissions() | QFile::WriteUser);
+        }
     }
+}
+
+/// $XDG_DATA_HOME, which counts only where it is absolute: the program changes its current folder.
+QString DonneesUtilisateur()
+{
+    const QString dossier = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return QDir::isAbsolutePath(dossier) ? dossier : QDir::homePath() + QStringLiteral("/.local/share");
 }
 
 /// A start that finds no settings is the first one, even where the folder is there: the operator may have tied his
 /// adapter to a port in it before. Later starts bring back nothing that he has deleted.
 QString DossierUtilisateur(const QString &dossierProgramme)
 {
-    QString dossier =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Dorvanel");
+    QString dossier = DonneesUtilisateur() + QStringLiteral("/Dorvanel");
     if (!QFileInfo::exists(dossier + QStringLiteral("/Dorvanel.ini")) && QDir().mkpath(dossier))
         CopieExemples(dossierProgramme, dossier);
     return dossier;

@@ -123,8 +123,10 @@ void Form_Load()
 
 void AnnonceDossierFerme()
 {
-    // With a file that nobody sees: settings that could not be read are not written over.
-    if (!QTemporaryFile(AjouteAntislash(DossierApplication()) + QStringLiteral("XXXXXX")).open())
+    // With a file that nobody sees: settings that could not be read are not written over. A full disk makes the file
+    // and has no room for what it holds.
+    QTemporaryFile essai(AjouteAntislash(DossierApplication()) + QStringLiteral("XXXXXX"));
+    if (!essai.open() || !essai.putChar(' ') || !essai.flush())
         MsgBox(Texte(DossierFermeTexte).arg(DossierApplication()), Boite::Exclamation, Texte(DossierFermeTitre));
 }
 

@@ -15,19 +15,29 @@ const QString Registre = QStringLiteral("Disposition");
 constexpr QLatin1String Fenetre("Fenetre");
 constexpr QLatin1String Explorateur("LargeurExplorateur");
 
-/// Brings a window that sticks out of its screen wholly onto it. The screen may have become smaller since the last run;
-/// Qt itself moves only a window of which nothing at all would be seen.
+/// Where the window's content can lie on its screen.
+QRect PlaceLibre(const FrmPrinc &fenetre)
+{
+    return fenetre.screen()->availableGeometry().adjusted(0, fenetre.style()->pixelMetric(QStyle::PM_TitleBarHeight), 0,
+                                                          0);
+}
+
+/// Brings a window that sticks out of its screen wholly onto it; of a maximised one the place that it will go back to.
+/// The screen may have become smaller since the last run; Qt itself moves only a window of which nothing at all would
+/// be seen.
 void RentreDansEcran(FrmPrinc &fenetre)
 {
-    QRect libre = fenetre.screen()->availableGeometry();
+    const Qt::WindowStates etat = fenetre.windowState();
+    fenetre.setWindowState(Qt::WindowNoState);
     QRect place = fenetre.geometry();
-    if (fenetre.isMaximized() || libre.contains(place))
-        return;
-    libre.setTop(libre.top() + fenetre.style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    place.setSize(place.size().boundedTo(libre.size()));
-    place.moveBottomRight({std::min(place.right(), libre.right()), std::min(place.bottom(), libre.bottom())});
-    place.moveTopLeft({std::max(place.left(), libre.left()), std::max(place.top(), libre.top())});
-    fenetre.setGeometry(place);
+    if (!fenetre.screen()->availableGeometry().contains(place)) {
+        const QRect libre = PlaceLibre(fenetre);
+        place.setSize(place.size().boundedTo(libre.size()));
+        place.moveBottomRight({std::min(place.right(), libre.right()), std::min(place.bottom(), libre.bottom())});
+        place.moveTopLeft({std::max(place.left(), libre.left()), std::max(place.top(), libre.top())});
+        fenetre.setGeometry(place);
+    }
+    fenetre.setWindowState(etat);
 }
 
 } // namespace
@@ -39,6 +49,8 @@ void RemetDisposition(FrmPrinc &fenetre)
     const QByteArray place = registre.value(Fenetre).toByteArray();
     if (place.size() == fenetre.saveGeometry().size() && fenetre.restoreGeometry(place))
         RentreDansEcran(fenetre);
+    else // the desktop finds it a place
+        fenetre.resize(fenetre.size().boundedTo(PlaceLibre(fenetre).size()));
     fenetre.setLargeurExplorateur(registre.value(Explorateur, fenetre.LargeurExplorateur()).toInt());
 }
 

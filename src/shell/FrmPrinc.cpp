@@ -49,12 +49,11 @@ int Couleur(bool active)
     return active ? Lampe::Verte : Lampe::Rouge;
 }
 
-/// The one file that is being dragged; "" for anything else. The window holds one program.
-QString FichierTire(const QMimeData &donnees)
+/// What is being dragged, if it is one thing and lies on this PC; else "". The window holds one program.
+QString CheminTire(const QMimeData &donnees)
 {
     const QList<QUrl> adresses = donnees.urls();
-    const QString chemin = adresses.size() == 1 ? adresses[0].toLocalFile() : QString();
-    return QFileInfo(chemin).isFile() ? QDir::toNativeSeparators(chemin) : QString();
+    return adresses.size() == 1 ? QDir::toNativeSeparators(adresses[0].toLocalFile()) : QString();
 }
 
 } // namespace
@@ -256,7 +255,7 @@ void FrmPrinc::dragEnterEvent(QDragEnterEvent *evenement)
 {
     // A dialog stands open: a transfer may be sending the text of the pane.
     evenement->setAccepted(QApplication::activeModalWidget() == nullptr &&
-                           !FichierTire(*evenement->mimeData()).isEmpty());
+                           QFileInfo(CheminTire(*evenement->mimeData())).isFile());
     evenement->setDropAction(Qt::CopyAction);
 }
 
@@ -271,7 +270,7 @@ void FrmPrinc::dragMoveEvent(QDragMoveEvent *evenement)
 /// dragged from.
 void FrmPrinc::dropEvent(QDropEvent *evenement)
 {
-    const QString chemin = FichierTire(*evenement->mimeData());
+    const QString chemin = CheminTire(*evenement->mimeData());
     evenement->setDropAction(Qt::CopyAction);
     evenement->accept();
     QMetaObject::invokeMethod(

@@ -7,6 +7,8 @@
 #include "platform/Nombres.h"
 #include "shell/Chemins.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 QString DosAppli;
@@ -39,6 +41,20 @@ bool DejaEcrit(const QString &chemin, const QString &texte)
     bool pareil = false;
     Saute([&] { pareil = LitFichierTexte(chemin, TailleMaxReglages) == texte; });
     return pareil;
+}
+
+/// Writes a settings file whole. Of a new one that finds no room nothing is left: the next start would take it for
+/// settings that cannot be read, and say nothing.
+void EcritReglages(const QString &chemin, const QString &texte)
+{
+    const bool neuf = !QFileInfo::exists(chemin);
+    try {
+        EcritFichierTexte(chemin, texte);
+    } catch (const Erreur &) {
+        if (neuf)
+            QFile::remove(chemin);
+        throw;
+    }
 }
 
 /// The language is the one number that may be a text: a comma in the line before it pushes half a path into its place.
@@ -80,7 +96,7 @@ void SauveIni()
                           LigneNombre(LangIndex);
     // Every start saves, and a slow disk would keep the operator waiting for what stands there already.
     if (!DejaEcrit(CheminIni(), texte))
-        EcritFichierTexte(CheminIni(), texte);
+        EcritReglages(CheminIni(), texte);
 }
 
 void IniParDefaut()
@@ -102,7 +118,7 @@ void LisCfg(QString &dosRecep)
 
 void SauveCfg(const QString &dosRecep)
 {
-    EcritFichierTexte(CheminCfg(), LigneCitee(dosRecep) + LigneCitee(DosJauge) + LigneCitee(EditeurCN));
+    EcritReglages(CheminCfg(), LigneCitee(dosRecep) + LigneCitee(DosJauge) + LigneCitee(EditeurCN));
 }
 
 void CfgParDefaut(QString &dosRecep)

@@ -22,7 +22,10 @@
 #include <QTest>
 
 #include <csignal>
+#include <sys/fsuid.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,18 +33,30 @@ namespace {
 
 constexpr char Ini[] = "Dorvanel.ini";
 
-/// Until the guard goes, the disk has no room beyond what the file holds, or the folder of a folder to be made is gone.
-[[nodiscard]] auto Gate(const Poste &poste, const QString &fichier, bool dossier)
+/// Until the guard goes, the disk has no room beyond what the file holds, or the folder of a folder to be made is gone;
+/// or else neither may be written.
+[[nodiscard]] auto Gate(const Poste &poste, const QString &fichier, bool dossier, bool ferme)
 {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit libre{};
     getrlimit(RLIMIT_FSIZE, &libre);
-    const rlimit serre{rlim_t(QFileInfo(poste.Chemin(fichier)).size()), libre.rlim_max};
+    const rlimit serre{ferme ? libre.rlim_cur : rlim_t(QFileInfo(poste.Chemin(fichier)).size()), libre.rlim_max};
+    const bool deplace = dossier && !ferme;
     const QString parti = poste.Dossier() + u".parti"_s;
-    const bool gate = dossier ? QDir().rename(poste.Dossier(), parti) : setrlimit(RLIMIT_FSIZE, &serre) == 0;
+    const bool gate = deplace ? QDir().rename(poste.Dossier(), parti) : setrlimit(RLIMIT_FSIZE, &serre) == 0;
+    const auto droits = [=, &poste](mode_t surDossier, mode_t surFichier, uid_t qui) {
+        setfsuid(geteuid());
+        chmod(qPrintable(poste.Dossier()), surDossier);
+        chmod(qPrintable(poste.Chemin(fichier)), surFichier);
+        setfsuid(qui); // no permission stops root
+    };
+    if (ferme)
+        droits(0555, 0444, 65534);
     return qScopeGuard([=, &poste] {
         QVERIFY(gate && setrlimit(RLIMIT_FSIZE, &libre) == 0);
-        QVERIFY(!dossier || QDir().rename(parti, poste.Dossier()));
+        QVERIFY(!deplace || QDir().rename(parti, poste.Dossier()));
+        if (ferme)
+            droits(0700, 0644, geteuid());
     });
 }
 
@@ -66,7 +81,7 @@ struct Atelier : Poste, Operateur
 
     void Dit(const QString &dit, const QString &titre = u"Error"_s, int icone = Boite::Critique)
     {
-        const QString cause = qt_error_string(fichier == u"Neuf" ? ENOENT : EFBIG);
+        const QString cause = qt_error_string(ferme ? EACCES : fichier == u"Neuf" ? ENOENT : EFBIG);
         const QString details = icone == Boite::Critique ? QString() : u'\r' + cause;
         if (echoue)
             Repond(titre, dit + details, icone, QMessageBox::Ok);
@@ -88,7 +103,7 @@ struct Atelier : Poste, Operateur
     }
     const QString fichier, racine = ParamCom.DosRecep = DosJauge = DossierRecep = Dossier();
     QString texte = u"G1 X12.5 Z4"_s;
-    bool echoue = true;
+    bool echoue = true, ferme = false;
     Prop prop{nullptr};
     ConfMac conf{nullptr};
     FrmConfDem options{nullptr};
@@ -178,8 +193,10 @@ private Q_SLOTS:
     void Pannes_data()
     {
         QTest::addColumn<int>("rang");
+        QTest::addColumn<bool>("ferme");
         for (int rang = 0; rang < int(std::size(Ecrivains)); ++rang)
-            QTest::newRow(Ecrivains[rang].nom) << rang;
+            for (const bool ferme : {false, true})
+                QTest::addRow("%s%s", Ecrivains[rang].nom, ferme ? ", read-only" : "") << rang << ferme;
     }
     void Pannes();
 };
@@ -188,6 +205,7 @@ private Q_SLOTS:
 void TestDisque::Pannes()
 {
     QFETCH(int, rang);
+    QFETCH(bool, ferme);
     const QString fichier = QString::fromLatin1(Ecrivains[rang].fichier);
     const bool dossier = fichier == u"Neuf";
     Atelier atelier(fichier);
@@ -195,7 +213,8 @@ void TestDisque::Pannes()
         atelier.Ecrit(fichier, "ANCIEN\r\n");
     const QByteArray avant = atelier.Lit(fichier);
     {
-        const auto gate = Gate(atelier, fichier, dossier);
+        atelier.ferme = ferme;
+        const auto gate = Gate(atelier, fichier, dossier, ferme);
         Ecrivains[rang].joue(atelier);
     }
     QCOMPARE(frmPrinc->Text1->Text(), atelier.texte);

@@ -1,11 +1,15 @@
 #include "Donnees.h"
 #include "Etabli.h"
+#include "platform/Essais.h"
 
 #include "locale/Langue.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 
 #include <QApplication>
+
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,9 +57,25 @@ private Q_SLOTS:
         }
     }
 
-    // A folder that takes no settings is told, one that does is not.
+    // A folder that takes no settings is told, one that does is not. A full disk leaves no half settings behind, so
+    // that the next start is a first one again.
     void DossierFerme()
     {
+        rlimit libre{};
+        getrlimit(RLIMIT_FSIZE, &libre);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit pleine{0, libre.rlim_max};
+        {
+            Etabli plein;
+            plein.Presse("FrmLangue", "Command1");
+            QVERIFY(setrlimit(RLIMIT_FSIZE, &pleine) == 0);
+            plein.Demarre();
+            QVERIFY(NumeroErreur([] { SauveCfg({}); }) != 0);
+            plein.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
+            AnnonceDossierFerme();
+            QVERIFY(setrlimit(RLIMIT_FSIZE, &libre) == 0);
+            QVERIFY(!QFile::exists(plein.Chemin(Ini)) && !QFile::exists(plein.Chemin(Cfg)));
+        }
         Etabli etabli(0);
         AnnonceDossierFerme();
         const QString absent = etabli.Chemin(u"absent"_s);

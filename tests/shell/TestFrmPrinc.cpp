@@ -15,20 +15,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Drags files over the pane and drops them there; true when the window takes them, as a copy.
-bool Depose(const QStringList &noms)
+/// Drags files over the pane, or sur, and drops them there; true when the window takes them, as a copy. disparait: the
+/// first one has gone when it is let go.
+bool Depose(const QStringList &noms, bool disparait = false, const QWidget *sur = frmPrinc->Text1)
 {
     QMimeData donnees;
     QList<QUrl> adresses;
     for (const QString &nom : noms)
         adresses << QUrl::fromLocalFile(nom);
     donnees.setUrls(adresses);
-    const QPoint ici = frmPrinc->Text1->mapTo(frmPrinc, QPoint(50, 50));
+    const QPoint ici = sur->mapTo(frmPrinc, sur->rect().center());
     const Qt::DropActions offertes = Qt::MoveAction | Qt::CopyAction; // with this key, to move it
     QDragEnterEvent entree(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(frmPrinc->windowHandle(), &entree);
     QDragMoveEvent passage(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(frmPrinc->windowHandle(), &passage);
+    if (disparait)
+        QFile::remove(noms[0]);
     QDropEvent depot(ici, offertes, &donnees, Qt::LeftButton, Qt::ShiftModifier);
     if (entree.isAccepted())
         QCoreApplication::sendEvent(frmPrinc->windowHandle(), &depot);
@@ -79,13 +82,13 @@ private Q_SLOTS:
     }
 
     // What the operator has arranged comes back after a restart, hidden or not; a window that sticks out of the screen
-    // comes back wholly on it.
+    // comes back wholly on it, a maximised one when it is made small again.
     void Disposition()
     {
         const QTemporaryDir reglages;
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
         const QRect place(20, 200, 780, 600); // in the corner of the screen
-        for (const int dehors : {0, 300}) {
+        for (const auto &[dehors, maximise] : {std::pair{0, false}, {300, false}, {300, true}}) {
             const Poste poste(0);
             Mnu_AffichDOS();
             frmPrinc->setGeometry(place.translated(dehors, dehors));
@@ -95,12 +98,16 @@ private Q_SLOTS:
             QTest::mouseRelease(poignee, Qt::LeftButton, {}, QPoint(1, 9));
             QTRY_COMPARE(frmPrinc->Frame1->width(), 300);
             Mnu_AffichDOS();
+            if (maximise)
+                frmPrinc->showMaximized();
             GardeDisposition(*frmPrinc);
 
             FrmPrinc suivante;
             RemetDisposition(suivante);
             suivante.CreeExplorateur();
             suivante.show();
+            QCOMPARE(suivante.isMaximized(), maximise);
+            suivante.showNormal();
             QTRY_COMPARE(suivante.Frame1->width(), 300);
             QCOMPARE(suivante.geometry(), place);
         }
@@ -123,9 +130,18 @@ private Q_SLOTS:
             Operateur operateur;                                          // he knows nothing of the dialog further down
             operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::No)); // whether to save
             QVERIFY(Depose({autre}));
+            operateur.Repond(u"Configuration machine"_s, u"Ce fichier n'est pas une configuration machine :\r"_s + mac,
+                             Boite::Exclamation, QMessageBox::Ok);
+            QVERIFY(FichierModifie == 0 && Depose({mac}));
+            operateur.Fait("MsgBox", [](QWidget &boite) {
+                QVERIFY(dynamic_cast<QMessageBox &>(boite).text().contains(u"Parti.iso."_s));
+                boite.close();
+            });
+            QVERIFY(Depose({poste.Ecrit("Parti.iso", "G2")}, true));
         }
         QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
-        QVERIFY(FichierModifie == 0 && Depose({par}) && Depose({mac}));
+        Mnu_AffichDOS();
+        QVERIFY(Depose({par}, false, frmPrinc->Frame1->Combo1));
         QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
 
         QVERIFY(!Depose({ancien, autre}) && !Depose({poste.Dossier()}));

@@ -50,7 +50,14 @@ QStringList Coupe(EssaiTransfert &essai, bool debranche, qsizetype position)
     if (debranche && essai.ligne->accepte <= position)
         return Titres(essai.Joue());
     return Titres(essai.Joue(position, [&](QDialog &transfert) {
-        if (debranche)
+        if (debranche && position % 2 == 1 && essai.genre != Genre::Banc) {
+            // while he is asked whether to force the end
+            essai.pilote.Fait("MsgBox", [&essai, position](QWidget &boite) {
+                essai.ligne->Debranche();
+                Operateur::Clique(position % 4 == 1 ? QMessageBox::Yes : QMessageBox::No)(boite);
+            });
+            Pilote::Presse(transfert, "Command7");
+        } else if (debranche)
             essai.ligne->Debranche();
         else if (position % 2 == 0)
             Pilote::Annule(essai.genre, transfert);
