@@ -136,6 +136,7 @@ void Mnu_Nouveau()
                   Texte(NouveauTitre)))
         return;
     frmPrinc->Text1->setText(QString());
+    frmPrinc->Text1->show(); // a reception too large for it may have put the pane away
     frmPrinc->Mnu_Annuler->setEnabled(false);
     TitreFenetre(Texte(NomNouveau));
     FichierModifie = 0;
