@@ -11,9 +11,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSpacerItem>
+#include <QTimer>
 
 #include <algorithm>
-#include <QTimer>
 
 namespace {
 
@@ -102,7 +102,8 @@ QString InputBox(const QString &invite, const QString &titre, const QString &val
     QInputDialog boite(FenetreAppelante());
     boite.setObjectName(QStringLiteral("InputBox"));
     boite.setWindowTitle(titre);
-    boite.setLabelText(PourAffichage(invite));
+    // An ampersand in the name of a folder is no shortcut.
+    boite.setLabelText(PourAffichage(invite).replace(u'&', QLatin1String("&&")));
     boite.setTextValue(valeur);
     auto *const texte = boite.findChild<QLabel *>();
     texte->setTextFormat(Qt::PlainText);

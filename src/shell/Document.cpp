@@ -15,6 +15,8 @@
 
 #include <QDir>
 
+#include <utility>
+
 QString NomFichier;
 QString TitreFichier;
 int FichierModifie = 0;
@@ -57,19 +59,6 @@ constexpr Texte3 OuvertureSuite{u". \r Format non reconnu ou fichier déja ouver
                                 u". \r Formato no reconocido o fichero déja abierto por otra aplicación.\r"
                                 u" - Abrir el fichero con Worpad.\r - Registrar el fichero al formato TXT.\r"
                                 u"  Quieren utilizar a WordPad para leer este fichero ?"};
-
-/// The names of the document, to go back to when a file cannot be opened or saved.
-struct Noms
-{
-    QString nom = NomFichier;
-    QString titre = TitreFichier;
-
-    void Remet() const
-    {
-        NomFichier = nom;
-        TitreFichier = titre;
-    }
-};
 
 /// True when a listing of chemin with plain-file attributes gives something: a file, or a folder with a final separator
 /// that holds one.
@@ -147,6 +136,7 @@ void Mnu_Nouveau()
                   Texte(NouveauTitre)))
         return;
     frmPrinc->Text1->setText(QString());
+    frmPrinc->Text1->show(); // a reception too large for it may have put the pane away
     frmPrinc->Mnu_Annuler->setEnabled(false);
     TitreFenetre(Texte(NomNouveau));
     FichierModifie = 0;
@@ -185,15 +175,14 @@ void Mnu_Ouvrir()
 
 void OuvreDocument(const QString &chemin)
 {
-    const Noms anciens;
-    NomFichier = chemin;
-    TitreFichier = NomSeul(chemin);
+    const QString ancienNom = std::exchange(NomFichier, chemin);
+    const QString ancienTitre = std::exchange(TitreFichier, NomSeul(chemin));
     try {
         OpenFile(chemin);
-        FichierModifie = 0;
     } catch (const Erreur &) {
         ProposeTraitementDeTexte();
-        anciens.Remet();
+        NomFichier = ancienNom;
+        TitreFichier = ancienTitre;
     }
 }
 
@@ -212,26 +201,24 @@ void OpenFile(const QString &path)
 void Mnu_EnregistrerSous()
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    const Noms anciens;
+    dialogue.FileName = NomFichier;
+    dialogue.InitDir = DosDefaut; // for a name without a folder; the last choice may have been a configuration's
+    dialogue.CancelError = true;
+    dialogue.DialogTitle = Texte(TitreEnregistrer);
+    dialogue.Filter = Texte(FiltreEnregistrer);
+    dialogue.FilterIndex = IndexFiltre;
+    dialogue.Flags = CommonDialog::EcrasementDemande;
     try {
-        dialogue.FileName = NomFichier;
-        dialogue.InitDir = DosDefaut; // for a name without a folder; the last choice may have been a configuration's
-        dialogue.CancelError = true;
-        dialogue.DialogTitle = Texte(TitreEnregistrer);
-        dialogue.Filter = Texte(FiltreEnregistrer);
-        dialogue.FilterIndex = IndexFiltre;
-        dialogue.Flags = CommonDialog::EcrasementDemande;
         dialogue.ShowSave();
-        NomFichier = dialogue.FileName;
-        TitreFichier = dialogue.FileTitle;
-        if (NomFichier.isEmpty())
-            return;
-        SaveFile(NomFichier);
-        frmPrinc->Mnu_EditProg->setEnabled(true);
     } catch (const Erreur &) {
-        // Cancelled, or told by SaveFile already: the document keeps the name of its former file.
-        anciens.Remet();
+        return; // cancelled
     }
+    // The text bears this name even when it cannot be written, of which SaveFile has told: what the program asks or
+    // offers next must not lead to the former file, which the operator wanted to keep.
+    NomFichier = dialogue.FileName;
+    TitreFichier = dialogue.FileTitle;
+    Saute([] { SaveFile(NomFichier); });
+    frmPrinc->Mnu_EditProg->setEnabled(true);
 }
 
 QString TexteNonEnregistre(const Erreur &erreur)

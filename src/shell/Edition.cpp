@@ -30,8 +30,9 @@ void Mnu_Edition()
 {
     const QMimeData *const copie = QGuiApplication::clipboard()->mimeData(); // nullptr when nothing was ever copied
     frmPrinc->Mnu_Coller->setEnabled(copie != nullptr && copie->hasText());
+    const bool choisi = frmPrinc->Text1->textCursor().hasSelection(); // its length takes time in a long program
     for (QAction *action : {frmPrinc->Mnu_Couper, frmPrinc->Mnu_Copier, frmPrinc->Mnu_Supprimer})
-        action->setEnabled(frmPrinc->Text1->SelLength() > 0);
+        action->setEnabled(choisi);
 }
 
 void Mnu_Annuler()

@@ -126,7 +126,7 @@ const Ecrivain Ecrivains[] = {
          a.Dit(NonEnregistre);
          Operateur::Menu("Mnu_EnregistrerSous");
          const QString nom = a.echoue ? u"P.iso"_s : a.fichier;
-         QCOMPARE(NomFichier + TitreFichier + frmPrinc->Label2->text(), a.Chemin(nom) + nom + nom);
+         QCOMPARE(NomFichier + TitreFichier + frmPrinc->Label2->text(), a.Chemin(a.fichier) + a.fichier + nom);
          QVERIFY(frmPrinc->windowTitle().endsWith(a.Chemin(nom)) && FichierModifie == (a.echoue ? Vrai : 0));
      }},
     {"new", "P.iso", [](Atelier &a) { a.Garde([] { Operateur::Menu("Mnu_Nouveau"); }); }},

@@ -123,7 +123,7 @@ private Q_SLOTS:
         for (QStringList c : Table(u"explorateur.tsv"_s)) {
             Atelier atelier;
             QDir::setCurrent(atelier.Dossier());
-            QDir().mkdir(u"Vide"_s);
+            QDir().mkdir(u"R&D"_s);
             const QStringList programmes = atelier.Programmes();
             c.replaceInStrings(u"%1"_s, atelier.Dossier());
             FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;

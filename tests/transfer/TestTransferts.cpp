@@ -385,7 +385,7 @@ void TestTransferts::TropDeLignes()
 }
 
 // A file that is too large for the pane stands whole on the disk; the pane gives way to the word processor, which is
-// offered at the end and once more when the dialog closes.
+// offered at the end and once more when the dialog closes. A new program brings the pane back.
 void TestTransferts::TropGrand()
 {
     EssaiTransfert essai(Genre::Ligne);
@@ -401,6 +401,9 @@ void TestTransferts::TropGrand()
     QCOMPARE(essai.Disque(), programme + "\r\n");
     QVERIFY(frmPrinc->Text1->isHidden() && frmPrinc->Text1->Text().isEmpty());
     QCOMPARE(NomFichier, essai.poste.Chemin("PIECE.ISO"));
+    essai.pilote.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
+    Operateur::Menu("Mnu_Nouveau");
+    QVERIFY(frmPrinc->Text1->isVisible());
 }
 
 // Cancelled in the very moment in which the end has come: nothing is stored, and the file dialog waits for another try.
