@@ -150,11 +150,12 @@ void AttendFichier(Ui::Em_Rc &dialogue)
 
 void TermineFichier(Ui::Em_Rc &dialogue)
 {
-    AcheveReception(dialogue);
+    RendFinTransfert(dialogue);
     if (ParamCom.Echo == 1) {
         PoseTexte(dialogue.Label3, Termine3);
         PoseTexte(dialogue.Label4, Termine4);
     }
+    AcheveReception(dialogue);
     frmPrinc->Text2->hide();
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
     // A file that was too large to be shown may have hidden the pane and its commands.
