@@ -13,7 +13,6 @@
 #include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
-#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/FichierRecu.h"
@@ -155,7 +154,7 @@ QString Seance::RecoitSalve()
         if (lu != cloche)
             recu += lu;
         if (ParamCom.Echo == 1)
-            m_dialogue.Label3->setText(ControlesVisibles(recu));
+            EcritEcho(*m_dialogue.Label3, recu);
     }
 }
 

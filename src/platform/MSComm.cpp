@@ -364,7 +364,6 @@ void MSComm::ReprendRecolte()
     FreineMachine();
 }
 
-/// A full buffer counts as the threshold reached: no more can come before something is read.
 bool MSComm::SeuilReceptionAtteint() const
 {
     return m_rThreshold > 0 && m_recus.size() >= std::min(m_rThreshold, TailleReception());

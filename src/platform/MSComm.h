@@ -182,6 +182,9 @@ public:
     /// Received characters that raise event 2, and level of the queue below which event 1 comes; 0: no event.
     int RThreshold() const { return m_rThreshold; }
     void setRThreshold(int seuil);
+    /// Whether as many characters wait as raise event 2. A full receive buffer is always enough: no more can come
+    /// before something is read.
+    bool SeuilReceptionAtteint() const;
     int SThreshold() const { return m_sThreshold; }
     void setSThreshold(int seuil);
 
@@ -244,7 +247,6 @@ private:
     void FreineMachine();
     void Range(const LectureLigne &lecture);
     void ReprendRecolte();
-    bool SeuilReceptionAtteint() const;
     void ControleSeuilReception();
 
     void Surveille();

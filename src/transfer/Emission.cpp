@@ -8,7 +8,6 @@
 #include "platform/Erreur.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
-#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Avancement.h"
 #include "transfer/PortCom.h"
@@ -175,7 +174,7 @@ void Emission::Montre()
     if (m_statut != nullptr)
         PoseTexte(m_dialogue.Label2, *m_statut, m_suite);
     if (m_echo)
-        m_dialogue.Label3->setText(ControlesVisibles(*m_echo));
+        EcritEcho(*m_dialogue.Label3, *m_echo);
     m_statut = nullptr;
     m_echo.reset();
     m_rythme.Note();

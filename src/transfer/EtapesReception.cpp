@@ -32,13 +32,17 @@ void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre)
     PoseTexte(dialogue.Label2, EnAttente);
 }
 
+void RendFinTransfert(Ui::Em_Rc &dialogue)
+{
+    if (!Controle().PortOpen())
+        return;
+    frmPrinc->shpSend->setFillColor(Lampe::Verte);
+    Controle().Output(ParamCom.ChaineFinTrans);
+    PoseTexte(dialogue.Label2, FinDetectee);
+}
+
 void AcheveReception(Ui::Em_Rc &dialogue)
 {
-    if (Controle().PortOpen()) {
-        frmPrinc->shpSend->setFillColor(Lampe::Verte);
-        Controle().Output(ParamCom.ChaineFinTrans);
-        PoseTexte(dialogue.Label2, FinDetectee);
-    }
     Controle().ViderEmission();
     FermePortCOM(dialogue);
     frmPrinc->EteintTransfert();

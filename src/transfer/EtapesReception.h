@@ -13,8 +13,11 @@ class Em_Rc;
 /// says that the machine is awaited.
 void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre);
 
-/// The end has come: the machine gets its end-of-transfer string back, unless it holds the line, and the port closes.
-/// Raises what the control raises.
+/// The end has come: the machine is to get its end-of-transfer string back. Raises what the control raises.
+void RendFinTransfert(Ui::Em_Rc &dialogue);
+
+/// Gives that string its line time, unless the machine holds the line, and closes the port. Raises what the control
+/// raises.
 void AcheveReception(Ui::Em_Rc &dialogue);
 
 /// The reception has failed: tells the operator, closes the port, and offers to save recu, what had come, elsewhere.

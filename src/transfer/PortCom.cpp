@@ -7,6 +7,7 @@
 #include "platform/Boites.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
+#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "ui_Em_Rc.h"
 
@@ -178,6 +179,13 @@ void MontreLabelsEcho(Ui::Em_Rc &dialogue)
 {
     dialogue.Label3->setVisible(ParamCom.Echo == 1);
     dialogue.Label4->setVisible(ParamCom.Echo == 1);
+}
+
+void EcritEcho(QLabel &label, const QString &texte)
+{
+    // A program without the line ends of the configuration is one line, and laying it out would hold up its transfer.
+    constexpr int place = 2000; // characters
+    label.setText(ControlesVisibles(texte.left(place)));
 }
 
 void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue)

@@ -5,6 +5,7 @@
 #include <QString>
 
 class MSComm;
+class QLabel;
 class QPushButton;
 namespace Ui {
 class Em_Rc;
@@ -34,6 +35,10 @@ void BoutonFermer(QPushButton &bouton);
 
 /// Label3 and Label4 of the dialog are shown if the configuration asks for the echo.
 void MontreLabelsEcho(Ui::Em_Rc &dialogue);
+
+/// Shows texte in one of them, with the names of its control characters: of a long one the beginning, beyond which the
+/// label has no room.
+void EcritEcho(QLabel &label, const QString &texte);
 
 /// What the operator reads for an error of the serial control: our text, or the platform's for a number without one.
 QString TexteErreurPort(const Erreur &erreur);

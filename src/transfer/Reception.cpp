@@ -8,7 +8,6 @@
 #include "platform/Erreur.h"
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
-#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
@@ -89,8 +88,8 @@ void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
 {
     if (ParamCom.Echo != 1)
         return;
-    m_dialogue.Label3->setText(ControlesVisibles(ligne));
-    m_dialogue.Label4->setText(ControlesVisibles(lu.right(ParamCom.ChaineFinLig.size())));
+    EcritEcho(*m_dialogue.Label3, ligne);
+    EcritEcho(*m_dialogue.Label4, lu.right(ParamCom.ChaineFinLig.size()));
 }
 
 bool Remplissage::EchoSuperflu()
@@ -106,6 +105,7 @@ void Remplissage::Termine()
     Controle().ViderReception();
     FinTransfert = 1;
     NbLignes = m_compteur;
+    RendFinTransfert(m_dialogue);
     AcheveReception(m_dialogue);
     Ligne.clear();
     EcritFichierRecu(Recu());

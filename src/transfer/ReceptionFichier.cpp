@@ -44,20 +44,32 @@ constexpr Texte3 AttenteFin{u"En attente du caractère de fin de transfert...",
 Ui::Em_Rc *enAttente = nullptr; // dialog of the reception that waits for its events
 bool enRecolte = false;         // that reception is being gathered further down the stack
 
-/// Takes what waits into Text2. A closed port gives nothing; a device that has gone ends the gathering, and the routine
-/// below meets the same failure and tells it.
+/// Takes what one reading gives into Text2. A closed port gives nothing; a device that has gone ends the gathering, and
+/// the routine below meets the same failure and tells it.
 bool Prend()
 {
     try {
-        for (QString lu = Controle().Input(); !lu.isEmpty(); lu = Controle().Input())
-            frmPrinc->Text2->Ajoute(lu);
+        frmPrinc->Text2->Ajoute(Controle().Input());
     } catch (const Erreur &erreur) {
         return erreur.Numero() != ErreurPort::Lecture;
     }
     return true;
 }
 
-void MontrePasse(Ui::Em_Rc &dialogue, int passe)
+bool CaracteresEnAttente()
+{
+    int nombre = 0;
+    Saute([&nombre] { nombre = Controle().InBufferCount(); });
+    return nombre > 0;
+}
+
+void PrendReste()
+{
+    while (CaracteresEnAttente())
+        Prend();
+}
+
+void MontrePasse(Ui::Em_Rc &dialogue, qint64 passe)
 {
     PoseTexte(dialogue.Label2, EnCoursPasse, QString::number(passe));
     if (ParamCom.Echo != 1)
@@ -78,11 +90,12 @@ bool FinTrouvee()
 
 void Recolte(Ui::Em_Rc &dialogue)
 {
+    frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     Prend();
     PoseTexte(dialogue.Label2, EnCours);
     RythmeAffichage rythme;
     bool vivante = true;
-    int passe = 0;
+    qint64 passe = 0;
     do {
         ++passe;
         CedeLaMain();
@@ -91,7 +104,10 @@ void Recolte(Ui::Em_Rc &dialogue)
             rythme.Note();
         }
         vivante = Prend();
-    } while (!FinTrouvee() && vivante && AnnuleRECEPT != 1 && ForceRECEPT != 1);
+        // The end is looked for behind each reading, since what the machine sends behind it would hide it.
+        while (!FinTrouvee() && CaracteresEnAttente())
+            Prend();
+    } while (FinTransfert != 1 && vivante && AnnuleRECEPT != 1 && ForceRECEPT != 1);
     MontrePasse(dialogue, passe);
     if (AnnuleRECEPT == 1)
         CoupePortCOM(dialogue);
@@ -117,7 +133,7 @@ void AttendFichier(Ui::Em_Rc &dialogue)
             return;
         if (ForceRECEPT == 1) {
             // What is too little to raise an event has come all the same.
-            Prend();
+            PrendReste();
             Controle().ViderReception();
             FinTrouvee();
             FinTransfert = 1;
@@ -127,18 +143,19 @@ void AttendFichier(Ui::Em_Rc &dialogue)
             continue;
         Controle().ExigeVivant();
         // The event of characters that came before this wait has gone by.
-        if (ParamCom.SeuilRecep > 0 && Controle().InBufferCount() >= ParamCom.SeuilRecep)
+        if (Controle().SeuilReceptionAtteint())
             RecolteFichier();
     }
 }
 
 void TermineFichier(Ui::Em_Rc &dialogue)
 {
-    AcheveReception(dialogue);
+    RendFinTransfert(dialogue);
     if (ParamCom.Echo == 1) {
         PoseTexte(dialogue.Label3, Termine3);
         PoseTexte(dialogue.Label4, Termine4);
     }
+    AcheveReception(dialogue);
     frmPrinc->Text2->hide();
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
     // A file that was too large to be shown may have hidden the pane and its commands.
@@ -182,7 +199,8 @@ void ReceptionFichier(Ui::Em_Rc &dialogue)
         else
             TermineFichier(dialogue);
     } catch (const Erreur &erreur) {
-        Prend();
+        if (FinTransfert != 1)
+            PrendReste();
         EchoueReception(erreur, dialogue, frmPrinc->Text2->Text());
     }
 }

@@ -259,7 +259,7 @@ void TestTransferts::Receptions()
     const QByteArray avale = QByteArray(sansFin).replace('\r', "").replace("\n", "\r\n");
     const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
     const QByteArray milieu = "A\x04 B\r\n";
-    // type of line end; what the operator has added to each
+    // type of line end, by file size of a reading; what the operator has added to each line
     const std::tuple<Genre, int, int, QByteArray, QByteArray> cas[] = {
         {lignes, 3, 0, "", "\r\n"},
         {lignes, 3, 0, deux, deux + "\r\n"},
@@ -271,18 +271,19 @@ void TestTransferts::Receptions()
         {caracteres, 4, 0, "A\r\r\nB\r\r\n", "A\r\nB\r\n\r\n"}, // a chain of the operator's own
         {caracteres, 3, 0, "A\r\n" + milieu, "A\r\n\r\n"},
         {caracteres, 3, 0, sansFin + "\r\n", avale + "\r\n\r\n"},
-        {fichier, 3, 0, "", "\r\n"},
-        {fichier, 3, 0, milieu + tous, milieu + tous + "\r\n"}};
-    for (const auto &[genre, finLigne, option, envoye, attendu] : cas) {
+        {fichier, 512, 0, "", "\r\n"},
+        {fichier, 512, 0, milieu + tous, milieu + tous + "\r\n"},
+        {fichier, 1, 0, milieu, "A\r\n"}}; // read so, it stands at the end of what has come
+    for (const auto &[genre, finOuLecture, option, envoye, attendu] : cas) {
         EssaiTransfert essai(genre);
         ParamCom.Echo = 1;
-        ParamCom.TypeFinLig = finLigne;
+        const bool parFichier = genre == fichier;
+        (parFichier ? ParamCom.NbCarLecture : ParamCom.TypeFinLig) = finOuLecture;
         ParamCom.FinLigRecep = option;
         ParamCom.NbCarFinLig = 3;
         ParamCom.CarFinLig = {0, 13, 13, 10};
         BatirChaines();
         essai.charge.pieces = ParLignes(envoye) << FinTrans;
-        const bool parFichier = genre == fichier;
         essai.pilote.Fait(
             Dialogue,
             [parFichier](QWidget &) { QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s); },
