@@ -306,9 +306,9 @@ private Q_SLOTS:
                 const QString nom = libre ? u"Command6"_s : geste.startsWith(u'C') ? geste : u"Car_"_s + geste;
                 dialogue.findChild<QPushButton *>(nom)->click();
             }
-            QCOMPARE(ChaineCarFinLig(), chaine);
+            QCOMPARE(CaracteresDe(ChaineLigne), chaine);
             ParamCom.NbCarFinLig = 100;
-            QCOMPARE(ChaineCarFinLig(), chaine.leftJustified(100, QChar()));
+            QCOMPARE(CaracteresDe(ChaineLigne), chaine.leftJustified(100, QChar()));
             QCOMPARE(dialogue.Label1->text(), libelle);
             QCOMPARE(dialogue.Command3->isEnabled(), annulable);
         }
