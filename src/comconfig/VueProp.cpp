@@ -204,7 +204,7 @@ void BrancheOptions(const Ui::Prop &dialogue)
             // Also on the option that stands there already: the record may hold a value that no option shows.
             QObject::connect(bouton, &QRadioButton::clicked, bouton, choisit);
         }
-        if (groupe.suite == MontreFinTrans || groupe.suite == MontreFinLig)
+        if (groupe.suite != nullptr)
             groupe.suite(dialogue, Selection(dialogue, groupe.boutons));
     }
 }

@@ -13,7 +13,8 @@ class Prop;
 /// Fills the lists, in their order; each port says which device of this PC it stands for.
 void RemplitListes(const Ui::Prop &dialogue);
 
-/// From now on a click on an option writes its number to its field; the group's other controls follow.
+/// From now on a click on an option writes its number to its field; the group's other controls follow, and do so at
+/// once for the option that stands there.
 void BrancheOptions(const Ui::Prop &dialogue);
 
 /// The options that only the opening shows, FinLigRecep and TypeEnvoi.
