@@ -11,9 +11,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSpacerItem>
+#include <QTimer>
 
 #include <algorithm>
-#include <QTimer>
 
 namespace {
 

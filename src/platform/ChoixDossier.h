@@ -5,6 +5,6 @@
 class QWidget;
 
 /// Asks the operator for a folder of the disk, in a dialog owned by fenetre, which opens on depart (the current folder
-/// where that is "" or has gone). The result is its path without a final
-/// separator, but for a root; "" when nothing was chosen.
+/// where that is "" or has gone). The result is its path without a final separator, but for a root; "" when nothing was
+/// chosen.
 QString ChoixDossier(QWidget *fenetre, const QString &depart = QString());
