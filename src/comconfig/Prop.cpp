@@ -101,6 +101,15 @@ bool SansChiffre(const QString &frappe)
     return std::any_of(frappe.begin(), frappe.end(), [](QChar c) { return c.isPrint() && (c < u'0' || c > u'9'); });
 }
 
+/// True for a key that would put something else than a digit into a box. With Ctrl a key is a command, whatever
+/// character some systems say it has; with Ctrl and Alt it is a character again.
+bool EcritAutreChose(const QKeyEvent &touche)
+{
+    const bool commande =
+        touche.modifiers().testFlag(Qt::ControlModifier) && !touche.modifiers().testFlag(Qt::AltModifier);
+    return !commande && SansChiffre(touche.text());
+}
+
 } // namespace
 
 Prop::Prop(QWidget *parent)
@@ -204,7 +213,7 @@ void Prop::changeEvent(QEvent *evenement)
 bool Prop::eventFilter(QObject *objet, QEvent *evenement)
 {
     if (evenement->type() == QEvent::KeyPress)
-        return SansChiffre(static_cast<QKeyEvent *>(evenement)->text());
+        return EcritAutreChose(*static_cast<QKeyEvent *>(evenement));
     if (evenement->type() == QEvent::InputMethod)
         return SansChiffre(static_cast<QInputMethodEvent *>(evenement)->commitString());
     return QDialog::eventFilter(objet, evenement);

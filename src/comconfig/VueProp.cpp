@@ -3,6 +3,7 @@
 #include "comconfig/ParamCom.h"
 #include "comconfig/PortsPC.h"
 #include "locale/Langue.h"
+#include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
 #include "shell/Reglages.h"
 #include "ui_Prop.h"
@@ -225,7 +226,7 @@ void ParamDefaut(const Ui::Prop &dialogue)
     dialogue.LabelFinTrans->MontreChaine(ParamCom.LibFinTrans);
     dialogue.LabelFinLigne->MontreChaine(ParamCom.LibFinLig);
     for (const CaseNombre &champ : CasesNombre)
-        (dialogue.*champ.boite)->setText(QString::number(ParamCom.*champ.champ));
+        MontreEnEntier(dialogue.*champ.boite, QString::number(ParamCom.*champ.champ));
     dialogue.Text3->setText(ParamCom.CarRemplace);
     for (const Groupe &groupe : Groupes) {
         if (groupe.champ != nullptr)

@@ -21,6 +21,12 @@ QValidator::State FiltreTouches::validate(QString &texte, int &curseur) const
     return Acceptable;
 }
 
+void MontreEnEntier(QLineEdit *saisie, const QString &texte)
+{
+    saisie->setMaxLength(std::max(saisie->maxLength(), static_cast<int>(texte.size())));
+    saisie->setText(texte);
+}
+
 void LimiteTouches(QLineEdit *saisie, const QString &motif)
 {
     saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));

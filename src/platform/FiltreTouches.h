@@ -24,5 +24,9 @@ private:
     QString m_interdits;
 };
 
+/// Shows texte in a box, whole: where it is longer than what the operator may type, the box takes that much from now on.
+/// A value of a file would otherwise be cut, and saved so.
+void MontreEnEntier(QLineEdit *saisie, const QString &texte);
+
 /// Keeps a text box to texts that match motif, a regular expression: a key that would break it is dropped.
 void LimiteTouches(QLineEdit *saisie, const QString &motif);
