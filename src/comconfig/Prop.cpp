@@ -11,6 +11,7 @@
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
 #include "platform/EntreeOptions.h"
+#include "platform/FiltreTouches.h"
 #include "platform/GardePlaces.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
@@ -18,9 +19,6 @@
 #include "transfer/PortCom.h"
 
 #include <QDir>
-#include <QKeyEvent>
-
-#include <algorithm>
 
 namespace {
 
@@ -96,20 +94,6 @@ void MontreErreur(const Erreur &erreur)
     MsgBox(texte, Boite::Exclamation, QString::fromUtf16(Programme));
 }
 
-bool SansChiffre(const QString &frappe)
-{
-    return std::any_of(frappe.begin(), frappe.end(), [](QChar c) { return c.isPrint() && (c < u'0' || c > u'9'); });
-}
-
-/// True for a key that would put something else than a digit into a box. With Ctrl a key is a command, whatever
-/// character some systems say it has; with Ctrl and Alt it is a character again.
-bool EcritAutreChose(const QKeyEvent &touche)
-{
-    const bool commande =
-        touche.modifiers().testFlag(Qt::ControlModifier) && !touche.modifiers().testFlag(Qt::AltModifier);
-    return !commande && SansChiffre(touche.text());
-}
-
 } // namespace
 
 Prop::Prop(QWidget *parent)
@@ -133,7 +117,7 @@ Prop::Prop(QWidget *parent)
 void Prop::BrancheCommandes()
 {
     for (QLineEdit *const boite : {Text2, Text4, Text5, Text6, Text7, Text8})
-        boite->installEventFilter(this);
+        FiltreChiffres(boite);
     connect(cboPort, &QComboBox::currentIndexChanged, cboPort,
             [this](int place) { cboPort->setToolTip(cboPort->itemData(place, Qt::ToolTipRole).toString()); });
     connect(cmdOK, &QPushButton::clicked, this, &Prop::cmdOK_Click);
@@ -207,16 +191,6 @@ void Prop::changeEvent(QEvent *evenement)
     if (evenement->type() == QEvent::LanguageChange)
         cboSpeed->setAccessibleName(Frame1->title());
     QDialog::changeEvent(evenement);
-}
-
-/// Nothing but digits can be typed into the boxes of numbers.
-bool Prop::eventFilter(QObject *objet, QEvent *evenement)
-{
-    if (evenement->type() == QEvent::KeyPress)
-        return EcritAutreChose(*static_cast<QKeyEvent *>(evenement));
-    if (evenement->type() == QEvent::InputMethod)
-        return SansChiffre(static_cast<QInputMethodEvent *>(evenement)->commitString());
-    return QDialog::eventFilter(objet, evenement);
 }
 
 void Prop::cmdOK_Click()
