@@ -195,7 +195,7 @@ void Prop::changeEvent(QEvent *evenement)
 
 void Prop::cmdOK_Click()
 {
-    EnAttente erreur = PrendControles(*this);
+    ErreurEnAttente erreur = PrendControles(*this);
     AppliqueAuPort(erreur);
     if (erreur) {
         MontreErreur(*erreur);

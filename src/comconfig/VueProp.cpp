@@ -254,7 +254,7 @@ std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue)
     QList<CaseNombre> cases(std::begin(CasesNombre), std::end(CasesNombre));
     cases << CaseTaille;
     for (const CaseNombre &champ : std::as_const(cases)) {
-        EnAttente refus;
+        ErreurEnAttente refus;
         Tente(refus, [&] { NombreSaisi(dialogue, champ); });
         if (refus)
             return SaisieRefusee{dialogue.*champ.boite, refus->Description()};
@@ -262,7 +262,7 @@ std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue)
     return std::nullopt;
 }
 
-EnAttente PrendControles(const Ui::Prop &dialogue)
+ErreurEnAttente PrendControles(const Ui::Prop &dialogue)
 {
     if (dialogue.cboPort->currentIndex() >= 0)
         ParamCom.NumPort = dialogue.cboPort->currentIndex() + 1;
@@ -276,7 +276,7 @@ EnAttente PrendControles(const Ui::Prop &dialogue)
     ParamCom.CarRemplace = SansBlancs(dialogue.Text3->text());
     ParamCom.DosRecep = dialogue.Label17->text();
     ParamCom.FinLigRecep = Selection(dialogue, FinReception);
-    EnAttente refus;
+    ErreurEnAttente refus;
     for (const CaseNombre &champ : CasesNombre)
         Tente(refus, [&] { PrendNombre(dialogue, champ); });
     return refus;

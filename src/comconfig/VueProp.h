@@ -1,6 +1,8 @@
 #pragma once
 
-#include "comconfig/ApplicationPort.h"
+#include "platform/Erreur.h"
+
+#include <optional>
 
 class QLineEdit;
 
@@ -39,7 +41,7 @@ std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue);
 
 /// Takes lists and boxes into the record. A number that does not fit leaves its field as it was and is the failure that
 /// stays pending. A list in which nothing is chosen leaves its field as it was too.
-EnAttente PrendControles(const Ui::Prop &dialogue);
+ErreurEnAttente PrendControles(const Ui::Prop &dialogue);
 
 /// Takes what only a saving takes: TailleRecep and TypeEnvoi. Raises Depassement, which NombreTropGrand foretells.
 void PrendTransferts(const Ui::Prop &dialogue);

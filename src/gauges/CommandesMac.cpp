@@ -18,22 +18,18 @@ void Mn_CreeConfMac()
 void Mn_ModifConfMac()
 {
     AppliqueLangue();
-    try {
+    Saute([] {
         DemandeFichierMac();
         ConfMac(frmPrinc, NomCompletMac).exec();
-    } catch (const Erreur &) {
-        // Cancelled, or no machine configuration: nothing opens.
-    }
+    });
 }
 
 void ModifieConfMac(const QString &chemin)
 {
     NomCompletMac = chemin;
     NomMac = NomSeul(chemin);
-    try {
+    Saute([] {
         LitMac(NomCompletMac);
         ConfMac(frmPrinc, NomCompletMac).exec();
-    } catch (const Erreur &) {
-        // No machine configuration.
-    }
+    });
 }
