@@ -18,18 +18,22 @@ void Mn_CreeConfMac()
 void Mn_ModifConfMac()
 {
     AppliqueLangue();
-    Saute([] {
+    try {
         DemandeFichierMac();
         ConfMac(frmPrinc, NomCompletMac).exec();
-    });
+    } catch (const Erreur &) {
+        // Cancelled, or no machine configuration: nothing opens.
+    }
 }
 
 void ModifieConfMac(const QString &chemin)
 {
     NomCompletMac = chemin;
     NomMac = NomSeul(chemin);
-    Saute([] {
+    try {
         LitMac(NomCompletMac);
         ConfMac(frmPrinc, NomCompletMac).exec();
-    });
+    } catch (const Erreur &) {
+        // No machine configuration.
+    }
 }
