@@ -7,7 +7,7 @@
 
 namespace {
 
-void DeplacePort(MSComm &controle, EnAttente &enAttente)
+void DeplacePort(MSComm &controle, ErreurEnAttente &enAttente)
 {
     const int ancien = controle.CommPort();
     const bool ouvert = controle.PortOpen();
@@ -26,7 +26,7 @@ void DeplacePort(MSComm &controle, EnAttente &enAttente)
 
 } // namespace
 
-void AppliqueAuPort(EnAttente &enAttente)
+void AppliqueAuPort(ErreurEnAttente &enAttente)
 {
     MSComm &controle = *frmPrinc->MSComm1;
     if (controle.CommPort() != ParamCom.NumPort) {

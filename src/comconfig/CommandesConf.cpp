@@ -47,11 +47,10 @@ constexpr MessagePar MessageB{
      u"File of configuration of former version !\rModify to record some again.",
      u"Fichero de configuración de versión previa !\rModificarse registrar de nuevo."}};
 
-/// Asks for a .par file, first in dossier; FicConf and NomConf then name the choice. Raises DialogueAnnule.
-void DemandeFichierPar(const QString &dossier, const Texte3 &filtre = FiltrePar)
+void NommeConfiguration(const QString &fichier)
 {
-    FicConf = ChoisitFichierPar(dossier, filtre);
-    NomConf = NomSeul(FicConf);
+    FicConf = fichier;
+    NomConf = NomSeul(fichier);
 }
 
 void MontreConfiguration()
@@ -65,7 +64,7 @@ void MetEnService()
 {
     LireFichierPar(FicConf);
     frmPrinc->ActiveReception();
-    frmPrinc->ActiveEmission(!NomFichier.isEmpty() && !FicConf.isEmpty());
+    frmPrinc->ActiveEmission(!NomFichier.isEmpty());
     MontreConfiguration();
     BatirChaines();
 }
@@ -77,7 +76,7 @@ void PrepareModification()
     for (QAction *entree : {frmPrinc->Mnu_RecepProg, frmPrinc->Mnu_RecepJauge, frmPrinc->Mnu_RecepBanc})
         entree->setEnabled(true);
     frmPrinc->Mnu_Transfert->setEnabled(true);
-    const bool emission = !NomFichier.isEmpty() && !FicConf.isEmpty();
+    const bool emission = !NomFichier.isEmpty();
     for (QAction *entree : {frmPrinc->Mnu_EmisProgCN, frmPrinc->Mnu_EmisJauge})
         entree->setEnabled(emission);
     if (emission)
@@ -148,20 +147,13 @@ void ConfDefaut(const QString &fichier)
 void Mnu_ChargeConf()
 {
     AppliqueLangue();
-    try {
-        QDir::setCurrent(DosAppli);
-        DemandeFichierPar(DosConf);
-        if (!FicConf.isEmpty())
-            MetEnService();
-    } catch (const Erreur &erreur) {
-        MontreEchec(erreur, MessageA);
-    }
+    QDir::setCurrent(DosAppli);
+    Saute([] { ChargeConf(ChoisitFichierPar(DosConf)); }); // the choice given up
 }
 
 void ChargeConf(const QString &fichier)
 {
-    FicConf = fichier;
-    NomConf = NomSeul(FicConf);
+    NommeConfiguration(fichier);
     try {
         MetEnService();
     } catch (const Erreur &erreur) {
@@ -183,9 +175,8 @@ void Mnu_ModifConf()
 {
     AppliqueLangue();
     try {
-        DemandeFichierPar(DosConf, FiltreParModif);
-        if (!FicConf.isEmpty())
-            PrepareModification();
+        NommeConfiguration(ChoisitFichierPar(DosConf, FiltreParModif));
+        PrepareModification();
     } catch (const Erreur &erreur) {
         MontreEchec(erreur, MessageA);
         if (erreur.Numero() == Erreur::DialogueAnnule)
@@ -208,9 +199,7 @@ void Mnu_DosRecep()
 void ChargeAutreConfiguration(const std::function<void()> &montre)
 {
     try {
-        DemandeFichierPar(DosAppli);
-        if (FicConf.isEmpty())
-            return;
+        NommeConfiguration(ChoisitFichierPar(DosAppli));
         LireFichierPar(FicConf);
         MontreConfiguration();
         BatirChaines();

@@ -39,7 +39,7 @@ DosProg::DosProg(TypeDossier type, QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     MontreNouveau(false);
-    Text1->setValidator(new FiltreTouches(QString::fromUtf16(InterditsNom), Text1));
+    FiltreNom(Text1);
     Form_Load();
     connect(FolderTreeview1, &FolderTreeview::SelectionChange, this, &DosProg::FolderTreeview1_SelectionChange);
     connect(Command1, &QPushButton::clicked, this, &DosProg::Command1_Click);

@@ -1,25 +1,11 @@
 #include "comconfig/FrmCaract.h"
 
-#include "comconfig/ParamCom.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/PageCode1252.h"
 
 namespace {
-
-using C = ConfigurationCom;
-
-/// A chain: its count and its codes.
-struct Chaine
-{
-    int C::*nombre;
-    C::Codes C::*codes;
-};
-
-// By TypeChaine.
-constexpr Chaine Chaines[] = {
-    {&C::NbCarDebProg, &C::CarDebProg}, {&C::NbCarFinLig, &C::CarFinLig}, {&C::NbCarFinTrans, &C::CarFinTrans}};
 
 constexpr int NombreCaracteres = 128;
 constexpr int ParRangee = 16; // one row for each first digit of the code in base 16, as tables of characters have it
@@ -147,7 +133,7 @@ int &FrmCaract::Code(int position) const
 
 void FrmCaract::Ajoute(int code, const QString &legende)
 {
-    if (Nombre() >= C::CapaciteChaine)
+    if (Nombre() >= ConfigurationCom::CapaciteChaine)
         return;
     Code(++Nombre()) = code;
     m_precedent = Label1->text();
@@ -167,7 +153,7 @@ void FrmCaract::Command6_Click()
 /// otherwise closes.
 void FrmCaract::SuitChaine()
 {
-    const bool place = Nombre() < C::CapaciteChaine;
+    const bool place = Nombre() < ConfigurationCom::CapaciteChaine;
     for (QPushButton *const bouton : std::as_const(m_caracteres))
         bouton->setEnabled(place);
     Command6->setEnabled(place && !Text1->text().isEmpty() && EstEn1252(Text1->text().at(0)));

@@ -1,16 +1,10 @@
 #pragma once
 
+#include "comconfig/ParamCom.h"
 #include "ui_FrmCaract.h"
 
 #include <QDialog>
 #include <QList>
-
-/// The chains of ParamCom that the operator composes.
-enum TypeChaine {
-    ChaineDebut = 0,    ///< beginning of program
-    ChaineLigne = 1,    ///< end of line
-    ChaineTransfert = 2 ///< end of transfer
-};
 
 /// The modal dialog in which the operator composes a chain, one click for each character: controls expect characters
 /// there that no keyboard has. Each click changes the codes in ParamCom at once; Label1 is the chain's label, which

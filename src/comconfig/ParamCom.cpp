@@ -50,44 +50,22 @@ constexpr Champ Champs[] = {
     Chaine(&C::LibFinLig),    Chaine(&C::LibFinTrans),       Nombre(&C::NbCarDebProg),     Nombre(&C::NbCarFinLig),
     Nombre(&C::NbCarFinTrans)};
 
-/// A chain: its count and its codes.
-struct Suite
-{
-    int ConfigurationCom::*nombre;
-    ConfigurationCom::Codes ConfigurationCom::*codes;
-};
-
-constexpr Suite DebProg{&C::NbCarDebProg, &C::CarDebProg};
-constexpr Suite FinLig{&C::NbCarFinLig, &C::CarFinLig};
-constexpr Suite FinTrans{&C::NbCarFinTrans, &C::CarFinTrans};
-
-// In the order in which the file holds their codes.
-constexpr Suite Suites[] = {DebProg, FinLig, FinTrans};
-
 /// Whatever a file holds, no count of the record reaches beyond its chain.
 void TientNombres()
 {
-    for (const Suite &suite : Suites)
-        ParamCom.*suite.nombre = std::clamp(ParamCom.*suite.nombre, 0, ConfigurationCom::CapaciteChaine);
+    for (const ChampsChaine &chaine : Chaines)
+        ParamCom.*chaine.nombre = std::clamp(ParamCom.*chaine.nombre, 0, C::CapaciteChaine);
 }
 
-QString Caracteres(const Suite &suite)
+void LisCodes(LecteurChamps &champs, const ChampsChaine &chaine)
 {
-    QByteArray octets;
-    for (int i = 1; i <= ParamCom.*suite.nombre; ++i)
-        octets += static_cast<char>((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);
-    return TexteDe1252(octets);
-}
-
-void LisSuite(LecteurChamps &champs, const Suite &suite)
-{
-    for (int i = 1; i <= ParamCom.*suite.nombre; ++i) {
-        if (i > ConfigurationCom::CapaciteChaine)
+    for (int i = 1; i <= ParamCom.*chaine.nombre; ++i) {
+        if (i > C::CapaciteChaine)
             throw Erreur(Erreur::IndiceHorsPlage, QStringLiteral("Subscript out of range"));
         const int code = champs.LigneEntier();
         if (code < 0 || code > CodeMax)
             throw Erreur(Erreur::Depassement, QString::number(code));
-        (ParamCom.*suite.codes)[static_cast<std::size_t>(i)] = code;
+        (ParamCom.*chaine.codes)[static_cast<std::size_t>(i)] = code;
     }
 }
 
@@ -96,10 +74,9 @@ QString LigneNombre(int nombre)
     return QString::number(nombre) + QStringLiteral("\r\n");
 }
 
-/// A double quote inside a text would end it for the reader and shift every field behind it; an apostrophe stands in.
-QString LigneChaine(QString texte)
+QString LigneChaine(const QString &texte)
 {
-    return u'"' + texte.replace(u'"', u'\'') + QStringLiteral("\"\r\n");
+    return ValeurEntreGuillemets(texte) + QStringLiteral("\r\n");
 }
 
 } // namespace
@@ -114,8 +91,8 @@ void LireFichierPar(const QString &chemin)
         else
             ParamCom.*champ.nombre = champ.nombre == &C::Echo ? champs.LigneOuiNon() : champs.LigneEntier();
     }
-    for (const Suite &suite : Suites)
-        LisSuite(champs, suite);
+    for (const ChampsChaine &chaine : Chaines)
+        LisCodes(champs, chaine);
     ParamCom.FinLigRecep = champs.LigneEntier();
     ParamCom.TypeEnvoi = champs.LigneEntier();
 }
@@ -125,9 +102,9 @@ void EcrireFichierPar(const QString &chemin)
     QString texte;
     for (const Champ &champ : Champs)
         texte += champ.texte != nullptr ? LigneChaine(ParamCom.*champ.texte) : LigneNombre(ParamCom.*champ.nombre);
-    for (const Suite &suite : Suites) {
-        for (int i = 1; i <= ParamCom.*suite.nombre; ++i)
-            texte += LigneNombre((ParamCom.*suite.codes)[static_cast<std::size_t>(i)]);
+    for (const ChampsChaine &chaine : Chaines) {
+        for (int i = 1; i <= ParamCom.*chaine.nombre; ++i)
+            texte += LigneNombre((ParamCom.*chaine.codes)[static_cast<std::size_t>(i)]);
     }
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
@@ -146,7 +123,7 @@ void BatirChaines()
         ParamCom.ChaineFinTrans = QLatin1Char(eot);
         break;
     case 2:
-        ParamCom.ChaineFinTrans = Caracteres(FinTrans);
+        ParamCom.ChaineFinTrans = CaracteresDe(ChaineTransfert);
         break;
     default:
         break;
@@ -155,17 +132,16 @@ void BatirChaines()
                                           QStringLiteral("\r\n")};
     constexpr int autre = 4;
     if (ParamCom.TypeFinLig == autre)
-        ParamCom.ChaineFinLig = Caracteres(FinLig);
+        ParamCom.ChaineFinLig = CaracteresDe(ChaineLigne);
     else if (ParamCom.TypeFinLig >= 0 && ParamCom.TypeFinLig < autre)
         ParamCom.ChaineFinLig = finsDeLigne[ParamCom.TypeFinLig];
 }
 
-QString ChaineDebProg()
+QString CaracteresDe(TypeChaine type)
 {
-    return Caracteres(DebProg);
-}
-
-QString ChaineCarFinLig()
-{
-    return Caracteres(FinLig);
+    const ChampsChaine &chaine = Chaines[type];
+    QByteArray octets;
+    for (int i = 1; i <= ParamCom.*chaine.nombre; ++i)
+        octets += static_cast<char>((ParamCom.*chaine.codes)[static_cast<std::size_t>(i)]);
+    return TexteDe1252(octets);
 }

@@ -56,6 +56,27 @@ struct ConfigurationCom
     QString ChaineFinLig;   ///< characters that end a line
 };
 
+/// The chains that the operator composes, in the order in which a file holds their codes.
+enum TypeChaine {
+    ChaineDebut = 0,    ///< beginning of program
+    ChaineLigne = 1,    ///< end of line
+    ChaineTransfert = 2 ///< end of transfer
+};
+
+/// A chain in the record: its count, its codes, its label.
+struct ChampsChaine
+{
+    int ConfigurationCom::*nombre;
+    ConfigurationCom::Codes ConfigurationCom::*codes;
+    QString ConfigurationCom::*libelle;
+};
+
+/// By TypeChaine.
+inline constexpr ChampsChaine Chaines[] = {
+    {&ConfigurationCom::NbCarDebProg, &ConfigurationCom::CarDebProg, &ConfigurationCom::LibDebProg},
+    {&ConfigurationCom::NbCarFinLig, &ConfigurationCom::CarFinLig, &ConfigurationCom::LibFinLig},
+    {&ConfigurationCom::NbCarFinTrans, &ConfigurationCom::CarFinTrans, &ConfigurationCom::LibFinTrans}};
+
 extern ConfigurationCom ParamCom; ///< the one configuration in force
 extern QString FicConf;           ///< full path of its .par file; "" when there is none
 extern QString NomConf;           ///< that file's name without its folder
@@ -72,6 +93,5 @@ void EcrireFichierPar(const QString &chemin);
 /// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.
 void BatirChaines();
 
-/// The characters CarDebProg(1) to CarDebProg(NbCarDebProg), CarFinLig(1) to CarFinLig(NbCarFinLig).
-QString ChaineDebProg();
-QString ChaineCarFinLig();
+/// The characters of a chain, whatever TypeFinLig and TypeFinTrans say.
+QString CaracteresDe(TypeChaine type);

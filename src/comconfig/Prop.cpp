@@ -11,6 +11,7 @@
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
 #include "platform/EntreeOptions.h"
+#include "platform/FiltreTouches.h"
 #include "platform/GardePlaces.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
@@ -18,9 +19,6 @@
 #include "transfer/PortCom.h"
 
 #include <QDir>
-#include <QKeyEvent>
-
-#include <algorithm>
 
 namespace {
 
@@ -45,39 +43,31 @@ constexpr char16_t FiltreEditeur[] = u"Fichiers EXE |*.exe|Fichiers COM |*.com|F
 #endif
     ;
 
-/// The button that opens the chooser on a chain, the label that shows it.
+/// The button that opens the chooser on a chain, and its title.
 struct EditionChaine
 {
     QPushButton *U::*bouton;
-    LabelChaine *U::*label;
     TypeChaine type;
-    QString ConfigurationCom::*libelle;
     Texte3 titre;
 };
 
-constexpr EditionChaine Chaines[] = {{&U::Command20,
-                                      &U::LabelFinTrans,
-                                      ChaineTransfert,
-                                      &ConfigurationCom::LibFinTrans,
-                                      {u"Affecter un caratère ou une chaîne de caratères de fin de transfert",
-                                       u"Affect a caratère or a chain of caratères of end of transfer",
-                                       u"Afectar del caratère o una cadena de caratères de final de transferencia"}},
-                                     {&U::Command21,
-                                      &U::LabelFinLigne,
-                                      ChaineLigne,
-                                      &ConfigurationCom::LibFinLig,
-                                      {u"Affecter un caratère ou une chaîne de caratères de fin de ligne",
-                                       u"Affect a caratère or a chain of caratères of end of line",
-                                       u"Afectar del caratère o una cadena de caratères de final de línea"}},
-                                     {&U::Command22,
-                                      &U::LabelDebProg,
-                                      ChaineDebut,
-                                      &ConfigurationCom::LibDebProg,
-                                      {u"Affecter un caratère ou une chaîne de caratères en début de programme",
-                                       u"Affect a caratère or a chain of caratères at the beginning of program",
-                                       u"Afectar del caratère o una cadena de caratères al principio de programa "}}};
+constexpr EditionChaine Editions[] = {{&U::Command20,
+                                       ChaineTransfert,
+                                       {u"Affecter un caratère ou une chaîne de caratères de fin de transfert",
+                                        u"Affect a caratère or a chain of caratères of end of transfer",
+                                        u"Afectar del caratère o una cadena de caratères de final de transferencia"}},
+                                      {&U::Command21,
+                                       ChaineLigne,
+                                       {u"Affecter un caratère ou une chaîne de caratères de fin de ligne",
+                                        u"Affect a caratère or a chain of caratères of end of line",
+                                        u"Afectar del caratère o una cadena de caratères de final de línea"}},
+                                      {&U::Command22,
+                                       ChaineDebut,
+                                       {u"Affecter un caratère ou une chaîne de caratères en début de programme",
+                                        u"Affect a caratère or a chain of caratères at the beginning of program",
+                                        u"Afectar del caratère o una cadena de caratères al principio de programa "}}};
 
-/// The button that opens the tree on a reception folder.
+/// The button that opens the tree on a reception folder, and its title.
 struct ChoixReception
 {
     QPushButton *U::*bouton;
@@ -104,11 +94,6 @@ void MontreErreur(const Erreur &erreur)
     MsgBox(texte, Boite::Exclamation, QString::fromUtf16(Programme));
 }
 
-bool SansChiffre(const QString &frappe)
-{
-    return std::any_of(frappe.begin(), frappe.end(), [](QChar c) { return c.isPrint() && (c < u'0' || c > u'9'); });
-}
-
 } // namespace
 
 Prop::Prop(QWidget *parent)
@@ -132,7 +117,7 @@ Prop::Prop(QWidget *parent)
 void Prop::BrancheCommandes()
 {
     for (QLineEdit *const boite : {Text2, Text4, Text5, Text6, Text7, Text8})
-        boite->installEventFilter(this);
+        FiltreChiffres(boite);
     connect(cboPort, &QComboBox::currentIndexChanged, cboPort,
             [this](int place) { cboPort->setToolTip(cboPort->itemData(place, Qt::ToolTipRole).toString()); });
     connect(cmdOK, &QPushButton::clicked, this, &Prop::cmdOK_Click);
@@ -146,12 +131,13 @@ void Prop::BrancheCommandes()
 /// The label that the chooser leaves fits the codes, however it was closed.
 void Prop::BrancheChaines()
 {
-    for (const EditionChaine &chaine : Chaines)
-        connect(this->*chaine.bouton, &QPushButton::clicked, this, [this, &chaine] {
-            FrmCaract dialogue(chaine.type, ParamCom.*chaine.libelle, this);
-            PoseTexte(&dialogue, chaine.titre);
+    for (const EditionChaine &edition : Editions)
+        connect(this->*edition.bouton, &QPushButton::clicked, this, [this, &edition] {
+            QString &libelle = ParamCom.*Chaines[edition.type].libelle;
+            FrmCaract dialogue(edition.type, libelle, this);
+            PoseTexte(&dialogue, edition.titre);
             dialogue.exec();
-            ParamCom.*chaine.libelle = dialogue.Label1->text();
+            libelle = dialogue.Label1->text();
             Form_Activate();
         });
 }
@@ -207,19 +193,9 @@ void Prop::changeEvent(QEvent *evenement)
     QDialog::changeEvent(evenement);
 }
 
-/// Nothing but digits can be typed into the boxes of numbers.
-bool Prop::eventFilter(QObject *objet, QEvent *evenement)
-{
-    if (evenement->type() == QEvent::KeyPress)
-        return SansChiffre(static_cast<QKeyEvent *>(evenement)->text());
-    if (evenement->type() == QEvent::InputMethod)
-        return SansChiffre(static_cast<QInputMethodEvent *>(evenement)->commitString());
-    return QDialog::eventFilter(objet, evenement);
-}
-
 void Prop::cmdOK_Click()
 {
-    EnAttente erreur = PrendControles(*this);
+    ErreurEnAttente erreur = PrendControles(*this);
     AppliqueAuPort(erreur);
     if (erreur) {
         MontreErreur(*erreur);
@@ -248,8 +224,7 @@ void Prop::Command1_Click()
         CommonDialog1->ShowSave();
         FicConf = CommonDialog1->FileName;
         NomConf = CommonDialog1->FileTitle;
-        if (!FicConf.isEmpty())
-            EcrireFichierPar(FicConf);
+        EcrireFichierPar(FicConf);
         Nomme(NomConf);
     });
 }

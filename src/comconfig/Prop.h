@@ -30,7 +30,6 @@ public:
 
 protected:
     void changeEvent(QEvent *evenement) override;
-    bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
     void Form_Load();

@@ -3,6 +3,7 @@
 #include "comconfig/ParamCom.h"
 #include "comconfig/PortsPC.h"
 #include "locale/Langue.h"
+#include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
 #include "shell/Reglages.h"
 #include "ui_Prop.h"
@@ -204,7 +205,7 @@ void BrancheOptions(const Ui::Prop &dialogue)
             // Also on the option that stands there already: the record may hold a value that no option shows.
             QObject::connect(bouton, &QRadioButton::clicked, bouton, choisit);
         }
-        if (groupe.suite == MontreFinTrans || groupe.suite == MontreFinLig)
+        if (groupe.suite != nullptr)
             groupe.suite(dialogue, Selection(dialogue, groupe.boutons));
     }
 }
@@ -225,7 +226,7 @@ void ParamDefaut(const Ui::Prop &dialogue)
     dialogue.LabelFinTrans->MontreChaine(ParamCom.LibFinTrans);
     dialogue.LabelFinLigne->MontreChaine(ParamCom.LibFinLig);
     for (const CaseNombre &champ : CasesNombre)
-        (dialogue.*champ.boite)->setText(QString::number(ParamCom.*champ.champ));
+        MontreEnEntier(dialogue.*champ.boite, QString::number(ParamCom.*champ.champ));
     dialogue.Text3->setText(ParamCom.CarRemplace);
     for (const Groupe &groupe : Groupes) {
         if (groupe.champ != nullptr)
@@ -253,7 +254,7 @@ std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue)
     QList<CaseNombre> cases(std::begin(CasesNombre), std::end(CasesNombre));
     cases << CaseTaille;
     for (const CaseNombre &champ : std::as_const(cases)) {
-        EnAttente refus;
+        ErreurEnAttente refus;
         Tente(refus, [&] { NombreSaisi(dialogue, champ); });
         if (refus)
             return SaisieRefusee{dialogue.*champ.boite, refus->Description()};
@@ -261,7 +262,7 @@ std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue)
     return std::nullopt;
 }
 
-EnAttente PrendControles(const Ui::Prop &dialogue)
+ErreurEnAttente PrendControles(const Ui::Prop &dialogue)
 {
     if (dialogue.cboPort->currentIndex() >= 0)
         ParamCom.NumPort = dialogue.cboPort->currentIndex() + 1;
@@ -275,7 +276,7 @@ EnAttente PrendControles(const Ui::Prop &dialogue)
     ParamCom.CarRemplace = SansBlancs(dialogue.Text3->text());
     ParamCom.DosRecep = dialogue.Label17->text();
     ParamCom.FinLigRecep = Selection(dialogue, FinReception);
-    EnAttente refus;
+    ErreurEnAttente refus;
     for (const CaseNombre &champ : CasesNombre)
         Tente(refus, [&] { PrendNombre(dialogue, champ); });
     return refus;

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "comconfig/ApplicationPort.h"
+#include "platform/Erreur.h"
+
+#include <optional>
 
 class QLineEdit;
 
@@ -13,7 +15,8 @@ class Prop;
 /// Fills the lists, in their order; each port says which device of this PC it stands for.
 void RemplitListes(const Ui::Prop &dialogue);
 
-/// From now on a click on an option writes its number to its field; the group's other controls follow.
+/// From now on a click on an option writes its number to its field; the group's other controls follow, and do so at
+/// once for the option that stands there.
 void BrancheOptions(const Ui::Prop &dialogue);
 
 /// The options that only the opening shows, FinLigRecep and TypeEnvoi.
@@ -38,7 +41,7 @@ std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue);
 
 /// Takes lists and boxes into the record. A number that does not fit leaves its field as it was and is the failure that
 /// stays pending. A list in which nothing is chosen leaves its field as it was too.
-EnAttente PrendControles(const Ui::Prop &dialogue);
+ErreurEnAttente PrendControles(const Ui::Prop &dialogue);
 
 /// Takes what only a saving takes: TailleRecep and TypeEnvoi. Raises Depassement, which NombreTropGrand foretells.
 void PrendTransferts(const Ui::Prop &dialogue);

@@ -16,7 +16,6 @@ constexpr Texte3 FiltreMac{u"Fichiers paramètres (*.mac)|*.MAC", u"Files parame
 constexpr Texte3 TitreChoix{u"Ouvrir une configuration machine jauges outils",
                             u"Open a configuration machine gauges tools ",
                             u"Abrir una configuración máquina Cabidas instrumentos"};
-
 constexpr Texte3 TitreEnregistrement{u"Enregistrer la configuration jauges outils",
                                      u"Record the configuration gauges tools",
                                      u"Registrar la configuración Cabidas instrumentos"};

@@ -10,8 +10,6 @@
 #include "platform/GardePlaces.h"
 #include "platform/Nombres.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr Texte3 PrefixeTitre{u"Configuration machine : ", u"Configuration machine : ", u"Configuración máquina : "};
@@ -41,13 +39,6 @@ struct Longueur
 constexpr Longueur Longueurs[] = {{&Ui::ConfMac::Text4, &ConfigurationMac::DiffPoches},
                                   {&Ui::ConfMac::Text1, &ConfigurationMac::JaugeMaxiX},
                                   {&Ui::ConfMac::Text2, &ConfigurationMac::JaugeMaxiZ}};
-
-/// A value of the file that is longer than what the operator may type is shown whole, so that saving does not cut it.
-void Montre(QLineEdit *saisie, const QString &texte)
-{
-    saisie->setMaxLength(std::max(saisie->maxLength(), static_cast<int>(texte.size())));
-    saisie->setText(texte);
-}
 
 } // namespace
 
@@ -101,10 +92,10 @@ void ConfMac::MontreSelonChoix()
 void ConfMac::MontreTextes()
 {
     for (const Longueur &longueur : Longueurs)
-        Montre(this->*longueur.saisie, TexteDouble(ParamMac.*longueur.champ));
-    Montre(Text3, QString::number(ParamMac.NbCorrecteurs));
-    Montre(Text5, ParamMac.ExtJauge);
-    Montre(Text6, ParamMac.NumProgJauge);
+        MontreEnEntier(this->*longueur.saisie, TexteDouble(ParamMac.*longueur.champ));
+    MontreEnEntier(Text3, QString::number(ParamMac.NbCorrecteurs));
+    MontreEnEntier(Text5, ParamMac.ExtJauge);
+    MontreEnEntier(Text6, ParamMac.NumProgJauge);
 }
 
 void ConfMac::PrendTextes()

@@ -43,18 +43,13 @@ public:
     Q_DISABLE_COPY_MOVE(Sablier)
 };
 
-bool EstVide(const QString &ligne)
-{
-    return SansBlancs(ligne).isEmpty();
-}
-
 /// Takes blank lines out. Of two in a row the second stays: it has moved to a place that is done.
 void ResserreLignes()
 {
     CalculeMaxi();
     const auto fin = Lignes.begin() + LigneMaxi + 1;
     for (auto ligne = Lignes.begin() + 1; ligne != fin; ++ligne) {
-        if (EstVide(*ligne))
+        if (EstBlanche(*ligne))
             std::move(ligne + 1, fin, ligne)->clear();
     }
     CalculeMaxi();

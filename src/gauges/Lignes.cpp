@@ -31,13 +31,15 @@ void CalculeLigne(const QString &texte)
     }
 }
 
+bool EstBlanche(const QString &ligne)
+{
+    return std::all_of(ligne.begin(), ligne.end(), [](QChar c) { return c == u' '; });
+}
+
 void CalculeMaxi()
 {
-    const auto blanche = [](const QString &ligne) {
-        return ligne.isEmpty() || std::all_of(ligne.begin(), ligne.end(), [](QChar c) { return c == u' '; });
-    };
     LigneMaxi = CapaciteLignes;
-    while (LigneMaxi > 0 && blanche(Lignes[static_cast<std::size_t>(LigneMaxi)]))
+    while (LigneMaxi > 0 && EstBlanche(Lignes[static_cast<std::size_t>(LigneMaxi)]))
         --LigneMaxi;
 }
 

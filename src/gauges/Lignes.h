@@ -20,6 +20,9 @@ void VideLignes();
 /// A text of more than 25000 lines fills the table and leaves NbLignes as it was.
 void CalculeLigne(const QString &texte);
 
+/// True for a line without anything but blanks.
+bool EstBlanche(const QString &ligne);
+
 /// Finds the last entry that holds more than blanks; LigneMaxi is 0 when there is none.
 void CalculeMaxi();
 

@@ -44,12 +44,6 @@ QString Ligne(int nombre)
     return Ligne(QString::number(nombre));
 }
 
-/// A double quote inside a text would end it for the reader and shift every field behind it; an apostrophe stands in.
-QString LigneChaine(QString texte)
-{
-    return Ligne(u'"' + texte.replace(u'"', u'\'') + u'"');
-}
-
 } // namespace
 
 int CorrecteursTenus(int nombre)
@@ -78,6 +72,7 @@ void EcritMac(const QString &chemin)
     const ConfigurationMac &p = ParamMac;
     EcritFichierTexte(chemin, Ligne(p.TypeMachine) + Ligne(p.TypeTourelle) + Ligne(TexteDouble(p.DiffPoches)) +
                                   Ligne(p.TypeJauge) + Ligne(p.ModeX) + Ligne(TexteDouble(p.JaugeMaxiX)) +
-                                  Ligne(TexteDouble(p.JaugeMaxiZ)) + Ligne(p.NbCorrecteurs) + LigneChaine(p.ExtJauge) +
-                                  LigneChaine(p.NumProgJauge) + Ligne(p.RazDynamique));
+                                  Ligne(TexteDouble(p.JaugeMaxiZ)) + Ligne(p.NbCorrecteurs) +
+                                  Ligne(ValeurEntreGuillemets(p.ExtJauge)) +
+                                  Ligne(ValeurEntreGuillemets(p.NumProgJauge)) + Ligne(p.RazDynamique));
 }

@@ -105,8 +105,6 @@ void Seance::PrendOutils()
 /// Waits for one measure and stores it; the operator may cancel meanwhile.
 void Seance::Reception1Jauge()
 {
-    ForceRECEPT = 0;
-    JaugeRecue = 0;
     m_dialogue.Label3->clear();
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     const QString recu = RecoitSalve();
@@ -116,7 +114,6 @@ void Seance::Reception1Jauge()
     m_brut += recu + QStringLiteral("\r\n");
     AjouteFichierRecu(recu);
     Controle().ViderReception();
-    JaugeRecue = 1;
     ++LigneJauge;
 }
 
@@ -160,7 +157,6 @@ QString Seance::RecoitSalve()
 
 void Seance::AnnonceMesure()
 {
-    JaugeRecue = 0;
     JaugeSuivante = 0;
     PermetSuite(true);
     frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
@@ -177,7 +173,6 @@ void Seance::AttendOperateur() const
 
 void Seance::DemandeSuivante()
 {
-    JaugeRecue = 0;
     JaugeSuivante = 0;
     ++NbJauges;
     PermetSuite(false);

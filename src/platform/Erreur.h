@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <exception>
+#include <optional>
 
 /// A platform operation that failed: its number and the platform's own words for it.
 /// A handler catches it at one place near its end, or wraps each statement that may fail in Saute().
@@ -44,5 +45,19 @@ void Saute(Etape etape)
         etape();
     } catch (const Erreur &) {
         // The routine's rule is that a failed step is passed over.
+    }
+}
+
+/// A failure that waits to be told.
+using ErreurEnAttente = std::optional<Erreur>;
+
+/// Runs one step of a routine; its failure waits, in the place of an earlier one, and the routine goes on.
+template <typename Etape>
+void Tente(ErreurEnAttente &enAttente, Etape etape)
+{
+    try {
+        etape();
+    } catch (const Erreur &erreur) {
+        enAttente.emplace(erreur);
     }
 }

@@ -1,27 +1,104 @@
 #include "platform/FiltreTouches.h"
 
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
 #include <algorithm>
 
-FiltreTouches::FiltreTouches(const QString &interdits, QObject *parent)
-    : QValidator(parent)
-    , m_interdits(interdits)
+namespace {
+
+using Interdit = bool (*)(QChar caractere);
+
+bool InterditDansNom(QChar caractere)
 {
+    return QStringView(u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+").contains(caractere);
 }
 
-QValidator::State FiltreTouches::validate(QString &texte, int &curseur) const
+bool PasChiffre(QChar caractere)
 {
-    const auto interdit = [this](QChar caractere) {
-        return m_interdits.contains(caractere) || caractere.category() == QChar::Other_Control;
-    };
-    curseur -= static_cast<int>(std::count_if(texte.begin(), texte.begin() + curseur, interdit));
-    texte.removeIf(interdit);
-    return Acceptable;
+    return caractere < u'0' || caractere > u'9';
+}
+
+/// True for a key that gives a command. With Ctrl a key is one, whatever character some systems say it has; with Ctrl
+/// and Alt it is a character again.
+bool EstCommande(const QKeyEvent &touche)
+{
+    return touche.modifiers().testFlag(Qt::ControlModifier) && !touche.modifiers().testFlag(Qt::AltModifier);
+}
+
+/// Drops what is typed, by key or by an input method, and may not enter.
+class FiltreFrappe : public QObject
+{
+public:
+    FiltreFrappe(Interdit interdit, QLineEdit *saisie)
+        : QObject(saisie)
+        , m_interdit(interdit)
+    {
+        saisie->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *evenement) override
+    {
+        if (evenement->type() == QEvent::InputMethod) {
+            // It goes through without its characters: what was being composed has to go from the box.
+            auto &frappe = *static_cast<QInputMethodEvent *>(evenement);
+            if (Refuse(frappe.commitString()))
+                frappe.setCommitString(QString());
+        }
+        if (evenement->type() != QEvent::KeyPress)
+            return false;
+        const auto &touche = *static_cast<QKeyEvent *>(evenement);
+        return !EstCommande(touche) && Refuse(touche.text());
+    }
+
+private:
+    /// Of several characters those that may enter are for the validator of the box, if it has one, to sort out.
+    bool Refuse(const QString &texte) const
+    {
+        return !texte.isEmpty() &&
+               std::all_of(texte.begin(), texte.end(), [this](QChar c) { return c.isPrint() && m_interdit(c); });
+    }
+
+    Interdit m_interdit;
+};
+
+/// Sorts out of a text what no name may hold.
+class ValideNom : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &texte, int &curseur) const override
+    {
+        const auto sort = [](QChar c) { return InterditDansNom(c) || c.category() == QChar::Other_Control; };
+        curseur -= static_cast<int>(std::count_if(texte.begin(), texte.begin() + curseur, sort));
+        texte.removeIf(sort);
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+void FiltreNom(QLineEdit *saisie)
+{
+    new FiltreFrappe(InterditDansNom, saisie);
+    saisie->setValidator(new ValideNom(saisie));
+}
+
+void FiltreChiffres(QLineEdit *saisie)
+{
+    new FiltreFrappe(PasChiffre, saisie);
 }
 
 void LimiteTouches(QLineEdit *saisie, const QString &motif)
 {
     saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
+}
+
+void MontreEnEntier(QLineEdit *saisie, const QString &texte)
+{
+    saisie->setMaxLength(std::max(saisie->maxLength(), static_cast<int>(texte.size())));
+    saisie->setText(texte);
 }

@@ -1,28 +1,22 @@
 #pragma once
 
-#include <QValidator>
+#include <QString>
 
 class QLineEdit;
 
-/// Characters that the operator cannot put into the name of a file or folder: what a machine tool's control, or an
-/// older file system, stumbles over.
-inline constexpr char16_t InterditsNom[] = u" \"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|`\\^]}°*+";
+// What may enter a text box. A key that may not is dropped, and what is selected in the box stays.
 
-/// Keeps characters out of a text box: a forbidden one is dropped, typed or pasted, and the rest goes in. A line end or
-/// tab, which only a paste can bring, is always dropped.
-class FiltreTouches : public QValidator
-{
-    Q_OBJECT
+/// Keeps characters out that no name of a file or folder may hold: what a machine tool's control, or an older file
+/// system, stumbles over. Of a pasted text the rest goes in; a line end or tab, which only a paste can bring, never
+/// does.
+void FiltreNom(QLineEdit *saisie);
 
-public:
-    /// interdits: the characters that must not enter.
-    FiltreTouches(const QString &interdits, QObject *parent);
+/// Lets nothing but digits be typed. A pasted text goes in as it is.
+void FiltreChiffres(QLineEdit *saisie);
 
-    State validate(QString &texte, int &curseur) const override;
-
-private:
-    QString m_interdits;
-};
-
-/// Keeps a text box to texts that match motif, a regular expression: a key that would break it is dropped.
+/// Keeps a box to texts that match motif, a regular expression; a key or a pasted text that would break it is dropped.
 void LimiteTouches(QLineEdit *saisie, const QString &motif);
+
+/// Shows texte in a box, whole: where it is longer than what the operator may type, the box takes that much from now
+/// on. A value of a file would otherwise be cut, and saved so.
+void MontreEnEntier(QLineEdit *saisie, const QString &texte);

@@ -27,6 +27,11 @@ bool EstFinDeLigne(QChar caractere)
 
 } // namespace
 
+QString ValeurEntreGuillemets(QString texte)
+{
+    return u'"' + texte.replace(u'"', u'\'') + u'"';
+}
+
 LecteurChamps::LecteurChamps(const QString &texte)
     : m_texte(texte)
 {

@@ -2,6 +2,10 @@
 
 #include <QString>
 
+/// texte as a quoted value that LecteurChamps reads back. A double quote inside would end it there and shift every
+/// field behind it; an apostrophe stands in.
+QString ValeurEntreGuillemets(QString texte);
+
 /// Reads the fields of a settings file one after another.
 ///
 /// Blanks before a value are skipped. A value that begins with a double quote runs to the next double quote; any other

@@ -82,7 +82,7 @@ void Emission::Debut()
 {
     if (ParamCom.NbCarDebProg < 1)
         return;
-    const QString debut = ChaineDebProg() + ParamCom.ChaineFinLig;
+    const QString debut = CaracteresDe(ChaineDebut) + ParamCom.ChaineFinLig;
     Echo(debut);
     Statut(DebutProgramme);
     Montre();

@@ -65,7 +65,7 @@ Rc_Fic::Rc_Fic(QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     EntreAuChoix(this);
-    Text1->setValidator(new FiltreTouches(QString::fromUtf16(InterditsNom), Text1));
+    FiltreNom(Text1);
     connect(Text1, &QLineEdit::textChanged, this,
             [this](const QString &texte) { Command2->setEnabled(!texte.isEmpty()); });
     QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};

@@ -131,7 +131,7 @@ QString FinLigneCherchee()
     static const QString deuxCaracteres[] = {QStringLiteral("\n\r"), QStringLiteral("\r\n")};
     if (ParamCom.TypeFinLig == 2 || ParamCom.TypeFinLig == 3)
         return deuxCaracteres[ParamCom.TypeFinLig - 2];
-    return ParamCom.TypeFinLig == 4 ? ChaineCarFinLig() : ParamCom.ChaineFinLig;
+    return ParamCom.TypeFinLig == 4 ? CaracteresDe(ChaineLigne) : ParamCom.ChaineFinLig;
 }
 
 /// Of a line end of several characters the last one ends the line; their order on the line is not looked at.

@@ -95,8 +95,11 @@ private Q_SLOTS:
             dialogue.Command3->click();
             QCOMPARE(dialogue.focusWidget(), dialogue.Text1);
             const QString interdits = u"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|]}° \"\n\t"_s;
-            QTest::keyClicks(dialogue.Text1, u"../ .\\ \",("_s);
             QVERIFY(dialogue.Text1->text().isEmpty() && !dialogue.Command4->isEnabled());
+            dialogue.Text1->setText(u"A"_s);
+            dialogue.Text1->selectAll();
+            QTest::keyClicks(dialogue.Text1, u"../ .\\ \",("_s);
+            QCOMPARE(dialogue.Text1->selectedText(), u"A"_s); // a dropped key takes nothing with it
             dialogue.Text1->insert(u"../Fr"_s + interdits + u"e-9_È"_s);
             QTest::keyClick(dialogue.Text1, Qt::Key_Return);
             const QString cree = atelier.Chemin(u"Prog/Fre-9_È/"_s);

@@ -32,7 +32,7 @@ private Q_SLOTS:
                               p.DosRecep, p.LibDebProg, p.LibFinLig, p.LibFinTrans}),
                  u"Com3|Tour 2 axes, été €|19200|o|8|1.5|?|C:\\Programmes CN|%|CRCRLF|é FIN"_s.split(u'|'));
         BatirChaines();
-        QCOMPARE(ChaineDebProg() + ParamCom.ChaineFinLig, u"%\r\r\n"_s);
+        QCOMPARE(CaracteresDe(ChaineDebut) + ParamCom.ChaineFinLig, u"%\r\r\n"_s);
         QCOMPARE(OctetsEn1252(ParamCom.ChaineFinTrans), QByteArray("\xE9\xFF"));
     }
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
             QCOMPARE(LitLignes(lignes), numero);
             EcrireFichierPar(m_copie);
             QCOMPARE(Lit(m_copie), 0);
-            QCOMPARE(ChaineDebProg().size(), tenus);
+            QCOMPARE(CaracteresDe(ChaineDebut).size(), tenus);
             QVERIFY(compte < 0 || ParamCom.CarDebProg[100] == compte - 99);
         }
     }
