@@ -23,6 +23,7 @@ extern std::array<JaugeOutil, CapaciteJauges + 1> Jauge;
 // The bench reception under way.
 extern int NbJauges;      ///< number of the tool being taken, from 1; at the end the number of measures
 extern int LigneJauge;    ///< next free entry of Lignes, from 1
+extern int JaugeRecue;    ///< 1: a measure has just been stored
 extern int JaugeSuivante; ///< 1: the operator asks for the next tool
 extern int FinJauges;     ///< 1: the operator has ended the reception
 extern int JauTourFait;   ///< 1: the dial dialog is through

@@ -91,7 +91,7 @@ void Seance::PrendOutils()
 {
     while (NbJauges <= ParamMac.NbCorrecteurs) {
         Reception1Jauge();
-        if (AnnuleRECEPT == 1)
+        if (JaugeRecue != 1)
             return;
         AnnonceMesure();
         AttendOperateur();
@@ -102,9 +102,10 @@ void Seance::PrendOutils()
     AnnonceLimite();
 }
 
-/// Waits for one measure and stores it; the operator may cancel meanwhile.
+/// Waits for one measure and stores it: JaugeRecue is 1 then, and 0 when the operator has cancelled meanwhile.
 void Seance::Reception1Jauge()
 {
+    JaugeRecue = 0;
     m_dialogue.Label3->clear();
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     const QString recu = RecoitSalve();
@@ -114,6 +115,7 @@ void Seance::Reception1Jauge()
     m_brut += recu + QStringLiteral("\r\n");
     AjouteFichierRecu(recu);
     Controle().ViderReception();
+    JaugeRecue = 1;
     ++LigneJauge;
 }
 
