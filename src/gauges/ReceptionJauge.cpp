@@ -159,6 +159,7 @@ QString Seance::RecoitSalve()
 
 void Seance::AnnonceMesure()
 {
+    JaugeRecue = 0;
     JaugeSuivante = 0;
     PermetSuite(true);
     frmPrinc->shpReceive->setFillColor(Lampe::Rouge);

@@ -42,23 +42,22 @@ public:
     bool eventFilter(QObject *, QEvent *evenement) override
     {
         if (evenement->type() == QEvent::InputMethod) {
-            // It goes through without its characters: what was being composed has to go from the box.
+            // It goes through even without its characters: what was being composed has to go from the box.
             auto &frappe = *static_cast<QInputMethodEvent *>(evenement);
-            if (Refuse(frappe.commitString()))
-                frappe.setCommitString(QString());
+            if (const QString reste = Trie(frappe.commitString()); reste != frappe.commitString())
+                frappe.setCommitString(reste);
         }
         if (evenement->type() != QEvent::KeyPress)
             return false;
         const auto &touche = *static_cast<QKeyEvent *>(evenement);
-        return !EstCommande(touche) && Refuse(touche.text());
+        return !EstCommande(touche) && Trie(touche.text()) != touche.text();
     }
 
 private:
-    /// Of several characters those that may enter are for the validator of the box, if it has one, to sort out.
-    bool Refuse(const QString &texte) const
+    /// texte without what may not enter. A control character stays: the key that has one does something else than type.
+    QString Trie(QString texte) const
     {
-        return !texte.isEmpty() &&
-               std::all_of(texte.begin(), texte.end(), [this](QChar c) { return c.isPrint() && m_interdit(c); });
+        return texte.removeIf([this](QChar c) { return m_interdit(c) && c.category() != QChar::Other_Control; });
     }
 
     Interdit m_interdit;

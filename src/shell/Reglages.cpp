@@ -44,10 +44,10 @@ bool DejaEcrit(const QString &chemin, const QString &texte)
 }
 
 /// Writes a settings file whole. Of a new one that finds no room nothing is left: the next start would take it for
-/// settings that cannot be read, and say nothing.
+/// settings that cannot be read, and say nothing. A link of the user's stays, also while the drive behind it is away.
 void EcritReglages(const QString &chemin, const QString &texte)
 {
-    const bool neuf = !QFileInfo::exists(chemin);
+    const bool neuf = !QFileInfo::exists(chemin) && !QFileInfo(chemin).isSymLink();
     try {
         EcritFichierTexte(chemin, texte);
     } catch (const Erreur &) {

@@ -102,7 +102,11 @@ private Q_SLOTS:
         const Prop prop(frmPrinc);
         for (QLineEdit *const boite : {prop.Text2, prop.Text4, prop.Text5, prop.Text6, prop.Text7, prop.Text8}) {
             QTest::keyClick(boite, Qt::Key_A, Qt::ControlModifier); // what stood there gives way
-            QTest::keyClicks(boite, u"1a-23. "_s);
+            QTest::keyClicks(boite, u"1a-2. "_s);
+            QInputMethodEvent methode;
+            methode.setCommitString(u"(3é"_s);
+            QCoreApplication::sendEvent(boite, &methode);
+            QCOMPARE(boite->text(), u"123"_s);
             QTest::keyClick(boite, Qt::Key_Backspace);
             QCOMPARE(boite->text(), u"12"_s);
         }

@@ -58,7 +58,7 @@ private Q_SLOTS:
     }
 
     // A folder that takes no settings is told, one that does is not. A full disk leaves no half settings behind, so
-    // that the next start is a first one again.
+    // that the next start is a first one again; a link whose drive is away stays.
     void DossierFerme()
     {
         rlimit libre{};
@@ -70,11 +70,12 @@ private Q_SLOTS:
             plein.Presse("FrmLangue", "Command1");
             QVERIFY(setrlimit(RLIMIT_FSIZE, &pleine) == 0);
             plein.Demarre();
+            QVERIFY(QFile::link(plein.Chemin(u"absent/Reglages"_s), plein.Chemin(Cfg)));
             QVERIFY(NumeroErreur([] { SauveCfg({}); }) != 0);
             plein.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
             AnnonceDossierFerme();
             QVERIFY(setrlimit(RLIMIT_FSIZE, &libre) == 0);
-            QVERIFY(!QFile::exists(plein.Chemin(Ini)) && !QFile::exists(plein.Chemin(Cfg)));
+            QVERIFY(!QFile::exists(plein.Chemin(Ini)) && QFileInfo(plein.Chemin(Cfg)).isSymLink());
         }
         Etabli etabli(0);
         AnnonceDossierFerme();

@@ -259,7 +259,7 @@ void TestTransferts::Receptions()
     const QByteArray avale = QByteArray(sansFin).replace('\r', "").replace("\n", "\r\n");
     const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
     const QByteArray milieu = "A\x04 B\r\n";
-    // type of line end, by file size of a reading; what the operator has added to each line
+    // type of line end, or by file the size of a reading; what the operator has added to each line
     const std::tuple<Genre, int, int, QByteArray, QByteArray> cas[] = {
         {lignes, 3, 0, "", "\r\n"},
         {lignes, 3, 0, deux, deux + "\r\n"},
