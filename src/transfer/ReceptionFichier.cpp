@@ -103,10 +103,10 @@ void Recolte(Ui::Em_Rc &dialogue)
             MontrePasse(dialogue, passe);
             rythme.Note();
         }
-        vivante = Prend();
         // The end is looked for behind each reading, since what the machine sends behind it would hide it.
-        while (!FinTrouvee() && CaracteresEnAttente())
-            Prend();
+        do {
+            vivante = Prend();
+        } while (!FinTrouvee() && CaracteresEnAttente());
     } while (FinTransfert != 1 && vivante && AnnuleRECEPT != 1 && ForceRECEPT != 1);
     MontrePasse(dialogue, passe);
     if (AnnuleRECEPT == 1)
