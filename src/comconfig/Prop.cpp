@@ -8,6 +8,7 @@
 #include "comconfig/TextesConf.h"
 #include "comconfig/VueProp.h"
 #include "locale/Legendes.h"
+#include "locale/TextesErreur.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
 #include "platform/EntreeOptions.h"
@@ -16,7 +17,6 @@
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
-#include "transfer/PortCom.h"
 
 #include <QDir>
 
@@ -85,13 +85,9 @@ constexpr ChoixReception Receptions[] = {{&U::Command16,
                                          {&U::Command2, DossierProgrammes, {DossierCN, DossierCN, DossierCN}},
                                          {&U::Command3, DossierJauges, {DossierBanc, DossierBanc, DossierBanc}}};
 
-/// The text for the number, and what the system says beside it: the device, or the value refused.
 void MontreErreur(const Erreur &erreur)
 {
-    QString texte = TexteErreurPort(erreur);
-    if (texte != erreur.Description())
-        texte += u'\r' + erreur.Description();
-    MsgBox(texte, Boite::Exclamation, QString::fromUtf16(Programme));
+    MsgBox(TexteErreurDetaille(erreur), Boite::Exclamation, QString::fromUtf16(Programme));
 }
 
 } // namespace

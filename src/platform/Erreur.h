@@ -11,7 +11,7 @@ class Erreur : public std::exception
 {
 public:
     /// numero: the number by which the program knows the failure (see the constants below and MSComm.h).
-    /// description: what the platform says, shown where the program has no text of its own for the number.
+    /// description: what the platform says, its own words for whoever looks after the program.
     Erreur(int numero, const QString &description);
 
     int Numero() const { return m_numero; }
@@ -29,6 +29,7 @@ public:
     static constexpr int FinDeFichier = 62;       ///< the file ended before the field
     static constexpr int AccesRefuse = 70;        ///< no permission
     static constexpr int FormatRefuse = 321;      ///< the text pane does not know the file's form
+    static constexpr int MotifRefuse = 380;       ///< a filter for files with characters that no file name has
     static constexpr int DialogueAnnule = 32755;  ///< the operator cancelled a common dialog
 
 private:

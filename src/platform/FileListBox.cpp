@@ -57,7 +57,7 @@ void FileListBox::setPattern(const QString &motif)
 {
     static const QRegularExpression interdits(QStringLiteral(R"([/\\:"<>|])"));
     if (motif.contains(interdits))
-        throw Erreur(MotifRefuse, motif);
+        throw Erreur(Erreur::MotifRefuse, motif);
     m_motif = motif;
     m_formes = Formes(motif);
     Refresh();

@@ -17,9 +17,6 @@ class FileListBox : public QListView
     Q_PROPERTY(QString FileName READ FileName)
 
 public:
-    /// Number of the failure that an invalid pattern raises.
-    static constexpr int MotifRefuse = 380;
-
     explicit FileListBox(QWidget *parent = nullptr);
 
     /// The folder listed, as it was given; "" before the first one.

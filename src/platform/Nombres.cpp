@@ -32,7 +32,7 @@ QString TexteNombre(qint64 nombre)
 QString TexteReel(float valeur)
 {
     if (!std::isfinite(valeur))
-        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+        throw Erreur(Erreur::Depassement, QString::number(valeur));
     constexpr int chiffres = 7;
     // Rounded to 7 significant digits first, so that the shortest text of what is left shows no digit beyond them.
     return TexteDouble(QString::number(static_cast<double>(valeur), 'e', chiffres - 1).toDouble());
@@ -41,7 +41,7 @@ QString TexteReel(float valeur)
 QString TexteDouble(double valeur)
 {
     if (!std::isfinite(valeur))
-        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+        throw Erreur(Erreur::Depassement, QString::number(valeur));
     if (valeur == 0)
         return QStringLiteral("0"); // also for the zero with a minus sign
     QString texte = QString::number(valeur, 'f', QLocale::FloatingPointShortest);
@@ -56,7 +56,7 @@ int EnEntier(double valeur)
 {
     const double arrondi = std::nearbyint(valeur); // the default rounding mode takes a tie to the even number
     if (!(arrondi >= std::numeric_limits<qint16>::min() && arrondi <= std::numeric_limits<qint16>::max()))
-        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+        throw Erreur(Erreur::Depassement, QString::number(valeur, 'g', QLocale::FloatingPointShortest));
     return static_cast<int>(arrondi);
 }
 

@@ -3,6 +3,7 @@
 #include "comconfig/ParamCom.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "locale/TextesErreur.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
 #include "platform/Erreur.h"
@@ -223,7 +224,7 @@ void Mnu_EnregistrerSous()
 
 QString TexteNonEnregistre(const Erreur &erreur)
 {
-    return Texte(ErreurEnregistrement) + u'\r' + erreur.Description();
+    return Texte(ErreurEnregistrement) + u'\r' + TexteErreur(erreur);
 }
 
 void SaveFile(const QString &path)

@@ -1,6 +1,7 @@
 #include "shell/SuppressionDossier.h"
 
 #include "locale/Langue.h"
+#include "locale/TextesErreur.h"
 #include "platform/Boites.h"
 #include "platform/Dossiers.h"
 #include "platform/Erreur.h"
@@ -74,7 +75,7 @@ void SupprimeDossier(const QString &chemin)
     } catch (const Erreur &erreur) {
         if (erreur.Numero() == Erreur::DialogueAnnule)
             return;
-        MsgBox(Texte(NumeroErreur) + QString::number(erreur.Numero()) + u'\r' + erreur.Description() + u'\r' +
+        MsgBox(Texte(NumeroErreur) + QString::number(erreur.Numero()) + u'\r' + TexteErreur(erreur) + u'\r' +
                    Texte(Reste) + Compte(CompteContenu(chemin)),
                Boite::Information, Texte(ResultatTitre));
     }

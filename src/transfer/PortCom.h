@@ -40,8 +40,5 @@ void MontreLabelsEcho(Ui::Em_Rc &dialogue);
 /// label has no room.
 void EcritEcho(QLabel &label, const QString &texte);
 
-/// What the operator reads for an error of the serial control: our text, or the platform's for a number without one.
-QString TexteErreurPort(const Erreur &erreur);
-
 void Mnu_Com();          ///< the communication menu opens: its closing entry follows the port
 void Mnu_FermePortCom(); ///< closes a port that stayed open

@@ -128,7 +128,8 @@ private Q_SLOTS:
         }
         const QString trop(400, u'9');
         prop.Text7->setText(trop);
-        banc.Prevenu(prop.Label16->text() + u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
+        banc.Prevenu(u"Un nombre est trop grand pour le champ qui doit le recevoir.\r"_s + prop.Label16->text() +
+                     u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
         prop.cmdOK->click();
         QCOMPARE(ParamCom.Commentaire + QString::number(ParamCom.SeuilEmis), u"12"_s);
     }

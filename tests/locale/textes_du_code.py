@@ -44,6 +44,16 @@ def textes(fichier, dossier):
         yield dossier, valeur(seul)
 
 
+def sans_texte(sources):
+    """Numbers of failures for which the operator would read a developer's words."""
+    lu = lambda chemin: (pathlib.Path(sources) / chemin).read_text(encoding="utf-8")
+    nombres = r"constexpr int (\w+) = (\d+);"
+    textes = set(re.findall(r"\{(?:Erreur::)?(\w+),\s*(?:true|false|\{)", lu("locale/TextesErreur.cpp")))
+    for nom, nombre in re.findall(nombres, lu("platform/Erreur.h") + lu("platform/ErreurPort.h")):
+        if textes.isdisjoint({nom, nombre}):
+            yield "", nom
+
+
 def main(sources, liste):
     code = set()
     for fichier in sorted(pathlib.Path(sources).rglob("*.*")):
@@ -52,11 +62,13 @@ def main(sources, liste):
     attendus = {tuple(ligne.split("\t")) for ligne in pathlib.Path(liste).read_text(encoding="utf-8").splitlines()}
     manquent = attendus - code
     inconnus = {texte for texte in code - attendus if len(texte) > 2 or se_lit(texte[1])}
-    for titre, ecarts in (("in the list, not in the code", manquent), ("in the code, not in the list", inconnus)):
+    muets = set(sans_texte(sources))
+    for titre, ecarts in (("in the list, not in the code", manquent), ("in the code, not in the list", inconnus),
+                          ("a failure without a text", muets)):
         for texte in sorted(ecarts):
             print(titre + ":", *texte, sep="\n    ")
     print(len(code & attendus), "texts alike")
-    return bool(manquent or inconnus)
+    return bool(manquent or inconnus or muets)
 
 
 sys.exit(main(*sys.argv[1:]))

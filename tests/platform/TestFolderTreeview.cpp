@@ -100,7 +100,7 @@ private Q_SLOTS:
             QCOMPARE(Noms(liste), attendus);
         }
         for (const char *refuse : {"../*", "a\\*", "c:*", "<a", "a>", "a|b", "\"a\""})
-            QCOMPARE(NumeroErreur([&] { liste.setPattern(QString::fromLatin1(refuse)); }), FileListBox::MotifRefuse);
+            QCOMPARE(NumeroErreur([&] { liste.setPattern(QString::fromLatin1(refuse)); }), Erreur::MotifRefuse);
         QCOMPARE(Noms(liste), QString());
     }
 

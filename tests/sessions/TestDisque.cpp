@@ -81,7 +81,8 @@ struct Atelier : Poste, Operateur
 
     void Dit(const QString &dit, const QString &titre = u"Error"_s, int icone = Boite::Critique)
     {
-        const QString cause = qt_error_string(ferme ? EACCES : fichier == u"Neuf" ? ENOENT : EFBIG);
+        const QString cause = ferme ? u"Access is refused.\r"_s + qt_error_string(EACCES)
+                                    : u"Reading or writing has failed.\r"_s + qt_error_string(EFBIG);
         const QString details = icone == Boite::Critique ? QString() : u'\r' + cause;
         if (echoue)
             Repond(titre, dit + details, icone, QMessageBox::Ok);

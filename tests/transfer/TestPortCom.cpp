@@ -100,7 +100,8 @@ private Q_SLOTS:
               {1, 17, 8015, 8002, "9600", "8", u"Numéro de port non valide"_s},
               {1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s},
               {1, 2, 70, 70, "9600", "8",
-               u"refused\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, dans un terminal :\r "
+               u"L'accès est refusé.\rrefused\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, "
+               u"dans un terminal :\r "
                u"   "
                "sudo adduser $USER dialout\rpuis fermer la session et la rouvrir."_s}}) {
             ParamCom.ControleFlux = flux;
@@ -127,11 +128,15 @@ private Q_SLOTS:
         OuvrePortCOM();
         QVERIFY(atelier.controle.PortOpen() && atelier.controle.CommPort() == 2);
         QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
-        LangIndex = 2; // a number without a text of ours bears the platform's
-        atelier.operateur.Repond(u"Error N°:  70Cierre del puerto de comunicación"_s, u"Permission denied"_s,
-                                 Boite::Critique, QMessageBox::Ok);
+        LangIndex = 2; // the platform's words stand below ours, or alone for a number without a text
         Em_Rc dialogue(frmPrinc);
-        ErreurPortCOM(Erreur(70, u"Permission denied"_s), dialogue);
+        for (const auto &[numero, texte] : {std::pair{70, u"El acceso está denegado.\rPermission denied"_s},
+                                            {62, u"El fichero está incompleto."_s},
+                                            {1005, u"Permission denied"_s}}) {
+            atelier.operateur.Repond(u"Error N°:  %1Cierre del puerto de comunicación"_s.arg(numero), texte,
+                                     Boite::Critique, QMessageBox::Ok);
+            ErreurPortCOM(Erreur(numero, u"Permission denied"_s), dialogue);
+        }
         QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
     }
 
@@ -235,7 +240,8 @@ private Q_SLOTS:
         accepte();
         atelier.operateur.Choisit(atelier.poste.Chemin("RESTE.ISO"));
         atelier.operateur.Repond("Enregistrer les lignes reçues",
-                                 u"Erreur lors de l'enregistrement du fichier\r"_s + qt_error_string(EIO),
+                                 u"Erreur lors de l'enregistrement du fichier\rLa lecture ou l'écriture a échoué.\r"_s +
+                                     qt_error_string(EIO),
                                  Boite::Critique, QMessageBox::Ok);
         accepte();
         atelier.operateur.Ferme("CommonDialog");

@@ -379,7 +379,7 @@ void TestTransferts::TropDeLignes()
     ParamCom.TailleTamponRecep = 2; // so that nothing waits behind a line end
     essai.charge.pieces = {QByteArray("N\n").repeated(CapaciteLignes)};
     essai.PreditEnsuite();
-    essai.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La réception dépasse 25000 lignes."_s);
+    essai.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La table est pleine.\rLa réception dépasse 25000 lignes."_s);
     essai.pilote.Ferme("CommonDialog"); // he thinks better of it: offered once more
     essai.Joue();
     QCOMPARE(essai.poste.Lit("sauve.txt"), pleine);
