@@ -58,20 +58,28 @@ QString Ancre(const QTextBlock &bloc)
     return bloc.begin().atEnd() ? QString() : bloc.begin().fragment().charFormat().anchorNames().value(0);
 }
 
+/// Where a stretch of that length begins on the screen; one that is too long begins with the screen.
+int Dans(int debutEcran, int longueurEcran, int voulu, int longueur)
+{
+    return std::max(debutEcran, std::min(voulu, debutEcran + longueurEcran - longueur));
+}
+
 /// Puts a window beside the one that it explains, on the side with more room, and narrower where that lets both be
-/// seen.
+/// seen. It stands within the screen with its frame, which is the other one's: its own is not there yet.
 void PlaceACote(QWidget *fenetre, const QWidget *appelante)
 {
     constexpr int largeurMin = 640; // pixels; narrower than that it covers the other one instead
     const QRect ecran = appelante->screen()->availableGeometry();
     const QRect occupe = appelante->frameGeometry();
+    const QSize cadre = occupe.size() - appelante->size();
     const int gauche = occupe.left() - ecran.left();
     const int droite = ecran.right() - occupe.right();
-    const int largeur = std::min(fenetre->width(), std::max({gauche, droite, largeurMin}));
-    fenetre->resize(largeur, std::min(fenetre->height(), ecran.height()));
-    const int x = droite >= gauche ? occupe.right() + 1 : occupe.left() - largeur;
-    fenetre->move(std::clamp(x, ecran.left(), std::max(ecran.left(), ecran.right() + 1 - largeur)),
-                  std::clamp(occupe.top(), ecran.top(), ecran.bottom() + 1 - fenetre->height()));
+    const int place = std::min(std::max({gauche, droite, largeurMin}), ecran.width());
+    fenetre->resize(fenetre->size().boundedTo(QSize(place, ecran.height()) - cadre));
+    const QSize entier = fenetre->size() + cadre;
+    const int x = droite >= gauche ? occupe.right() + 1 : occupe.left() - entier.width();
+    fenetre->move(Dans(ecran.left(), ecran.width(), x, entier.width()),
+                  Dans(ecran.top(), ecran.height(), occupe.top(), entier.height()));
 }
 
 /// Where the manual lies: in the application folder, or beside the program where that is another place.
@@ -140,6 +148,7 @@ FrmAide::FrmAide(QWidget *parent)
     connect(TextBrowser1, &QTextBrowser::backwardAvailable, Command1, &QPushButton::setEnabled);
     connect(TextBrowser1, &QTextBrowser::forwardAvailable, Command2, &QPushButton::setEnabled);
     connect(TextBrowser1->verticalScrollBar(), &QScrollBar::valueChanged, this, &FrmAide::SuitLecture);
+    TextBrowser1->viewport()->installEventFilter(this);
     const auto vaALaLigne = [this](const QTreeWidgetItem *ligne) { Va(ligne->data(0, Qt::UserRole).toString()); };
     connect(TreeView1, &QTreeWidget::itemClicked, this, vaALaLigne);
     connect(TreeView1, &QTreeWidget::itemActivated, this, vaALaLigne);
@@ -218,7 +227,29 @@ void FrmAide::DresseSommaire()
 void FrmAide::SuitLecture()
 {
     constexpr int unTitre = 24; // pixels; about the height of a heading
+    if (m_retaille)
+        return;
+    m_lecture = TextBrowser1->cursorForPosition({0, 0}).position();
     Designe(TextBrowser1->cursorForPosition({0, unTitre}).position());
+}
+
+/// Another width breaks the lines elsewhere, and what the reader has before him would move away.
+bool FrmAide::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (objet == TextBrowser1->viewport() && evenement->type() == QEvent::Resize && !m_retaille) {
+        m_retaille = true;
+        QMetaObject::invokeMethod(this, &FrmAide::RemetLecture, Qt::QueuedConnection); // once the lines are broken
+    }
+    return QDialog::eventFilter(objet, evenement);
+}
+
+void FrmAide::RemetLecture()
+{
+    QTextCursor lecture(TextBrowser1->document());
+    lecture.setPosition(m_lecture);
+    QScrollBar *const ascenseur = TextBrowser1->verticalScrollBar();
+    ascenseur->setValue(ascenseur->value() + TextBrowser1->cursorRect(lecture).top());
+    m_retaille = false;
 }
 
 void FrmAide::Designe(int position)
@@ -238,6 +269,7 @@ void FrmAide::Va(const QString &section)
         lieu.setFragment(section);
         TextBrowser1->setSource(lieu);
         TreeView1->setCurrentItem(titre.ligne);
+        m_lecture = titre.position; // also where the end of the text leaves it below the top of the page
     }
 }
 

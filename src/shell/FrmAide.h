@@ -25,6 +25,7 @@ public:
     void Montre(const QString &manuel, const QString &section);
 
 protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void showEvent(QShowEvent *evenement) override;
 
 private:
@@ -32,6 +33,7 @@ private:
     void PoseRaccourcis();
     void DresseSommaire();
     void SuitLecture();
+    void RemetLecture();
     void Designe(int position);
     void Va(const QString &section);
 
@@ -50,6 +52,8 @@ private:
     QList<Titre> m_titres;          // in the order of the text
     QList<QTextCursor> m_resultats; // what the search has found, in the order of the text
     qsizetype m_resultat = 0;       // the one that is shown
+    int m_lecture = 0;              // the place of the text that stands at the top of the page
+    bool m_retaille = false;        // the page has another size, and does not stand at that place yet
 };
 
 /// Opens the manual of the language, at the section of the dialog that is open if there is one. A missing manual is

@@ -110,15 +110,24 @@ private Q_SLOTS:
         QCOMPARE(aide.TextBrowser1->source().fragment(), u"Prop_divers"_s);
     }
 
-    // F1 in a modal dialog gives the page of the dialog, in a window that the dialog does not block.
+    // F1 in a modal dialog gives the page of the dialog, in a window that the dialog does not block and that stands
+    // within the screen; the page stays where it is whatever the window's size.
     void DansUnDialogue()
     {
         PosteAide poste(1);
         poste.Fait(u"FrmLangue", [](QWidget &fenetre) {
+            const QRect ecran = fenetre.screen()->availableGeometry();
+            fenetre.move(ecran.bottomRight() - QPoint(60, 40));
             QTest::keyClick(&fenetre, Qt::Key_F1);
             FrmAide *const aide = Ouverte(&fenetre);
-            QVERIFY(aide != nullptr && aide->isVisible());
+            QVERIFY(aide != nullptr && aide->isVisible() && ecran.contains(aide->frameGeometry()));
             QCOMPARE(aide->TextBrowser1->source().fragment(), u"FrmLangue"_s);
+            for (const QSize &taille : {aide->size(), QSize(500, 300), QSize(790, 500)}) {
+                aide->resize(taille);
+                QCoreApplication::processEvents();
+                const QTextCursor haut = aide->TextBrowser1->cursorForPosition({0, 8});
+                QCOMPARE(haut.block().text(), u"The language"_s);
+            }
             QTest::mouseClick(aide->windowHandle(), Qt::LeftButton, {}, aide->Command1->geometry().center());
             QCOMPARE(aide->TextBrowser1->source().fragment(), QString());
             fenetre.close();
