@@ -11,6 +11,7 @@
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "shell/NomsPerdus.h"
 #include "shell/Reglages.h"
 
 namespace {
@@ -80,6 +81,7 @@ void DosProg::FolderTreeview1_SelectionChange()
 void DosProg::Command1_Click()
 {
     FolderTreeview1_SelectionChange();
+    AnnonceNomPerdu(Dossier(), LigneNom::Citee, windowTitle());
     try {
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/NomsPerdus.h"
 #include "ui_FrmConfDem.h"
 
 #include <QDialog>
@@ -20,11 +21,10 @@ public:
 private:
     void Form_Activate();
     void Command2_Click();
-    void Command5_Click();
     void Command4_Click();
     void Command6_Click();
 
-    void ChoisitDossier(QLabel *montre);
+    void ChoisitDossier(QLabel *montre, LigneNom ligne);
 };
 
 /// Opens the start-up options.

@@ -13,6 +13,10 @@ class FrmLangue : public QDialog, public Ui::FrmLangue
 public:
     explicit FrmLangue(QWidget *parent = nullptr);
 
+Q_SIGNALS:
+    /// The language is chosen, and nothing written yet.
+    void LangueChoisie();
+
 private:
     void Command1_Click();
 };

@@ -13,6 +13,7 @@
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
 #include "shell/FrmPrinc.h"
+#include "shell/NomsPerdus.h"
 #include "shell/Reglages.h"
 
 #include <QCoreApplication>
@@ -56,7 +57,10 @@ void LisReglages()
     }
     IniParDefaut();
     LangIndex = 0;
-    FrmLangue().exec();
+    FrmLangue dialogue;
+    QObject::connect(&dialogue, &FrmLangue::LangueChoisie, AnnonceDossierPerdu);
+    if (dialogue.exec() == QDialog::Rejected) // the settings are written all the same
+        AnnonceDossierPerdu();
     AppliqueLangue();
 }
 

@@ -2,6 +2,7 @@
 
 #include "comconfig/DosProg.h"
 #include "shell/CadreExplorateur.h"
+#include "shell/NomsPerdus.h"
 
 #include <QDir>
 
@@ -58,6 +59,21 @@ private Q_SLOTS:
             atelier.Redemarre();
             QCOMPARE(DossierDe(type), atelier.Chemin("Prog/Tour/"));
         }
+    }
+
+    // A folder whose name the file cannot keep is in force, and told as it is applied.
+    void NomPerdu()
+    {
+        Atelier atelier(1);
+        QDir(atelier.Dossier()).mkdir(u"a\"b"_s);
+        const DosProg dialogue(DossierJauges, nullptr);
+        dialogue.FolderTreeview1->setSelectedFolder(atelier.Chemin(u"a\"b"_s));
+        atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
+        dialogue.Command1->click();
+        AnnonceNomPerdu(DosJauge, LigneNom::Nue, {}); // a bare line keeps it
+        QCOMPARE(DosJauge, atelier.Chemin(u"a\"b/"_s));
+        atelier.Redemarre();
+        QCOMPARE(DosJauge, atelier.Chemin("a"));
     }
 
     // A folder that has gone gives way to the application folder, even if the operator then only closes the dialog. One

@@ -17,7 +17,7 @@ struct Atelier : Etabli
     Atelier()
         : Etabli(0)
     {
-        for (const QString &dossier : {u"Pieces"_s, u"Conf"_s, u"A, B"_s})
+        for (const QString &dossier : {u"Pieces"_s, u"Conf"_s, u"A, B"_s, u"Łódź ŁéŁ"_s})
             QDir(Dossier()).mkdir(dossier);
     }
 
@@ -73,8 +73,6 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(Donnees(u"Complet.par"_s), atelier.Chemin("Conf/Tour.par")));
         atelier.Parcourt("Command1", u"Pieces"_s);
         atelier.Parcourt("Command2", u"Conf/Tour.par"_s);
-        atelier.Parcourt("Command5", u"A, B"_s); // a name that the file cannot hold
-        atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
         atelier.Parcourt("Command5", u"Conf"_s);
         atelier.Coche(u"123"_s);
         const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
@@ -92,6 +90,32 @@ private Q_SLOTS:
         atelier.Ouvre(true, reste);
         atelier.Redemarre();
         QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
+    }
+
+    // A name that the settings cannot keep is told as it is chosen, with its letters. Each line loses other signs.
+    void NomsPerdus()
+    {
+        Atelier atelier;
+        QVERIFY(QFile::copy(Donnees(u"Complet.par"_s), atelier.Chemin(u"Łódź ŁéŁ/Tour.par"_s)));
+        const QString lettres = u"  Ł ź\r"_s;
+        const std::tuple<const char *, QString, QString> choix[] = {{"Command5", u"A, B"_s, u" une virgule,"_s},
+                                                                    {"Command1", u"A, B"_s, {}},
+                                                                    {"Command1", u"Łódź ŁéŁ"_s, lettres},
+                                                                    {"Command5", u"Łódź ŁéŁ"_s, lettres},
+                                                                    {"Command2", u"Łódź ŁéŁ/Tour.par"_s, lettres}};
+        for (const auto &[bouton, nom, dit] : choix) {
+            atelier.Parcourt(bouton, nom);
+            if (!dit.isEmpty())
+                atelier.Fait("MsgBox", [attendu = PourAffichage(dit)](QWidget &fenetre) {
+                    QVERIFY(dynamic_cast<QMessageBox &>(fenetre).text().contains(attendu));
+                    fenetre.close();
+                });
+        }
+        atelier.Fait("FrmConfDem", [&](QWidget &fenetre) {
+            QCOMPARE(fenetre.findChild<QLabel *>(u"LblDos"_s)->text(), atelier.Chemin(u"Łódź ŁéŁ"_s));
+            fenetre.close();
+        });
+        Operateur::Menu("Mnu_ConfigDemar");
     }
 
     // Cancelled choices leave what stood there, and closing changes no setting. The language dialog starts the settings

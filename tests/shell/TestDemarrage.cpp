@@ -57,6 +57,32 @@ private Q_SLOTS:
         }
     }
 
+    // An application folder whose name the settings cannot keep is told on the first start, in the language chosen and
+    // before anything is written; when no language is chosen too.
+    void DossierPerdu()
+    {
+        for (const bool choisit : {true, false}) {
+            Etabli etabli;
+            const QString dossier = etabli.Chemin(u"a,b \"Łó\""_s);
+            QDir().mkdir(dossier);
+            FixeDossierApplication(dossier);
+            if (choisit) {
+                etabli.Presse("FrmLangue", "Option2");
+                etabli.Presse("FrmLangue", "Command1");
+            } else {
+                etabli.Ferme("FrmLangue");
+            }
+            etabli.Fait("MsgBox", [&](QWidget &fenetre) {
+                QCOMPARE(fenetre.windowTitle(), choisit ? u"Folder of Dorvanel"_s : u"Dossier de Dorvanel"_s);
+                QVERIFY(dynamic_cast<QMessageBox &>(fenetre).text().contains(u":  , \" Ł\n"_s + dossier));
+                QVERIFY(!QFile::exists(dossier + u"/Dorvanel.ini"_s));
+                fenetre.close();
+            });
+            etabli.Demarre();
+            QVERIFY(QFile::exists(dossier + u"/Dorvanel.ini"_s));
+        }
+    }
+
     // A folder that takes no settings is told, one that does is not. A full disk leaves no half settings behind, so
     // that the next start is a first one again; a link whose drive is away stays.
     void DossierFerme()
