@@ -7,6 +7,7 @@
 #include "platform/CommonDialog.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
+#include "platform/UneLigne.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
@@ -211,5 +212,5 @@ void ChargeAutreConfiguration(const std::function<void()> &montre)
 
 QString ConfigurationEnClair()
 {
-    return NomConf + QStringLiteral("  ") + ParamCom.Commentaire;
+    return NomConf + QStringLiteral("  ") + SurUneLigne(ParamCom.Commentaire);
 }

@@ -62,7 +62,7 @@ FrmCaract::FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     Form_Load();
-    Label1->MontreChaine(libelle);
+    MontreLibelle(libelle);
     SuitChaine();
 }
 
@@ -121,6 +121,12 @@ void FrmCaract::ChoisitBouton(QPushButton *bouton, int code, const QString &lege
     m_caracteres << bouton;
 }
 
+/// Once the codes stand.
+void FrmCaract::MontreLibelle(const QString &libelle)
+{
+    Label1->MontreChaine(libelle, CaracteresDe(m_type));
+}
+
 int &FrmCaract::Nombre() const
 {
     return ParamCom.*Chaines[m_type].nombre;
@@ -138,7 +144,7 @@ void FrmCaract::Ajoute(int code, const QString &legende)
     Code(++Nombre()) = code;
     m_precedent = Label1->text();
     Command3->setEnabled(true);
-    Label1->MontreChaine(m_precedent + legende);
+    MontreLibelle(m_precedent + legende);
     SuitChaine();
 }
 
@@ -162,19 +168,19 @@ void FrmCaract::SuitChaine()
 
 void FrmCaract::Command3_Click()
 {
-    Label1->MontreChaine(m_precedent);
     Command3->setEnabled(false);
     Code(Nombre()) = 0;
     --Nombre();
+    MontreLibelle(m_precedent);
     SuitChaine();
 }
 
 /// After it there is nothing to undo.
 void FrmCaract::Command2_Click()
 {
-    Label1->MontreChaine(QString());
     for (; Nombre() > 0; --Nombre())
         Code(Nombre()) = 0;
+    MontreLibelle(QString());
     Command3->setEnabled(false);
     SuitChaine();
 }

@@ -31,6 +31,7 @@ private:
     QPushButton *CreeBouton(int code);
     void ChoisitBouton(QPushButton *bouton, int code, const QString &legende);
     void Ajoute(int code, const QString &legende);
+    void MontreLibelle(const QString &libelle);
     void SuitChaine();
     int &Nombre() const;
     int &Code(int position) const;

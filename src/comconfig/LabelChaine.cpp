@@ -3,6 +3,7 @@
 #include "platform/PageCode1252.h"
 
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextLayout>
 
@@ -27,6 +28,23 @@ QList<std::pair<int, int>> Lignes(const QString &texte, const QFont &police, int
     return lignes;
 }
 
+/// libelle with as many "&" one behind the other as the chain has there: its button adds two for one, the free
+/// character one. A label whose chain has none is a caption, in which two stand for one.
+QString EsperluettesVraies(const QString &libelle, const QString &caracteres)
+{
+    static const QRegularExpression suite(QStringLiteral("&+"));
+    auto vraies = suite.globalMatch(caracteres);
+    QString visible;
+    qsizetype fin = 0;
+    for (auto ecrites = suite.globalMatch(libelle); ecrites.hasNext();) {
+        const QRegularExpressionMatch ecrite = ecrites.next();
+        const qsizetype nombre = vraies.hasNext() ? vraies.next().capturedLength() : (ecrite.capturedLength() + 1) / 2;
+        visible += libelle.mid(fin, ecrite.capturedStart() - fin) + QString(nombre, u'&');
+        fin = ecrite.capturedEnd();
+    }
+    return visible + libelle.mid(fin);
+}
+
 } // namespace
 
 LabelChaine::LabelChaine(QWidget *parent)
@@ -36,13 +54,14 @@ LabelChaine::LabelChaine(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
-void LabelChaine::MontreChaine(const QString &libelle)
+void LabelChaine::MontreChaine(const QString &libelle, const QString &caracteres)
 {
-    const QString visible = Visible(libelle);
+    m_visible = ControlesVisibles(EsperluettesVraies(libelle, caracteres));
     setText(libelle);
     // A tool tip would take names such as <EM> and <SUB> for tags.
-    setToolTip(Qt::mightBeRichText(visible) ? visible.toHtmlEscaped() : visible);
-    setAccessibleDescription(visible);
+    setToolTip(Qt::mightBeRichText(m_visible) ? m_visible.toHtmlEscaped() : m_visible);
+    setAccessibleDescription(m_visible);
+    update(); // the same label may stand for another chain
 }
 
 void LabelChaine::ReserveLignes(int nombre)
@@ -64,18 +83,12 @@ QSize LabelChaine::minimumSizeHint() const
             m_lignes * fontMetrics().lineSpacing() + bords};
 }
 
-QString LabelChaine::Visible(const QString &libelle)
-{
-    return ControlesVisibles(libelle).replace(QLatin1String("&&"), QLatin1String("&"));
-}
-
 void LabelChaine::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     drawFrame(&peintre);
     const QRect cadre = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    const QString visible = Visible(text());
-    const auto lignes = Lignes(visible, font(), cadre.width());
+    const auto lignes = Lignes(m_visible, font(), cadre.width());
     const int pas = fontMetrics().lineSpacing();
     const int tiennent = qMax(1, cadre.height() / pas);
     const int montrees = qMin(tiennent, static_cast<int>(lignes.size()));
@@ -88,7 +101,7 @@ void LabelChaine::paintEvent(QPaintEvent *)
         const auto &[debut, longueur] = lignes[i];
         const bool coupe = i + 1 == montrees && montrees < lignes.size();
         peintre.drawText(cadre.left(), haut + fontMetrics().ascent(),
-                         coupe ? fontMetrics().elidedText(visible.mid(debut), Qt::ElideRight, cadre.width())
-                               : visible.mid(debut, longueur));
+                         coupe ? fontMetrics().elidedText(m_visible.mid(debut), Qt::ElideRight, cadre.width())
+                               : m_visible.mid(debut, longueur));
     }
 }

@@ -12,18 +12,17 @@ class LabelChaine : public QLabel
 public:
     explicit LabelChaine(QWidget *parent = nullptr);
 
-    void MontreChaine(const QString &libelle);
+    /// caracteres: the chain itself, which tells an "&" that a button has doubled from two of them.
+    void MontreChaine(const QString &libelle, const QString &caracteres);
     /// Keeps room for that many lines; one to begin with.
     void ReserveLignes(int nombre);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// The form in which the label shows libelle.
-    static QString Visible(const QString &libelle);
-
 protected:
     void paintEvent(QPaintEvent *) override;
 
 private:
+    QString m_visible; // what the label shows
     int m_lignes = 1;
 };

@@ -137,6 +137,18 @@ void BatirChaines()
         ParamCom.ChaineFinLig = finsDeLigne[ParamCom.TypeFinLig];
 }
 
+bool FinTransfertPerdue()
+{
+    constexpr int xonXoff = 1;
+    constexpr int xonXoffEtRts = 3;
+    constexpr int autre = 2;
+    if (ParamCom.ControleFlux != xonXoff && ParamCom.ControleFlux != xonXoffEtRts)
+        return false;
+    const QString chaine = CaracteresDe(ChaineTransfert);
+    return ParamCom.TypeFinTrans == 0 ||
+           (ParamCom.TypeFinTrans == autre && (chaine.contains(u'\x11') || chaine.contains(u'\x13')));
+}
+
 QString CaracteresDe(TypeChaine type)
 {
     const ChampsChaine &chaine = Chaines[type];

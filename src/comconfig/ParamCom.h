@@ -93,5 +93,8 @@ void EcrireFichierPar(const QString &chemin);
 /// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.
 void BatirChaines();
 
+/// True when XON/XOFF takes a character of the chosen end of transfer out of what is received: the end never arrives.
+bool FinTransfertPerdue();
+
 /// The characters of a chain, whatever TypeFinLig and TypeFinTrans say.
 QString CaracteresDe(TypeChaine type);

@@ -16,6 +16,7 @@
 #include "platform/GardePlaces.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "shell/NomsPerdus.h"
 #include "shell/Reglages.h"
 
 #include <QDir>
@@ -35,6 +36,16 @@ constexpr Texte3 TitreEnregistre{u"Enregistrer la configuration de communication
                                  u"Save a configuration of communication",
                                  u"Registrar la configuración de comunicación"};
 constexpr char16_t Programme[] = u"Dorvanel Pro";
+constexpr Texte3 FinPerdue{
+    u"Le fichier est enregistré, mais cette fin de transfert contient le caractère 17 ou 19 (XON, XOFF),\r"
+    u"que le contrôle de flux XOn/XOff prend pour lui : elle n'arrive jamais, et une réception ne finirait pas.\r"
+    u"Choisir une autre fin de transfert, comme EOT, ici et sur la machine, ou le contrôle de flux RTS/CTS.",
+    u"The file is saved, but this end of transfer holds the character 17 or 19 (XON, XOFF),\r"
+    u"which the flow control XOn/XOff takes for itself: it never arrives, and a reception would not end.\r"
+    u"Choose another end of transfer, such as EOT, here and at the machine, or the flow control RTS/CTS.",
+    u"El fichero está registrado, pero este final de transferencia contiene el carácter 17 o 19 (XON, XOFF),\r"
+    u"que el control de flujo XOn/XOff toma para sí: no llega nunca, y una recepción no terminaría.\r"
+    u"Elegir otro final de transferencia, como EOT, aquí y en la máquina, o el control de flujo RTS/CTS."};
 
 constexpr char16_t TitreEditeur[] = u"Choix de l'éditeur de programmes CN";
 constexpr char16_t FiltreEditeur[] = u"Fichiers EXE |*.exe|Fichiers COM |*.com|Fichiers BAT |*.bat|Fichiers PIF |*.pif"
@@ -222,6 +233,8 @@ void Prop::Command1_Click()
         NomConf = CommonDialog1->FileTitle;
         EcrireFichierPar(FicConf);
         Nomme(NomConf);
+        if (FinTransfertPerdue())
+            MsgBox(Texte(FinPerdue), Boite::Exclamation, QString::fromUtf16(Programme));
     });
 }
 
@@ -240,6 +253,7 @@ void Prop::Command5_Click()
         CommonDialog1->ShowOpen();
         EditeurCN = CommonDialog1->FileName;
         Label12->setText(EditeurCN);
+        AnnonceNomPerdu(EditeurCN, LigneNom::Citee, QString::fromUtf16(Programme));
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {
         if (erreur.Numero() != Erreur::DialogueAnnule)

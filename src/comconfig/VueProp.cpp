@@ -222,9 +222,9 @@ void ParamDefaut(const Ui::Prop &dialogue)
     for (const Liste &liste : Listes)
         MontreArticle(dialogue.*liste.liste, ParamCom.*liste.champ);
     MontreParite(dialogue.cboParity);
-    dialogue.LabelDebProg->MontreChaine(ParamCom.LibDebProg);
-    dialogue.LabelFinTrans->MontreChaine(ParamCom.LibFinTrans);
-    dialogue.LabelFinLigne->MontreChaine(ParamCom.LibFinLig);
+    dialogue.LabelDebProg->MontreChaine(ParamCom.LibDebProg, CaracteresDe(ChaineDebut));
+    dialogue.LabelFinTrans->MontreChaine(ParamCom.LibFinTrans, CaracteresDe(ChaineTransfert));
+    dialogue.LabelFinLigne->MontreChaine(ParamCom.LibFinLig, CaracteresDe(ChaineLigne));
     for (const CaseNombre &champ : CasesNombre)
         MontreEnEntier(dialogue.*champ.boite, QString::number(ParamCom.*champ.champ));
     dialogue.Text3->setText(ParamCom.CarRemplace);

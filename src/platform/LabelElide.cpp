@@ -1,5 +1,7 @@
 #include "platform/LabelElide.h"
 
+#include "platform/UneLigne.h"
+
 #include <QHelpEvent>
 #include <QStyle>
 #include <QStylePainter>
@@ -11,22 +13,37 @@ LabelElide::LabelElide(QWidget *parent)
     setTextFormat(Qt::PlainText);
 }
 
+QSize LabelElide::sizeHint() const
+{
+    return UneLigneDe(fontMetrics().horizontalAdvance(Ligne()) + 1); // an advance may be rounded down
+}
+
 QSize LabelElide::minimumSizeHint() const
 {
     constexpr int caracteres = 4; // what it shrinks to, the ellipsis with it
-    return {caracteres * fontMetrics().averageCharWidth(), QLabel::minimumSizeHint().height()};
+    return UneLigneDe(caracteres * fontMetrics().averageCharWidth());
+}
+
+QSize LabelElide::UneLigneDe(int largeur) const
+{
+    return QSize(largeur, fontMetrics().height()).grownBy(contentsMargins());
+}
+
+QString LabelElide::Ligne() const
+{
+    return SurUneLigne(text());
 }
 
 QString LabelElide::Montre() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    return fontMetrics().elidedText(Ligne(), Qt::ElideRight, contentsRect().width());
 }
 
 bool LabelElide::event(QEvent *evenement)
 {
     if (evenement->type() != QEvent::ToolTip)
         return QLabel::event(evenement);
-    QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), Montre() == text() ? QString() : text(),
+    QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), Montre() == Ligne() ? QString() : text(),
                        this);
     return true;
 }

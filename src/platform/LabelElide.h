@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label that shows its text on one line, cut at the right with an ellipsis where it has no room; the tool tip then
-/// shows the whole. Its text() is always the whole.
+/// A label that shows its text on one line, whatever line ends that holds, cut at the right with an ellipsis where it
+/// has no room; the tool tip then shows the whole. Its text() is always the whole.
 class LabelElide : public QLabel
 {
     Q_OBJECT
@@ -11,6 +11,7 @@ class LabelElide : public QLabel
 public:
     explicit LabelElide(QWidget *parent = nullptr);
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
@@ -18,5 +19,7 @@ protected:
     void paintEvent(QPaintEvent *) override;
 
 private:
+    QSize UneLigneDe(int largeur) const;
+    QString Ligne() const;
     QString Montre() const;
 };

@@ -7,6 +7,7 @@
 #include "gauges/ReceptionJauge.h"
 #include "locale/FrmLangue.h"
 #include "platform/MSComm.h"
+#include "platform/UneLigne.h"
 #include "shell/AideEnLigne.h"
 #include "shell/Apropos.h"
 #include "shell/Arrivee.h"
@@ -77,6 +78,7 @@ void Branche()
     BrancheDocument();
     BrancheEdition();
     BrancheAide();
+    TientUneLigne(frmPrinc);
     Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);

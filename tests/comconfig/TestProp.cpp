@@ -2,12 +2,18 @@
 #include "Etabli.h"
 #include "LigneScenario.h"
 
+#include "comconfig/CommandesConf.h"
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmCaract.h"
 #include "comconfig/Prop.h"
+#include "gauges/JauTour.h"
+#include "locale/Legendes.h"
 #include "platform/FichierTexte.h"
+#include "transfer/Rc_Fic.h"
 
+#include <QClipboard>
 #include <QDir>
+#include <QInputDialog>
 
 using namespace Qt::Literals::StringLiterals;
 using C = ConfigurationCom;
@@ -335,15 +341,87 @@ private Q_SLOTS:
         }
     }
 
-    // The names of characters in a tool tip are no tags.
+    // The names of characters in a tool tip are no tags; as many "&" are shown as the chain has, whether a button has
+    // doubled them or the free character has not.
     void BullesDesCaracteres()
     {
         const Poste poste(1);
-        const FrmCaract dialogue(ChaineLigne, u"A&&\u0003"_s, frmPrinc);
+        const FrmCaract dialogue(ChaineLigne, {}, frmPrinc);
         QCOMPARE(dialogue.findChild<QPushButton *>(u"Car_17"_s)->toolTip(), u"17 = 11h  DC1"_s);
-        QCOMPARE(dialogue.Label1->toolTip(), u"A&<ETX>"_s);
-        dialogue.Label1->MontreChaine(u"\u0019"_s);
-        QCOMPARE(dialogue.Label1->toolTip(), u"&lt;EM&gt;"_s);
+        for (const auto &[libelle, chaine, visible] : {std::tuple{u"A&&\u0003"_s, u"A&\u0003"_s, u"A&<ETX>"_s},
+                                                       {u"&&"_s, u"&&"_s, u"&&"_s},
+                                                       {u"&&&LF&&"_s, u"&&\n&"_s, u"&&LF&"_s},
+                                                       {u"R&&D"_s, u"RD"_s, u"R&D"_s},
+                                                       {u"\u0019"_s, u"\u0019"_s, u"&lt;EM&gt;"_s}}) {
+            dialogue.Label1->MontreChaine(libelle, chaine);
+            QCOMPARE(dialogue.Label1->toolTip(), visible);
+        }
+    }
+
+    // What is pasted, dropped or composed into a one-line box keeps to one line: in a box without a rule, of one
+    // character, with a rule of its own, in a list's, and in one that the system makes. No label grows with it.
+    void UneLigne()
+    {
+        Banc banc;
+        const auto entre = [](QLineEdit *boite, const QString &texte) {
+            boite->clear();
+            QGuiApplication::clipboard()->setText(texte);
+            boite->paste();
+            const QString colle = boite->text();
+            boite->clear();
+            QInputMethodEvent methode;
+            methode.setCommitString(texte);
+            QCoreApplication::sendEvent(boite, &methode);
+            return colle == boite->text() ? colle : u"differs"_s;
+        };
+        Prop prop(frmPrinc);
+        FrmCaract chaine(ChaineLigne, {}, &prop);
+        JauTour cadran(frmPrinc);
+        Rc_Fic reception(frmPrinc);
+        QInputDialog demande;
+        for (QDialog *const fenetre : std::initializer_list<QDialog *>{&prop, &chaine, &cadran, &reception, &demande})
+            fenetre->show();
+        QCOMPARE(entre(prop.Text1, u"A\r\nB\n\rC\u2028D\n"_s), u"A B  C D "_s);
+        QCOMPARE(entre(prop.Text3, u"\n"_s) + entre(chaine.Text1, u"\r\n"_s), QString());
+        QCOMPARE(entre(cadran.Text1, u"0.4\r\n"_s) + u'|' + entre(cadran.Text1, u"0\n4"_s), u"0.4|"_s);
+        QCOMPARE(entre(reception.Combo1->lineEdit(), u"a\nb"_s), u"a b"_s);
+        QCOMPARE(entre(demande.findChild<QLineEdit *>(), u"a\nb"_s), u"a b"_s);
+
+        const int hauteur = frmPrinc->Label6->sizeHint().height();
+        ParamCom.Commentaire = u"A\r\nB\r\nC"_s; // an old file may hold it
+        prop.Text1->setText(ParamCom.Commentaire);
+        MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
+        QCOMPARE(frmPrinc->Label6->sizeHint().height(), hauteur);
+        QCOMPARE(prop.Text1->text() + ConfigurationEnClair(), u"A B C  A B C"_s);
+    }
+
+    // A file whose end of transfer the flow control takes away is saved, and the operator told.
+    void FinPerdue()
+    {
+        for (const auto &[flux, fin, code, perdue] : {std::tuple{0, 0, 0, false},
+                                                      {1, 0, 0, true},
+                                                      {3, 0, 0, true},
+                                                      {2, 0, 0, false},
+                                                      {1, 1, 19, false},
+                                                      {1, 2, 17, true},
+                                                      {3, 2, 19, true},
+                                                      {1, 2, 18, false},
+                                                      {2, 2, 19, false}}) {
+            Banc banc;
+            ParamCom.ControleFlux = flux;
+            ParamCom.TypeFinTrans = fin;
+            ParamCom.NbCarFinTrans = 2;
+            ParamCom.CarFinTrans = {0, 13, code};
+            const Prop prop(frmPrinc);
+            banc.Choisit(banc.Chemin("Fin.par"));
+            if (perdue)
+                banc.Fait("MsgBox", [&](QWidget &fenetre) {
+                    QVERIFY(dynamic_cast<QMessageBox &>(fenetre).text().contains(u"17 ou 19"_s));
+                    fenetre.close();
+                });
+            prop.Command1->click();
+            QVERIFY(banc.Lit("Fin.par").endsWith(" 1 \r\n"));
+        }
     }
 };
 
