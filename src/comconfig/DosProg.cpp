@@ -43,6 +43,7 @@ DosProg::DosProg(TypeDossier type, QWidget *parent)
     FiltreNom(Text1);
     Form_Load();
     connect(FolderTreeview1, &FolderTreeview::SelectionChange, this, &DosProg::FolderTreeview1_SelectionChange);
+    connect(FolderTreeview1, &FolderTreeview::Disparu, this, &DosProg::FolderTreeview1_Disparu);
     connect(Command1, &QPushButton::clicked, this, &DosProg::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &DosProg::reject);
     connect(Command3, &QPushButton::clicked, this, &DosProg::Command3_Click);
@@ -56,8 +57,7 @@ void DosProg::Form_Load()
     try {
         FolderTreeview1->setSelectedFolder(DepuisDossierApplication(Dossier()));
     } catch (const Erreur &) {
-        MsgBox(Texte(m_type == DossierProgrammes ? AbsentProgrammes : AbsentJauges) + Dossier() + Texte(AbsentApres),
-               Boite::Exclamation, Texte(AbsentTitre));
+        DitDisparu(Dossier());
         Dossier() = DosAppli;
         Saute([this] { FolderTreeview1->setSelectedFolder(DosAppli); });
     }
@@ -71,10 +71,29 @@ QString &DosProg::Dossier() const
 void DosProg::FolderTreeview1_SelectionChange()
 {
     const QString choisi = FolderTreeview1->SelectedFolder();
-    if (choisi.isEmpty()) // the volume that held the folder has been taken out
+    if (choisi.isEmpty()) // its volume has been taken out, and another folder will be selected
         return;
     Dossier() = choisi;
     Q_EMIT DossierChoisi();
+}
+
+/// The folder follows the selection to the nearest one that is left, or where its volume has gone to the application
+/// folder.
+void DosProg::FolderTreeview1_Disparu(const QString &dossier)
+{
+    if (FolderTreeview1->SelectedFolder().isEmpty())
+        Saute([this] { FolderTreeview1->setSelectedFolder(DosAppli); });
+    if (m_dit)
+        return;
+    m_dit = true;
+    DitDisparu(dossier);
+    m_dit = false;
+}
+
+void DosProg::DitDisparu(const QString &dossier)
+{
+    MsgBox(Texte(m_type == DossierProgrammes ? AbsentProgrammes : AbsentJauges) + dossier + Texte(AbsentApres),
+           Boite::Exclamation, Texte(AbsentTitre));
 }
 
 /// A file that cannot be written is told; the folder is in force for this run all the same.

@@ -32,12 +32,15 @@ Q_SIGNALS:
 private:
     void Form_Load();
     void FolderTreeview1_SelectionChange();
+    void FolderTreeview1_Disparu(const QString &dossier);
     void Command1_Click();
     void Command3_Click();
     void Command4_Click();
 
+    void DitDisparu(const QString &dossier);
     void MontreNouveau(bool montre);
     QString &Dossier() const;
 
     TypeDossier m_type;
+    bool m_dit = false; // the operator is being told that the selected folder has gone
 };

@@ -57,6 +57,13 @@ std::vector<fs::path> Entrees(const fs::path &dossier)
     return entrees;
 }
 
+/// Where an entry of the disk stands: its own name, which may be a link's, in its folder without any link.
+QString Place(const QString &chemin)
+{
+    const QFileInfo entree(chemin);
+    return QDir(entree.dir().canonicalPath()).filePath(entree.fileName());
+}
+
 void EffaceEntree(const fs::path &chemin, const std::function<bool()> &suivi)
 {
     if (EstDossier(chemin)) {
@@ -91,6 +98,18 @@ bool EstRacine(const QString &chemin)
 {
     const QDir dossier(chemin);
     return dossier.isRoot() || QFileInfo(QStorageInfo(dossier).rootPath()) == QFileInfo(dossier.absolutePath());
+}
+
+std::optional<QString> ResteDerriere(const QString &dossier, const QString &chemin)
+{
+    const QString cherche = Place(QDir::cleanPath(dossier));
+    for (const QString &entier : {QDir::cleanPath(chemin), QFileInfo(chemin).canonicalFilePath()}) {
+        for (QString debut = entier; !debut.isEmpty() && !QDir(debut).isRoot(); debut = QFileInfo(debut).path()) {
+            if (Place(debut) == cherche)
+                return entier.mid(debut.size());
+        }
+    }
+    return std::nullopt;
 }
 
 void CreeDossier(const QString &chemin)

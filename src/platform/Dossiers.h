@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 // Folders of the disk: made, renamed, deleted. A failure raises AccesRefuse, FichierIntrouvable, DisqueSature or
 // ErreurFichier, and its description names the path that it concerns.
@@ -19,6 +20,11 @@ ContenuDossier CompteContenu(const QString &chemin);
 
 /// True for a folder that is no part of another one: the root of a drive, or of a volume such as a USB key.
 bool EstRacine(const QString &chemin);
+
+/// What stands behind dossier in chemin, a path in full, where that leads through dossier or ends there: "" or a path
+/// that begins with "/". None where it does not. Links and detours on either side are seen through; dossier may be a
+/// link itself, and then counts only for the paths that use it.
+std::optional<QString> ResteDerriere(const QString &dossier, const QString &chemin);
 
 /// Creates one folder; the folder that is to hold it exists. A name in use is a failure.
 void CreeDossier(const QString &chemin);

@@ -1,6 +1,7 @@
 #include "platform/FolderTreeview.h"
 
 #include "platform/Erreur.h"
+#include "platform/Volumes.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -67,14 +68,9 @@ struct Lieu
 QList<Lieu> Lieux()
 {
     QList<Lieu> lieux = {{QDir::homePath(), QDir::home().dirName(), QStyle::SP_DirHomeIcon}};
-    const QString utilisateur = qEnvironmentVariable("USER", QDir::home().dirName());
-    // Here a desktop session mounts what is plugged in.
-    for (const QString &montages :
-         {QStringLiteral("/media/") + utilisateur, QStringLiteral("/run/media/") + utilisateur}) {
-        const auto volumes = QDir(montages).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-        for (const QFileInfo &volume : volumes)
-            lieux << Lieu{volume.filePath(), volume.fileName(), QStyle::SP_DriveHDIcon};
-    }
+    const QStringList volumes = Volumes();
+    for (const QString &volume : volumes)
+        lieux << Lieu{volume, QFileInfo(volume).fileName(), QStyle::SP_DriveHDIcon};
     const auto disques = QDir::drives();
     for (const QFileInfo &disque : disques) {
         if (disque.filePath() != QDir::homePath())
@@ -104,7 +100,7 @@ FolderTreeview::FolderTreeview(QWidget *parent)
     // A deep folder scrolls into view instead of being cut.
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    connect(&m_guetteur, &GuetteurDossiers::Change, this, &FolderTreeview::Refresh);
+    connect(&m_guetteur, &GuetteurDossiers::Change, this, &FolderTreeview::SuitLeDisque);
     connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lis);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::Annonce);
     connect(this, &QTreeWidget::itemClicked, this, &FolderTreeview::Click);
@@ -160,6 +156,23 @@ void FolderTreeview::Refresh()
     LisSommets();
     for (int i = 0; i < topLevelItemCount(); ++i)
         Relis(topLevelItem(i));
+}
+
+void FolderTreeview::SuitLeDisque()
+{
+    const QString choisi = SelectedFolder();
+    Refresh();
+    if (choisi != SelectedFolder())
+        Q_EMIT Disparu(choisi);
+}
+
+void FolderTreeview::Pendant(const std::function<void()> &travail)
+{
+    {
+        const QSignalBlocker sourd(m_guetteur);
+        travail();
+    }
+    Refresh();
 }
 
 /// The top of the tree: volumes come and go while the program runs.

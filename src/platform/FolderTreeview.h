@@ -4,12 +4,14 @@
 
 #include <QTreeWidget>
 
-/// The tree of the folders of this PC. At its top stand the operator's own folder, the USB keys and other volumes that
-/// his session has mounted, and the drives (one root where the system has no drives); below them lie real folders only,
-/// so there is nothing in the tree that is no folder of the disk.
+#include <functional>
+
+/// The tree of the folders of this PC. At its top stand the operator's own folder, the USB keys and other volumes (see
+/// Volumes.h), and the drives (one root where the system has no drives). Every node is a real folder of the disk.
 ///
-/// A folder is read when it is first opened, and again at each opening; what is open follows the disk. Hidden folders
-/// are left out, but for those on the way to a folder that the program itself selects.
+/// A folder is read when it is first opened, and again at each opening. What has been read follows the disk, and the
+/// volumes come and go at the top; what is open and selected stays so. Hidden folders are left out, but for those on
+/// the way to a folder that the program itself selects.
 ///
 /// Paths: read with a final separator; written with or without.
 class FolderTreeview : public QTreeWidget
@@ -29,18 +31,25 @@ public:
     /// The folder above the selected one; "" for a root, or when nothing is selected.
     QString Parent() const;
 
-    /// Reads what has been read of the tree anew. Where the selected folder has gone, the one above it is selected.
+    /// Reads what has been read of the tree anew. Where the selected folder has gone, the nearest one above it that
+    /// exists is selected; none where its volume has gone.
     void Refresh();
 
+    /// Runs travail, by which the operator himself takes folders away, and reads the tree anew behind it: none of them
+    /// counts as Disparu. Raises what travail raises.
+    void Pendant(const std::function<void()> &travail);
+
 Q_SIGNALS:
-    void SelectionChange(); ///< another folder is selected, by whatever way
-    void Click();           ///< a folder was clicked, the selected one or another
+    void Disparu(const QString &dossier); ///< the selected folder was taken away, and Refresh() has selected another
+    void SelectionChange();               ///< another folder is selected, by whatever way
+    void Click();                         ///< a folder was clicked, the selected one or another
 
 protected:
     void showEvent(QShowEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
+    void SuitLeDisque();
     void Annonce();
     QTreeWidgetItem *Choisi() const;
     void LisPremierement();

@@ -5,9 +5,23 @@ GuetteurDossiers::GuetteurDossiers()
     using namespace std::chrono_literals;
     m_delai.setSingleShot(true);
     m_delai.setInterval(100ms);
-    connect(this, &QFileSystemWatcher::directoryChanged, this, [this] {
-        if (!m_delai.isActive())
-            m_delai.start();
-    });
+    connect(this, &QFileSystemWatcher::directoryChanged, this, &GuetteurDossiers::Annonce);
+    connect(&m_volumes, &GuetteurVolumes::Change, this, &GuetteurDossiers::ReprendGarde);
     connect(&m_delai, &QTimer::timeout, this, &GuetteurDossiers::Change);
+}
+
+/// Once a volume is mounted on a folder, its path names another folder than the one that is watched.
+void GuetteurDossiers::ReprendGarde()
+{
+    if (const QStringList dossiers = directories(); !dossiers.isEmpty()) {
+        removePaths(dossiers);
+        addPaths(dossiers);
+    }
+    Annonce();
+}
+
+void GuetteurDossiers::Annonce()
+{
+    if (!m_delai.isActive())
+        m_delai.start();
 }

@@ -10,6 +10,7 @@
 #include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
 #include "shell/Chemins.h"
+#include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
 #include "shell/FrmPrinc.h"
@@ -104,6 +105,8 @@ void Enregistre()
 
 void Form_Load()
 {
+    TientChemins({&ParamCom.DosRecep, &DosJauge},
+                 {&NomFichier, &FicConf, &DosDefaut, &FicConfDefaut, &DosConf, &EditeurCN});
     try {
         LisReglages();
     } catch (const Erreur &) {

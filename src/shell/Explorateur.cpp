@@ -7,12 +7,16 @@
 #include "platform/Erreur.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"
+#include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "shell/SuppressionDossier.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QPointer>
+#include <QTimer>
 
 namespace {
 
@@ -39,12 +43,28 @@ constexpr Texte3 RacineTexte{u"Vous vous trouvez dans le dossier racine ! Ce dos
                              u"You are in the root directory ! This directory cannot be removed !",
                              u"Se encuentran en el directorio raíz ! Este directorio no puede suprimirse !"};
 
+constexpr Texte3 DeLApplication{
+    u"Ce dossier est celui de l'application, ou il le contient ! Il ne peut être ni supprimé ni renommé !",
+    u"This directory is that of the application, or holds it ! It can be neither removed nor renamed !",
+    u"Este directorio es el de la aplicación, o lo contiene ! No puede suprimirse ni renombrarse !"};
+
+constexpr Texte3 DisparuTexte{u"Le dossier %1 n'est plus là : il a été supprimé ou déplacé, ou son support retiré.",
+                              u"The directory %1 is no longer there: it was removed or moved, or its drive taken out.",
+                              u"El directorio %1 ya no está: fue suprimido o desplazado, o su unidad retirada."};
+constexpr Texte3 Decoche{
+    u"\rLe dossier sélectionné n'est plus appliqué à l'ouverture ni à la réception des programmes.",
+    u"\rThe selected directory is no longer applied to the opening and receiving of programs.",
+    u"\rEl directorio seleccionado ya no se aplica a la apertura ni a la recepción de programas."};
+
 constexpr Texte3 NonRenommableTitre{u"Information", u"Information", u"Información"};
 constexpr Texte3 NonRenommable{u"Ce dossier ne peut pas être renommé ! ou dossier racine !",
                                u"This repertory cannot be famous! or root directory !",
                                u"Este directorio no puede reelegirse! ¡o directorio raíz !"};
 constexpr Texte3 NonRenomme{u"Erreur ! Le dossier ne peut être renommé.", u"Error ! The repertory cannot be famous.",
                             u"Error ! El directorio no puede reelegirse."};
+
+/// Lives from the loss of a folder until the operator has been told: what else is lost meanwhile is no more news.
+QPointer<QTimer> annonce;
 
 QString SansSeparateur(const QString &dossier)
 {
@@ -71,6 +91,40 @@ void PointeDossier()
         Saute([&arbre] { arbre.setSelectedFolder(DossierApplication()); });
     }
     FolderTreeview1_Click();
+}
+
+/// Tells once no dialog or menu stands open: a transfer would stand still behind the box.
+void AnnonceDisparu(const QString &texte)
+{
+    using namespace std::chrono_literals;
+    if (annonce != nullptr)
+        return;
+    annonce = new QTimer(frmPrinc);
+    annonce->callOnTimeout([texte] {
+        if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
+            return;
+        annonce->stop();
+        MsgBox(texte, Boite::Exclamation, Texte(RacineTitre));
+        if (annonce != nullptr)
+            annonce->deleteLater();
+    });
+    annonce->start(200ms);
+}
+
+/// The selected folder has been taken away, with its USB key maybe. The folder that is selected in its place is not the
+/// one that the operator applied to the programs. A column that is closed, and applied to nothing, says nothing.
+void FolderTreeview1_Disparu(const QString &dossier)
+{
+    FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
+    if (arbre.SelectedFolder().isEmpty())
+        Saute([&arbre] { arbre.setSelectedFolder(DossierApplication()); });
+    const bool applique = frmPrinc->Frame1->CheckDOS->isChecked();
+    if (applique) {
+        frmPrinc->Frame1->CheckDOS->setChecked(false);
+        QuitteReceptions(dossier);
+    }
+    if (applique || frmPrinc->ExplorateurMontre())
+        AnnonceDisparu(Texte(DisparuTexte).arg(SansSeparateur(dossier)) + (applique ? Texte(Decoche) : QString()));
 }
 
 void Combo1_Change()
@@ -110,6 +164,15 @@ void Command1_Click()
     }
 }
 
+/// True, and told, for a folder without which the program finds neither its settings nor its samples.
+bool PorteApplication(const QString &dossier)
+{
+    if (!ResteDerriere(dossier, DossierApplication()))
+        return false;
+    MsgBox(Texte(DeLApplication), Boite::Critique, Texte(RacineTitre));
+    return true;
+}
+
 /// Deletes the selected folder. The folder above is selected afterwards, whatever the operator answered.
 void Command2_Click()
 {
@@ -123,9 +186,10 @@ void Command2_Click()
         MsgBox(Texte(RacineTexte), Boite::Critique, Texte(RacineTitre));
         return;
     }
+    if (PorteApplication(dossier))
+        return;
     const QString parent = arbre.Parent();
-    SupprimeDossier(SansSeparateur(dossier));
-    arbre.Refresh();
+    arbre.Pendant([&dossier] { SupprimeDossier(SansSeparateur(dossier)); });
     try {
         arbre.setSelectedFolder(parent);
     } catch (const Erreur &) {
@@ -133,7 +197,7 @@ void Command2_Click()
     }
 }
 
-/// Renames the selected folder: the operator edits its whole path.
+/// Renames the selected folder: the operator edits its whole path. The open program and the settings go with it.
 void Command4_Click()
 {
     FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
@@ -142,12 +206,14 @@ void Command4_Click()
         MsgBox(Texte(NonRenommable), Boite::Information, Texte(NonRenommableTitre));
         return;
     }
+    if (PorteApplication(dossier))
+        return;
     const QString nouveau = InputBox(QStringLiteral("Indiquez le nouveau nom pour le dossier %1.").arg(dossier),
                                      QStringLiteral("Nouveau nom du dossier"), dossier);
     if (nouveau.isEmpty())
         return;
     try {
-        RenommeDossier(dossier, nouveau);
+        RenommeEtSuit(dossier, nouveau);
         arbre.Refresh();
         arbre.setSelectedFolder(nouveau);
     } catch (const Erreur &) {
@@ -170,6 +236,7 @@ void CreeColonne()
         QObject::connect(bouton, &QPushButton::clicked, frmPrinc, routine);
     QObject::connect(colonne->FolderTreeview1, &FolderTreeview::SelectionChange, frmPrinc, FolderTreeview1_Click);
     QObject::connect(colonne->FolderTreeview1, &FolderTreeview::Click, frmPrinc, FolderTreeview1_Click);
+    QObject::connect(colonne->FolderTreeview1, &FolderTreeview::Disparu, frmPrinc, FolderTreeview1_Disparu);
     QObject::connect(colonne->File1, &FileListBox::DblClick, frmPrinc, File1_DblClick);
     QObject::connect(colonne->Combo1, &QComboBox::editTextChanged, frmPrinc, Combo1_Change);
 }

@@ -76,8 +76,9 @@ private Q_SLOTS:
         QCOMPARE(DosJauge, atelier.Chemin("a"));
     }
 
-    // A folder that has gone gives way to the application folder, even if the operator then only closes the dialog. One
-    // that cannot be made leaves the name on the screen; with nothing selected none is made.
+    // A folder that has gone gives way to the application folder, even if the operator then only closes the dialog; one
+    // that goes while it is open, to the folder above. One that cannot be made leaves the name on the screen; with
+    // nothing selected none is made.
     void DisparuOuNonCree()
     {
         Atelier atelier(2);
@@ -85,6 +86,13 @@ private Q_SLOTS:
         atelier.Apprend("Error", "El directorio <C:\\parti> no existe ya !");
         const DosProg dialogue(DossierJauges, frmPrinc);
         QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), DosAppli + u'/');
+        const QString cle = atelier.Chemin("Cle/");
+        QVERIFY(QDir().mkdir(cle));
+        dialogue.FolderTreeview1->setSelectedFolder(cle);
+        QCOMPARE(DosJauge, cle);
+        atelier.Apprend("Error", u"El directorio <%1> no existe ya !"_s.arg(cle));
+        QVERIFY(QDir().rmdir(cle));
+        QTRY_COMPARE(DosJauge, DosAppli + u'/');
         dialogue.Command3->click();
         dialogue.Text1->setText(u"Prog"_s); // in use
         atelier.Apprend("Erreur", u"El directorio <%1>  no pudo crearse !"_s.arg(atelier.Chemin("Prog")),
@@ -94,7 +102,7 @@ private Q_SLOTS:
         dialogue.Command4->click();
         QVERIFY(!dialogue.Frame1->isHidden());
         dialogue.Command2->click();
-        QCOMPARE(DosJauge, DosAppli);
+        QCOMPARE(DosJauge, DosAppli + u'/');
     }
 
     // The new folder is the reception folder at once, and the tree stands on it, as the explorer does where it was

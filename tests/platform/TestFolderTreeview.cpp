@@ -3,6 +3,7 @@
 #include "platform/FichierTexte.h"
 #include "platform/FileListBox.h"
 #include "platform/FolderTreeview.h"
+#include "platform/Volumes.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -64,7 +65,8 @@ private Q_SLOTS:
     }
 
     // Folders that others make, rename or delete come and go in what has been read, and nothing else moves. Where the
-    // selected one has gone it is the folder above that gets selected, never a neighbour.
+    // selected one has gone it is the folder above that gets selected, never a neighbour, and that is told once; what
+    // the operator takes away himself is not told.
     void SuitLeDisque()
     {
         Pose({u"B/dessous/"_s, u"B/avant/"_s, u"C/"_s});
@@ -80,9 +82,46 @@ private Q_SLOTS:
         QCOMPARE(Noms(arbre, b), u"dessous"_s);
         QVERIFY(arbre.isExpanded(b));
         QCOMPARE(changements.count(), 0);
+        const QSignalSpy disparus(&arbre, &FolderTreeview::Disparu);
         QVERIFY(QDir(Chemin(u"B"_s)).removeRecursively());
         QTRY_COMPARE(Noms(arbre, dossier), u"a D"_s);
         QCOMPARE(arbre.SelectedFolder(), m_dossier->path() + u'/');
+        QCOMPARE(disparus.value(0).value(0).toString(), Chemin(u"B/dessous/"_s));
+        arbre.setSelectedFolder(Chemin(u"D"_s));
+        arbre.Pendant([this] {
+            QVERIFY(QDir().rmdir(Chemin(u"D"_s)));
+            QTest::qWait(200); // as long as the watch takes to tell
+        });
+        QCOMPARE(arbre.SelectedFolder(), m_dossier->path() + u'/');
+        QCOMPARE(disparus.count(), 1);
+    }
+
+    // A name with a blank and an accent; what lies deeper, elsewhere or in another one's session is not for the tree.
+    void VolumesMontes()
+    {
+        QByteArray table;
+        for (const char *la : {"/", "/mnt/z", "/media/moi", "/media/moi/CL\\303\\211\\0401", "/media/lui/X", "/mnt/z",
+                               "/media/cdrom", "/run/media/moi/b\\134", "/mnt/z/a", "/home"})
+            table += "42 27 0:39 / "_ba + la + " rw,relatime shared:1 - vfat /dev/sdb1 rw\n";
+        const QStringList volumes{u"/media/cdrom"_s, u"/media/moi/CLÉ 1"_s, u"/mnt/z"_s, u"/run/media/moi/b\\"_s};
+        QCOMPARE(VolumesDeTable(table + "42 27", u"moi"_s), volumes);
+    }
+
+    // Whether a path leads through a folder, however the two are written.
+    void Derriere()
+    {
+        Pose({u"a/b/c.iso"_s, u"ab/"_s});
+        QVERIFY(QFile::link(Chemin(u"a"_s), Chemin(u"lien"_s)));
+        const std::tuple<QString, QString, std::optional<QString>> cas[] = {{u"a"_s, u"a/b/c.iso"_s, u"/b/c.iso"_s},
+                                                                            {u"a/"_s, u"a/../a/parti"_s, u"/parti"_s},
+                                                                            {u"a"_s, u"a"_s, QString()},
+                                                                            {u"a"_s, u"ab"_s, std::nullopt},
+                                                                            {u"a"_s, u"lien/b/c.iso"_s, u"/b/c.iso"_s},
+                                                                            {u"lien/b"_s, u"a/b/c.iso"_s, u"/c.iso"_s},
+                                                                            {u"lien"_s, u"lien/b/"_s, u"/b"_s},
+                                                                            {u"lien"_s, u"a/b/c.iso"_s, std::nullopt}};
+        for (const auto &[dossier, chemin, reste] : cas)
+            QVERIFY2(ResteDerriere(Chemin(dossier), Chemin(chemin)) == reste, qPrintable(dossier + u' ' + chemin));
     }
 
     void Motifs()

@@ -176,6 +176,77 @@ private Q_SLOTS:
         }
     }
 
+    // What lies in a folder that is renamed goes with it, in the form in which it stood, and in the title. What only
+    // looks alike stays, and all of it where the renaming fails.
+    void RenommeAvecLeProgramme()
+    {
+        Atelier atelier;
+        OuvreDocument(atelier.Chemin("Pieces/Tour/b.cn"));
+        DosDefaut = atelier.Chemin("Pieces/");
+        ParamCom.DosRecep = u"Pieces/Tour"_s;
+        FicConf = atelier.Chemin("Pieces 2/M.par");
+        const auto renomme = [&](const QString &dossier, const QString &nouveau, const char *erreur = nullptr) {
+            frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(atelier.Chemin(dossier));
+            atelier.Fait("InputBox", [=](QWidget &boite) {
+                dynamic_cast<QInputDialog &>(boite).setTextValue(nouveau);
+                dynamic_cast<QInputDialog &>(boite).accept();
+            });
+            if (erreur != nullptr)
+                atelier.Apprend("Erreur", erreur);
+            frmPrinc->Frame1->Command4->click();
+        };
+        renomme(u"Pieces/Tour"_s, atelier.Chemin("b.cn"), "Erreur ! Le dossier ne peut être renommé.");
+        QCOMPARE(NomFichier + u' ' + ParamCom.DosRecep, atelier.Chemin("Pieces/Tour/b.cn Pieces/Tour"));
+        QDir::setCurrent(atelier.Chemin("Pieces"));
+        renomme(u"Pieces/Tour"_s, u"../Pieces/Fraise"_s);
+        renomme(u"Pieces"_s, atelier.Chemin("Lot/"));
+        QCOMPARE(NomFichier, atelier.Chemin("Lot/Fraise/b.cn"));
+        QVERIFY(frmPrinc->windowTitle().endsWith(NomFichier));
+        QCOMPARE(ParamCom.DosRecep, atelier.Chemin("Lot/Fraise"));
+        QCOMPARE(DosDefaut, atelier.Chemin("Lot/"));
+        QCOMPARE(FicConf, atelier.Chemin("Pieces 2/M.par"));
+    }
+
+    // A folder that goes by another hand is left: it is applied no more, and that is told once the dialogs are closed.
+    // A column that is closed, and applied to nothing, says nothing.
+    void Disparait()
+    {
+        Atelier atelier;
+        const auto perd = [&](const QString &dossier) {
+            QDir(atelier.Dossier()).mkpath(dossier);
+            frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(atelier.Chemin(dossier));
+            QVERIFY(QDir().rmdir(atelier.Chemin(dossier)));
+            QTRY_VERIFY(atelier.Montre().startsWith(u"Pieces: b.cn"));
+        };
+        int dits = 0;
+        const auto attend = [&](const QString &suite) {
+            const QString texte =
+                u"Le dossier %1 n'est plus là : il a été supprimé ou déplacé, ou son support retiré."_s;
+            atelier.Fait("MsgBox", [&dits, texte = texte.arg(atelier.Chemin("Pieces/Cle")) + suite](QWidget &boite) {
+                ++dits;
+                QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(), texte);
+                boite.close();
+            });
+        };
+        attend(QString());
+        perd(u"Pieces/Cle"_s);
+        QTRY_COMPARE(dits, 1);
+        Operateur::Barre(15);
+        perd(u"Pieces/Autre"_s);
+        frmPrinc->Frame1->CheckDOS->setChecked(true);
+        ParamCom.DosRecep = atelier.Chemin("Pieces/Cle/");
+        DosJauge = atelier.Chemin("Pieces/");
+        atelier.Fait("InputBox", [&](QWidget &boite) {
+            perd(u"Pieces/Cle"_s);
+            QVERIFY(!frmPrinc->Frame1->CheckDOS->isChecked());
+            QCOMPARE(ParamCom.DosRecep + u' ' + DosJauge, atelier.Dossier() + u' ' + atelier.Chemin("Pieces/"));
+            boite.close();
+        });
+        attend(u"\nLe dossier sélectionné n'est plus appliqué à l'ouverture ni à la réception des programmes."_s);
+        frmPrinc->Frame1->Command1->click();
+        QTRY_COMPARE(dits, 2);
+    }
+
     // What resists is named, with what is left.
     void SupprimeAMoitie()
     {

@@ -1,0 +1,60 @@
+#include "platform/Volumes.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSocketNotifier>
+
+namespace {
+
+const QString Table = QStringLiteral("/proc/self/mountinfo");
+
+/// A blank, a tab, a line end or a "\" in a path stands in the table as "\" and three octal digits.
+QString CheminDeTable(const QByteArray &ecrit)
+{
+    constexpr int chiffres = 3;
+    QByteArray chemin;
+    for (qsizetype i = 0; i < ecrit.size(); ++i) {
+        bool octal = false;
+        const int code = ecrit[i] == '\\' ? ecrit.mid(i + 1, chiffres).toInt(&octal, 8) : 0;
+        chemin += octal ? static_cast<char>(code) : ecrit[i];
+        i += octal ? chiffres : 0;
+    }
+    return QFile::decodeName(chemin);
+}
+
+} // namespace
+
+QStringList VolumesDeTable(const QByteArray &table, const QString &utilisateur)
+{
+    constexpr int champ = 4; // of a line of the table: where the volume is mounted
+    const QStringList dossiers = {QStringLiteral("/media"), QStringLiteral("/media/") + utilisateur,
+                                  QStringLiteral("/run/media/") + utilisateur, QStringLiteral("/mnt")};
+    QStringList volumes;
+    const auto lignes = table.split('\n');
+    for (const QByteArray &ligne : lignes) {
+        const QString chemin = CheminDeTable(ligne.split(' ').value(champ));
+        if (dossiers.contains(QFileInfo(chemin).path()) && !dossiers.contains(chemin))
+            volumes << chemin;
+    }
+    volumes.sort();
+    volumes.removeDuplicates();
+    return volumes;
+}
+
+QStringList Volumes()
+{
+    QFile table(Table);
+    if (!table.open(QIODevice::ReadOnly))
+        return {};
+    return VolumesDeTable(table.readAll(), qEnvironmentVariable("USER", QDir::home().dirName()));
+}
+
+GuetteurVolumes::GuetteurVolumes()
+    : m_table(Table)
+{
+    if (!m_table.open(QIODevice::ReadOnly))
+        return;
+    // The system raises an exception on the table at each change, and takes it back as it is noticed.
+    auto *const signal = new QSocketNotifier(m_table.handle(), QSocketNotifier::Exception, this);
+    connect(signal, &QSocketNotifier::activated, this, &GuetteurVolumes::Change);
+}

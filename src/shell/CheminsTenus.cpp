@@ -1,0 +1,67 @@
+#include "shell/CheminsTenus.h"
+
+#include "platform/Dossiers.h"
+#include "shell/Chemins.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+struct Variables
+{
+    QList<QString *> receptions;
+    QList<QString *> autres;
+} variables;
+
+/// A path kept, with what it is to be.
+struct Suite
+{
+    QString *chemin;
+    QString nouveau;
+};
+
+/// What the paths kept will be once dossier is called nouveau. It has to be asked beforehand: a link that leads into
+/// dossier leads nowhere once that is renamed.
+QList<Suite> Suites(const QString &dossier, const QString &nouveau)
+{
+    QList<Suite> suites;
+    const QList<QString *> tous = variables.receptions + variables.autres;
+    for (QString *const chemin : tous) {
+        const auto reste = ResteDerriere(dossier, DepuisDossierApplication(*chemin));
+        if (!reste)
+            continue;
+        const QString suivi = QDir::toNativeSeparators(nouveau + *reste);
+        suites << Suite{chemin, chemin->endsWith(QDir::separator()) ? AjouteAntislash(suivi) : suivi};
+    }
+    return suites;
+}
+
+} // namespace
+
+void TientChemins(const QList<QString *> &receptions, const QList<QString *> &autres)
+{
+    variables = {receptions, autres};
+}
+
+void RenommeEtSuit(const QString &ancien, const QString &nouveau)
+{
+    // In full at once: the current folder may be the one that is renamed.
+    const QList<Suite> suites = Suites(ancien, QDir::cleanPath(QFileInfo(nouveau).absoluteFilePath()));
+    RenommeDossier(ancien, nouveau);
+    const bool enTitre = !NomFichier.isEmpty() && frmPrinc->windowTitle().endsWith(NomFichier);
+    for (const Suite &suite : suites)
+        *suite.chemin = suite.nouveau;
+    if (enTitre)
+        TitreFenetre(NomFichier);
+}
+
+void QuitteReceptions(const QString &dossier)
+{
+    for (QString *const reception : std::as_const(variables.receptions)) {
+        if (QDir::cleanPath(DepuisDossierApplication(*reception)) == QDir::cleanPath(dossier))
+            *reception = DossierApplication();
+    }
+}
