@@ -1,11 +1,12 @@
 // Receives programs from the simulated machine in the three ways and measures: a large file against a bare text pane
-// that is given the same text, its memory, what waiting for a silent machine costs, and the characters lost by
-// character. Each memory and each waiting is a process of its own.
+// that is given the same text, its memory, one endless line with the echo on, what waiting for a silent machine costs,
+// and the characters lost by character. Each memory, each waiting and each endless line is a process of its own.
 
 #include "Mesure.h"
 #include "Pair.h"
 
 #include "comconfig/ParamCom.h"
+#include "platform/CedeLaMain.h"
 #include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
 #include "platform/PageCode1252.h"
@@ -17,6 +18,7 @@
 #include "transfer/Transfert.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -121,8 +123,34 @@ double ProcesseurEnAttente(const Facon &facon)
     return (fin - debut) / std::chrono::duration<double>(DureeAttente).count();
 }
 
+/// One line of that many characters, seen as it comes and in the program pane at the end: seconds, and the longest time
+/// that the event loop was held, in milliseconds.
+QList<double> LigneSansFin(int caracteres)
+{
+    Poste poste(0);
+    ParamCom.Echo = 1;
+    Envoi envoi;
+    envoi.Texte = QByteArray(caracteres, 'X');
+    QElapsedTimer depuis;
+    qint64 retenue = 0;
+    QTimer pouls;
+    QObject::connect(&pouls, &QTimer::timeout, [&] {
+        retenue = depuis.isValid() ? std::max(retenue, depuis.elapsed()) : 0;
+        depuis.start();
+    });
+    pouls.start(1);
+    const double secondes = SecondesDe([&] { poste.Recoit(ReceptionFichier, RecepFichier, envoi); });
+    CedeLaMain(); // the program pane shows it
+    CedeLaMain();
+    return {secondes, static_cast<double>(retenue)};
+}
+
 void JoueRole(const QString &role, int numero)
 {
+    if (role == QLatin1String("ligne")) {
+        Rend(LigneSansFin(numero));
+        return;
+    }
     if (role == QLatin1String("attente")) {
         Rend({ProcesseurEnAttente(Facons[numero])});
         return;
@@ -158,6 +186,26 @@ bool MesureGrandFichier()
     const bool suite = Montre({QStringLiteral("reception of 16 MB / of 8 MB"), croissance, Mediane(croissancesVolet),
                                volet, croissance, 2.2});
     return temps && suite;
+}
+
+bool MesureLigneSansFin()
+{
+    constexpr int fois = 5;
+    QList<double> durees;
+    QList<double> croissances;
+    QList<double> retenues;
+    for (int i = 0; i < fois; ++i) {
+        const QList<double> deux = Enfant({QStringLiteral("ligne"), QStringLiteral("2000000")}).Chiffres(2);
+        const QList<double> quatre = Enfant({QStringLiteral("ligne"), QStringLiteral("4000000")}).Chiffres(2);
+        durees << deux.at(0);
+        croissances << quatre.at(0) / deux.at(0);
+        retenues << deux.at(1);
+    }
+    const bool suite = Montre({QStringLiteral("one endless line with echo, s for 2 MB; 4 MB / 2 MB"), Mediane(durees),
+                               qQNaN(), QString(), Mediane(croissances), 2.2});
+    const bool retenue = Montre({QStringLiteral("longest hold of the event loop by it, ms"), Mediane(retenues), qQNaN(),
+                                 QString(), Mediane(retenues), 100});
+    return suite && retenue;
 }
 
 bool MesureMemoire()
@@ -229,6 +277,7 @@ int main(int nombre, char *arguments[])
     }
     const QTemporaryDir dossier;
     bool tenu = MesureGrandFichier();
+    tenu &= MesureLigneSansFin();
     tenu &= MesureMemoire();
     tenu &= MesureAttente(dossier);
     tenu &= MesurePertes(dossier);

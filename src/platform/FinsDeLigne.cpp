@@ -23,15 +23,20 @@ bool Passe(QChar c)
 
 QLatin1String TexteDe(FinDeLigne fin)
 {
-    return QLatin1String(fin == FinDeLigne::CrLf ? "\r\n" : fin == FinDeLigne::Cr ? "\r" : "\n");
+    constexpr const char *textes[] = {"\r\n", "\r", "\n", ""};
+    return QLatin1String(textes[static_cast<int>(fin)]);
 }
 
-Troncon PremierTroncon(const QString &texte, qsizetype debut)
+Troncon PremierTroncon(const QString &texte, qsizetype debut, qsizetype colonne)
 {
     Troncon troncon{FinDeLigne::CrLf, debut};
-    for (bool premiere = true;; premiere = false) {
-        const auto *const c = std::find_if(texte.begin() + troncon.suite, texte.end(), EstFinDeLigne);
-        if (c == texte.end())
+    for (bool premiere = true;; premiere = false, colonne = 0) {
+        const qsizetype plein = troncon.suite + std::max<qsizetype>(LongueurRang - colonne, 0);
+        const auto *const limite = texte.begin() + std::min(plein + 1, texte.size());
+        const auto *const c = std::find_if(texte.begin() + troncon.suite, limite, EstFinDeLigne);
+        if (c == limite && plein < texte.size())
+            return premiere ? Troncon{FinDeLigne::Aucune, plein} : troncon;
+        if (c == limite)
             return {troncon.fin, texte.size()};
         const bool crLf = *c == Cr && c + 1 != texte.end() && c[1] == Lf;
         const FinDeLigne fin = crLf ? FinDeLigne::CrLf : *c == Cr ? FinDeLigne::Cr : FinDeLigne::Lf;

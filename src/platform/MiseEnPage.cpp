@@ -7,12 +7,12 @@
 
 void MiseEnPage::documentChanged(int position, int retirees, int ajoutees)
 {
-    constexpr int LigneLongue = 4096;
+    constexpr int Long = 512;
     const int lignes = document()->blockCount();
     const bool memeNombre = std::exchange(m_lignes, lignes) == lignes;
     QTextBlock ligne = document()->findBlock(position);
     const bool dansUneLigne = memeNombre && ligne == document()->findBlock(position + ajoutees);
-    if (!dansUneLigne || ligne.length() < LigneLongue) {
+    if (!dansUneLigne || ligne.length() < Long) {
         QPlainTextDocumentLayout::documentChanged(position, retirees, ajoutees);
         return;
     }

@@ -2,9 +2,8 @@
 
 #include <QPlainTextDocumentLayout>
 
-/// The layout of a plain text pane, except that a very long line waits for its next painting. The plain one lays the
-/// line out anew at each change: a reception without line ends (a wrong speed or parity gives one) would soon do
-/// nothing else.
+/// The layout of a plain text pane, except that a long row waits for its next painting. The plain one lays the row out
+/// anew at each change: a reception without line ends (a wrong speed or parity gives one) would do little else.
 class MiseEnPage : public QPlainTextDocumentLayout
 {
     Q_OBJECT

@@ -1,14 +1,16 @@
 #include "platform/RichTextBox.h"
 
+#include "platform/AspectVolet.h"
 #include "platform/FichierTexte.h"
 #include "platform/FinsDeLigne.h"
 #include "platform/LecteurRtf.h"
 #include "platform/MiseEnPage.h"
 #include "platform/PageCode1252.h"
+#include "platform/SansAnnulation.h"
 #include "platform/TouchesVolet.h"
 
-#include <QFontDatabase>
 #include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -22,53 +24,6 @@ constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
 
 /// Copies of a program carry its bytes, so that they come back exactly in this pane and in that of another window.
 const QString FormatCopie = QStringLiteral("application/x-dorvanel-programme");
-
-/// Looked for once: asking the system which fonts it has is a good part of a pane's making.
-const QFont &PoliceOrdinaire()
-{
-    static const QFont ordinaire = [] {
-        const QString systeme = QStringLiteral("System");
-        QFont police =
-            QFontDatabase::hasFamily(systeme) ? QFont(systeme) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        police.setBold(true);
-        police.setPointSizeF(9.75);
-        return police;
-    }();
-    return ordinaire;
-}
-
-QTextCharFormat FormatDe(const AttributsRtf &attributs)
-{
-    QTextCharFormat format;
-    if (!attributs.police.isEmpty())
-        format.setFontFamilies({attributs.police});
-    format.setFontPointSize(attributs.taille);
-    format.setFontWeight(attributs.gras ? QFont::Bold : QFont::Normal);
-    format.setFontItalic(attributs.italique);
-    format.setFontUnderline(attributs.souligne);
-    format.setFontStrikeOut(attributs.barre);
-    if (attributs.couleur.isValid())
-        format.setForeground(attributs.couleur);
-    if (attributs.surlignage.isValid())
-        format.setBackground(attributs.surlignage);
-    return format;
-}
-
-/// Work on the text that Ctrl+Z cannot undo: for a whole program the undo store would outweigh the text.
-class SansAnnulation
-{
-public:
-    explicit SansAnnulation(QTextDocument *document)
-        : m_document(document)
-    {
-        m_document->setUndoRedoEnabled(false);
-    }
-    ~SansAnnulation() { m_document->setUndoRedoEnabled(true); }
-    Q_DISABLE_COPY_MOVE(SansAnnulation)
-
-private:
-    QTextDocument *m_document;
-};
 
 } // namespace
 
@@ -202,7 +157,7 @@ void RichTextBox::Ajoute(const QString &texte)
 
 bool RichTextBox::FinitPar(const QString &suffixe) const
 {
-    return Queue(suffixe.size()).endsWith(suffixe);
+    return Queue(PositionsPour(suffixe.size())).endsWith(suffixe);
 }
 
 void RichTextBox::RetireFin(int n)
@@ -210,15 +165,16 @@ void RichTextBox::RetireFin(int n)
     if (n <= 0)
         return;
     const SansAnnulation sansAnnulation(document());
-    const QString texte = Queue(n);
+    const int positions = PositionsPour(n);
+    const QString texte = Queue(positions);
     const int fin = FinDuDocument();
     QTextCursor queue(document());
     queue.beginEditBlock();
     queue.setPosition(fin);
-    queue.setPosition(std::max(fin - n, 0), QTextCursor::KeepAnchor);
+    queue.setPosition(std::max(fin - positions, 0), QTextCursor::KeepAnchor);
     const QTextCharFormat format = FormatA(queue.selectionStart());
     queue.removeSelectedText();
-    // n positions hold more than n characters where they take in a CR LF: what is too much goes back.
+    // These positions may hold more than n characters: what is too much goes back.
     Insere(queue, texte.chopped(std::min<qsizetype>(n, texte.size())), format);
     queue.endEditBlock();
 }
@@ -272,10 +228,38 @@ void RichTextBox::keyPressEvent(QKeyEvent *evenement)
         evenement->accept();
         return;
     }
+    PasseFinDeRang(*evenement);
     QKeyEvent propre(evenement->type(), evenement->key(), evenement->modifiers(), Normalise(evenement->text()),
                      evenement->isAutoRepeat(), static_cast<quint16>(evenement->count()));
     QPlainTextEdit::keyPressEvent(&propre);
     evenement->setAccepted(propre.isAccepted());
+}
+
+/// Backspace and Delete take out a character, not the place where a long line goes on in the next row.
+void RichTextBox::PasseFinDeRang(const QKeyEvent &touche)
+{
+    QTextCursor curseur = textCursor();
+    const bool arriere = touche.key() == Qt::Key_Backspace && curseur.atBlockStart() && EstSuite(curseur.block());
+    const bool avant = touche.key() == Qt::Key_Delete && curseur.atBlockEnd() && EstSuite(curseur.block().next());
+    if ((!arriere && !avant) || curseur.hasSelection() || isReadOnly())
+        return;
+    curseur.movePosition(arriere ? QTextCursor::Left : QTextCursor::Right);
+    setTextCursor(curseur);
+}
+
+/// A row that goes on with the line above bears a bar before its first character.
+void RichTextBox::paintEvent(QPaintEvent *evenement)
+{
+    QPlainTextEdit::paintEvent(evenement);
+    QPainter peintre(viewport());
+    const double largeur = document()->documentMargin() / 2;
+    for (QTextBlock rang = firstVisibleBlock(); rang.isValid(); rang = rang.next()) {
+        const QRectF place = blockBoundingGeometry(rang).translated(contentOffset());
+        if (place.top() > evenement->rect().bottom())
+            return;
+        if (EstSuite(rang))
+            peintre.fillRect(QRectF(place.left(), place.top(), largeur, place.height()), palette().highlight());
+    }
 }
 
 void RichTextBox::inputMethodEvent(QInputMethodEvent *evenement)
@@ -371,15 +355,19 @@ void RichTextBox::Insere(QTextCursor &curseur, const QString &texte, QTextCharFo
 {
     // The document takes CR LF, CR and LF each for one separator and gives it the format of the insertion. So all lines
     // up to the next change of kind go in at once, and a text of one kind, however large, is not even copied.
-    for (qsizetype debut = 0; debut < texte.size();) {
-        const Troncon troncon = PremierTroncon(texte, debut);
+    qsizetype colonne = curseur.positionInBlock();
+    for (qsizetype debut = 0; debut < texte.size(); colonne = 0) {
+        const Troncon troncon = PremierTroncon(texte, debut, colonne);
         format.clearProperty(ProprieteFin);
         if (troncon.fin != FinDeLigne::CrLf) {
             format.setProperty(ProprieteFin, static_cast<int>(troncon.fin));
             m_finsDiverses = true;
         }
         const bool entier = debut == 0 && troncon.suite == texte.size();
-        curseur.insertText(entier ? texte : texte.mid(debut, troncon.suite - debut), format);
+        QString morceau = entier ? texte : texte.mid(debut, troncon.suite - debut);
+        if (troncon.fin == FinDeLigne::Aucune)
+            morceau += QChar::ParagraphSeparator;
+        curseur.insertText(morceau, format);
         debut = troncon.suite;
     }
 }
@@ -426,12 +414,18 @@ QString RichTextBox::AvecFins(const QString &brut, QTextBlock bloc) const
     return texte.append(brut.constData() + debut, brut.size() - debut);
 }
 
+/// How many positions at the end hold at least n characters: a row that goes on in the next one has one more.
+int RichTextBox::PositionsPour(qsizetype n)
+{
+    return static_cast<int>(n + n / LongueurRang + 1);
+}
+
 /// The text of the last positions, or of the whole document when it has fewer. No cursor goes there: placing one lays
-/// its line out, which a very long line would make felt.
-QString RichTextBox::Queue(qsizetype positions) const
+/// its line out.
+QString RichTextBox::Queue(int positions) const
 {
     const int fin = FinDuDocument();
-    const int debut = static_cast<int>(std::max<qsizetype>(fin - positions, 0));
+    const int debut = std::max(fin - positions, 0);
     QString brut;
     for (int position = debut; position < fin; ++position)
         brut += document()->characterAt(position);
@@ -473,7 +467,9 @@ QTextCharFormat RichTextBox::FormatA(int position) const
 {
     QTextCursor curseur(document());
     curseur.setPosition(std::min(position + 1, FinDuDocument()));
-    return curseur.charFormat();
+    QTextCharFormat format = curseur.charFormat();
+    format.clearProperty(ProprieteFin);
+    return format;
 }
 
 QTextCharFormat RichTextBox::Aspect() const

@@ -11,10 +11,12 @@
 /// The pane that holds a program. What it is given comes back exactly: each line end keeps its kind (CR LF, lone CR,
 /// lone LF) through edits and undo, and tabs, form feeds, NUL and all other characters of code page 1252 stay as they
 /// are. A character that code page 1252 lacks becomes "?" as it enters, so that what stands in the pane is what a file
-/// and the line get. Positions and lengths count the characters of Text(): CR LF is two.
+/// and the line get. Positions and lengths count the characters of Text(): CR LF is two. A line without end is shown on
+/// several rows, so that it is as quick to show as any other.
 ///
 /// How it works: a line end of the text is one block separator of the document. The separator's own character format
-/// carries the kind of line end, and CR LF, the ordinary kind, carries nothing.
+/// carries the kind of line end, and CR LF, the ordinary kind, carries nothing. Where a long line goes on in the next
+/// row a separator stands too, of the kind that is no character.
 class RichTextBox : public QPlainTextEdit
 {
     Q_OBJECT
@@ -95,6 +97,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
+    void paintEvent(QPaintEvent *evenement) override;
     void inputMethodEvent(QInputMethodEvent *evenement) override;
     void mousePressEvent(QMouseEvent *evenement) override;
     void contextMenuEvent(QContextMenuEvent *evenement) override;
@@ -110,10 +113,13 @@ private:
     void Insere(QTextCursor &curseur, const QString &texte, QTextCharFormat format);
     void AllegeMiseEnPage();
     void RecolleFins();
+    void PasseFinDeRang(const QKeyEvent &touche);
     FinDeLigne FinAvant(const QTextBlock &bloc) const;
+    bool EstSuite(const QTextBlock &bloc) const { return bloc.isValid() && FinAvant(bloc) == FinDeLigne::Aucune; }
     QString AvecFins(const QString &brut, QTextBlock bloc) const;
     int FinDuDocument() const { return document()->characterCount() - 1; }
-    QString Queue(qsizetype positions) const;
+    static int PositionsPour(qsizetype n);
+    QString Queue(int positions) const;
     int PlaceDe(int position) const;
     int PositionDe(int place, bool apresFin) const;
     QTextCharFormat FormatA(int position) const;
