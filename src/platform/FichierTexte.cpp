@@ -26,9 +26,10 @@ namespace {
     throw Erreur(numero, description);
 }
 
+/// Where a write got only a part away, QFile knows of no failure: then the system's words alone tell the cause.
 [[noreturn]] void Echoue(const QFile &fichier, int cause)
 {
-    Echoue(cause, fichier.errorString());
+    Echoue(cause, cause != 0 ? qt_error_string(cause) : fichier.errorString());
 }
 
 void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
@@ -54,10 +55,8 @@ void ExigePlace(const QString &chemin, qint64 taille)
         Echoue(cause, qt_error_string(cause));
 }
 
-void Ecrit(const QString &chemin, QIODevice::OpenMode mode, const QByteArray &octets)
+void Ecrit(QFile &fichier, const QByteArray &octets)
 {
-    QFile fichier(chemin);
-    Ouvre(fichier, mode | QIODevice::Unbuffered);
     errno = 0;
     if (fichier.write(octets) != octets.size())
         Echoue(fichier, errno);
@@ -99,16 +98,26 @@ try {
     throw Erreur(Erreur::MemoireInsuffisante, chemin);
 }
 
-void EcritFichierTexte(const QString &chemin, const QString &texte)
+void EcritFichierTexte(const QString &chemin, const QString &texte, FichierCoupe coupe)
 {
     const QByteArray octets = OctetsEn1252(texte);
     ExigePlace(chemin, octets.size());
-    Ecrit(chemin, QIODevice::WriteOnly | QIODevice::Truncate, octets);
+    QFile fichier(chemin);
+    Ouvre(fichier, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    try {
+        Ecrit(fichier, octets);
+    } catch (const Erreur &) {
+        if (coupe == FichierCoupe::Part && FichierExiste(chemin)) // no device
+            QFile::remove(QFileInfo(chemin).canonicalFilePath());
+        throw;
+    }
 }
 
 void AjouteFichierTexte(const QString &chemin, const QString &texte)
 {
-    Ecrit(chemin, QIODevice::Append | QIODevice::ExistingOnly, OctetsEn1252(texte));
+    QFile fichier(chemin);
+    Ouvre(fichier, QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
+    Ecrit(fichier, OctetsEn1252(texte));
 }
 
 bool FichierExiste(const QString &chemin)

@@ -16,10 +16,16 @@ QByteArray LitOctets(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
 /// Same, as text.
 QString LitFichierTexte(const QString &chemin, qint64 tailleMax = TailleMaxOctets);
 
-/// Creates or empties the file at chemin and writes texte to it. A disk without room for it is found out before the
-/// file is emptied; what a write that fails later has left stays on the disk. When it returns the disk holds the text.
-/// Raises FichierIntrouvable, AccesRefuse, DisqueSature, ErreurFichier.
-void EcritFichierTexte(const QString &chemin, const QString &texte);
+/// What becomes of a file that a failed write has cut.
+enum class FichierCoupe {
+    Reste,
+    Part ///< a program that breaks off under the right name is worse than none
+};
+
+/// Creates or empties the file at chemin and writes texte to it. A disk without room for it is found out before a file
+/// that held something is emptied; what a write that fails later has left goes by coupe. When it returns the disk holds
+/// the text. Raises FichierIntrouvable, AccesRefuse, DisqueSature, ErreurFichier.
+void EcritFichierTexte(const QString &chemin, const QString &texte, FichierCoupe coupe = FichierCoupe::Reste);
 
 /// Adds texte at the end of the file at chemin, which must exist; what it held is not touched. Raises as
 /// EcritFichierTexte().

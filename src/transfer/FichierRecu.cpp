@@ -62,7 +62,7 @@ void MontreFichier()
 void EcritFichierRecu(const QString &texte)
 {
     ecritEntier = false;
-    EcritFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"));
+    EcritFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"), FichierCoupe::Part);
     ecritEntier = true;
 }
 
@@ -109,7 +109,7 @@ void SauveAilleurs(const QString &texte)
         try {
             dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), QString(), CheminRecep());
             dialogue.ShowSave();
-            EcritFichierTexte(dialogue.FileName, texte);
+            EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
             return;
         } catch (const Erreur &erreur) {
             if (erreur.Numero() != Erreur::DialogueAnnule)

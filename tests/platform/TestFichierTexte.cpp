@@ -56,13 +56,23 @@ private Q_SLOTS:
             if (ecriture >= 0)
                 QCOMPARE(NumeroErreur([&] { EcritFichierTexte(chemin, QStringLiteral("x")); }), ecriture);
         }
-        // Without room for the longer text the file keeps the one that it has.
+        // Without room for the longer text the file keeps the one that it has. A new file is cut, and told why.
         std::signal(SIGXFSZ, SIG_IGN);
         rlimit libre{};
         getrlimit(RLIMIT_FSIZE, &libre);
         const rlimit serre{16, libre.rlim_max};
         setrlimit(RLIMIT_FSIZE, &serre);
-        QCOMPARE(NumeroErreur([&] { EcritFichierTexte(Chemin("fichier"), QString(17, u'x')); }), Erreur::ErreurFichier);
+        QStringList causes;
+        for (const auto &[nom, coupe] :
+             {std::pair{"fichier", FichierCoupe::Part}, {"neuf", FichierCoupe::Part}, {"cut", FichierCoupe::Reste}}) {
+            try {
+                EcritFichierTexte(Chemin(nom), QString(17, u'x'), coupe);
+            } catch (const Erreur &erreur) {
+                causes << erreur.Description();
+            }
+        }
+        QCOMPARE(causes, QStringList(3, qt_error_string(EFBIG)));
+        QVERIFY(!FichierExiste(Chemin("neuf")) && FichierExiste(Chemin("cut")));
         setrlimit(RLIMIT_FSIZE, &libre);
         QCOMPARE(LitOctets(Chemin("fichier"), 8), QByteArray("12345678"));
     }
