@@ -45,6 +45,13 @@ constexpr Mode Modes[] = {
       u"Creación de un fichero Cabidas instrumentos"}},
 };
 
+const Mode *ModeChoisi()
+{
+    const auto *const mode =
+        std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
+    return mode == std::end(Modes) ? nullptr : mode;
+}
+
 constexpr Texte3 ExisteTitre{u"Fichier existant !", u"Existing file !", u"Fichero existente !"};
 constexpr Texte3 ExisteFichier{u"Remplacer le fichier ", u"Replace the file ", u"Sustituir al fichero "};
 constexpr Texte3 ExisteDossier{u"Dans le dossier ", u"In the directory ", u"En el directorio "};
@@ -87,7 +94,10 @@ void Rc_Fic::Form_Load()
     QString &reception = Dossier();
     if (const auto applique = frmPrinc->DossierApplique())
         reception = *applique;
-    MontreDossier();
+    if (const Mode *const mode = ModeChoisi()) {
+        Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
+        Combo1->setEnabled(mode->extension != nullptr);
+    }
 }
 
 void Rc_Fic::MontreDossier()
@@ -102,22 +112,15 @@ void Rc_Fic::MontreFinLigne()
     options[OptionFinLig]->setChecked(true);
 }
 
+/// What the mode and the configuration say, whenever the dialog has come back from another one. The extension was
+/// offered when it was loaded, and is the operator's from then on: a second try must not go to another name.
 void Rc_Fic::Form_Activate()
 {
-    MontreConfigurationChoisie();
-    const auto *const mode =
-        std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
-    if (mode == std::end(Modes))
-        return;
-    PoseTexte(this, mode->titre);
-    Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
-    Combo1->setEnabled(mode->extension != nullptr);
-    Picture1->setPixmap(ImageTransfert());
-}
-
-void Rc_Fic::MontreConfigurationChoisie()
-{
     Label4->setText(ConfigurationEnClair());
+    MontreDossier();
+    if (const Mode *const mode = ModeChoisi())
+        PoseTexte(this, mode->titre);
+    Picture1->setPixmap(ImageTransfert());
     Frame5->setVisible(TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepFichier);
 }
 
@@ -142,6 +145,7 @@ void Rc_Fic::Command3_Click()
     PoseTexte(&dialogue, programmes ? DossierDeProgrammes : DossierDeJauges);
     connect(&dialogue, &DosProg::DossierChoisi, this, &Rc_Fic::MontreDossier);
     dialogue.exec();
+    Form_Activate();
 }
 
 void Rc_Fic::Command2_Click()
@@ -173,7 +177,7 @@ bool Rc_Fic::ConfirmeRemplacement() const
 void Rc_Fic::Command4_Click()
 {
     ChargeAutreConfiguration([this] {
-        MontreConfigurationChoisie();
+        Form_Activate();
         MontreFinLigne();
     });
 }

@@ -25,7 +25,6 @@ private:
     void Command3_Click();
     void Command4_Click();
 
-    void MontreConfigurationChoisie();
     void MontreDossier();
     void MontreFinLigne();
     bool ConfirmeRemplacement() const;

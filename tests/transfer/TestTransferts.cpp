@@ -7,6 +7,7 @@
 #include "shell/Document.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -120,7 +121,7 @@ void TestTransferts::AutreConfiguration()
 }
 
 // The name takes only what a file name may hold, and an existing file is replaced only when the operator says so.
-// Another configuration brings its line end.
+// Another configuration brings its line end and folder; a try given up leaves the extension chosen.
 void TestTransferts::DialogueReception()
 {
     const Poste poste(0);
@@ -145,7 +146,14 @@ void TestTransferts::DialogueReception()
     operateur.Choisit(autre);
     operateur.Fait("Rc_Fic", [](const QWidget &fenetre) {
         QCOMPARE(Operateur::Lu("Label4"), u"Tour.par  Tour 2 axes, été €"_s);
+        QVERIFY(Operateur::Lu("Label3").endsWith(u"C:\\Programmes CN"_s));
         QVERIFY(fenetre.findChild<QAbstractButton *>(u"Option1_3"_s)->isChecked());
+        fenetre.findChild<QComboBox *>()->setCurrentText(u"cnc"_s);
+        Operateur::Presse(fenetre, "Command2");
+    });
+    operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::No));
+    operateur.Fait("Rc_Fic", [](const QWidget &fenetre) {
+        QCOMPARE(fenetre.findChild<QComboBox *>()->currentText(), u"cnc"_s); // for the next try
         Operateur::Presse(fenetre, "Command1");
     });
     Operateur::Menu("Mnu_RecepProg");
