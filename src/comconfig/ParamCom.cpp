@@ -16,9 +16,6 @@ QString NomConf;
 
 namespace {
 
-/// Three full chains take some 2 kB; a file beyond this size, in bytes, is no configuration.
-constexpr qint64 TailleMaxPar = qint64{1024} * 1024;
-
 constexpr int CodeMax = 255; // of a character of code page 1252
 
 /// A field of the lines 1 to 29: the member that holds it, which is a number or a text.
@@ -83,7 +80,7 @@ QString LigneChaine(const QString &texte)
 
 void LireFichierPar(const QString &chemin)
 {
-    LecteurChamps champs(LitFichierTexte(chemin, TailleMaxPar));
+    LecteurChamps champs(LitFichierTexte(chemin));
     const auto tenus = qScopeGuard(TientNombres); // also when the reading breaks off
     for (const Champ &champ : Champs) {
         if (champ.texte != nullptr)

@@ -36,7 +36,8 @@ private Q_SLOTS:
         QCOMPARE(OctetsEn1252(ParamCom.ChaineFinTrans), QByteArray("\xE9\xFF"));
     }
 
-    // Byte for byte. A quote inside a text changes: it would end the text and shift all fields behind it.
+    // Byte for byte, a comment of any length. A quote inside a text changes: it would end the text and shift all fields
+    // behind it.
     void EcritCommeLu()
     {
         for (const QString &chemin : {Donnees(u"Court.par"_s), m_complet}) {
@@ -44,12 +45,13 @@ private Q_SLOTS:
             EcrireFichierPar(m_copie);
             QCOMPARE(LitOctets(m_copie), LitOctets(chemin));
         }
-        ParamCom.Commentaire = u"Tour \"A\""_s;
+        const QString long_(2'000'000, u'x');
+        ParamCom.Commentaire = u"Tour \"A\""_s + long_;
         ParamCom.LibFinTrans = u"\""_s;
         ParamCom.CarFinTrans[1] = 34;
         EcrireFichierPar(m_copie);
         QCOMPARE(Lit(m_copie), 0);
-        QCOMPARE(ParamCom.Commentaire + ParamCom.LibFinTrans, u"Tour 'A''"_s);
+        QCOMPARE(ParamCom.Commentaire + ParamCom.LibFinTrans, u"Tour 'A'"_s + long_ + u'\'');
         QVERIFY(ParamCom.CarFinTrans[1] == 34 && ParamCom.TypeEnvoi == 1);
         QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(u"parti/x.par"_s)), Erreur);
     }
@@ -69,8 +71,6 @@ private Q_SLOTS:
             QCOMPARE(ParamCom.FinLigRecep, ligne > 36 || numero == 0 ? 3 : 7);
             QCOMPARE(ParamCom.TypeEnvoi, numero == 0 ? 1 : 7);
         }
-        EcritFichierTexte(m_copie, QString(2'000'000, u'1'));
-        QCOMPARE(Lit(m_copie), Erreur::MemoireInsuffisante);
         QCOMPARE(Lit(m_dossier.filePath(u"absent.par"_s)), Erreur::FichierIntrouvable);
     }
 

@@ -382,6 +382,7 @@ private Q_SLOTS:
         for (QDialog *const fenetre : std::initializer_list<QDialog *>{&prop, &chaine, &cadran, &reception, &demande})
             fenetre->show();
         QCOMPARE(entre(prop.Text1, u"A\r\nB\n\rC\u2028D\n"_s), u"A B  C D "_s);
+        QCOMPARE(entre(prop.Text1, QString(40000, u'x')).size(), 40000);
         QCOMPARE(entre(prop.Text3, u"\n"_s) + entre(chaine.Text1, u"\r\n"_s), QString());
         QCOMPARE(entre(cadran.Text1, u"0.4\r\n"_s) + u'|' + entre(cadran.Text1, u"0\n4"_s), u"0.4|"_s);
         QCOMPARE(entre(reception.Combo1->lineEdit(), u"a\nb"_s), u"a b"_s);
