@@ -7,8 +7,9 @@
 
 void DansLaLangue(QFileDialog &dialogue)
 {
-    constexpr int colonneTaille = 1;
+    constexpr int colonneNom = 0;
     constexpr int colonneType = 2;
+    constexpr int largeur = 70; // characters of name, size and date together
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
     if (auto *const lieux = dialogue.findChild<QListView *>(QStringLiteral("sidebar")))
         lieux->setMinimumWidth(lieux->sizeHintForColumn(0) + 2 * lieux->frameWidth());
@@ -16,7 +17,9 @@ void DansLaLangue(QFileDialog &dialogue)
     if (liste == nullptr)
         return;
     liste->hideColumn(colonneType);
-    // The toolkit leaves sizes and dates cut, with room beside them.
-    liste->header()->setSectionResizeMode(colonneTaille, QHeaderView::ResizeToContents);
-    liste->header()->setStretchLastSection(true);
+    // The toolkit leaves sizes and dates cut, with room beside them. Here a name gives way, whose end stays seen.
+    liste->header()->setStretchLastSection(false);
+    liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    liste->header()->setSectionResizeMode(colonneNom, QHeaderView::Stretch);
+    liste->setMinimumWidth(largeur * liste->fontMetrics().averageCharWidth());
 }

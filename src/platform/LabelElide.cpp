@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QStyle>
 #include <QStylePainter>
+#include <QTextDocument>
 #include <QToolTip>
 
 LabelElide::LabelElide(QWidget *parent)
@@ -43,8 +44,9 @@ bool LabelElide::event(QEvent *evenement)
 {
     if (evenement->type() != QEvent::ToolTip)
         return QLabel::event(evenement);
-    QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), Montre() == Ligne() ? QString() : text(),
-                       this);
+    // As rich text the tip has lines of its own; as plain text it would be one, longer than the screen is wide.
+    const QString entier = Montre() == Ligne() ? QString() : Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
+    QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), entier, this);
     return true;
 }
 

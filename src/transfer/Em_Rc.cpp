@@ -129,7 +129,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
         return;
     Form_Activate();
     m_coup.start(); // the hand that has just confirmed may still lean on its key
-    adjustSize();   // a long comment of the configuration takes lines
+    adjustSize();   // the mode has hidden some of its parts
     CentreFeuille(this);
 }
 
@@ -223,7 +223,6 @@ void Em_Rc::Command3_Click()
 {
     ChargeAutreConfiguration([this] {
         MontreConfigurationChoisie();
-        adjustSize();
         ChoisitFinLigneRecep();
     });
 }
