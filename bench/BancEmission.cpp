@@ -1,6 +1,7 @@
 // Sends programs to the simulated machine in both ways of sending and measures the line: how long a program of 20 kB
 // took against what the line needs, what still comes after an XOFF, what the processor does while the line is held.
-// Each sending is a process of its own, and the peer sends the same on a line of its own at the same time.
+// Each sending is a process of its own, and the peer sends the same on a line of its own at the same time. The slow
+// line is measured once more beside two busy processes on the same two cores.
 
 #include "Mesure.h"
 #include "Pair.h"
@@ -16,14 +17,22 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <random>
+#include <sched.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr int Lignes20k = 870;       // of ProgrammeCN()
-constexpr auto AvantRetenue = 500ms; // of sending, before the machine holds the line
+constexpr auto AvantRetenue = 300ms; // of sending, before the machine holds the line
+constexpr int Retenues = 10;         // short ones, before the one that is measured
+constexpr auto DureeCourte = 60ms;   // of these, and of the sending between two
 constexpr auto Calme = 500ms;        // before what a held sending costs is measured
 constexpr auto DureeRetenue = 3s;
 constexpr int AttenteMax = 60000; // milliseconds
@@ -43,10 +52,21 @@ QString Intitule(int vitesse, const Envoi20k &envoi, const char *quoi)
         .arg(QString::number(vitesse), QLatin1String(envoi.nom), QLatin1String(quoi));
 }
 
-/// Enough for the line to be busy from the beginning to the hold, and not much longer behind it.
+/// What the machine may get after an XOFF.
+struct BorneXoff
+{
+    int vitesse;
+    double suite;
+    int lignes; // enough for the line to be busy from the beginning to the last hold, and not much longer behind it
+};
+constexpr BorneXoff BornesXoff[] = {{9600, 8, 130}, {19200, 8, 260}, {115200, 60, Lignes20k}};
+constexpr double BorneOccupe = 10; // and from a busy PC: more, and some controls raise an alarm
+
 int LignesRetenue(int vitesse)
 {
-    return vitesse == 9600 ? 130 : Lignes20k;
+    const auto borne = std::find_if(std::begin(BornesXoff), std::end(BornesXoff),
+                                    [=](const BorneXoff &b) { return b.vitesse == vitesse; });
+    return borne == std::end(BornesXoff) ? Lignes20k : borne->lignes;
 }
 
 double Secondes(std::chrono::nanoseconds duree)
@@ -114,9 +134,14 @@ void RendRetenue(int vitesse, int typeEnvoi)
     double debut = 0;
     double processeur = 0;
     qint64 suite = 0;
-    QTimer::singleShot(AvantRetenue, &poste.fenetre, [&] { poste.machine.Retient(); });
-    QTimer::singleShot(AvantRetenue + Calme, &poste.fenetre, [&] { debut = TempsProcesseur(); });
-    QTimer::singleShot(AvantRetenue + Calme + DureeRetenue, &poste.fenetre, [&] {
+    for (int i = 0; i < Retenues; ++i) {
+        QTimer::singleShot(AvantRetenue + 2 * i * DureeCourte, &poste.fenetre, [&] { poste.machine.Retient(); });
+        QTimer::singleShot(AvantRetenue + (2 * i + 1) * DureeCourte, &poste.fenetre, [&] { poste.machine.Reprend(); });
+    }
+    const auto derniere = AvantRetenue + 2 * Retenues * DureeCourte;
+    QTimer::singleShot(derniere, &poste.fenetre, [&] { poste.machine.Retient(); });
+    QTimer::singleShot(derniere + Calme, &poste.fenetre, [&] { debut = TempsProcesseur(); });
+    QTimer::singleShot(derniere + Calme + DureeRetenue, &poste.fenetre, [&] {
         processeur = (TempsProcesseur() - debut) / Secondes(DureeRetenue);
         suite = poste.machine.Etat().SuiteXoffMax;
         poste.machine.Reprend();
@@ -137,10 +162,21 @@ void RendRepos(QWidget &fenetre)
     Rend({(TempsProcesseur() - debut) / secondes});
 }
 
+/// Wants a core whole until it is killed, or for two minutes should nobody be left to do that.
+void RendOccupe()
+{
+    std::minstd_rand nombres;
+    while (TempsProcesseur() < 120)
+        nombres.discard(1'000'000);
+    Rend({static_cast<double>(nombres())});
+}
+
 void JoueRole(const QStringList &arguments)
 {
     const QString &role = arguments.at(1);
-    if (role == QLatin1String("repos")) {
+    if (role == QLatin1String("occupe")) {
+        RendOccupe();
+    } else if (role == QLatin1String("repos")) {
         FrmPrinc fenetre;
         RendRepos(fenetre);
     } else if (role == QLatin1String("vide")) {
@@ -195,20 +231,64 @@ private:
     Pair m_pair;
 };
 
-bool MontreTemps(int vitesse, const Envoi20k &envoi, const Course::Temps &temps)
+/// What the bound is on, and how the row is told apart.
+struct Borne
 {
-    return Montre({Intitule(vitesse, envoi, "20 kB, s / its line time"), temps.programme, temps.pair,
-                   QLatin1String(Pair::NomDe(envoi.pair)), temps.programme / temps.ligne, 1.01});
+    const char *quoi;
+    double rapport;
+};
+constexpr Borne BorneCalme{"20 kB, s / its line time", 1.01};
+constexpr Borne BorneDeuxOccupes{"two busy: 20 kB, s / its line time", 1.10};
+
+bool MontreTemps(int vitesse, const Envoi20k &envoi, const Course::Temps &temps, const Borne &borne)
+{
+    return Montre({Intitule(vitesse, envoi, borne.quoi), temps.programme, temps.pair,
+                   QLatin1String(Pair::NomDe(envoi.pair)), temps.programme / temps.ligne, borne.rapport});
 }
 
-/// A slow line leaves the PC idle: both ways go at once.
-bool MesureTemps9600(const QTemporaryDir &dossier)
+/// A slow line leaves the PC idle: all go at once.
+bool MesureTempsLents(std::initializer_list<int> vitesses, const Borne &borne, const QTemporaryDir &dossier)
 {
-    Course entier(9600, Envois[0], dossier);
-    Course lignes(9600, Envois[1], dossier);
-    const bool tenu = MontreTemps(9600, Envois[0], entier.Attend());
-    return MontreTemps(9600, Envois[1], lignes.Attend()) && tenu;
+    struct EnCours
+    {
+        int vitesse;
+        const Envoi20k &envoi;
+        std::unique_ptr<Course> course;
+    };
+    std::vector<EnCours> tous;
+    for (const int vitesse : vitesses) {
+        for (const Envoi20k &envoi : Envois)
+            tous.push_back({vitesse, envoi, std::make_unique<Course>(vitesse, envoi, dossier)});
+    }
+    bool tenu = true;
+    for (const EnCours &un : tous)
+        tenu &= MontreTemps(un.vitesse, un.envoi, un.course->Attend(), borne);
+    return tenu;
 }
+
+/// Two cores for all of this benchmark, and two processes that want them whole, as long as it lives.
+class DeuxCoeursOccupes
+{
+public:
+    DeuxCoeursOccupes()
+    {
+        sched_getaffinity(0, sizeof m_avant, &m_avant);
+        cpu_set_t deux{};
+        for (std::size_t coeur = 0; coeur < CPU_SETSIZE && CPU_COUNT(&deux) < 2; ++coeur) {
+            if (CPU_ISSET(coeur, &m_avant))
+                CPU_SET(coeur, &deux);
+        }
+        sched_setaffinity(0, sizeof deux, &deux);
+        for (std::unique_ptr<Enfant> &occupe : m_occupes)
+            occupe = std::make_unique<Enfant>(QStringList(QStringLiteral("occupe")));
+    }
+    ~DeuxCoeursOccupes() { sched_setaffinity(0, sizeof m_avant, &m_avant); }
+    Q_DISABLE_COPY_MOVE(DeuxCoeursOccupes)
+
+private:
+    cpu_set_t m_avant{};
+    std::array<std::unique_ptr<Enfant>, 2> m_occupes;
+};
 
 bool MesureTemps115200(const Envoi20k &envoi, const QTemporaryDir &dossier)
 {
@@ -220,7 +300,7 @@ bool MesureTemps115200(const Envoi20k &envoi, const QTemporaryDir &dossier)
         rapports << temps.programme / temps.ligne;
     }
     temps.programme = Mediane(rapports) * temps.ligne;
-    return MontreTemps(115200, envoi, temps);
+    return MontreTemps(115200, envoi, temps, BorneCalme);
 }
 
 /// What the peer does when the machine holds the line: characters that come all the same, processor.
@@ -242,20 +322,32 @@ RetenuePair Retient(Pair &pair)
             std::max(0.0, pair.Processeur() - debut) / Secondes(DureeRetenue)};
 }
 
-bool MesureRetenue(int vitesse, const Envoi20k &envoi, const QTemporaryDir &dossier)
+bool MesureRetenue(const BorneXoff &borne, const Envoi20k &envoi, const QTemporaryDir &dossier)
 {
-    Enfant programme(Arguments("retenue", vitesse, envoi));
-    Pair pair(envoi.pair, vitesse);
+    Enfant programme(Arguments("retenue", borne.vitesse, envoi));
+    Pair pair(envoi.pair, borne.vitesse);
     pair.Emet(EcritProgramme(dossier, Lignes20k));
     const RetenuePair pairTenu = Retient(pair);
     const QList<double> tenu = programme.Chiffres(2);
-    const double borneSuite = vitesse == 9600 ? 20.0 : 200.0;
     const QString nom = QLatin1String(Pair::NomDe(envoi.pair));
-    const bool suite = Montre({Intitule(vitesse, envoi, "characters within 3.5 s after XOFF"), tenu.at(0),
-                               pairTenu.suite, nom, tenu.at(0), borneSuite});
-    const bool processeur = Montre(
-        {Intitule(vitesse, envoi, "processor while held"), tenu.at(1), pairTenu.processeur, nom, tenu.at(1), 0.02});
+    const bool suite = Montre({Intitule(borne.vitesse, envoi, "characters after XOFF"), tenu.at(0), pairTenu.suite, nom,
+                               tenu.at(0), borne.suite});
+    const bool processeur = Montre({Intitule(borne.vitesse, envoi, "processor while held"), tenu.at(1),
+                                    pairTenu.processeur, nom, tenu.at(1), 0.02});
     return suite && processeur;
+}
+
+/// The slow line beside other programs: how long it takes, and whether the machine that says XOFF keeps its peace.
+bool MesureOccupe(const QTemporaryDir &dossier)
+{
+    const DeuxCoeursOccupes occupes;
+    bool tenu = MesureTempsLents({9600}, BorneDeuxOccupes, dossier);
+    for (const Envoi20k &envoi : Envois) {
+        const double suite = Enfant(Arguments("retenue", 9600, envoi)).Chiffres(2).at(0);
+        tenu &=
+            Montre({Intitule(9600, envoi, "two busy: characters after XOFF"), suite, qQNaN(), {}, suite, BorneOccupe});
+    }
+    return tenu;
 }
 
 } // namespace
@@ -270,15 +362,16 @@ int main(int nombre, char *arguments[])
     const QTemporaryDir dossier;
     Enfant repos({QStringLiteral("repos")});
     Enfant vide({QStringLiteral("vide")});
-    bool tenu = MesureTemps9600(dossier);
+    bool tenu = MesureTempsLents({9600, 19200}, BorneCalme, dossier);
     const double auRepos = repos.Chiffres(1).at(0);
     tenu &= Montre({QStringLiteral("processor, idle main window (part of a core)"), auRepos, vide.Chiffres(1).at(0),
                     QStringLiteral("bare Qt widget"), auRepos, 0.005});
     for (const Envoi20k &envoi : Envois)
         tenu &= MesureTemps115200(envoi, dossier);
-    for (const int vitesse : {9600, 115200}) {
+    for (const BorneXoff &borne : BornesXoff) {
         for (const Envoi20k &envoi : Envois)
-            tenu &= MesureRetenue(vitesse, envoi, dossier);
+            tenu &= MesureRetenue(borne, envoi, dossier);
     }
+    tenu &= MesureOccupe(dossier);
     return tenu ? 0 : 1;
 }

@@ -2,18 +2,11 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int AvanceMin = 16; // what the FIFO of a common serial chip takes anyway
-// At 115200 more would be too much to come after an XOFF, and less too little for a PC that is busy elsewhere.
-constexpr CadenceEmission::Duree AvanceTemps = std::chrono::milliseconds(12);
-
-} // namespace
-
 void CadenceEmission::Regle(int vitesse, double bitsParCaractere)
 {
     m_caractere = Duree(qRound64(bitsParCaractere * 1e9 / vitesse));
-    m_avance = std::max(AvanceMin, static_cast<int>(AvanceTemps / m_caractere));
+    m_avance.Regle(m_caractere);
+    m_enSuite = false;
 }
 
 int CadenceEmission::Place(Instant maintenant, int systeme) const
@@ -22,11 +15,15 @@ int CadenceEmission::Place(Instant maintenant, int systeme) const
         return 0;
     const Duree arrondi = m_caractere - Duree(1);
     const int enRoute = static_cast<int>((Reste(maintenant) + arrondi) / m_caractere);
-    return std::max(0, m_avance - std::max(enRoute, systeme));
+    return std::max(0, Avance() - std::max(enRoute, systeme));
 }
 
 void CadenceEmission::Remet(int nombre, Instant maintenant)
 {
+    if (nombre == 0)
+        return;
+    m_avance.Note(maintenant, m_enSuite ? std::max(Duree(0), maintenant - m_libreA) : Duree(0));
+    m_enSuite = true;
     m_libreA = std::max(m_libreA, maintenant) + Temps(nombre);
 }
 
@@ -37,14 +34,15 @@ CadenceEmission::Duree CadenceEmission::Reste(Instant maintenant) const
 
 CadenceEmission::Duree CadenceEmission::AvantRemise(Instant maintenant) const
 {
-    const int part = m_avance / 8;
-    return std::max(Duree(0), Reste(maintenant) - Temps(m_avance - part));
+    const int part = std::max(1, Avance() / 4);
+    return std::max(Duree(0), Reste(maintenant) - Temps(Avance() - part));
 }
 
 void CadenceEmission::Suspend(Instant maintenant)
 {
     m_resteSuspendu = Reste(maintenant);
     m_suspendue = true;
+    Empeche();
 }
 
 void CadenceEmission::Reprend(Instant maintenant)

@@ -18,13 +18,12 @@ constexpr auto Jeu = 20ms;           // and not always at once; a refusal may be
 EmissionPort::EmissionPort(QObject *parent)
     : QObject(parent)
 {
-    m_minuteur.setTimerType(Qt::PreciseTimer);
-    m_minuteur.setSingleShot(true);
-    connect(&m_minuteur, &QTimer::timeout, this, &EmissionPort::Pompe);
 }
 
 void EmissionPort::Ouvre(LigneSerie &ligne, const ReglagePort &reglage)
 {
+    m_minuteur = std::make_unique<MinuteurPrecis>();
+    connect(m_minuteur.get(), &MinuteurPrecis::Echu, this, &EmissionPort::Pompe);
     m_ligne = &ligne;
     m_cadence = CadenceEmission();
     Regle(reglage);
@@ -35,7 +34,7 @@ void EmissionPort::Ouvre(LigneSerie &ligne, const ReglagePort &reglage)
 
 void EmissionPort::Arrete()
 {
-    m_minuteur.stop();
+    m_minuteur->Arrete();
     m_reveil->setEnabled(false);
     m_file.clear();
     m_refus = m_reveilVain = m_seuilArme = false;
@@ -45,6 +44,7 @@ void EmissionPort::Arrete()
 void EmissionPort::Ferme()
 {
     Arrete();
+    m_minuteur.reset();
     m_reveil.reset();
     m_ligne = nullptr;
 }
@@ -101,7 +101,8 @@ void EmissionPort::Pompe()
     if (m_cadence.Suspendue())
         Q_EMIT AttendMachine();
     try {
-        Programme(Remet());
+        const auto maintenant = Horloge::now();
+        Programme(Remet(maintenant), maintenant);
     } catch (const Erreur &erreur) {
         Q_EMIT Panne(erreur);
         return;
@@ -113,9 +114,8 @@ void EmissionPort::Pompe()
 }
 
 /// Hands the system what it may have now and returns how many characters it took.
-int EmissionPort::Remet()
+int EmissionPort::Remet(CadenceEmission::Instant maintenant)
 {
-    const auto maintenant = Horloge::now();
     ObserveSysteme(maintenant);
     const bool refusAvant = m_refus;
     m_refus = false;
@@ -131,6 +131,8 @@ int EmissionPort::Remet()
     if (!refusAvant || remis > 0)
         m_refuse = maintenant;
     m_cadence.Remet(remis, maintenant);
+    if (m_refus || (remis == 0 && m_cadence.Place(maintenant, 0) > 0))
+        m_cadence.Empeche();
     m_systeme += remis;
     m_reveilVain = refusAvant && m_refus && remis == 0;
     if (remis > 0)
@@ -139,15 +141,16 @@ int EmissionPort::Remet()
 }
 
 /// The write notifier wakes a line that was refused. Where it wakes in vain the timer takes its turn, lest it spins.
-void EmissionPort::Programme(int remis)
+void EmissionPort::Programme(int remis, CadenceEmission::Instant maintenant)
 {
     const bool reste = !m_file.isEmpty();
     const bool parReveil = reste && m_refus && !m_reveilVain;
     m_reveil->setEnabled(parReveil);
-    m_minuteur.stop();
-    if (!reste || parReveil)
+    if (!reste || parReveil) {
+        m_minuteur->Arrete();
         return;
-    const auto delai = std::chrono::ceil<std::chrono::milliseconds>(m_cadence.AvantRemise(Horloge::now()));
-    const bool retenue = m_cadence.Suspendue() || (remis == 0 && delai == 0ms);
-    m_minuteur.start(retenue ? PeriodeRetenue : std::max(delai, 1ms));
+    }
+    const auto delai = m_cadence.AvantRemise(maintenant);
+    const bool retenue = m_cadence.Suspendue() || (remis == 0 && delai == 0ns);
+    m_minuteur->Arme(maintenant + (retenue ? PeriodeRetenue : delai));
 }

@@ -3,11 +3,11 @@
 #include "platform/CadenceEmission.h"
 #include "platform/Erreur.h"
 #include "platform/LigneSerie.h"
+#include "platform/MinuteurPrecis.h"
 
 #include <QByteArray>
 #include <QObject>
 #include <QSocketNotifier>
-#include <QTimer>
 
 #include <memory>
 
@@ -19,6 +19,7 @@ public:
     explicit EmissionPort(QObject *parent = nullptr);
 
     /// Sends on ligne from now on, which must stay until Ferme(). The queue is empty.
+    /// Raises ErreurPort::Indisponible when the system lacks the means.
     void Ouvre(LigneSerie &ligne, const ReglagePort &reglage);
     /// Stops at once and forgets what waits; the line is touched no more.
     void Arrete();
@@ -52,13 +53,13 @@ Q_SIGNALS:
 
 private:
     void Pompe();
-    int Remet();
-    void Programme(int remis);
+    int Remet(CadenceEmission::Instant maintenant);
+    void Programme(int remis, CadenceEmission::Instant maintenant);
     void ObserveSysteme(CadenceEmission::Instant maintenant);
 
     LigneSerie *m_ligne = nullptr;
     std::unique_ptr<QSocketNotifier> m_reveil;
-    QTimer m_minuteur;
+    std::unique_ptr<MinuteurPrecis> m_minuteur;
     QByteArray m_file;
     CadenceEmission m_cadence;
     int m_seuil = 0;

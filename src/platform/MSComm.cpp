@@ -122,8 +122,8 @@ void MSComm::Ouvre()
     RegleLigne(*ligne, m_reglage);
     ligne->JetteReception(); // a closed port receives nothing
 
+    m_emission.Ouvre(*ligne, m_reglage);
     m_ligne = std::move(ligne);
-    m_emission.Ouvre(*m_ligne, m_reglage);
     m_etats = m_ligne->Etats();
     m_compteurs = m_ligne->Compteurs();
     SuitMachine();
@@ -428,6 +428,9 @@ void MSComm::Output(const QString &texte)
 int MSComm::OutBufferCount() const
 {
     ExigeVivant();
+    // Whoever waits for this has the next characters, and the line has few left.
+    if (m_emission.Nombre() == 0)
+        SignaleMouvement();
     return m_emission.Nombre();
 }
 

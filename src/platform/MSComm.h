@@ -44,10 +44,15 @@
 /// is thrown away, since then the sending was cancelled. Both keep the event loop turning meanwhile, with the
 /// operator's keys and clicks and this control's event held back until they return.
 ///
-/// Pacing. The lead is 16 characters or 12 ms of line time, whichever is more: what the FIFO of a common chip would
-/// take anyway, and enough for a PC that is busy elsewhere. The clock is computed from Settings and not asked of the
-/// device, since an adapter says "sent" when the characters have crossed the USB and not the line. What the system says
-/// it still holds counts on top, so that a line slower than its Settings, or one that the machine holds, is not fed.
+/// Pacing. The lead follows the PC (AvanceEmission). It begins short at each opening, 6 characters or 3.5 ms of line time,
+/// whichever is more, and on a quiet PC it stays there: at most 8 characters come behind an XOFF up to 19200 baud and at
+/// most 60 at 115200. Where the line keeps running dry because the PC is busy elsewhere it grows, to 9 characters or 5 ms
+/// at most, and shrinks again after some seconds. No more, since some controls raise an alarm at the eleventh character:
+/// rather the line stands still now and then. The pump is woken to the microsecond (MinuteurPrecis), for with whole
+/// milliseconds a fast line would need twice the lead. What a busy system takes to heed an XOFF comes on top and is out
+/// of this program's hands. The clock is computed from Settings and not asked of the device, since an adapter says "sent"
+/// when the characters have crossed the USB and not the line. What the system says it still holds counts on top, so that
+/// a line slower than its Settings, or one that the machine holds, is not fed.
 ///
 /// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy, or by the control
 /// behind an adapter whose driver does not, see Adapters; with them on, the characters 17 and 19 never reach Input. The
@@ -81,8 +86,8 @@
 /// Adapters. What the common ones do on Linux, and what comes of it here:
 ///
 ///   The PC's own port (8250 family) has 16 characters of FIFO each way and counts every kind of error. The driver
-///   deals with XOFF and CTS between two fillings of the FIFO, so up to 16 characters still leave; the machine must
-///   have room for them, and every machine that says XOFF does.
+///   deals with XOFF and CTS between two fillings of the FIFO. What is in it still leaves, and that is the lead, as it is
+///   never given more.
 ///
 ///   FTDI (ftdi_sio) has 128 characters towards the line and 256 from it. It deals with XOFF and CTS in the chip,
 ///   within a character or two; when both are asked for, the chip does RTS/CTS alone. Received characters cross the USB
@@ -107,7 +112,8 @@
 ///   would it say XOFF to the machine. There the line is set without, and the control deals with it (FluxXonXoff): it
 ///   takes 17 and 19 out of what it reads, stops its pump, and says XOFF itself when its receive buffer is three
 ///   quarters full. Reading goes on meanwhile, up to 4,096 characters past InBufferSize, so that an XON is always
-///   heard. What the lead and the adapter hold still leaves behind an XOFF: some tens of characters at 9600 baud.
+///   heard. What the lead and the adapter hold still leaves behind an XOFF, and what the adapter keeps back of
+///   what it received makes it later: 16 ms and more, some tens of characters at 9600 baud.
 ///
 ///   Overrun between chip and driver (1006) is what a hub, a long cable or a sleeping PC costs; there is no cure in
 ///   software but a lower speed.

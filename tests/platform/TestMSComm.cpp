@@ -4,11 +4,13 @@
 #include "platform/MSComm.h"
 #include "platform/PageCode1252.h"
 
+#include <QAbstractEventDispatcher>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace {
 
-constexpr qsizetype AvanceA9600 = 16;
+constexpr qsizetype AvanceA9600 = 6;
 
 QString Programme(int caracteres)
 {
@@ -262,6 +264,17 @@ private Q_SLOTS:
             CedeLaMain();
             QCOMPARE(m_codes, QList<int>({1})); // once, though it fell in small steps
         }
+    }
+
+    // A loop that learns that all has gone has more to send: its next yield does not sleep.
+    void fileVideSansSommeil()
+    {
+        Ouvre();
+        m_port->Output(QStringLiteral("N10"));
+        QTRY_COMPARE(m_port->OutBufferCount(), 0);
+        const QSignalSpy sommeils(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock);
+        CedeLaMain();
+        QCOMPARE(sommeils.size(), 0);
     }
 
     // However long a line stands still, with however deep a buffer, no more than the lead is out of reach.

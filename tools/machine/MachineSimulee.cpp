@@ -25,6 +25,7 @@ void MachineSimulee::Retient()
 {
     {
         const std::lock_guard verrou(m_verrou);
+        Recoit(Horloge::now()); // the machine's thread may be late: what the line has brought came before the XOFF
         m_tampon.Retient();
         Parle();
     }

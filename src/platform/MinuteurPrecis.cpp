@@ -1,0 +1,59 @@
+#include "platform/MinuteurPrecis.h"
+
+#include "platform/Erreur.h"
+#include "platform/ErreurPort.h"
+#include "platform/Reprise.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+namespace {
+
+int OuvreMinuteur()
+{
+    // The clock that steady_clock reads.
+    const int fd = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
+    if (fd < 0)
+        throw Erreur(ErreurPort::Indisponible, qt_error_string());
+    return fd;
+}
+
+} // namespace
+
+MinuteurPrecis::MinuteurPrecis()
+    : m_fd(OuvreMinuteur())
+    , m_reveil(m_fd, QSocketNotifier::Read)
+{
+    connect(&m_reveil, &QSocketNotifier::activated, this, &MinuteurPrecis::Lit);
+}
+
+MinuteurPrecis::~MinuteurPrecis()
+{
+    m_reveil.setEnabled(false); // before its descriptor is gone
+    close(m_fd);
+}
+
+void MinuteurPrecis::Arme(Instant quand)
+{
+    using namespace std::chrono;
+    const nanoseconds depuis = std::max(quand.time_since_epoch(), nanoseconds(1)); // 0 would stop it
+    const auto s = duration_cast<seconds>(depuis);
+    const itimerspec echeance{{}, {s.count(), (depuis - s).count()}};
+    timerfd_settime(m_fd, TFD_TIMER_ABSTIME, &echeance, nullptr);
+}
+
+void MinuteurPrecis::Arrete()
+{
+    const itimerspec jamais{};
+    timerfd_settime(m_fd, 0, &jamais, nullptr);
+}
+
+void MinuteurPrecis::Lit()
+{
+    std::uint64_t fois = 0;
+    // A moment that was changed meanwhile has not come yet.
+    if (Reprise([&] { return read(m_fd, &fois, sizeof fois); }) == sizeof fois)
+        Q_EMIT Echu();
+}
