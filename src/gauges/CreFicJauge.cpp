@@ -5,8 +5,10 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "platform/Boites.h"
+#include "platform/FichierTexte.h"
 #include "platform/Nombres.h"
 #include "transfer/FichierRecu.h"
+#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QDate>
@@ -149,7 +151,33 @@ std::size_t Entete()
     return 3;
 }
 
+/// What stands on the disk; an empty text where it cannot be read.
+QString SurDisque()
+{
+    QString texte;
+    Saute([&texte] { texte = LitFichierTexte(CheminRecep()); });
+    return texte;
+}
+
+void EcritJauges()
+{
+    const QString avant = SurDisque();
+    const QString texte = TexteLignes();
+    try {
+        EcritFichierRecu(texte);
+    } catch (const Erreur &erreur) {
+        throw JaugesNonEcrites(erreur, texte + QStringLiteral("\r\n"), !avant.isEmpty() && avant == SurDisque());
+    }
+}
+
 } // namespace
+
+JaugesNonEcrites::JaugesNonEcrites(const Erreur &cause, const QString &texte, bool intact)
+    : Erreur(cause)
+    , m_texte(texte)
+    , m_intact(intact)
+{
+}
 
 void CreFicJauge()
 {
@@ -165,6 +193,6 @@ void CreFicJauge()
     if (ParamMac.EnParametresE())
         Lignes[k + 1] = QStringLiteral("M02");
     CalculeMaxi();
-    EcritFichierRecu(TexteLignes());
+    EcritJauges();
     OuvreFichierRecu();
 }

@@ -1,11 +1,13 @@
 #include "gauges/FiltreJauge.h"
 
+#include "gauges/AvisMesures.h"
 #include "gauges/CreFicJauge.h"
 #include "gauges/Filtrage.h"
 #include "gauges/Jauge.h"
 #include "gauges/JauTour.h"
 #include "gauges/Lignes.h"
 #include "gauges/ParamMac.h"
+#include "gauges/SalveBanc.h"
 #include "locale/Langue.h"
 #include "platform/Boites.h"
 #include "platform/Erreur.h"
@@ -32,8 +34,6 @@ constexpr Texte3 NouveauTitre{u"Valeur du correcteur", u"Value of the corrector"
 constexpr Texte3 NouveauTexte{u"Nouvelle valeur du correcteur (0 - ", u"New value of the corrector (0 - ",
                               u"Nuevo valor del corrector (0 - "};
 
-constexpr char16_t Marque[] = u"TN:"; // what a line with a measure begins with
-
 /// The hourglass, as long as it lives.
 class Sablier
 {
@@ -55,18 +55,12 @@ void ResserreLignes()
     CalculeMaxi();
 }
 
-/// The numeric value of the columns of a burst, counted from 1; 0 where it is too short.
-double Valeur(const QString &ligne, int colonne, int longueur)
+/// The numeric value of a field, in the single precision of a gauge. Raises Depassement.
+float ValeurSimple(const QString &champ)
 {
-    return Val(ligne.mid(colonne - 1, longueur));
-}
-
-/// Same, in the single precision of a gauge. Raises Depassement.
-float ValeurSimple(const QString &ligne, int colonne, int longueur)
-{
-    const double valeur = Valeur(ligne, colonne, longueur);
+    const double valeur = Val(champ);
     if (std::fabs(valeur) > static_cast<double>(std::numeric_limits<float>::max()))
-        throw Erreur(Erreur::Depassement, QStringLiteral("Overflow"));
+        throw Erreur(Erreur::Depassement, champ.trimmed());
     return static_cast<float>(valeur);
 }
 
@@ -89,28 +83,37 @@ double DemandeCorrecteur(double interdit, int outil)
     return numero;
 }
 
-/// Reads measure k from its line: the columns of the bench.
-void LisMesure(const QString &ligne, int k)
+/// Reads a measure from its burst, the one at this place of the session.
+JaugeOutil LisMesure(const QString &salve, int place)
 {
-    JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(k));
-    const double numero = std::nearbyint(Valeur(ligne, 4, 5));
-    jauge.NumCorr = EnEntier(EstPermis(numero) ? numero : DemandeCorrecteur(numero, k));
-    jauge.JaugeZ = ValeurSimple(ligne, 25, 9);
-    jauge.JaugeX = ValeurSimple(ligne, 50, 9);
-    jauge.ModeMesure = ligne.mid(61, 1).leftJustified(1).front();
+    JaugeOutil jauge;
+    const double numero = std::nearbyint(Val(Champ(salve, ColonnesCorrecteur)));
+    jauge.NumCorr = EnEntier(EstPermis(numero) ? numero : DemandeCorrecteur(numero, place));
+    jauge.JaugeZ = ValeurSimple(Champ(salve, ColonnesZ));
+    jauge.JaugeX = ValeurSimple(Champ(salve, ColonnesX));
+    jauge.ModeMesure = Champ(salve, ColonneMode).leftJustified(1).front();
+    return jauge;
 }
 
-/// Each measure takes the next line that holds one; where there is none any more a measure stays as it was.
+/// Reads the measures, one behind the other, from the bursts that hold one, and tells the operator what the others
+/// held. NbJauges is then the number of measures read: nothing stands in a gauge file that the bench has not measured.
 void LisMesures()
 {
-    auto ligne = Lignes.begin() + 1;
-    const auto fin = ligne + LigneMaxi;
-    for (int k = 1; k <= NbJauges; ++k) {
-        ligne = std::find_if(ligne, fin, [](const QString &texte) { return texte.startsWith(QStringView(Marque)); });
-        if (ligne == fin)
-            return;
-        LisMesure(*ligne++, k);
+    AvisMesures avis;
+    int lues = 0;
+    for (int place = 1; place <= std::max(LigneMaxi, NbJauges) && lues < NbJauges; ++place) {
+        const QString &salve = Lignes[static_cast<std::size_t>(place)];
+        if (!salve.startsWith(QStringView(MarqueMesure))) {
+            avis.NonLue(place, salve);
+            continue;
+        }
+        JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(++lues));
+        jauge = LisMesure(salve, place);
+        jauge.NonLuesAvant = place - lues;
+        avis.Lue(place, salve, jauge);
     }
+    NbJauges = lues;
+    avis.Montre(lues);
 }
 
 } // namespace
@@ -119,8 +122,14 @@ void FiltreJauge()
 {
     std::optional<Sablier> sablier(std::in_place);
     Filtrage();
+    LisMesures(); // while a burst still stands at its place of the session
     ResserreLignes();
-    LisMesures();
+    if (LigneMaxi == 0) {
+        CreeFichierRecu(); // nothing but blanks has come
+        OuvreFichierRecu();
+    }
+    if (NbJauges == 0)
+        return; // a text without a measure stays as it came
     EcritFichierRecu(TexteLignes());
     if (ParamMac.EstTour()) {
         sablier.reset();

@@ -4,6 +4,7 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/Boites.h"
 #include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
 
@@ -15,6 +16,11 @@ constexpr Texte3 OutilTexte{u"Outil mesuré N° : ", u"Measured tool N° : ", u"
 constexpr Texte3 CorrecteurTexte{u"Correcteur N° : ", u"Corrector N° : ", u"Corrector N° : "};
 constexpr Texte3 TourelleArriere{u"Tourelle Arrière", u"Back Turret", u"Torreta Posterior"};
 constexpr Texte3 TourelleAvant{u"Tourelle Avant", u"Front Turret", u"Torreta Antes"};
+constexpr Texte3 FermerTitre{u"Fermer le cadran", u"Close the dial", u"Cerrar el cuadrante"};
+constexpr Texte3 FermerReste{u"Outils non validés : ", u"Tools not validated: ", u"Herramientas sin validar: "};
+constexpr Texte3 FermerTexte{u"\rIls seront écrits avec le rayon 0 et le localisateur 0.\rFermer quand même ?",
+                             u"\rThey will be written with radius 0 and locator 0.\rClose all the same ?",
+                             u"\rSe escribirán con el radio 0 y el localizador 0.\r¿Cerrar de todos modos?"};
 
 /// A click on a tile of panneau, or on its label, writes its value to saisie.
 void EcritAuClic(const QWidget *panneau, QLineEdit *saisie)
@@ -70,7 +76,10 @@ void JauTour::MontreMesure(const QString &intervalle)
 {
     const JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(OutilCadran));
     PoseTexte(Frame1, OutilTexte,
-              QString::number(OutilCadran) + intervalle + Texte(CorrecteurTexte) + QString::number(jauge.NumCorr));
+              QString::number(OutilCadran + jauge.NonLuesAvant) + intervalle + Texte(CorrecteurTexte) +
+                  QString::number(jauge.NumCorr));
+    MontreDonnee(ValeursMesure, QStringLiteral("X = %1 (%2)    Z = %3")
+                                    .arg(TexteReel(jauge.JaugeX), QString(jauge.ModeMesure), TexteReel(jauge.JaugeZ)));
     Text1->setText(QStringLiteral("0"));
     Text2->setText(QStringLiteral("0"));
     DesigneTuiles();
@@ -101,6 +110,14 @@ void JauTour::keyPressEvent(QKeyEvent *touche)
 {
     if (touche->key() != Qt::Key_Escape && !touche->isAutoRepeat())
         QDialog::keyPressEvent(touche);
+}
+
+/// The close box leaves the tools that are not validated without radius and quadrant.
+void JauTour::reject()
+{
+    if (Confirme(Texte(FermerReste) + QString::number(NbJauges - OutilCadran + 1) + Texte(FermerTexte),
+                 Boite::Exclamation | Boite::SecondBouton, Texte(FermerTitre)))
+        QDialog::reject();
 }
 
 void JauTour::Command1_Click()

@@ -5,18 +5,21 @@
 
 /// The dial of a lathe: for each measure, one after another, the operator gives what the bench cannot measure, the
 /// radius of the tool's nose and the quadrant in which it works. JauTourFait becomes 1 behind the last one. Closed
-/// before that, it leaves the measures that are not validated as they were.
+/// before that, which it asks about, it leaves the measures that are not validated as they were.
 ///
-/// Frame1: the current measure; Text1: radius, named by Label5; Text2: locator, named by Label6; Command1: validate.
-/// Picture21, titled Label2: plates Picture22 to Picture27. Label7 names the turret of the dial that is shown: Picture1
-/// (back) or Picture11 (front); tool tiles Picture2 to Picture10 with their labels Label17 to Label25 on the first,
-/// Picture12 to Picture20 with Label8 to Label16 on the second.
+/// Frame1: the current measure, whose number is its place in the session; ValeursMesure: its X and Z as the bench gave
+/// them, in mm, named by LabelMesure; Text1: radius, named by Label5; Text2: locator, named by Label6; Command1:
+/// validate. Picture21, titled Label2: plates Picture22 to Picture27. Label7 names the turret of the dial that is
+/// shown: Picture1 (back) or Picture11 (front); tool tiles Picture2 to Picture10 with their labels Label17 to Label25
+/// on the first, Picture12 to Picture20 with Label8 to Label16 on the second.
 class JauTour : public DialogueCentre, public Ui::JauTour
 {
     Q_OBJECT
 
 public:
     explicit JauTour(QWidget *parent);
+
+    void reject() override;
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
@@ -30,5 +33,5 @@ private:
     void MontreMesure(const QString &intervalle);
     void DesigneTuiles();
 
-    int OutilCadran = 1; ///< number of the current measure, from 1
+    int OutilCadran = 1; ///< number of the current measure in Jauge, from 1
 };

@@ -13,6 +13,7 @@ struct JaugeOutil
     float Rayon = 0;         ///< radius of the tool's nose, mm; lathe only
     int Localisateur = 0;    ///< quadrant in which the nose cuts, 0 to 8; lathe only
     QChar ModeMesure = u' '; ///< 'R': the bench gave JaugeX as a radius, 'D': as a diameter
+    int NonLuesAvant = 0;    ///< bursts of the session ahead of it that hold no measure
 };
 
 constexpr int CapaciteJauges = 300; ///< measures that one reception can hold, and the highest corrector number

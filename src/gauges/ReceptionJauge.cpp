@@ -1,12 +1,14 @@
 #include "gauges/ReceptionJauge.h"
 
 #include "comconfig/ParamCom.h"
+#include "gauges/CreFicJauge.h"
 #include "gauges/FiltreJauge.h"
 #include "gauges/Jauge.h"
 #include "gauges/Lignes.h"
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "locale/TextesErreur.h"
 #include "platform/Boites.h"
 #include "platform/CedeLaMain.h"
 #include "platform/Erreur.h"
@@ -39,6 +41,19 @@ constexpr Texte3 RecueSuite{u"\rCliquez sur le bouton\r < Jauge suivante... >\rP
 constexpr Texte3 Limite{u"Nombre de correcteurs reçus > à ", u"A number of received correctors > with ",
                         u"Muchos correctores recibidos > a "};
 constexpr Texte3 LimiteTitre{u"Avertissement", u"Warning", u"Advertencia"};
+constexpr Texte3 SansPort{u"\rLe port n'est pas ouvert, aucune mesure ne peut arriver.\rAnnulez, puis recommencez.",
+                          u"\rThe port is not open, no measure can arrive.\rCancel, then start again.",
+                          u"\rEl puerto no está abierto, no puede llegar ninguna medida.\rCancele y vuelva a empezar."};
+constexpr Texte3 NonEcrites{u"Les jauges ne sont pas enregistrées.\r", u"The gauges are not saved.\r",
+                            u"Los correctores no están guardados.\r"};
+constexpr Texte3 BancIntact{u"Ce fichier contient encore le texte du banc, sans rayons ni localisateurs :\r",
+                            u"This file still holds the text of the bench, without radii and locators:\r",
+                            u"Este fichero contiene todavía el texto del banco, sin radios ni localizadores:\r"};
+constexpr Texte3 BancPerdu{u"Ce fichier est incomplet ou introuvable :\r",
+                           u"This file is incomplete or cannot be found:\r",
+                           u"Este fichero está incompleto o no se encuentra:\r"};
+constexpr Texte3 Ailleurs{u"\rEnregistrer les jauges dans un autre fichier ?", u"\rSave the gauges to another file ?",
+                          u"\r¿Guardar los correctores en otro fichero?"};
 
 /// One session at the bench, from the first tool to the gauge file.
 class Seance
@@ -52,20 +67,25 @@ public:
     void Prepare();
     void PrendOutils();
     void Termine();
-    /// After a failure: what the disk does not hold may be saved elsewhere.
+    /// After a failure: the operator is no longer told what to do at the bench, the failure stays to be read.
+    void MontreEchec(const Erreur &erreur) const;
+    /// Then what the disk does not hold may be saved elsewhere.
     void SauveReste() const;
 
 private:
     void Reception1Jauge();
     QString RecoitSalve();
+    void MontreRecus(int outil, qsizetype recus);
     void AnnonceMesure();
-    void AttendOperateur() const;
+    void AttendOperateur();
+    qsizetype EnAttente() const;
     void DemandeSuivante();
     void AnnonceLimite();
     void PermetSuite(bool permis);
 
     Ui::Em_Rc &m_dialogue;
-    QString m_brut; ///< all that has come, as the file holds it
+    QString m_brut;                ///< all that has come, as the file holds it
+    qsizetype m_recusMontres = -1; ///< what MontreRecus() shows
 };
 
 void Seance::Prepare()
@@ -83,6 +103,8 @@ void Seance::Prepare()
     if (ParamCom.Echo == 1 && genre >= 0 && genre < static_cast<int>(std::size(GenresReception)))
         PoseTexte(m_dialogue.Label4, GenresReception[genre]);
     OuvrePortCOM();
+    if (!Controle().PortOpen())
+        m_dialogue.Label1->setText(PourAffichage(Texte(SansPort)));
     CreeFichierRecu();
     PoseTexte(m_dialogue.Label2, Attente, TexteNombre(NbJauges));
 }
@@ -107,6 +129,7 @@ void Seance::Reception1Jauge()
 {
     JaugeRecue = 0;
     m_dialogue.Label3->clear();
+    MontreRecus(NbJauges, 0);
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     const QString recu = RecoitSalve();
     if (AnnuleRECEPT == 1)
@@ -152,6 +175,7 @@ QString Seance::RecoitSalve()
         silence.setRemainingTime(Silence());
         if (lu != cloche)
             recu += lu;
+        MontreRecus(NbJauges, recu.size());
         if (ParamCom.Echo == 1)
             EcritEcho(*m_dialogue.Label3, recu);
     }
@@ -168,10 +192,39 @@ void Seance::AnnonceMesure()
     m_dialogue.Label1->setText(PourAffichage(u'\r' + Texte(RecueDebut) + recue + Texte(RecueSuite)));
 }
 
-void Seance::AttendOperateur() const
+/// What the bench sends meanwhile belongs to the next tool.
+void Seance::AttendOperateur()
 {
-    while (JaugeSuivante != 1 && FinJauges != 1 && AnnuleRECEPT != 1)
+    while (JaugeSuivante != 1 && FinJauges != 1 && AnnuleRECEPT != 1) {
         CedeLaMain();
+        if (const qsizetype recus = EnAttente(); recus > 0)
+            MontreRecus(NbJauges + 1, recus);
+    }
+}
+
+/// Characters that nobody has read yet. A bench that was unplugged behind its measure is no failure.
+qsizetype Seance::EnAttente() const
+{
+    qsizetype recus = 0;
+    if (Controle().PortOpen())
+        Saute([&recus] { recus = Controle().InBufferCount(); });
+    return recus;
+}
+
+/// Counts the characters of the measure under way beside those of a whole one, so that a burst that breaks off is seen.
+void Seance::MontreRecus(int outil, qsizetype recus)
+{
+    if (recus == m_recusMontres)
+        return;
+    m_recusMontres = recus;
+    const auto nombre = static_cast<int>(recus);
+    QString compte = QStringLiteral("N° %1 : %2").arg(outil).arg(nombre);
+    if (ParamCom.TailleRecep > 0)
+        compte += QStringLiteral(" / ") + QString::number(ParamCom.TailleRecep);
+    m_dialogue.Progression->setRange(0, std::max(ParamCom.TailleRecep, nombre));
+    m_dialogue.Progression->setValue(nombre);
+    m_dialogue.Progression->setFormat(compte);
+    m_dialogue.Progression->setVisible(nombre > 0);
 }
 
 void Seance::DemandeSuivante()
@@ -214,6 +267,7 @@ void Seance::Termine()
         return;
     }
     OuvreFichierRecu();
+    m_dialogue.Progression->hide();
     if (FinJauges == 1 && NbJauges >= 1) {
         FiltreJauge();
         FinTransfert = 1;
@@ -222,12 +276,26 @@ void Seance::Termine()
     frmPrinc->ActualiseFichiers();
 }
 
+void Seance::MontreEchec(const Erreur &erreur) const
+{
+    m_dialogue.Label1->setText(PourAffichage(u'\r' + TexteErreur(erreur)));
+    m_dialogue.Label2->clear();
+    m_dialogue.Progression->hide();
+}
+
 void Seance::SauveReste() const
 {
     QString surDisque;
     Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
     if (surDisque != m_brut)
         SauveAilleurs(m_brut);
+}
+
+/// The dialog is closed by then; the gauges, with all that the operator typed at the dial, may be saved elsewhere.
+void SauveJauges(const JaugesNonEcrites &erreur)
+{
+    SauveAilleurs(erreur.TexteJauges(), Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : BancPerdu) +
+                                            CheminRecep() + Texte(Ailleurs));
 }
 
 } // namespace
@@ -239,8 +307,12 @@ void ReceptionJauge(Ui::Em_Rc &dialogue)
         seance.Prepare();
         seance.PrendOutils();
         seance.Termine();
+    } catch (const JaugesNonEcrites &erreur) {
+        ErreurPortCOM(erreur, dialogue);
+        SauveJauges(erreur);
     } catch (const Erreur &erreur) {
         ErreurPortCOM(erreur, dialogue);
+        seance.MontreEchec(erreur);
         seance.SauveReste();
     }
 }

@@ -46,6 +46,7 @@ constexpr Legende JauTour[] = {
     {"Label2", Titre, u"Ray of plate", u"Rayo de placa"},
     {"Command1", Titre, u"Validate...", u"Validar..."},
     {"Command1", Bulle, u"Validate the values in progress", u"Válido los valores en curso"},
+    {"LabelMesure", Titre, u"Measured at the bench :", u"Medido en el banco :"},
     {"Label5", Titre, u"Ray of plate :", u"Rayo de placa :"},
     {"Label6", Titre, u"Locator :", u"Localizador :"},
 };

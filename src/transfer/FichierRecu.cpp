@@ -102,10 +102,11 @@ void OuvreFichierRecu()
     });
 }
 
-void SauveAilleurs(const QString &texte)
+void SauveAilleurs(const QString &texte, const QString &question)
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    while (!texte.isEmpty() && Confirme(Texte(ResteTexte), Boite::Exclamation, Texte(ResteTitre))) {
+    const QString demande = question.isEmpty() ? Texte(ResteTexte) : question;
+    while (!texte.isEmpty() && Confirme(demande, Boite::Exclamation, Texte(ResteTitre))) {
         try {
             dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), QString(), CheminRecep());
             dialogue.ShowSave();

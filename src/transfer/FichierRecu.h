@@ -21,5 +21,5 @@ void AjouteFichierRecu(const QString &texte);
 void OuvreFichierRecu();
 
 /// A reception has failed: offers to save what had come, again and again until it is written or given up. An empty
-/// texte asks nothing.
-void SauveAilleurs(const QString &texte);
+/// texte asks nothing. question: what is asked, where it is not the received lines that are lost.
+void SauveAilleurs(const QString &texte, const QString &question = {});

@@ -55,20 +55,30 @@ class TestFiltreJauge : public QObject
 private Q_SLOTS:
     void Colonnes()
     {
-        const Atelier atelier;
         for (const QStringList &mesure : Table(u"mesures.tsv"_s)) {
+            Atelier atelier;
+            if (mesure.size() > 2)
+                atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont écrites ainsi :\r"
+                                                   "    N° 1, correcteur "_s +
+                                                       mesure[2]);
             QCOMPARE(atelier.Filtre({mesure[1]}, 1), "%\r\n" + mesure[0].toLatin1() + "\r\n");
             QVERIFY(QApplication::overrideCursor() == nullptr);
         }
     }
 
-    // Lines ahead of the measures and between them are passed over; each measure takes the next one, and the last of
-    // the tools, for which none is left, stays empty.
+    // Bursts ahead of the measures and between them are passed over, and told at their places of the session; nothing
+    // is written for them.
     void Suite()
     {
         Atelier atelier;
         ParamMac.JaugeMaxiZ = -1; // its box stops the work while the cleaned text stands in the file
-        for (int i = 0; i < 3; ++i)
+        const QString doutes = u"Z \"\" pris pour 0, X \"\" pris pour 0, lettre \"\" : X pris pour 0 au rayon"_s;
+        atelier.Apprend("Mesures du banc",
+                        u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :\r    N° 1 : EPB\r"
+                        "    N° 2 : (rien)\r    N° 3 : (rien)\r    N° 5 : (rien)\r    N° 6 : TOTAL\r\r"
+                        "Ces mesures sont douteuses, elles sont écrites ainsi :\r    N° 4, correcteur 3 : %1\r"
+                        "    N° 7, correcteur 4 : %1"_s.arg(doutes));
+        for (int i = 0; i < 2; ++i)
             atelier.Fait("MsgBox", [&](QWidget &boite) {
                 // Of two blank lines in a row one stays.
                 QCOMPARE(atelier.Lit("A.JAU"), "EPB\r\n\r\nTN:    3 \x80\r\nTOTAL\r\nTN:    4\r\n");
@@ -76,7 +86,29 @@ private Q_SLOTS:
                 dynamic_cast<QMessageBox &>(boite).accept();
             });
         const QStringList rafales = u"EPB\r|\r\n|\a| TN:    3 \u20AC |\x1b|TOTAL|TN:    4"_s.split(u'|');
-        QCOMPARE(atelier.Filtre(rafales, 3), "%\r\nD3 L0 R0\r\nD4 L0 R0\r\nD0 L0 R0\r\n");
+        QCOMPARE(atelier.Filtre(rafales, 7), "%\r\nD3 L0 R0\r\nD4 L0 R0\r\n");
+        QCOMPARE(NbJauges, 2);
+    }
+
+    // Where no measure could be read the text of the bench stays as it came; blanks alone leave an empty file.
+    void Aucune()
+    {
+        const QString fin =
+            u"\r\rAucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r"_s;
+        const QString entete = u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :"_s;
+        QString rangs;
+        for (int place = 1; place <= 12; ++place)
+            rangs += u"\r    N° %1 : tn: 12"_s.arg(place);
+        for (const auto &[rafale, nombre, dits, reste] :
+             {std::tuple{u"tn: 12\r"_s, 14, rangs + u"\r    ... + 2"_s, "BRUT\r\n"},
+              {u"\a "_s, 1, u"\r    N° 1 : (rien)"_s, ""}}) {
+            Atelier atelier;
+            ParamMac.TypeMachine = 0; // and no dial
+            atelier.Ecrit("A.JAU", "BRUT\r\n");
+            atelier.Apprend("Mesures du banc", entete + dits + fin + atelier.Chemin("A.JAU"));
+            QCOMPARE(atelier.Filtre(QStringList(nombre, rafale), nombre), reste);
+            QCOMPARE(NbJauges, 0);
+        }
     }
 
     // A corrector number that the machine does not have is asked again until it fits; giving up means 0.
@@ -116,13 +148,19 @@ private Q_SLOTS:
         QCOMPARE(Lignes.back(), u"\nFIN\r"_s);
     }
 
-    // On a lathe the dial comes between, without the hourglass; closing it lets the file be made all the same. A value
-    // beyond single precision ends the work before the dial.
+    // On a lathe the dial comes between, without the hourglass; closing it asks, and lets the file be made all the
+    // same. A value beyond single precision ends the work before the dial.
     void Tour()
     {
         Atelier atelier;
         ParamMac.TypeMachine = 0;
-        atelier.Ferme("JauTour", [] { return QApplication::overrideCursor() == nullptr; });
+        for (const auto reponse : {QMessageBox::No, QMessageBox::Yes}) {
+            atelier.Ferme("JauTour", [] { return QApplication::overrideCursor() == nullptr; });
+            atelier.Repond("Fermer le cadran",
+                           "Outils non validés : 1\rIls seront écrits avec le rayon 0 et le localisateur 0.\r"
+                           "Fermer quand même ?",
+                           Boite::Exclamation | Boite::OuiNon | Boite::SecondBouton, reponse);
+        }
         QCOMPARE(atelier.Filtre({Mesure(u"2"_s, u"98.12"_s, u"26"_s, u"R"_s)}, 1), "%\r\nD2 X26 Z98.12 R0 C0\r\n");
         QVERIFY_EXCEPTION_THROWN(atelier.Filtre({Mesure(u"1"_s, u"1E39"_s, u"1"_s, u"R"_s)}, 1), Erreur);
         QVERIFY(QApplication::overrideCursor() == nullptr);

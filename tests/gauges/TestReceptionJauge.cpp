@@ -6,7 +6,10 @@
 #include "platform/Erreur.h"
 #include "transfer/Transfert.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -78,11 +81,12 @@ struct Atelier : Etabli
                "\rConfirmez la réception des jauges outils JAUGES.COR sur le port Com2 ?", Operateur::Demande, reponse);
     }
 
-    /// The bench sends, once the program has read all that came before.
-    void Envoie(const QByteArray &octets)
+    /// The bench sends: once the program has read all that came before, if nothing else is said.
+    void Envoie(const QByteArray &octets, const Operateur::Condition &quand = {})
     {
         Fait(
-            Dialogue, [this, octets](QWidget &) { banc->Envoie(octets); }, [this] { return Lus(); });
+            Dialogue, [this, octets](QWidget &) { banc->Envoie(octets); },
+            quand ? quand : [this] { return Lus(); });
     }
     bool Lus() const { return PortOuvert && banc->EnAttente() == 0 && frmPrinc->MSComm1->InBufferCount() == 0; }
 
@@ -229,6 +233,60 @@ private Q_SLOTS:
         atelier.Presse(Dialogue, Fin);
         Operateur::Menu("Mnu_RecepBanc");
         QCOMPARE(atelier.Disque(), "%\r\n" + LigneD(1));
+    }
+
+    // The characters of a burst under way are counted, also of one that comes before anybody has asked for it. What a
+    // failure leaves on the screen is the failure, and no tool to be preset.
+    void Compte()
+    {
+        Atelier atelier;
+        atelier.Nomme();
+        const auto compte = [](const QString &montre) {
+            return [montre] {
+                const auto *const barre = QApplication::activeModalWidget()->findChild<QProgressBar *>();
+                return PortOuvert && (barre->isVisible() ? barre->text() : QString()) == montre;
+            };
+        };
+        atelier.Envoie(Outil(1).left(40), compte(QString()));
+        atelier.Envoie(Outil(1).mid(40), compte(u"N° 1 : 40 / 70"_s));
+        atelier.Envoie(Outil(2).left(30), Mesure(1));
+        atelier.Presse(Dialogue, Suivante, compte(u"N° 2 : 30 / 70"_s));
+        atelier.Fait(
+            Dialogue, [&atelier](QWidget &) { atelier.banc->Debranche(); },
+            [] { return Operateur::Lu("Label2") == u"En attente de réception Jauges Outil N°  2"; });
+        const QString panne = u"Erreur de lecture du périphérique de communication"_s;
+        atelier.LitErreur(8020, panne);
+        atelier.Presse(Dialogue, Annule, [&panne] {
+            return Operateur::Lu("Label1") == u'\n' + panne && Operateur::Lu("Label2").isEmpty();
+        });
+        atelier.Abandonne();
+        QCOMPARE(atelier.Disque(), Brut(1));
+    }
+
+    // The folder goes while the dial stands open: what the disk holds is told truly, and what was typed can be saved.
+    void EcritureRatee()
+    {
+        Atelier atelier;
+        atelier.Ecrit("M.mac", "0\n0\n0\n0\n1\n1000\n1000\n32\ncor\nP\n0");
+        atelier.Nomme();
+        atelier.Outils(1);
+        atelier.Presse(Dialogue, Fin, Mesure(1));
+        const QString chemin = atelier.Chemin("JAUGES.COR");
+        atelier.Saisit("JauTour", "Text1", ".8");
+        atelier.Fait("JauTour", [&](QWidget &cadran) {
+            QCOMPARE(atelier.Disque(), Outil(1).trimmed() + "\r\n");
+            QVERIFY(QFile::remove(chemin) && QFile::link(u"/dev/full"_s, chemin));
+            cadran.findChild<QLineEdit *>(u"Text2"_s)->setText(u"5"_s);
+            Operateur::Presse(cadran, "Command1");
+        });
+        atelier.LitErreur(61, u"Le disque est plein.\r"_s + qt_error_string(ENOSPC));
+        atelier.Repond("Enregistrer les lignes reçues",
+                       u"Les jauges ne sont pas enregistrées.\rCe fichier est incomplet ou introuvable :\r%1\r"
+                       "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin),
+                       Operateur::DemandeSimple, QMessageBox::Yes);
+        atelier.Choisit(atelier.Chemin("SAUVE.COR"));
+        atelier.Abandonne();
+        QCOMPARE(atelier.Lit("SAUVE.COR"), "%\r\nD1 X-1 Z101.5 R.8 C5\r\n");
     }
 
     // The correctors of the machine are used up: the tools end there, and only the operator's own end makes a gauge
