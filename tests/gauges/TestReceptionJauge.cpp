@@ -85,8 +85,7 @@ struct Atelier : Etabli
     void Envoie(const QByteArray &octets, const Operateur::Condition &quand = {})
     {
         Fait(
-            Dialogue, [this, octets](QWidget &) { banc->Envoie(octets); },
-            quand ? quand : [this] { return Lus(); });
+            Dialogue, [this, octets](QWidget &) { banc->Envoie(octets); }, quand ? quand : [this] { return Lus(); });
     }
     bool Lus() const { return PortOuvert && banc->EnAttente() == 0 && frmPrinc->MSComm1->InBufferCount() == 0; }
 
@@ -280,10 +279,13 @@ private Q_SLOTS:
             Operateur::Presse(cadran, "Command1");
         });
         atelier.LitErreur(61, u"Le disque est plein.\r"_s + qt_error_string(ENOSPC));
-        atelier.Repond("Enregistrer les lignes reçues",
-                       u"Les jauges ne sont pas enregistrées.\rCe fichier est incomplet ou introuvable :\r%1\r"
-                       "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin),
-                       Operateur::DemandeSimple, QMessageBox::Yes);
+        atelier.Fait("MsgBox", [&](QWidget &boite) {
+            QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(),
+                     u"Les jauges ne sont pas enregistrées.\nCe fichier est incomplet ou introuvable :\n%1\n"
+                     "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin));
+            QVERIFY(QFile::remove(chemin));
+            Operateur::Clique(QMessageBox::Yes)(boite);
+        });
         atelier.Choisit(atelier.Chemin("SAUVE.COR"));
         atelier.Abandonne();
         QCOMPARE(atelier.Lit("SAUVE.COR"), "%\r\nD1 X-1 Z101.5 R.8 C5\r\n");

@@ -166,7 +166,16 @@ const Ecrivain Ecrivains[] = {
          a.prop.Command5->click();
          QCOMPARE(a.prop.Label12->text() + EditeurCN, u"/bin/sh/bin/sh"_s);
      }},
-    {"gauges", "JAUGES.COR", [](Atelier &a) { QCOMPARE(NumeroErreur(CreFicJauge) != 0, a.echoue); }},
+    {"gauges", "JAUGES.COR",
+     [](Atelier &a) {
+         try {
+             CreFicJauge();
+             QVERIFY(!a.echoue);
+         } catch (const JaugesNonEcrites &erreur) {
+             QVERIFY(a.echoue && erreur.Intact());
+             QCOMPARE(erreur.TexteJauges(), u"%\r\nD1 X10 Z50 R0 C0\r\n"_s);
+         }
+     }},
     {"folder in the explorer", "Neuf",
      [](Atelier &a) {
          NumeroErreur([&a] { frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(a.racine); });
