@@ -23,6 +23,9 @@ constexpr Texte3 Aucune{
     u"Aucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r",
     u"No gauge file is made. The text received from the bench stays in the file:\r",
     u"No se crea ningún fichero de correctores. El texto recibido del banco queda en el fichero:\r"};
+constexpr Texte3 SansDemande{u" caractères arrivés sans que la jauge suivante soit demandée",
+                             u" characters that came before the following gauge was asked for",
+                             u" caracteres llegados sin pedir la capacidad siguiente"};
 constexpr Texte3 Rien{u"(rien)", u"(nothing)", u"(nada)"};
 constexpr Texte3 Correcteur{u", correcteur ", u", corrector ", u", corrector "};
 constexpr Texte3 NomCorrecteur{u"correcteur", u"corrector", u"corrector"};
@@ -98,6 +101,11 @@ void AvisMesures::NonLue(int place, const QString &salve)
 {
     const QString contenu = salve.simplified();
     m_nonLues << Rang(place) + QStringLiteral(" : ") + (contenu.isEmpty() ? Texte(Rien) : contenu);
+}
+
+void AvisMesures::NonDemandee(int place, qsizetype caracteres)
+{
+    m_nonLues << Rang(place) + QStringLiteral(" : ") + QString::number(caracteres) + Texte(SansDemande);
 }
 
 void AvisMesures::Lue(int place, const QString &salve, const JaugeOutil &jauge)

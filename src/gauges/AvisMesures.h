@@ -12,6 +12,9 @@ public:
     /// The burst at this place of the session, from 1, holds no measure.
     void NonLue(int place, const QString &salve);
 
+    /// For this tool so many characters had come when the operator ended the session, who had not asked for it.
+    void NonDemandee(int place, qsizetype caracteres);
+
     /// The burst holds the measure jauge, which goes into the gauge file. It is told if a field was not a number, if
     /// the letter is neither R nor D, or if a second measure stands in the same burst.
     void Lue(int place, const QString &salve, const JaugeOutil &jauge);

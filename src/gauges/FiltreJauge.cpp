@@ -97,7 +97,7 @@ JaugeOutil LisMesure(const QString &salve, int place)
 
 /// Reads the measures, one behind the other, from the bursts that hold one, and tells the operator what the others
 /// held. NbJauges is then the number of measures read: nothing stands in a gauge file that the bench has not measured.
-void LisMesures()
+void LisMesures(qsizetype enAttente)
 {
     AvisMesures avis;
     int lues = 0;
@@ -112,17 +112,19 @@ void LisMesures()
         jauge.NonLuesAvant = place - lues;
         avis.Lue(place, salve, jauge);
     }
+    if (enAttente >= QStringView(MarqueMesure).size()) // less is no measure but the bell
+        avis.NonDemandee(NbJauges + 1, enAttente);
     NbJauges = lues;
     avis.Montre(lues);
 }
 
 } // namespace
 
-void FiltreJauge()
+void FiltreJauge(qsizetype enAttente)
 {
     std::optional<Sablier> sablier(std::in_place);
     Filtrage();
-    LisMesures(); // while a burst still stands at its place of the session
+    LisMesures(enAttente); // while a burst still stands at its place of the session
     ResserreLignes();
     if (LigneMaxi == 0) {
         CreeFichierRecu(); // nothing but blanks has come

@@ -78,7 +78,7 @@ private:
     void MontreRecus(int outil, qsizetype recus);
     void AnnonceMesure();
     void AttendOperateur();
-    qsizetype EnAttente() const;
+    static qsizetype EnAttente();
     void DemandeSuivante();
     void AnnonceLimite();
     void PermetSuite(bool permis);
@@ -86,6 +86,7 @@ private:
     Ui::Em_Rc &m_dialogue;
     QString m_brut;                ///< all that has come, as the file holds it
     qsizetype m_recusMontres = -1; ///< what MontreRecus() shows
+    qsizetype m_enAttente = 0;     ///< characters that wait for the operator to ask for their tool
 };
 
 void Seance::Prepare()
@@ -195,19 +196,21 @@ void Seance::AnnonceMesure()
 /// What the bench sends meanwhile belongs to the next tool.
 void Seance::AttendOperateur()
 {
+    m_enAttente = 0;
     while (JaugeSuivante != 1 && FinJauges != 1 && AnnuleRECEPT != 1) {
         CedeLaMain();
-        if (const qsizetype recus = EnAttente(); recus > 0)
-            MontreRecus(NbJauges + 1, recus);
+        if (Controle().PortOpen())
+            m_enAttente = EnAttente();
+        if (m_enAttente > 0)
+            MontreRecus(NbJauges + 1, m_enAttente);
     }
 }
 
 /// Characters that nobody has read yet. A bench that was unplugged behind its measure is no failure.
-qsizetype Seance::EnAttente() const
+qsizetype Seance::EnAttente()
 {
     qsizetype recus = 0;
-    if (Controle().PortOpen())
-        Saute([&recus] { recus = Controle().InBufferCount(); });
+    Saute([&recus] { recus = Controle().InBufferCount(); });
     return recus;
 }
 
@@ -269,7 +272,7 @@ void Seance::Termine()
     OuvreFichierRecu();
     m_dialogue.Progression->hide();
     if (FinJauges == 1 && NbJauges >= 1) {
-        FiltreJauge();
+        FiltreJauge(m_enAttente);
         FinTransfert = 1;
         BoutonFermer(*m_dialogue.Command4);
     }

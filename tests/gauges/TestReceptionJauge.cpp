@@ -262,14 +262,20 @@ private Q_SLOTS:
         QCOMPARE(atelier.Disque(), Brut(1));
     }
 
-    // The folder goes while the dial stands open: what the disk holds is told truly, and what was typed can be saved.
+    // A tool that nobody asked for is told at the end. The disk fails while the dial stands open: what the disk holds
+    // is told truly, and what was typed can be saved.
     void EcritureRatee()
     {
         Atelier atelier;
         atelier.Ecrit("M.mac", "0\n0\n0\n0\n1\n1000\n1000\n32\ncor\nP\n0");
         atelier.Nomme();
         atelier.Outils(1);
-        atelier.Presse(Dialogue, Fin, Mesure(1));
+        atelier.Envoie(Outil(2), Mesure(1));
+        atelier.Presse(Dialogue, Fin, [] {
+            return QApplication::activeModalWidget()->findChild<QProgressBar *>()->text() == u"N° 2 : 70 / 70";
+        });
+        atelier.Apprend("Mesures du banc", "Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :\r"
+                                           "    N° 2 : 70 caractères arrivés sans que la jauge suivante soit demandée");
         const QString chemin = atelier.Chemin("JAUGES.COR");
         atelier.Saisit("JauTour", "Text1", ".8");
         atelier.Fait("JauTour", [&](QWidget &cadran) {
