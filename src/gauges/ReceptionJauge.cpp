@@ -84,9 +84,9 @@ private:
     void PermetSuite(bool permis);
 
     Ui::Em_Rc &m_dialogue;
-    QString m_brut;                ///< all that has come, as the file holds it
-    qsizetype m_recusMontres = -1; ///< what MontreRecus() shows
-    qsizetype m_enAttente = 0;     ///< characters that wait for the operator to ask for their tool
+    QString m_brut;            ///< all that has come, as the file holds it
+    QString m_compteMontre;    ///< what MontreRecus() shows
+    qsizetype m_enAttente = 0; ///< characters that wait for the operator to ask for their tool
 };
 
 void Seance::Prepare()
@@ -217,13 +217,13 @@ qsizetype Seance::EnAttente()
 /// Counts the characters of the measure under way beside those of a whole one, so that a burst that breaks off is seen.
 void Seance::MontreRecus(int outil, qsizetype recus)
 {
-    if (recus == m_recusMontres)
-        return;
-    m_recusMontres = recus;
     const auto nombre = static_cast<int>(recus);
     QString compte = QStringLiteral("N° %1 : %2").arg(outil).arg(nombre);
     if (ParamCom.TailleRecep > 0)
         compte += QStringLiteral(" / ") + QString::number(ParamCom.TailleRecep);
+    if (compte == m_compteMontre)
+        return;
+    m_compteMontre = compte;
     m_dialogue.Progression->setRange(0, std::max(ParamCom.TailleRecep, nombre));
     m_dialogue.Progression->setValue(nombre);
     m_dialogue.Progression->setFormat(compte);
