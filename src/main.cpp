@@ -1,4 +1,5 @@
 #include "locale/Langue.h"
+#include "platform/FinDemandee.h"
 #include "platform/MSComm.h"
 #include "platform/Polices.h"
 #include "platform/StyleContraste.h"
@@ -6,6 +7,7 @@
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/Disposition.h"
+#include "shell/Filet.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 
@@ -74,14 +76,19 @@ int main(int nombre, char *arguments[])
     RemetDisposition(fenetre);
     Form_Load();
     fenetre.show();
+    const FinDemandee fin([&fenetre] {
+        RetientTexte();
+        GardeDisposition(fenetre);
+    });
     // One behind the other: the box or the dialog of one would let the next ones in on top of it.
     const auto arrivees = [&fichiers] {
         AnnonceDossierFerme();
+        ProposeTextesRetrouves();
         for (const QString &fichier : fichiers)
             OuvreFichier(fichier);
     };
     QMetaObject::invokeMethod(&fenetre, arrivees, Qt::QueuedConnection);
-    const int fin = QApplication::exec();
+    const int code = QApplication::exec();
     GardeDisposition(fenetre);
-    return fin;
+    return code;
 }

@@ -68,6 +68,7 @@ void RichTextBox::PrendTexte(RichTextBox &autre)
     if (FormatA(0).propertyCount() > 0 || font() != autre.font()) {
         setText(autre.Text());
     } else {
+        Q_EMIT Remplacement();
         // The two panes exchange their documents. A document with a parent would go with the pane that lets go of it.
         QTextDocument *const mien = document();
         QTextDocument *const sien = autre.document();
@@ -324,6 +325,7 @@ void RichTextBox::Remplace(const QString &texte, const QTextCharFormat &format)
 /// Empties the document inside an edit block of the caller; format is the look of what comes next.
 void RichTextBox::Vide(const QTextCharFormat &format)
 {
+    Q_EMIT Remplacement();
     document()->clear();
     m_finsDiverses = false;
     m_lignesAllegees = 0;

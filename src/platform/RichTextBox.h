@@ -39,6 +39,9 @@ public:
 
     bool EstVide() const;
 
+    /// The line end in front of a line of the document, which is not its first.
+    FinDeLigne FinAvant(const QTextBlock &bloc) const;
+
     /// The selected text. Setting it replaces the selection, in the look of its beginning, and leaves the insertion
     /// point behind the new text.
     QString SelText() const;
@@ -87,6 +90,8 @@ public:
     void setSelColor(const QColor &couleur) { Habille(QTextFormat::ForegroundBrush, QBrush(couleur)); }
 
 Q_SIGNALS:
+    /// Another text is about to take the place of the whole text, which can still be read.
+    void Remplacement();
     /// The text was changed, by hand or by the program.
     void Change();
     /// A key that gives texte, before the pane takes it. Backspace, Tab and Enter count; Ctrl with a letter does not.
@@ -114,7 +119,6 @@ private:
     void AllegeMiseEnPage();
     void RecolleFins();
     void PasseFinDeRang(const QKeyEvent &touche);
-    FinDeLigne FinAvant(const QTextBlock &bloc) const;
     bool EstSuite(const QTextBlock &bloc) const { return bloc.isValid() && FinAvant(bloc) == FinDeLigne::Aucune; }
     QString AvecFins(const QString &brut, QTextBlock bloc) const;
     int FinDuDocument() const { return document()->characterCount() - 1; }

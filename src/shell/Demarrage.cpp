@@ -13,6 +13,7 @@
 #include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
+#include "shell/Filet.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
 #include "shell/Reglages.h"
@@ -81,24 +82,12 @@ void LisDossiers()
         CfgParDefaut(ParamCom.DosRecep);
 }
 
-bool TexteModifie()
-{
-    return !frmPrinc->Text1->EstVide() && FichierModifie == Vrai;
-}
-
 /// Nothing more is asked when the window closes: a stroke of Escape must not be what loses the text.
 bool DemandeEnregistrement(const QuestionFin &question)
 {
     return Confirme(Texte(FichierAvant) + NomFichier + Texte(FichierApres) + QStringLiteral("\r\n") +
                         Texte(question.question),
                     Boite::Exclamation | Boite::ChoixExige, Texte(question.titre));
-}
-
-/// Saves under the document's own name; a text without one cannot be saved here.
-void Enregistre()
-{
-    if (!NomFichier.isEmpty())
-        Saute([] { SaveFile(NomFichier); });
 }
 
 } // namespace
@@ -140,10 +129,10 @@ void AnnonceDossierFerme()
 void Mnu_Quitter()
 {
     AppliqueLangue();
-    if (TexteModifie() && DemandeEnregistrement(EnQuittant))
-        Enregistre();
+    const bool nonEnregistre = TexteModifie() && DemandeEnregistrement(EnQuittant) && !EnregistreSurPlace();
     if (!Confirme(Texte(ConfirmationTexte), Boite::Question | Boite::SecondBouton, Texte(ConfirmationTitre)))
         return;
+    RetientTexteFinal(nonEnregistre);
     Saute([] { frmPrinc->MSComm1->setPortOpen(false); });
     PortOuvert = false;
     QCoreApplication::exit(); // quit() would close the window first and ask about its text a second time
@@ -153,8 +142,8 @@ void Form_Unload()
 {
     if (!TexteModifie())
         return;
-    if (DemandeEnregistrement(EnFermant))
-        Enregistre();
-    else
+    const bool enregistre = DemandeEnregistrement(EnFermant);
+    RetientTexteFinal(enregistre && !EnregistreSurPlace());
+    if (!enregistre)
         FichierModifie = 0;
 }

@@ -10,8 +10,10 @@ void Form_Load();
 /// programs can be sent all the same.
 void AnnonceDossierFerme();
 
-/// The ordered end: offers to save a changed text, asks for confirmation and ends the process.
+/// The ordered end: offers to save a changed text, asks for confirmation and ends the process. A text that is still
+/// unsaved then stands in "Sauvegardes".
 void Mnu_Quitter();
 
-/// The main window is being closed: offers to save a changed text. The closing cannot be refused.
+/// The main window is being closed: offers to save a changed text, which is kept in "Sauvegardes" otherwise. The
+/// closing cannot be refused.
 void Form_Unload();

@@ -13,10 +13,10 @@
 #include "shell/FrmPrinc.h"
 #include "shell/ProgrammesExternes.h"
 #include "shell/Reglages.h"
+#include "shell/Sauvegardes.h"
+#include "shell/TexteEnCours.h"
 
 #include <QDir>
-
-#include <utility>
 
 QString NomFichier;
 QString TitreFichier;
@@ -83,11 +83,11 @@ void ChoisitDosDefaut()
         DosDefaut = *applique;
 }
 
-void ProposeTraitementDeTexte()
+void ProposeTraitementDeTexte(const QString &chemin)
 {
-    if (Confirme(Texte(OuvertureAvant) + TitreFichier + Texte(OuvertureSuite), Boite::Information,
+    if (Confirme(Texte(OuvertureAvant) + NomSeul(chemin) + Texte(OuvertureSuite), Boite::Information,
                  Texte(OuvertureTitre)))
-        OuvreAvecTraitementDeTexte(NomFichier);
+        OuvreAvecTraitementDeTexte(chemin);
 }
 
 /// False when the operator wanted the text saved and it could not be: he has been told.
@@ -98,14 +98,7 @@ bool ProposeEnregistrement()
     const QString question =
         Texte(ModifieAvant) + NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") + Texte(ModifieQuestion);
     // A stroke of Escape must not be what gives the text up for a dropped file.
-    if (!Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)))
-        return true;
-    try {
-        SaveFile(NomFichier);
-        return true;
-    } catch (const Erreur &) {
-        return false;
-    }
+    return !Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)) || EnregistreSurPlace();
 }
 
 void Text1_Change()
@@ -121,6 +114,11 @@ void BrancheDocument()
 {
     QObject::connect(frmPrinc->Text1, &RichTextBox::Change, frmPrinc, Text1_Change);
     QObject::connect(frmPrinc->Text1, &RichTextBox::KeyPress, frmPrinc, [] { FichierModifie = Vrai; });
+}
+
+bool TexteModifie()
+{
+    return FichierModifie == Vrai && !frmPrinc->Text1->EstVide();
 }
 
 void TitreFenetre(const QString &nom)
@@ -146,8 +144,7 @@ void Mnu_Nouveau()
 
 void OuvreDepose(const QString &chemin)
 {
-    const bool modifie = FichierModifie == Vrai && !frmPrinc->Text1->EstVide();
-    if (!modifie || ProposeEnregistrement())
+    if (!TexteModifie() || ProposeEnregistrement())
         OuvreDocument(chemin);
 }
 
@@ -176,14 +173,10 @@ void Mnu_Ouvrir()
 
 void OuvreDocument(const QString &chemin)
 {
-    const QString ancienNom = std::exchange(NomFichier, chemin);
-    const QString ancienTitre = std::exchange(TitreFichier, NomSeul(chemin));
     try {
         OpenFile(chemin);
     } catch (const Erreur &) {
-        ProposeTraitementDeTexte();
-        NomFichier = ancienNom;
-        TitreFichier = ancienTitre;
+        ProposeTraitementDeTexte(chemin);
     }
 }
 
@@ -191,6 +184,8 @@ void OpenFile(const QString &path)
 {
     const bool texteEnrichi = path.right(3).toUpper() == QLatin1String("RTF");
     frmPrinc->Text1->LoadFile(path, texteEnrichi ? RichTextBox::TexteRiche : RichTextBox::TexteSimple);
+    NomFichier = path;
+    TitreFichier = NomSeul(path);
     TitreFenetre(NomFichier);
     frmPrinc->ActiveEmission(!FicConf.isEmpty() && !NomFichier.isEmpty());
     frmPrinc->ActiveFichier(true);
@@ -219,7 +214,21 @@ void Mnu_EnregistrerSous()
     NomFichier = dialogue.FileName;
     TitreFichier = dialogue.FileTitle;
     Saute([] { SaveFile(NomFichier); });
-    frmPrinc->Mnu_EditProg->setEnabled(true);
+    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_Imprim, frmPrinc->Bouton(5)})
+        action->setEnabled(true);
+}
+
+bool EnregistreSurPlace()
+{
+    if (NomFichier.isEmpty())
+        return false;
+    try {
+        GardeCopie(NomFichier);
+        SaveFile(NomFichier);
+        return true;
+    } catch (const Erreur &) {
+        return false;
+    }
 }
 
 QString TexteNonEnregistre(const Erreur &erreur)
@@ -238,4 +247,5 @@ void SaveFile(const QString &path)
     TitreFenetre(NomFichier);
     MontreDonnee(frmPrinc->Label2, TitreFichier);
     FichierModifie = 0;
+    RetireEnCours();
 }

@@ -18,6 +18,9 @@ extern int IndexFiltre;      ///< filter last used in the open dialog, from 1; 0
 /// Ties the pane's events to the document. Once, when the main window exists.
 void BrancheDocument();
 
+/// True when the pane holds a text that has changed and was not saved.
+bool TexteModifie();
+
 /// Puts "Dorvanel Pro version 2.7.0 : " and nom in the title of the main window.
 void TitreFenetre(const QString &nom);
 
@@ -29,8 +32,13 @@ QString TexteNonEnregistre(const Erreur &erreur);
 /// no room (see EcritFichierTexte()).
 void SaveFile(const QString &path);
 
-/// Loads path into the pane, as rich text when it ends in "RTF", and enables what works on a file. NomFichier and
-/// TitreFichier name it already. Raises what the pane raises, with the pane as it was.
+/// Saves the text under the document's own name, after a question that is no dialog of names: the file that stands
+/// there is kept in "Sauvegardes" first. False when the document has no name, or when it failed, of which the operator
+/// was told.
+bool EnregistreSurPlace();
+
+/// Loads path into the pane, as rich text when it ends in "RTF", makes it the document and enables what works on a
+/// file. Raises what the pane raises, with pane and document as they were.
 void OpenFile(const QString &path);
 
 /// Makes chemin the document. When it cannot be read the operator is told and may open it with the word processor; the

@@ -9,21 +9,36 @@
 
 namespace {
 
-/// Keeps the text as it stands before a change, for Mnu_Annuler.
-void RetientTexte()
+std::function<void()> reprendAspect; // none unless the last command changed the look
+
+void OublieAnnulation()
 {
-    TexteAnnuler = frmPrinc->Text1->Text();
-    frmPrinc->Mnu_Annuler->setEnabled(true);
+    TexteAnnuler.clear();
+    reprendAspect = {};
+    frmPrinc->Mnu_Annuler->setEnabled(false);
 }
 
 } // namespace
 
 void BrancheEdition()
 {
+    QObject::connect(frmPrinc->Text1, &RichTextBox::Remplacement, frmPrinc, OublieAnnulation);
     QObject::connect(frmPrinc->Text1, &RichTextBox::MouseDown, frmPrinc, [](Qt::MouseButton bouton, const QPoint &ou) {
         if (bouton == Qt::RightButton)
             frmPrinc->Mnu_Edition->popup(ou);
     });
+}
+
+void RetientPourAnnuler()
+{
+    TexteAnnuler = frmPrinc->Text1->Text();
+    reprendAspect = {};
+    frmPrinc->Mnu_Annuler->setEnabled(true);
+}
+
+void RetientAspect(std::function<void()> reprend)
+{
+    reprendAspect = std::move(reprend);
 }
 
 void Mnu_Edition()
@@ -37,8 +52,13 @@ void Mnu_Edition()
 
 void Mnu_Annuler()
 {
-    frmPrinc->Text1->setText(TexteAnnuler);
-    frmPrinc->Mnu_Annuler->setEnabled(false);
+    const QString avant = TexteAnnuler;
+    const auto aspect = reprendAspect;
+    if (frmPrinc->Text1->Text() != avant) // what changes nothing leaves a saved text a saved one
+        frmPrinc->Text1->setText(avant);
+    OublieAnnulation();
+    if (aspect)
+        aspect();
 }
 
 void Mnu_Couper()
@@ -55,12 +75,12 @@ void Mnu_Copier()
 
 void Mnu_Coller()
 {
-    RetientTexte();
+    RetientPourAnnuler();
     frmPrinc->Text1->paste();
 }
 
 void Mnu_Supprimer()
 {
-    RetientTexte();
+    RetientPourAnnuler();
     frmPrinc->Text1->setSelText(QString());
 }

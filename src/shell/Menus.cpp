@@ -16,6 +16,7 @@
 #include "shell/Editeur.h"
 #include "shell/Edition.h"
 #include "shell/Explorateur.h"
+#include "shell/Filet.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Impression.h"
@@ -77,6 +78,7 @@ void Branche()
 {
     BrancheDocument();
     BrancheEdition();
+    BrancheFilet();
     BrancheAide();
     TientUneLigne(frmPrinc);
     Em_Rc::RoutineBanc = ReceptionJauge;

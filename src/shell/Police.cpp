@@ -2,32 +2,69 @@
 
 #include "platform/CommonDialog.h"
 #include "platform/Erreur.h"
-#include "shell/Document.h"
+#include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
+
+#include <limits>
 
 namespace {
 
-/// What the dialog offers first.
-void Offre(CommonDialog &dialogue, const RichTextBox &volet)
+struct Aspect
 {
-    dialogue.FontName = volet.SelFontName();
-    dialogue.FontSize = volet.SelFontSize();
-    dialogue.FontBold = volet.SelBold();
-    dialogue.FontItalic = volet.SelItalic();
-    dialogue.FontStrikeThru = volet.SelStrikeThru();
-    dialogue.FontUnderline = volet.SelUnderline();
-    dialogue.Color = volet.SelColor();
+    QString police;
+    double taille; ///< points
+    bool gras, italique, barre, souligne;
+    QColor couleur;
+};
+
+/// Of the selected text, by its beginning.
+Aspect AspectDe(const RichTextBox &volet)
+{
+    return {volet.SelFontName(),   volet.SelFontSize(),  volet.SelBold(), volet.SelItalic(),
+            volet.SelStrikeThru(), volet.SelUnderline(), volet.SelColor()};
 }
 
-void Habille(RichTextBox &volet, const CommonDialog &dialogue)
+/// What the dialog offers first.
+void Offre(CommonDialog &dialogue, const Aspect &aspect)
 {
-    volet.setSelFontName(dialogue.FontName);
-    volet.setSelFontSize(dialogue.FontSize);
-    volet.setSelBold(dialogue.FontBold);
-    volet.setSelItalic(dialogue.FontItalic);
-    volet.setSelStrikeThru(dialogue.FontStrikeThru);
-    volet.setSelUnderline(dialogue.FontUnderline);
-    volet.setSelColor(dialogue.Color);
+    dialogue.FontName = aspect.police;
+    dialogue.FontSize = aspect.taille;
+    dialogue.FontBold = aspect.gras;
+    dialogue.FontItalic = aspect.italique;
+    dialogue.FontStrikeThru = aspect.barre;
+    dialogue.FontUnderline = aspect.souligne;
+    dialogue.Color = aspect.couleur;
+}
+
+Aspect Choix(const CommonDialog &dialogue)
+{
+    return {dialogue.FontName,       dialogue.FontSize,      dialogue.FontBold, dialogue.FontItalic,
+            dialogue.FontStrikeThru, dialogue.FontUnderline, dialogue.Color};
+}
+
+void ChoisitTout(RichTextBox &volet)
+{
+    volet.setSelStart(0);
+    volet.setSelLength(std::numeric_limits<int>::max());
+}
+
+/// Gives the selected text an aspect, and selects nothing any more.
+void Habille(RichTextBox &volet, const Aspect &aspect)
+{
+    volet.setSelFontName(aspect.police);
+    volet.setSelFontSize(aspect.taille);
+    volet.setSelBold(aspect.gras);
+    volet.setSelItalic(aspect.italique);
+    volet.setSelStrikeThru(aspect.barre);
+    volet.setSelUnderline(aspect.souligne);
+    volet.setSelColor(aspect.couleur);
+    volet.setSelLength(0);
+}
+
+void ReprendAspect(const Aspect &aspect)
+{
+    ChoisitTout(*frmPrinc->Text1);
+    Habille(*frmPrinc->Text1, aspect);
 }
 
 } // namespace
@@ -38,14 +75,13 @@ void Mnu_Police()
     RichTextBox &volet = *frmPrinc->Text1;
     try {
         dialogue.CancelError = true;
-        TexteAnnuler = volet.Text();
-        frmPrinc->Mnu_Annuler->setEnabled(true);
-        volet.setSelStart(0);
-        volet.setSelLength(static_cast<int>(TexteAnnuler.size()));
-        Offre(dialogue, volet);
+        RetientPourAnnuler();
+        ChoisitTout(volet);
+        const Aspect avant = AspectDe(volet);
+        Offre(dialogue, avant);
         dialogue.ShowFont();
-        Habille(volet, dialogue);
-        volet.setSelLength(0);
+        Habille(volet, Choix(dialogue));
+        RetientAspect([avant] { ReprendAspect(avant); });
     } catch (const Erreur &) {
         dialogue.CancelError = false;
     }

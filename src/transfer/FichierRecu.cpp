@@ -30,10 +30,10 @@ bool ecritEntier = false; // the file of the last reception stands whole on the 
 
 void VidePane()
 {
+    frmPrinc->Text1->setText(QString()); // first: a changed text is kept under the name that it still has
     NomFichier.clear();
     TitreFichier.clear();
     MontreDonnee(frmPrinc->Label2, QString());
-    frmPrinc->Text1->setText(QString());
     frmPrinc->Text1->hide();
     frmPrinc->ActiveFichier(false);
 }

@@ -97,8 +97,8 @@ struct Atelier : Poste, Operateur
     {
         Fait("MsgBox", Clique(QMessageBox::Yes));
         Dit(NonEnregistre);
-        if (suite)
-            Fait("MsgBox", Clique(QMessageBox::No));
+        if (suite || echoue) // at the very end, that the net holds nothing either
+            Fait("MsgBox", Clique(suite ? QMessageBox::No : QMessageBox::Ok));
         commande();
         QCOMPARE(FichierModifie, echoue ? Vrai : 0);
     }

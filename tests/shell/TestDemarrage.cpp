@@ -201,6 +201,8 @@ private Q_SLOTS:
                               u"Fichier %1 modifié !\r\n            Enregistrer le fichier ? "_s.arg(chemin),
                               Operateur::DemandeSimple, oui ? QMessageBox::Yes : QMessageBox::No);
             }
+            if (ferme && oui && !nomme) // where the text stands
+                etabli.Fait("MsgBox", Operateur::Clique(QMessageBox::Ok));
             if (ferme) {
                 QVERIFY(frmPrinc->close());
             } else {

@@ -62,6 +62,9 @@ private Q_SLOTS:
         QCOMPARE(volet.SelFontName() + QString::number(volet.SelFontSize()), u"DejaVu Serif18"_s);
         QVERIFY(!volet.SelBold() && volet.SelItalic() && volet.SelStrikeThru() && volet.SelUnderline());
         QCOMPARE(volet.SelColor(), QColor(Qt::darkGreen));
+        Operateur::Menu("Mnu_Annuler");
+        QVERIFY(volet.Text() == texte && FichierModifie == 0);
+        QVERIFY(volet.SelFontName() == police && volet.SelBold() && !volet.SelItalic() && !volet.SelUnderline());
     }
 
     // An editor that is named as a word processor is the system's own; of a missing one the operator is told.

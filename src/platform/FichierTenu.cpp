@@ -1,0 +1,12 @@
+#include "platform/FichierTenu.h"
+
+#include "platform/Reprise.h"
+
+#include <sys/file.h>
+
+FichierTenu::FichierTenu(const QString &chemin)
+    : m_fichier(chemin)
+    , m_tenu(m_fichier.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
+             Reprise([this] { return flock(m_fichier.handle(), LOCK_EX | LOCK_NB); }) == 0)
+{
+}

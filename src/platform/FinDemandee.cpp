@@ -1,0 +1,66 @@
+#include "platform/FinDemandee.h"
+
+#include "platform/Reprise.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int Signaux[] = {SIGTERM, SIGHUP, SIGINT};
+
+int tube[2] = {-1, -1}; // what the handler writes at its second end is read at the first
+
+/// Between any two instructions of the program: nothing but a write is safe here.
+void Note(int numero)
+{
+    const int cause = errno;
+    const char octet = static_cast<char>(numero);
+    [[maybe_unused]] const auto ecrits = write(tube[1], &octet, 1);
+    errno = cause;
+}
+
+} // namespace
+
+FinDemandee::FinDemandee(std::function<void()> avant)
+    : m_avant(std::move(avant))
+{
+    if (pipe2(tube, O_CLOEXEC | O_NONBLOCK) < 0)
+        return; // the process ends as the system has it
+    m_guetteur = std::make_unique<QSocketNotifier>(tube[0], QSocketNotifier::Read);
+    QObject::connect(m_guetteur.get(), &QSocketNotifier::activated, m_guetteur.get(), [this] { Finit(); });
+    struct sigaction action = {};
+    action.sa_handler = Note;
+    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    for (const int numero : Signaux) {
+        struct sigaction ancienne = {};
+        // Started so as to outlive its terminal, the program does.
+        if (sigaction(numero, nullptr, &ancienne) == 0 && ancienne.sa_handler != SIG_IGN)
+            sigaction(numero, &action, nullptr);
+    }
+}
+
+FinDemandee::~FinDemandee()
+{
+    if (!m_guetteur)
+        return;
+    for (const int numero : Signaux) {
+        struct sigaction ancienne = {};
+        if (sigaction(numero, nullptr, &ancienne) == 0 && ancienne.sa_handler == Note)
+            std::signal(numero, SIG_DFL);
+    }
+    m_guetteur.reset();
+    close(tube[0]);
+    close(tube[1]);
+}
+
+void FinDemandee::Finit()
+{
+    char numero = SIGTERM;
+    Reprise([&numero] { return read(tube[0], &numero, 1); });
+    m_guetteur->setEnabled(false);
+    m_avant();
+    std::signal(numero, SIG_DFL);
+    std::raise(numero);
+}

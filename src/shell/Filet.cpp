@@ -1,0 +1,242 @@
+#include "shell/Filet.h"
+
+#include "locale/Langue.h"
+#include "platform/Boites.h"
+#include "platform/Erreur.h"
+#include "platform/FichierTenu.h"
+#include "platform/FichierTexte.h"
+#include "platform/LignesVolet.h"
+#include "shell/Document.h"
+#include "shell/FrmPrinc.h"
+#include "shell/Sauvegardes.h"
+#include "shell/TexteEnCours.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto ReposClavier = 1s;     ///< after a change, before the text is written
+constexpr auto EntreDeuxEcrits = 30s; ///< at least
+constexpr auto Tranche = 2ms;         ///< of reading the pane, between which a key finds its way
+constexpr auto EntreDeuxTranches = 5ms;
+constexpr auto AttenteVoieLibre = 1s; ///< until it is looked again whether a dialog is open
+
+constexpr Texte3 EchecTitre{u"Dossier Sauvegardes", u"Folder Sauvegardes", u"Carpeta Sauvegardes"};
+constexpr Texte3 EchecTexte{
+    u"Rien ne peut être gardé dans le dossier :\r%1\r%2\rUn texte modifié qui quitte le volet sans être enregistré est "
+    u"perdu.",
+    u"Nothing can be kept in the folder:\r%1\r%2\rA changed text that leaves the pane without being saved is lost.",
+    u"No se puede guardar nada en la carpeta:\r%1\r%2\rUn texto modificado que deja el panel sin ser guardado se "
+    u"pierde."};
+
+constexpr Texte3 RetenuTitre{u"Texte non enregistré", u"Text not saved", u"Texto no guardado"};
+constexpr Texte3 RetenuTexte{u"Le texte n'est pas enregistré. Il est gardé dans le fichier :\r%1",
+                             u"The text is not saved. It is kept in the file:\r%1",
+                             u"El texto no está guardado. Se conserva en el fichero:\r%1"};
+
+constexpr Texte3 RetrouveTitre{u"Texte retrouvé", u"Text found again", u"Texto recuperado"};
+constexpr Texte3 RetrouveTexte{
+    u"Le programme s'est arrêté avant que ce texte soit enregistré :\r%1, %2\rL'ouvrir ? Sinon, il reste dans le "
+    u"dossier :\r%3",
+    u"The program stopped before this text was saved:\r%1, %2\rOpen it? If not, it stays in the folder:\r%3",
+    u"El programa se detuvo antes de que este texto se guardara:\r%1, %2\r¿Abrirlo? Si no, queda en la carpeta:\r%3"};
+
+class Filet : public QObject
+{
+public:
+    explicit Filet(FrmPrinc *fenetre);
+    ~Filet() override;
+    Q_DISABLE_COPY_MOVE(Filet)
+
+    QString Retient();
+    void RetientFinal(bool nonEnregistre);
+    /// The text of the pane stands at chemin as it is.
+    void setGarde(const QString &chemin) { m_garde = chemin; }
+
+private:
+    void Change();
+    void Part();
+    void Repose();
+    void Releve();
+    void Echoue(const Erreur &cause);
+    void Annonce();
+
+    QTimer m_repos{this};   ///< runs while a change is to be written
+    QTimer m_tranche{this}; ///< runs while the pane is read
+    QTimer m_voie{this};    ///< runs while a failure waits to be told
+    QElapsedTimer m_dernierEcrit;
+    QString m_releve;   ///< what was read of the pane so far
+    int m_ligne = 0;    ///< the next one
+    QString m_garde;    ///< where the text stands as it is now, "" for nowhere
+    QString m_echec;    ///< what is told of the last failure
+    bool m_dit = false; ///< a failure was told, or waits
+};
+
+QPointer<Filet> filet;
+
+Filet::Filet(FrmPrinc *fenetre)
+    : QObject(fenetre)
+{
+    m_repos.setObjectName(QStringLiteral("ReposFilet"));
+    m_voie.setObjectName(QStringLiteral("VoieFilet"));
+    for (QTimer *const minuterie : {&m_repos, &m_tranche, &m_voie})
+        minuterie->setSingleShot(true);
+    connect(&m_repos, &QTimer::timeout, this, &Filet::Repose);
+    connect(&m_tranche, &QTimer::timeout, this, &Filet::Releve);
+    connect(&m_voie, &QTimer::timeout, this, &Filet::Annonce);
+    connect(fenetre->Text1, &RichTextBox::Change, this, &Filet::Change);
+    connect(fenetre->Text1, &RichTextBox::Remplacement, this, &Filet::Part);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Filet::Retient, Qt::DirectConnection);
+    EcouteSauvegardes([this](const Erreur &cause) { Echoue(cause); });
+}
+
+Filet::~Filet()
+{
+    EcouteSauvegardes({});
+    FinitEnCours();
+}
+
+QString Filet::Retient()
+{
+    if (!TexteModifie())
+        return {};
+    if (m_garde.isEmpty() || !FichierExiste(m_garde))
+        m_garde = GardeTexte(NomFichier, frmPrinc->Text1->Text());
+    if (!m_garde.isEmpty())
+        RetireEnCours();
+    return m_garde;
+}
+
+void Filet::RetientFinal(bool nonEnregistre)
+{
+    const QString chemin = Retient();
+    const bool perdu = nonEnregistre && chemin.isEmpty();
+    if (nonEnregistre && !perdu)
+        MsgBox(Texte(RetenuTexte).arg(chemin), Boite::Exclamation, Texte(RetenuTitre));
+    if (m_voie.isActive() || (perdu && TexteModifie()))
+        Annonce();
+}
+
+/// Another text takes the place of this one.
+void Filet::Part()
+{
+    Retient();
+    RetireEnCours();
+    m_tranche.stop();
+}
+
+void Filet::Change()
+{
+    m_garde.clear();
+    m_tranche.stop();
+    const std::chrono::milliseconds ecoule(m_dernierEcrit.isValid() ? m_dernierEcrit.elapsed() : 0);
+    m_repos.start(m_dernierEcrit.isValid() ? std::max<std::chrono::milliseconds>(ReposClavier, EntreDeuxEcrits - ecoule)
+                                           : ReposClavier);
+}
+
+/// The keyboard rests.
+void Filet::Repose()
+{
+    if (!TexteModifie() || !m_garde.isEmpty())
+        return;
+    if (EcritureEnRoute()) { // a slow disk
+        m_repos.start(EntreDeuxEcrits);
+        return;
+    }
+    m_ligne = 0;
+    m_releve.clear();
+    m_releve.reserve(frmPrinc->Text1->document()->characterCount() + frmPrinc->Text1->blockCount());
+    Releve();
+}
+
+/// Reads the pane slice by slice. A text that changes meanwhile is read anew when the keyboard rests again.
+void Filet::Releve()
+{
+    constexpr int LignesEnUneFois = 100;
+    const RichTextBox &volet = *frmPrinc->Text1;
+    const QDeadlineTimer fin(Tranche);
+    while (m_ligne < volet.blockCount() && !fin.hasExpired()) {
+        m_releve += LignesDe(volet, m_ligne, LignesEnUneFois);
+        m_ligne += LignesEnUneFois;
+    }
+    if (m_ligne < volet.blockCount()) {
+        m_tranche.start(EntreDeuxTranches);
+        return;
+    }
+    if (TexteModifie()) {
+        EcritEnCours(NomFichier, std::exchange(m_releve, {}));
+        m_dernierEcrit.start();
+    }
+}
+
+void Filet::Echoue(const Erreur &cause)
+{
+    m_echec = Texte(EchecTexte).arg(DossierSauvegardes(), cause.Description());
+    if (!std::exchange(m_dit, true))
+        m_voie.start(0);
+}
+
+/// Behind the command that met the failure, and not on top of a dialog, in which a transfer may be running.
+void Filet::Annonce()
+{
+    m_voie.stop();
+    if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
+        m_voie.start(AttenteVoieLibre);
+    else
+        MsgBox(m_echec, Boite::Exclamation, Texte(EchecTitre));
+}
+
+bool VeutOuvrir(const QString &chemin)
+{
+    const QDateTime ecrit = QFileInfo(chemin).lastModified();
+    const QString date = ecrit.toString(QStringLiteral("yyyy-MM-dd")) + u' ' + ecrit.toString(QStringLiteral("HH:mm"));
+    return Confirme(Texte(RetrouveTexte).arg(NomDuTexteEnCours(chemin), date, DossierSauvegardes()), Boite::Question,
+                    Texte(RetrouveTitre));
+}
+
+void OuvreRetrouve(const QString &chemin)
+{
+    OuvreDocument(chemin);
+    if (NomFichier != chemin)
+        return; // it cannot be read, of which the operator was told
+    FichierModifie = Vrai;
+    filet->setGarde(chemin);
+}
+
+} // namespace
+
+void BrancheFilet()
+{
+    filet = new Filet(frmPrinc);
+}
+
+QString RetientTexte()
+{
+    return filet->Retient();
+}
+
+void RetientTexteFinal(bool nonEnregistre)
+{
+    filet->RetientFinal(nonEnregistre);
+}
+
+void ProposeTextesRetrouves()
+{
+    for (const QString &chemin : TextesDAutrui()) {
+        const FichierTenu tenu(chemin); // by another copy it is held; from here on none takes it up beside this one
+        if (!tenu.Tenu())
+            continue;
+        const bool ouvre = VeutOuvrir(chemin);
+        const QString place = ClasseTexte(chemin);
+        if (ouvre)
+            OuvreRetrouve(place);
+    }
+}

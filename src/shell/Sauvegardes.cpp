@@ -1,0 +1,157 @@
+#include "shell/Sauvegardes.h"
+
+#include "platform/Erreur.h"
+#include "platform/FichierTexte.h"
+#include "shell/Chemins.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
+
+#include <filesystem>
+
+namespace {
+
+constexpr int NombreMax = 100;
+constexpr qint64 TailleMax = 200'000'000; ///< bytes of all that is kept
+
+std::function<void(const Erreur &)> ecouteur;
+
+/// Bytes that the name of a program may have, so that with date and rank it stays a name that a file system takes.
+constexpr int LongueurNom = 220;
+
+struct NomCoupe
+{
+    QString racine;
+    QString fin; ///< the ending, with its point
+};
+
+NomCoupe Coupe(const QString &nom)
+{
+    constexpr int FinLaPlusLongue = 12;
+    const qsizetype point = nom.lastIndexOf(u'.');
+    const bool avecFin = point > 0 && nom.size() - point <= FinLaPlusLongue;
+    return {avecFin ? nom.left(point) : nom, avecFin ? nom.mid(point) : QString()};
+}
+
+/// The name alone of a path, cut where it would be too long.
+QString NomCourt(const QString &chemin)
+{
+    auto [racine, fin] = Coupe(NomSeul(chemin));
+    while (QFile::encodeName(racine + fin).size() > LongueurNom)
+        racine.chop(1);
+    return racine + fin;
+}
+
+bool EstSauvegarde(const QString &nom)
+{
+    static const QRegularExpression forme(QStringLiteral(R"(_\d{4}-\d\d-\d\d_\d{6}( \(\d+\))?(\.[^.]*)?$)"));
+    return forme.match(nom).hasMatch();
+}
+
+/// Makes an empty file under the first name of nom that is free; another copy of the program may look for one too.
+QString Reserve(const QString &nom, const QDateTime &date)
+{
+    const auto &[racine, fin] = Coupe(nom);
+    const QString dossier = DossierSauvegardes();
+    QDir().mkpath(dossier);
+    for (int rang = 1;; ++rang) {
+        const QString suite = rang == 1 ? QString() : QStringLiteral(" (%1)").arg(rang);
+        QFile fichier(AjouteAntislash(dossier) + racine + date.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + suite +
+                      fin);
+        if (fichier.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return fichier.fileName();
+        if (!fichier.exists())
+            throw Erreur(Erreur::ErreurFichier, fichier.errorString());
+    }
+}
+
+/// The oldest go. What was kept last stays, whatever the clock of this PC said when the others were written; so do
+/// files that the operator has laid here.
+void Limite(const QString &derniere)
+{
+    int nombre = 1;
+    qint64 taille = QFileInfo(derniere).size();
+    const QFileInfoList fichiers = QDir(DossierSauvegardes()).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time);
+    for (const QFileInfo &fichier : fichiers) {
+        if (fichier.fileName() == NomSeul(derniere) || !EstSauvegarde(fichier.fileName()))
+            continue;
+        taille += fichier.size();
+        if (++nombre > NombreMax || taille > TailleMax)
+            QFile::remove(fichier.filePath());
+    }
+}
+
+/// ecrit: writes what is kept to the path that it is given.
+template <typename Ecriture>
+QString Garde(const QString &nom, qint64 taille, Ecriture ecrit)
+{
+    QString chemin;
+    try {
+        if (taille > TailleMax)
+            throw Erreur(Erreur::MemoireInsuffisante, nom);
+        chemin = Reserve(NomCourt(nom), QDateTime::currentDateTime());
+        ecrit(chemin);
+        Limite(chemin);
+        return chemin;
+    } catch (const Erreur &erreur) {
+        if (!chemin.isEmpty())
+            QFile::remove(chemin);
+        DitEchecSauvegarde(erreur);
+        return {};
+    }
+}
+
+} // namespace
+
+QString DossierSauvegardes()
+{
+    return AjouteAntislash(DossierApplication()) + QStringLiteral("Sauvegardes");
+}
+
+QString NomPourTexte(const QString &nom)
+{
+    if (nom.isEmpty())
+        return QStringLiteral("Sans nom.iso");
+    const bool enrichi = nom.right(3).toUpper() == QLatin1String("RTF");
+    return NomCourt(enrichi ? nom + QStringLiteral(".txt") : nom);
+}
+
+QString GardeTexte(const QString &nom, const QString &texte)
+{
+    return Garde(NomPourTexte(nom), texte.size(), [&](const QString &chemin) { EcritFichierTexte(chemin, texte); });
+}
+
+QString GardeCopie(const QString &chemin)
+{
+    const qint64 taille = FichierExiste(chemin) ? QFileInfo(chemin).size() : 0;
+    if (taille == 0)
+        return {};
+    return Garde(chemin, taille, [&](const QString &copie) { EcritFichierTexte(copie, LitFichierTexte(chemin)); });
+}
+
+QString GardeTelQuel(const QString &chemin, const QString &nom)
+{
+    try {
+        const QString place = Reserve(NomPourTexte(nom), QFileInfo(chemin).lastModified());
+        std::error_code cause;
+        std::filesystem::rename(QFile::encodeName(chemin).constData(), QFile::encodeName(place).constData(), cause);
+        if (!cause)
+            return place;
+        QFile::remove(place);
+    } catch (const Erreur &erreur) {
+        DitEchecSauvegarde(erreur);
+    }
+    return chemin;
+}
+
+void EcouteSauvegardes(std::function<void(const Erreur &)> echec)
+{
+    ecouteur = std::move(echec);
+}
+
+void DitEchecSauvegarde(const Erreur &cause)
+{
+    if (ecouteur)
+        ecouteur(cause);
+}

@@ -1,0 +1,140 @@
+#include "shell/TexteEnCours.h"
+
+#include "platform/Erreur.h"
+#include "platform/FichierTenu.h"
+#include "platform/FichierTexte.h"
+#include "shell/Chemins.h"
+#include "shell/Sauvegardes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRandomGenerator>
+
+#include <filesystem>
+#include <future>
+#include <mutex>
+
+namespace {
+
+const QString Prefixe = QStringLiteral("En cours_");
+constexpr qsizetype LongueurNumero = 8;
+
+/// What the two threads share, under the lock.
+struct
+{
+    std::mutex verrou;
+    QString chemin; ///< where the text stands, "" for nowhere
+    std::unique_ptr<FichierTenu> tenu;
+    bool voulu = false; ///< the text is still to be kept
+} place;
+
+std::future<void> ecriture;
+
+/// Of this run.
+QString Debut()
+{
+    static const QString numero =
+        QStringLiteral("%1").arg(QRandomGenerator::system()->generate(), LongueurNumero, 16, QLatin1Char('0'));
+    return AjouteAntislash(DossierSauvegardes()) + Prefixe + numero;
+}
+
+void Pose(const QString &partiel, const QString &chemin, std::unique_ptr<FichierTenu> tenu)
+{
+    const std::lock_guard garde(place.verrou);
+    std::error_code cause;
+    if (place.voulu)
+        std::filesystem::rename(QFile::encodeName(partiel).constData(), QFile::encodeName(chemin).constData(), cause);
+    else
+        QFile::remove(partiel);
+    if (cause)
+        throw Erreur(Erreur::ErreurFichier, QString::fromStdString(cause.message()));
+    if (!place.voulu)
+        return;
+    if (!place.chemin.isEmpty() && place.chemin != chemin)
+        QFile::remove(place.chemin); // the program was given another name meanwhile
+    place.chemin = chemin;
+    place.tenu = std::move(tenu);
+}
+
+/// On the thread of its own. The text stands beside its place until it is whole, so that a death while it is written
+/// takes nothing away.
+void Ecrit(const QString &debut, const QString &nom, const QString &texte)
+{
+    const QString partiel = debut + QStringLiteral(".partiel");
+    try {
+        QDir().mkpath(QFileInfo(partiel).path());
+        auto tenu = std::make_unique<FichierTenu>(partiel);
+        EcritFichierTexte(partiel, texte);
+        Pose(partiel, debut + u'_' + nom, std::move(tenu));
+    } catch (const Erreur &erreur) {
+        QFile::remove(partiel);
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [erreur] { DitEchecSauvegarde(erreur); }, Qt::QueuedConnection);
+    }
+}
+
+} // namespace
+
+void EcritEnCours(const QString &nom, const QString &texte)
+{
+    if (EcritureEnRoute())
+        return;
+    {
+        const std::lock_guard garde(place.verrou);
+        place.voulu = true;
+    }
+    // The text is not to lie in memory until the next one comes.
+    ecriture =
+        std::async(std::launch::async, [debut = Debut(), nom = NomPourTexte(nom), texte = QString(texte)]() mutable {
+            Ecrit(debut, nom, std::exchange(texte, {}));
+        });
+}
+
+bool EcritureEnRoute()
+{
+    return ecriture.valid() && ecriture.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
+void RetireEnCours()
+{
+    const std::lock_guard garde(place.verrou);
+    place.voulu = false;
+    if (!place.chemin.isEmpty())
+        QFile::remove(place.chemin);
+    place.chemin.clear();
+    place.tenu.reset();
+}
+
+void FinitEnCours()
+{
+    RetireEnCours();
+    if (ecriture.valid())
+        ecriture.wait();
+}
+
+QStringList TextesDAutrui()
+{
+    QStringList textes;
+    const QFileInfoList fichiers =
+        QDir(DossierSauvegardes())
+            .entryInfoList({Prefixe + QString(LongueurNumero, u'?') + QStringLiteral("[._]*")}, QDir::Files,
+                           QDir::Time | QDir::Reversed);
+    for (const QFileInfo &fichier : fichiers) {
+        const bool entier = fichier.fileName().at(Prefixe.size() + LongueurNumero) == u'_';
+        if (entier)
+            textes << fichier.filePath();
+        else if (FichierTenu(fichier.filePath()).Tenu())
+            QFile::remove(fichier.filePath());
+    }
+    return textes;
+}
+
+QString ClasseTexte(const QString &chemin)
+{
+    return GardeTelQuel(chemin, NomDuTexteEnCours(chemin));
+}
+
+QString NomDuTexteEnCours(const QString &chemin)
+{
+    return NomSeul(chemin).mid(Prefixe.size() + LongueurNumero + 1);
+}

@@ -1,0 +1,312 @@
+#include "Etabli.h"
+#include "platform/Essais.h"
+
+#include "platform/FinDemandee.h"
+#include "shell/Filet.h"
+#include "transfer/FichierRecu.h"
+#include "transfer/Transfert.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSessionManager>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A workstation with a program whose beginning the operator has deleted through the menu.
+struct Atelier : Etabli
+{
+    explicit Atelier(const QByteArray &octets = "XN10 G0\r\n")
+        : Etabli(0)
+    {
+        OuvreDocument(Ecrit("P.iso", octets));
+        Change();
+    }
+    static void Change()
+    {
+        frmPrinc->Text1->setSelStart(0);
+        frmPrinc->Text1->setSelLength(1);
+        Operateur::Menu("Mnu_Supprimer");
+    }
+    void Repond(QMessageBox::StandardButton bouton) { Fait("MsgBox", Clique(bouton)); }
+    using Etabli::Apprend;
+    void Apprend(const QString &mots)
+    {
+        Fait("MsgBox", [mots](QWidget &boite) {
+            QVERIFY(dynamic_cast<QMessageBox &>(boite).text().contains(mots));
+            Clique(QMessageBox::Ok)(boite);
+        });
+    }
+    /// What stands in the folder, "@" for the date, with what each file holds.
+    QByteArrayList Gardes() const
+    {
+        static const QRegularExpression numero(u"En cours_[0-9a-f]{8}_"_s);
+        static const QRegularExpression date(u"_\\d{4}-\\d\\d-\\d\\d_\\d{6}"_s);
+        QByteArrayList gardes;
+        for (QString nom : QDir(Chemin("Sauvegardes")).entryList(QDir::Files, QDir::Name)) {
+            const QByteArray octets = Lit(u"Sauvegardes/"_s + nom);
+            gardes << nom.replace(numero, u"!"_s).replace(date, u"@"_s).toUtf8() + "=" + octets;
+        }
+        return gardes;
+    }
+    /// The program once more, in a process of its own that changes the text and does what joue says until it is ended.
+    template <typename Jeu>
+    pid_t Copie(Jeu joue) const
+    {
+        const pid_t enfant = fork();
+        if (enfant == 0) {
+            frmPrinc->hide(); // the threads that paint stay with the parent
+            joue();
+            QTest::qWait(60'000);
+            _exit(1);
+        }
+        return enfant;
+    }
+    static int Etat(pid_t enfant)
+    {
+        int etat = 0;
+        waitpid(enfant, &etat, WUNTRACED);
+        return WIFSTOPPED(etat) ? SIGSTOP : WIFSIGNALED(etat) ? WTERMSIG(etat) : 0;
+    }
+};
+
+constexpr auto Oui = QMessageBox::Yes, Non = QMessageBox::No;
+
+/// A way in which a text leaves the pane: the answers to the boxes, and what is kept for it, before the 256 bytes.
+struct Depart
+{
+    const char *nom;
+    QList<QMessageBox::StandardButton> reponses;
+    void (*joue)(const Atelier &);
+    const char *garde = "P@.iso=";
+};
+
+void OuvreAutre(const Atelier &atelier)
+{
+    OuvreDocument(atelier.Ecrit("Q.iso", "Q"));
+}
+
+void Recoit(qsizetype taille)
+{
+    EcritFichierRecu(QString(taille, u'R'));
+    OuvreFichierRecu();
+}
+
+void Quitte(const Atelier &)
+{
+    QTimer::singleShot(0, frmPrinc, [] {
+        Operateur::Menu("Mnu_Quitter");
+        QCoreApplication::exit();
+    });
+    QApplication::exec();
+}
+
+/// Twice: the second demand finds the text kept.
+void FermeSession(const Atelier &)
+{
+    alignas(QSessionManager) char gestionnaire[sizeof(QSessionManager)];
+    for (int i = 0; i < 2; ++i)
+        Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager &>(gestionnaire));
+}
+
+const Depart Departs[] = {
+    {"opened", {}, OuvreAutre},
+    {"refused", {Non}, [](const Atelier &a) { OuvreDocument(a.Chemin("absent.iso")); }, nullptr},
+    {"dropped", {Non}, [](const Atelier &a) { OuvreDepose(a.Ecrit("Q.iso", "Q")); }},
+    {"new", {Non, Oui}, [](const Atelier &) { Operateur::Menu("Mnu_Nouveau"); }},
+    {"new, saved", {Oui, Oui}, [](const Atelier &) { Operateur::Menu("Mnu_Nouveau"); }, "P@.iso=X"},
+    {"undone", {}, [](const Atelier &) { Operateur::Menu("Mnu_Annuler"); }},
+    {"received", {}, [](const Atelier &) { Recoit(9); }},
+    {"received, too large", {Non}, [](const Atelier &) { Recoit(65536); }},
+    {"received as a file", {}, [](const Atelier &) { frmPrinc->Text1->PrendTexte(*frmPrinc->Text2); }},
+    {"quit", {Non, Oui}, Quitte},
+    {"not quit", {Non, Non}, Quitte, nullptr},
+    {"closed", {Non}, [](const Atelier &) { frmPrinc->close(); }},
+    {"closed, saved", {Oui}, [](const Atelier &) { frmPrinc->close(); }, "P@.iso=X"},
+    {"end of the session", {}, FermeSession}};
+
+} // namespace
+
+class TestFilet : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Each way out of the pane leaves the text, all 256 bytes of it, in the folder, or the file that is written over,
+    // and no undo that would bring one program under another's name.
+    void Sorties()
+    {
+        for (const Depart &depart : Departs) {
+            Atelier atelier("X" + TousLesOctets());
+            const QString texte = frmPrinc->Text1->Text();
+            NomFicRecep = u"RECU.ISO"_s;
+            DossierRecep = atelier.Dossier();
+            for (const auto reponse : depart.reponses)
+                atelier.Repond(reponse);
+            depart.joue(atelier);
+            QByteArrayList attendus;
+            if (depart.garde != nullptr)
+                attendus << depart.garde + TousLesOctets();
+            QVERIFY2(atelier.Gardes() == attendus, depart.nom);
+            const bool parti = frmPrinc->Text1->Text() != texte;
+            QVERIFY2(parti != (frmPrinc->Mnu_Annuler->isEnabled() && !TexteAnnuler.isEmpty()), depart.nom);
+        }
+        for (const bool vide : {false, true}) { // a text without changes, and none: nothing to keep
+            const Atelier atelier;
+            if (vide)
+                frmPrinc->Text1->RetireFin(99);
+            FichierModifie = vide ? Vrai : 0;
+            OuvreAutre(atelier);
+            QVERIFY(atelier.Gardes().isEmpty());
+        }
+    }
+
+    // Names, and what the folder holds at most: the oldest go, but neither what was kept last nor the operator's own.
+    void Dossier()
+    {
+        const QString longue = QString(120, u'é') + u".iso"_s;
+        for (const auto &[nom, garde] : {std::pair{u"P.tour.iso"_s, u"P.tour@.iso"_s},
+                                         {u"SANSFIN"_s, u"SANSFIN@"_s},
+                                         {longue, QString(108, u'é') + u"@.iso"_s},
+                                         {u"R.rtf"_s, u"R.rtf@.txt"_s},
+                                         {u""_s, u"Sans nom@.iso"_s}}) {
+            Atelier atelier;
+            NomFichier = nom.isEmpty() ? QString() : atelier.Chemin(nom);
+            OuvreAutre(atelier);
+            QCOMPARE(atelier.Gardes(), QByteArrayList{garde.toUtf8() + "=N10 G0\r\n"});
+        }
+        Atelier atelier;
+        QDir(atelier.Dossier()).mkpath(u"Sauvegardes"_s);
+        const auto vieux = [&](int rang, const QString &nom, qint64 taille) {
+            QFile fichier(atelier.Ecrit(u"Sauvegardes/"_s + nom, "V"));
+            QVERIFY(fichier.resize(taille) && fichier.open(QIODevice::ReadWrite));
+            fichier.setFileTime(QDateTime::currentDateTime().addDays(rang), QFile::FileModificationTime);
+        };
+        vieux(-200, u"a moi.iso"_s, 1);
+        for (int i = 0; i < 120; ++i) // the clock of the PC went wrong for a time
+            vieux(50 - i, u"V%1_2026-11-20_000000.iso"_s.arg(i, 3, 10, QLatin1Char('0')), i == 70 ? 199'999'990 : 2);
+        OuvreAutre(atelier);
+        const QStringList noms = QDir(atelier.Chemin("Sauvegardes")).entryList(QDir::Files, QDir::Name);
+        QCOMPARE(noms.size(), 2 + 70);
+        QVERIFY(noms.contains(u"V069_2026-11-20_000000.iso"_s) && noms.contains(u"a moi.iso"_s));
+        QVERIFY(noms.at(0).startsWith(u"P_"));
+    }
+
+    // At rest the text stands in one file, written anew after a while only; the saving takes it away, and lets a new
+    // program be printed.
+    void Repos()
+    {
+        Atelier atelier;
+        atelier.Redemarre();
+        frmPrinc->Text1->setText(u"XN10"_s);
+        auto *const repos = frmPrinc->findChild<QTimer *>(u"ReposFilet"_s);
+        QVERIFY(repos->isActive() && repos->interval() <= 1000);
+        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=XN10"});
+        QVERIFY(!repos->isActive());
+        Atelier::Change();
+        QVERIFY(repos->interval() > 25'000 && !frmPrinc->Bouton(5)->isEnabled());
+        repos->start(0);
+        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=N10"});
+        atelier.Choisit(atelier.Chemin("Q.iso"));
+        Operateur::Menu("Mnu_EnregistrerSous");
+        QCOMPARE(atelier.Gardes(), QByteArrayList());
+        QVERIFY(!repos->isActive() && Operateur::Offre("Mnu_Imprim") && frmPrinc->Bouton(5)->isEnabled());
+    }
+
+    // A process is killed while its text is changed. While it lives its file is its own; the next start asks once.
+    void Mort()
+    {
+        for (const bool ouvre : {false, true}) {
+            Atelier atelier;
+            const pid_t enfant = atelier.Copie([&] {
+                while (atelier.Gardes().isEmpty())
+                    QTest::qWait(10);
+                std::raise(SIGSTOP);
+            });
+            QCOMPARE(Atelier::Etat(enfant), SIGSTOP);
+            QCOMPARE(atelier.Gardes(), QByteArrayList{"!P.iso=N10 G0\r\n"});
+            ProposeTextesRetrouves();
+            kill(enfant, SIGKILL);
+            QCOMPARE(Atelier::Etat(enfant), SIGKILL);
+            atelier.Ecrit("Sauvegardes/En cours_00000000.partiel", "N1");
+            atelier.Redemarre();
+            atelier.Fait("MsgBox", [&](QWidget &boite) {
+                const QString texte = dynamic_cast<QMessageBox &>(boite).text();
+                QVERIFY(texte.contains(u"P.iso, 20"_s) && texte.contains(atelier.Chemin("Sauvegardes")));
+                Operateur::Clique(ouvre ? Oui : Non)(boite);
+            });
+            ProposeTextesRetrouves();
+            ProposeTextesRetrouves();
+            QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+            QCOMPARE(frmPrinc->Text1->Text(), ouvre ? u"N10 G0\r\n"_s : QString());
+            QCOMPARE(FichierModifie, ouvre ? Vrai : 0);
+            QCOMPARE(NomFichier.startsWith(atelier.Chemin("Sauvegardes/P_")), ouvre);
+            QVERIFY(atelier.Lit("P.iso") == "XN10 G0\r\n");
+            if (ouvre)
+                atelier.Repond(Non);
+            frmPrinc->close(); // it stands in the folder already
+            QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+        }
+    }
+
+    // The system asks the process to end: the text is kept, the process ends by that signal, the next start asks
+    // nothing.
+    void FinDuSysteme()
+    {
+        Atelier atelier;
+        for (const int numero : {SIGTERM, SIGHUP}) {
+            const pid_t enfant = atelier.Copie([numero] {
+                const FinDemandee fin([] { RetientTexte(); });
+                std::raise(numero);
+                QTest::qWait(60'000); // the guard stands until then
+            });
+            QCOMPARE(Atelier::Etat(enfant), numero);
+        }
+        ProposeTextesRetrouves();
+        QCOMPARE(atelier.Gardes().size(), 2);
+        for (const QByteArray &garde : atelier.Gardes())
+            QVERIFY(garde.startsWith("P@") && garde.endsWith(".iso=N10 G0\r\n"));
+    }
+
+    // A folder that takes nothing, or a full disk: each command goes on, it is told once, no half file stays. At the
+    // end the operator is told what became of a text that he wanted saved.
+    void Panne()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit libre{};
+        getrlimit(RLIMIT_FSIZE, &libre);
+        const rlimit pleine{0, libre.rlim_max};
+        for (const bool plein : {false, true}) {
+            Atelier atelier;
+            const QString autre = atelier.Ecrit("Q.iso", "XQ");
+            if (!plein)
+                atelier.Ecrit("Sauvegardes", "");
+            QVERIFY(setrlimit(RLIMIT_FSIZE, plein ? &pleine : &libre) == 0);
+            for (int i = 0; i < 2; ++i) {
+                OuvreDocument(autre);
+                QCOMPARE(frmPrinc->Text1->Text(), u"XQ"_s);
+                if (i == 0)
+                    atelier.Apprend(atelier.Chemin("Sauvegardes"));
+                QTRY_VERIFY(!frmPrinc->findChild<QTimer *>(u"VoieFilet"_s)->isActive());
+                Atelier::Change();
+            }
+            QVERIFY(setrlimit(RLIMIT_FSIZE, &libre) == 0);
+            QCOMPARE(atelier.Gardes(), QByteArrayList());
+            QVERIFY(QFile::remove(autre) && QDir(atelier.Dossier()).mkdir(u"Q.iso"_s));
+            atelier.Repond(Oui);
+            atelier.Apprend("Erreur", "Erreur lors de l'enregistrement du fichier", Boite::Critique);
+            atelier.Apprend(plein ? u"Sauvegardes/Q_"_s : u"Rien ne peut"_s);
+            frmPrinc->close();
+            QCOMPARE(atelier.Gardes(), plein ? QByteArrayList{"Q@.iso=Q"} : QByteArrayList());
+        }
+    }
+};
+
+QTEST_MAIN(TestFilet)
+#include "TestFilet.moc"
