@@ -1,6 +1,7 @@
 #include "shell/Filet.h"
 
 #include "locale/Langue.h"
+#include "locale/TextesErreur.h"
 #include "platform/Boites.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTenu.h"
@@ -179,7 +180,7 @@ void Filet::Releve()
 
 void Filet::Echoue(const Erreur &cause)
 {
-    m_echec = Texte(EchecTexte).arg(DossierSauvegardes(), cause.Description());
+    m_echec = Texte(EchecTexte).arg(DossierSauvegardes(), TexteErreur(cause));
     if (!std::exchange(m_dit, true))
         m_voie.start(0);
 }

@@ -72,7 +72,8 @@ void Limite(const QString &derniere)
 {
     int nombre = 1;
     qint64 taille = QFileInfo(derniere).size();
-    const QFileInfoList fichiers = QDir(DossierSauvegardes()).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time);
+    const QFileInfoList fichiers =
+        QDir(DossierSauvegardes()).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time);
     for (const QFileInfo &fichier : fichiers) {
         if (fichier.fileName() == NomSeul(derniere) || !EstSauvegarde(fichier.fileName()))
             continue;

@@ -2,6 +2,7 @@
 #include "platform/Essais.h"
 
 #include "platform/FinDemandee.h"
+#include "platform/PageCode1252.h"
 #include "shell/Filet.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/Transfert.h"
@@ -34,13 +35,12 @@ struct Atelier : Etabli
         frmPrinc->Text1->setSelLength(1);
         Operateur::Menu("Mnu_Supprimer");
     }
-    void Repond(QMessageBox::StandardButton bouton) { Fait("MsgBox", Clique(bouton)); }
-    using Etabli::Apprend;
-    void Apprend(const QString &mots)
+    /// A box that says mots, whatever else it says.
+    void Repond(QMessageBox::StandardButton bouton, const QString &mots = {})
     {
-        Fait("MsgBox", [mots](QWidget &boite) {
+        Fait("MsgBox", [=](QWidget &boite) {
             QVERIFY(dynamic_cast<QMessageBox &>(boite).text().contains(mots));
-            Clique(QMessageBox::Ok)(boite);
+            Clique(bouton)(boite);
         });
     }
     /// What stands in the folder, "@" for the date, with what each file holds.
@@ -204,15 +204,16 @@ private Q_SLOTS:
     {
         Atelier atelier;
         atelier.Redemarre();
-        frmPrinc->Text1->setText(u"XN10"_s);
+        const QByteArray octets = TousLesOctets() + "\r\r\n\n";
+        frmPrinc->Text1->setText(TexteDe1252("X" + octets));
         auto *const repos = frmPrinc->findChild<QTimer *>(u"ReposFilet"_s);
         QVERIFY(repos->isActive() && repos->interval() <= 1000);
-        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=XN10"});
+        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=X" + octets});
         QVERIFY(!repos->isActive());
         Atelier::Change();
         QVERIFY(repos->interval() > 25'000 && !frmPrinc->Bouton(5)->isEnabled());
         repos->start(0);
-        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=N10"});
+        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=" + octets});
         atelier.Choisit(atelier.Chemin("Q.iso"));
         Operateur::Menu("Mnu_EnregistrerSous");
         QCOMPARE(atelier.Gardes(), QByteArrayList());
@@ -236,11 +237,7 @@ private Q_SLOTS:
             QCOMPARE(Atelier::Etat(enfant), SIGKILL);
             atelier.Ecrit("Sauvegardes/En cours_00000000.partiel", "N1");
             atelier.Redemarre();
-            atelier.Fait("MsgBox", [&](QWidget &boite) {
-                const QString texte = dynamic_cast<QMessageBox &>(boite).text();
-                QVERIFY(texte.contains(u"P.iso, 20"_s) && texte.contains(atelier.Chemin("Sauvegardes")));
-                Operateur::Clique(ouvre ? Oui : Non)(boite);
-            });
+            atelier.Repond(ouvre ? Oui : Non, u"P.iso, 20"_s);
             ProposeTextesRetrouves();
             ProposeTextesRetrouves();
             QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
@@ -255,23 +252,20 @@ private Q_SLOTS:
         }
     }
 
-    // The system asks the process to end: the text is kept, the process ends by that signal, the next start asks
-    // nothing.
+    // The system asks the process to end: the text is kept, the process ends by that signal, and nothing is asked.
     void FinDuSysteme()
     {
-        Atelier atelier;
         for (const int numero : {SIGTERM, SIGHUP}) {
+            const Atelier atelier;
             const pid_t enfant = atelier.Copie([numero] {
                 const FinDemandee fin([] { RetientTexte(); });
                 std::raise(numero);
-                QTest::qWait(60'000); // the guard stands until then
+                QTest::qWait(60'000); // as long as the guard lives
             });
             QCOMPARE(Atelier::Etat(enfant), numero);
+            QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+            ProposeTextesRetrouves();
         }
-        ProposeTextesRetrouves();
-        QCOMPARE(atelier.Gardes().size(), 2);
-        for (const QByteArray &garde : atelier.Gardes())
-            QVERIFY(garde.startsWith("P@") && garde.endsWith(".iso=N10 G0\r\n"));
     }
 
     // A folder that takes nothing, or a full disk: each command goes on, it is told once, no half file stays. At the
@@ -292,7 +286,7 @@ private Q_SLOTS:
                 OuvreDocument(autre);
                 QCOMPARE(frmPrinc->Text1->Text(), u"XQ"_s);
                 if (i == 0)
-                    atelier.Apprend(atelier.Chemin("Sauvegardes"));
+                    atelier.Repond(QMessageBox::Ok, atelier.Chemin("Sauvegardes"));
                 QTRY_VERIFY(!frmPrinc->findChild<QTimer *>(u"VoieFilet"_s)->isActive());
                 Atelier::Change();
             }
@@ -300,8 +294,8 @@ private Q_SLOTS:
             QCOMPARE(atelier.Gardes(), QByteArrayList());
             QVERIFY(QFile::remove(autre) && QDir(atelier.Dossier()).mkdir(u"Q.iso"_s));
             atelier.Repond(Oui);
-            atelier.Apprend("Erreur", "Erreur lors de l'enregistrement du fichier", Boite::Critique);
-            atelier.Apprend(plein ? u"Sauvegardes/Q_"_s : u"Rien ne peut"_s);
+            atelier.Repond(QMessageBox::Ok, u"Erreur lors de l'enregistrement du fichier"_s);
+            atelier.Repond(QMessageBox::Ok, plein ? u"Sauvegardes/Q_"_s : u"Rien ne peut"_s);
             frmPrinc->close();
             QCOMPARE(atelier.Gardes(), plein ? QByteArrayList{"Q@.iso=Q"} : QByteArrayList());
         }
