@@ -10,10 +10,10 @@
 /// lead is short as long as the PC allows it: each opening of the port begins with the short one, which a quiet PC
 /// never leaves, and even the longest one keeps below that alarm up to 19200 baud.
 ///
-/// The PC is judged by the line. What the line stood still for want of characters is a debt, which time
-/// pays off at 1 part in 200. A debt that is not paid makes the lead one step longer; a single delay, however long,
-/// does not reach as far. Every few seconds the lead is tried one step shorter: where the PC is still busy, that costs
-/// one debt and the step comes back.
+/// The PC is judged by the line. What the line stood still for want of characters is a debt, and time pays it off, 5 ms
+/// for each second. A debt beyond 10 ms makes the lead one step longer; a single delay, however long, does not reach as
+/// far. Every few seconds the lead is tried one step shorter: where the PC is still busy, that costs one debt and the
+/// step comes back.
 ///
 /// The clock belongs to the caller.
 class AvanceEmission

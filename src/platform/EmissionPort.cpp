@@ -152,5 +152,5 @@ void EmissionPort::Programme(int remis, CadenceEmission::Instant maintenant)
     }
     const auto delai = m_cadence.AvantRemise(maintenant);
     const bool retenue = m_cadence.Suspendue() || (remis == 0 && delai == 0ns);
-    m_minuteur->Arme(maintenant + (retenue ? PeriodeRetenue : delai));
+    m_minuteur->Arme(retenue ? PeriodeRetenue : delai);
 }

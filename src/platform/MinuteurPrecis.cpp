@@ -13,7 +13,6 @@ namespace {
 
 int OuvreMinuteur()
 {
-    // The clock that steady_clock reads.
     const int fd = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
     if (fd < 0)
         throw Erreur(ErreurPort::Indisponible, qt_error_string());
@@ -35,13 +34,12 @@ MinuteurPrecis::~MinuteurPrecis()
     close(m_fd);
 }
 
-void MinuteurPrecis::Arme(Instant quand)
+void MinuteurPrecis::Arme(std::chrono::nanoseconds delai)
 {
-    using namespace std::chrono;
-    const nanoseconds depuis = std::max(quand.time_since_epoch(), nanoseconds(1)); // 0 would stop it
-    const auto s = duration_cast<seconds>(depuis);
-    const itimerspec echeance{{}, {s.count(), (depuis - s).count()}};
-    timerfd_settime(m_fd, TFD_TIMER_ABSTIME, &echeance, nullptr);
+    delai = std::max(delai, std::chrono::nanoseconds(1)); // 0 would stop it
+    const auto s = std::chrono::floor<std::chrono::seconds>(delai);
+    const itimerspec echeance{{}, {s.count(), (delai - s).count()}};
+    timerfd_settime(m_fd, 0, &echeance, nullptr);
 }
 
 void MinuteurPrecis::Arrete()
@@ -53,7 +51,7 @@ void MinuteurPrecis::Arrete()
 void MinuteurPrecis::Lit()
 {
     std::uint64_t fois = 0;
-    // A moment that was changed meanwhile has not come yet.
+    // What was armed anew meanwhile has not come yet.
     if (Reprise([&] { return read(m_fd, &fois, sizeof fois); }) == sizeof fois)
         Q_EMIT Echu();
 }

@@ -5,20 +5,18 @@
 
 #include <chrono>
 
-/// Wakes the event loop once, at a moment given to the nanosecond. Qt's timers round up to whole milliseconds, in two
+/// Wakes the event loop once, after a time given to the nanosecond. Qt's timers round up to whole milliseconds, in two
 /// places: 1 to 2 ms late, which is several characters of a fast line.
 class MinuteurPrecis : public QObject
 {
     Q_OBJECT
 public:
-    using Instant = std::chrono::time_point<std::chrono::steady_clock, std::chrono::nanoseconds>;
-
     /// Raises ErreurPort::Indisponible when the system has no timer left.
     MinuteurPrecis();
     ~MinuteurPrecis() override;
 
-    /// Echu comes at quand, or at once when that has passed; a former moment is forgotten.
-    void Arme(Instant quand);
+    /// Echu comes after delai, at once where that is 0 or below; what was armed before is forgotten.
+    void Arme(std::chrono::nanoseconds delai);
     void Arrete();
 
 Q_SIGNALS:
