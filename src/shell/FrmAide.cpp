@@ -185,6 +185,10 @@ void FrmAide::Montre(const QString &manuel, const QString &section)
     }
     if (!section.isEmpty())
         Va(section);
+    if (!isVisible()) { // once it is shown, a place no longer means that of the frame
+        PlaceACote(this, parentWidget());
+        TreeView1->setFocus();
+    }
     show();
     raise();
     activateWindow();
@@ -329,13 +333,4 @@ void FrmAide::MarqueResultats()
         marques.append({m_resultats[i], surligne});
     }
     TextBrowser1->setExtraSelections(marques);
-}
-
-void FrmAide::showEvent(QShowEvent *evenement)
-{
-    QDialog::showEvent(evenement);
-    if (evenement->spontaneous())
-        return;
-    PlaceACote(this, parentWidget());
-    TreeView1->setFocus();
 }

@@ -26,7 +26,6 @@ public:
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
-    void showEvent(QShowEvent *evenement) override;
 
 private:
     void PoseTextes();
