@@ -20,6 +20,14 @@ struct Etabli : Poste, Operateur
     {
         Repond(titre, texte, icone, QMessageBox::Ok, ou);
     }
+    /// A box whose text holds this is read.
+    void ApprendQue(const QString &contient)
+    {
+        Fait("MsgBox", [contient](QWidget &boite) {
+            QVERIFY(dynamic_cast<QMessageBox &>(boite).text().contains(contient));
+            boite.close();
+        });
+    }
     /// The operator chooses this configuration and is told that its form is an older one.
     void ChoisitAncien(const QString &chemin)
     {

@@ -93,7 +93,8 @@ private Q_SLOTS:
         }
     }
 
-    // Types of end of transfer and end of line, and how many codes the chains of the operator's own hold.
+    // Types of end of transfer and end of line, how many codes the chains of the operator's own hold, and which ends
+    // XON/XOFF takes away.
     void Chaines()
     {
         ParamCom.CarFinTrans = {0, 'A', 'B', 'C'};
@@ -109,6 +110,13 @@ private Q_SLOTS:
             chaines << ParamCom.ChaineFinTrans + u'/' + ParamCom.ChaineFinLig;
         }
         QCOMPARE(chaines.join(u' '), u"\x13/\n \x04/\r AB/\n\r \x13/\r\n \x04/ab / ?/? ?/?"_s);
+        ParamCom.CarFinTrans[2] = 17; // XON
+        QString perdues;
+        for (ParamCom.ControleFlux = 0; ParamCom.ControleFlux < 4; ++ParamCom.ControleFlux) {
+            for (ParamCom.TypeFinTrans = 0; ParamCom.TypeFinTrans < 4; ++ParamCom.TypeFinTrans)
+                perdues += FinTransfertPerdue() ? u'1' : u'0';
+        }
+        QCOMPARE(perdues, u"0000"_s + u"1010"_s + u"0000"_s + u"1010"_s);
     }
 
 private:
