@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QSet>
 #include <QStyle>
 
@@ -158,10 +159,17 @@ void FolderTreeview::Refresh()
         Relis(topLevelItem(i));
 }
 
+/// What comes or goes further up must not move what is in sight: the operator may be about to click on it.
 void FolderTreeview::SuitLeDisque()
 {
     const QString choisi = SelectedFolder();
+    const QPersistentModelIndex enHaut = indexAt(QPoint());
+    const int deCote = horizontalScrollBar()->value();
     Refresh();
+    if (enHaut.isValid()) {
+        scrollTo(enHaut, PositionAtTop);
+        horizontalScrollBar()->setValue(deCote);
+    }
     if (choisi != SelectedFolder())
         Q_EMIT Disparu(choisi);
 }

@@ -96,6 +96,22 @@ private Q_SLOTS:
         QCOMPARE(disparus.count(), 1);
     }
 
+    // What is in sight stays where it is when something comes further up.
+    void NeBougePas()
+    {
+        for (const char nom : QByteArray("bcdefghijklmnopqrstuvwxyz"))
+            Pose({QChar::fromLatin1(nom) + u"/"_s});
+        FolderTreeview arbre;
+        arbre.resize(200, 100);
+        arbre.show();
+        arbre.setSelectedFolder(Chemin(u"m"_s));
+        const QModelIndex dossier = arbre.currentIndex().parent();
+        const QRect place = arbre.visualRect(arbre.currentIndex());
+        Pose({u"a/"_s});
+        QTRY_VERIFY(Noms(arbre, dossier).startsWith(u'a'));
+        QCOMPARE(arbre.visualRect(arbre.currentIndex()), place);
+    }
+
     // A name with a blank and an accent; what lies deeper, elsewhere or in another one's session is not for the tree.
     void VolumesMontes()
     {
