@@ -57,7 +57,7 @@ std::vector<fs::path> Entrees(const fs::path &dossier)
     return entrees;
 }
 
-/// Where an entry of the disk stands: its own name, which may be a link's, in its folder without any link.
+/// The one path of a file, folder or link, however it was written: links above it are followed, it itself is not.
 QString Place(const QString &chemin)
 {
     const QFileInfo entree(chemin);

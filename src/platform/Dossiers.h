@@ -21,9 +21,9 @@ ContenuDossier CompteContenu(const QString &chemin);
 /// True for a folder that is no part of another one: the root of a drive, or of a volume such as a USB key.
 bool EstRacine(const QString &chemin);
 
-/// What stands behind dossier in chemin, a path in full, where that leads through dossier or ends there: "" or a path
-/// that begins with "/". None where it does not. Links and detours on either side are seen through; dossier may be a
-/// link itself, and then counts only for the paths that use it.
+/// The rest of chemin behind dossier, such as "/b.iso", when chemin leads through that folder; "" when it is the folder
+/// itself, none when it leads elsewhere. chemin: a full path. Links and ".." are seen through on both sides; when
+/// dossier itself is a link, only a path that uses the link leads through it.
 std::optional<QString> ResteDerriere(const QString &dossier, const QString &chemin);
 
 /// Creates one folder; the folder that is to hold it exists. A name in use is a failure.

@@ -70,7 +70,7 @@ QString FileListBox::FileName() const
 
 void FileListBox::Refresh()
 {
-    // A folder deleted and made again is a new one, which nobody watches yet.
+    // A folder that was deleted and made again has to be watched anew.
     if (m_guetteur.directories().isEmpty() && QFileInfo(m_dossier).isDir())
         m_guetteur.addPath(m_dossier);
     const QStringList noms = Noms();

@@ -22,8 +22,8 @@ public:
     {
         setText(0, nom);
         setIcon(0, icone);
-        // Whether it has folders below shows when it is opened: looking into each would make a long list slow, and wake
-        // every network drive.
+        // Every node can be opened at first. Only its opening tells whether it has folders below: looking into each one
+        // beforehand would make a long list slow, and wake every network drive.
         setChildIndicatorPolicy(ShowIndicator);
     }
 
@@ -159,7 +159,8 @@ void FolderTreeview::Refresh()
         Relis(topLevelItem(i));
 }
 
-/// What comes or goes further up must not move what is in sight: the operator may be about to click on it.
+/// Follows a change of the disk. The rows in sight stay where they are, whatever comes or goes further up: the operator
+/// may be about to click on one.
 void FolderTreeview::SuitLeDisque()
 {
     const QString choisi = SelectedFolder();
@@ -183,7 +184,7 @@ void FolderTreeview::Pendant(const std::function<void()> &travail)
     Refresh();
 }
 
-/// The top of the tree: volumes come and go while the program runs.
+/// Reads the top of the tree, where volumes come and go while the program runs.
 void FolderTreeview::LisSommets()
 {
     const QList<Lieu> lieux = Lieux();
@@ -199,7 +200,8 @@ void FolderTreeview::LisSommets()
     }
 }
 
-/// Brings what stands below a node in line with the disk; what is on both sides stays, with all below it.
+/// Reads the folders directly below a node. New ones get a node, those that have gone lose theirs; the others keep it,
+/// with all that is open below.
 void FolderTreeview::Lis(QTreeWidgetItem *noeud)
 {
     Noeud *const dossier = EnNoeud(noeud);
@@ -208,7 +210,7 @@ void FolderTreeview::Lis(QTreeWidgetItem *noeud)
     QSet<QString> absents(noms.begin(), noms.end());
     for (int i = noeud->childCount() - 1; i >= 0; --i) {
         Noeud *const enfant = EnNoeud(noeud->child(i));
-        // A hidden folder is not listed and yet there.
+        // A hidden folder exists although it is not listed.
         if (!absents.remove(enfant->text(0)) && !QFileInfo(enfant->Chemin()).isDir())
             Retire(enfant);
     }
@@ -235,7 +237,7 @@ void FolderTreeview::Relis(QTreeWidgetItem *noeud)
         Relis(noeud->child(i));
 }
 
-/// The tree also reports a change when a neighbour above the selected folder goes.
+/// Qt reports a change of the selection also when only the row of the selected folder has changed.
 void FolderTreeview::Annonce()
 {
     if (const QString dossier = SelectedFolder(); dossier != m_annonce) {
@@ -249,7 +251,7 @@ QTreeWidgetItem *FolderTreeview::Choisi() const
     return selectedItems().value(0);
 }
 
-/// Takes a node out, and first hands the selection to the folder above, where left to itself it would fall on a
+/// Takes a node out. Where it holds the selected folder, the folder above is selected first: Qt would select a
 /// neighbour.
 void FolderTreeview::Retire(QTreeWidgetItem *noeud)
 {
@@ -265,7 +267,7 @@ void FolderTreeview::Retire(QTreeWidgetItem *noeud)
     delete noeud;
 }
 
-/// The node of the top that leads to a path the shortest way.
+/// The node at the top of the tree that lies nearest to a path; nullptr when none leads there.
 QTreeWidgetItem *FolderTreeview::Sommet(const QString &chemin) const
 {
     QTreeWidgetItem *meilleur = nullptr;

@@ -35,12 +35,12 @@ public:
     /// exists is selected; none where its volume has gone.
     void Refresh();
 
-    /// Runs travail, by which the operator himself takes folders away, and reads the tree anew behind it: none of them
-    /// counts as Disparu. Raises what travail raises.
+    /// Runs travail, in which the operator himself takes folders away, and then reads the tree anew. Disparu is not
+    /// emitted for these folders. Raises what travail raises.
     void Pendant(const std::function<void()> &travail);
 
 Q_SIGNALS:
-    void Disparu(const QString &dossier); ///< the selected folder was taken away, and Refresh() has selected another
+    void Disparu(const QString &dossier); ///< the selected folder, dossier, has gone; what Refresh() says is selected
     void SelectionChange();               ///< another folder is selected, by whatever way
     void Click();                         ///< a folder was clicked, the selected one or another
 

@@ -10,7 +10,8 @@ GuetteurDossiers::GuetteurDossiers()
     connect(&m_delai, &QTimer::timeout, this, &GuetteurDossiers::Change);
 }
 
-/// Once a volume is mounted on a folder, its path names another folder than the one that is watched.
+/// When a volume is mounted on a folder that is watched, the path leads to the volume and the watch does not: every
+/// watch is set anew.
 void GuetteurDossiers::ReprendGarde()
 {
     if (const QStringList dossiers = directories(); !dossiers.isEmpty()) {

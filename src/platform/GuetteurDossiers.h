@@ -5,8 +5,8 @@
 #include <QFileSystemWatcher>
 #include <QTimer>
 
-/// Watches folders, and tells a moment after something has come or gone in one of them, or a volume anywhere: copying
-/// 1000 files is not 1000 readings.
+/// Watches folders, and the volumes of this PC. Change comes 100 ms after something has come or gone in one of the
+/// folders, or a volume anywhere; all that happens meanwhile is one change, so copying 1000 files is not 1000 readings.
 class GuetteurDossiers : public QFileSystemWatcher
 {
     Q_OBJECT

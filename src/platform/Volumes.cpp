@@ -54,7 +54,7 @@ GuetteurVolumes::GuetteurVolumes()
 {
     if (!m_table.open(QIODevice::ReadOnly))
         return;
-    // The system raises an exception on the table at each change, and takes it back as it is noticed.
+    // At each change the system reports an exceptional condition on the open table, once.
     auto *const signal = new QSocketNotifier(m_table.handle(), QSocketNotifier::Exception, this);
     connect(signal, &QSocketNotifier::activated, this, &GuetteurVolumes::Change);
 }

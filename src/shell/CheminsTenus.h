@@ -9,9 +9,10 @@
 /// Names the variables that hold them: receptions, the folders that receptions go to, and autres. Once, at the start.
 void TientChemins(const QList<QString *> &receptions, const QList<QString *> &autres);
 
-/// Gives the folder (or link) ancien the path nouveau, as RenommeDossier() does, and to every path kept that leads
-/// through it; the title of the main window follows. Nothing is saved. Raises as RenommeDossier(), with all as it was.
+/// Renames the folder (or link) ancien to nouveau, as RenommeDossier() does. Every path kept that leads through it
+/// changes with it, and so does the title of the main window. Nothing is saved. Raises as RenommeDossier(), and the
+/// paths then stay as they are.
 void RenommeEtSuit(const QString &ancien, const QString &nouveau);
 
-/// The receptions that go to dossier, which is no more, go to the application folder.
+/// Sends the receptions that went to dossier, which has gone, to the application folder.
 void QuitteReceptions(const QString &dossier);

@@ -63,7 +63,8 @@ constexpr Texte3 NonRenommable{u"Ce dossier ne peut pas être renommé ! ou doss
 constexpr Texte3 NonRenomme{u"Erreur ! Le dossier ne peut être renommé.", u"Error ! The repertory cannot be famous.",
                             u"Error ! El directorio no puede reelegirse."};
 
-/// Lives from the loss of a folder until the operator has been told: what else is lost meanwhile is no more news.
+/// Waits for the moment to tell the operator of a lost folder, and lives until he has read it. Another loss in between
+/// gets no message of its own.
 QPointer<QTimer> annonce;
 
 QString SansSeparateur(const QString &dossier)
@@ -93,7 +94,7 @@ void PointeDossier()
     FolderTreeview1_Click();
 }
 
-/// Tells once no dialog or menu stands open: a transfer would stand still behind the box.
+/// Shows texte as soon as no dialog and no menu is open: a box over a running transfer would stop the transfer.
 void AnnonceDisparu(const QString &texte)
 {
     using namespace std::chrono_literals;
@@ -111,8 +112,9 @@ void AnnonceDisparu(const QString &texte)
     annonce->start(200ms);
 }
 
-/// The selected folder has been taken away, with its USB key maybe. The folder that is selected in its place is not the
-/// one that the operator applied to the programs. A column that is closed, and applied to nothing, says nothing.
+/// The selected folder has gone: it was deleted, or its USB key pulled out, and another is selected in its place. The
+/// operator has not chosen that one, so CheckDOS is cleared. He is told, unless the column is closed and CheckDOS was
+/// clear already: then nothing changes for him.
 void FolderTreeview1_Disparu(const QString &dossier)
 {
     FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
@@ -138,7 +140,8 @@ void Combo1_Change()
     }
 }
 
-/// Opens the file that the list shows: its own folder is the selected one, but where that could not be listed.
+/// Opens the file chosen in the list. The folder is the list's own: when the folder selected in the tree cannot be
+/// listed, the list still shows the one before.
 void File1_DblClick()
 {
     OuvreDocument(AjouteAntislash(frmPrinc->Frame1->File1->Path()) + frmPrinc->Frame1->File1->FileName());
@@ -164,7 +167,8 @@ void Command1_Click()
     }
 }
 
-/// True, and told, for a folder without which the program finds neither its settings nor its samples.
+/// True when dossier is the application folder or holds it, where the settings and the samples lie. The operator is
+/// then told that it stays.
 bool PorteApplication(const QString &dossier)
 {
     if (!ResteDerriere(dossier, DossierApplication()))
