@@ -8,6 +8,12 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+namespace {
+
+constexpr qsizetype Place = 2000; // characters: no line shows as many, and a tip of more would cover the screen
+
+} // namespace
+
 LabelElide::LabelElide(QWidget *parent)
     : QLabel(parent)
 {
@@ -32,7 +38,7 @@ QSize LabelElide::UneLigneDe(int largeur) const
 
 QString LabelElide::Ligne() const
 {
-    return SurUneLigne(text());
+    return SurUneLigne(text().left(Place));
 }
 
 QString LabelElide::Montre() const
@@ -45,7 +51,8 @@ bool LabelElide::event(QEvent *evenement)
     if (evenement->type() != QEvent::ToolTip)
         return QLabel::event(evenement);
     // As rich text the tip has lines of its own; as plain text it would be one, longer than the screen is wide.
-    const QString entier = Montre() == Ligne() ? QString() : Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
+    const QString tout = text().size() > Place ? text().left(Place) + u'\u2026' : text();
+    const QString entier = Montre() == Ligne() ? QString() : Qt::convertFromPlainText(tout, Qt::WhiteSpaceNormal);
     QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), entier, this);
     return true;
 }

@@ -108,7 +108,8 @@ void SauveAilleurs(const QString &texte, const QString &question)
     const QString demande = question.isEmpty() ? Texte(ResteTexte) : question;
     while (!texte.isEmpty() && Confirme(demande, Boite::Exclamation, Texte(ResteTitre))) {
         try {
-            dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), QString(), CheminRecep());
+            const QString dossier = QFileInfo::exists(DossierRecep) ? DossierRecep : QString(); // it may have gone
+            dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), dossier, NomFicRecep);
             dialogue.ShowSave();
             EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
             return;

@@ -162,9 +162,9 @@ void Rc_Fic::Command2_Click()
         return;
     Em_Rc(this).exec();
     if (FinTransfert == 1)
-        accept();
-    else
-        Form_Activate();
+        return accept();
+    Form_Activate();
+    activateWindow(); // where the question is answered No, two windows go at once, and the keyboard with them
 }
 
 bool Rc_Fic::ConfirmeRemplacement() const
