@@ -103,7 +103,7 @@ QWidget *Cadran(int tourelle)
     ParamMac = {};
     ParamMac.TypeTourelle = tourelle;
     NbJauges = 3;
-    Jauge[1].NumCorr = 7;
+    Jauge[1] = {7, 102.3604F, 51.0005F, 0, 0, u'D'};
     return new JauTour(frmPrinc);
 }
 
