@@ -6,8 +6,6 @@
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 
-#include <QApplication>
-
 #include <csignal>
 #include <sys/resource.h>
 
@@ -206,19 +204,6 @@ private Q_SLOTS:
             QCOMPARE(FichierModifie, modifie);
             QCOMPARE(etabli.Lit("P.iso"), QByteArray(fichier));
         }
-    }
-
-    // Confirmed once, the end asks nothing more, closes the port and ends the process, whatever the text.
-    void Quitte()
-    {
-        Etabli etabli(1);
-        frmPrinc->Text1->setText(u"G1"_s);
-        etabli.Fait("MsgBox", Operateur::Clique(QMessageBox::No));
-        etabli.Repond("Leave the program", "Leave Dorvanel\r   Confirm  ?", Operateur::Demande, QMessageBox::Yes);
-        PortOuvert = true;
-        QTimer::singleShot(0, frmPrinc, [] { Operateur::Menu("Mnu_Quitter"); });
-        QCOMPARE(QApplication::exec(), 0);
-        QVERIFY(!PortOuvert);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "platform/FinDemandee.h"
 #include "platform/PageCode1252.h"
 #include "shell/Filet.h"
+#include "shell/Sauvegardes.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/Transfert.h"
 
@@ -100,11 +101,13 @@ void Recoit(qsizetype taille)
 
 void Quitte(const Atelier &)
 {
+    PortOuvert = true;
     QTimer::singleShot(0, frmPrinc, [] {
         Operateur::Menu("Mnu_Quitter");
-        QCoreApplication::exit();
+        if (PortOuvert) // the end was not confirmed
+            QCoreApplication::exit();
     });
-    QApplication::exec();
+    QCOMPARE(QApplication::exec(), 0);
 }
 
 /// Twice: the second demand finds the text kept.
@@ -154,6 +157,7 @@ private Q_SLOTS:
             if (depart.garde != nullptr)
                 attendus << depart.garde + TousLesOctets();
             QVERIFY2(atelier.Gardes() == attendus, depart.nom);
+            QVERIFY2(PortOuvert == (depart.joue == Quitte && depart.garde == nullptr), depart.nom);
             const bool parti = frmPrinc->Text1->Text() != texte;
             QVERIFY2(parti != (frmPrinc->Mnu_Annuler->isEnabled() && !TexteAnnuler.isEmpty()), depart.nom);
         }
@@ -181,21 +185,28 @@ private Q_SLOTS:
             OuvreAutre(atelier);
             QCOMPARE(atelier.Gardes(), QByteArrayList{garde.toUtf8() + "=N10 G0\r\n"});
         }
-        Atelier atelier;
-        QDir(atelier.Dossier()).mkpath(u"Sauvegardes"_s);
-        const auto vieux = [&](int rang, const QString &nom, qint64 taille) {
-            QFile fichier(atelier.Ecrit(u"Sauvegardes/"_s + nom, "V"));
-            QVERIFY(fichier.resize(taille) && fichier.open(QIODevice::ReadWrite));
-            fichier.setFileTime(QDateTime::currentDateTime().addDays(rang), QFile::FileModificationTime);
-        };
-        vieux(-200, u"a moi.iso"_s, 1);
-        for (int i = 0; i < 120; ++i) // the clock of the PC went wrong for a time
-            vieux(50 - i, u"V%1_2026-11-20_000000.iso"_s.arg(i, 3, 10, QLatin1Char('0')), i == 70 ? 199'999'990 : 2);
-        OuvreAutre(atelier);
-        const QStringList noms = QDir(atelier.Chemin("Sauvegardes")).entryList(QDir::Files, QDir::Name);
-        QCOMPARE(noms.size(), 2 + 70);
-        QVERIFY(noms.contains(u"V069_2026-11-20_000000.iso"_s) && noms.contains(u"a moi.iso"_s));
-        QVERIFY(noms.at(0).startsWith(u"P_"));
+        {
+            const Atelier atelier;
+            QStringList chemins;
+            for (int i = 0; i < 3; ++i) // two at least in one second
+                chemins << GardeTexte(u"P.iso"_s, u"N10"_s);
+            QVERIFY(chemins.removeDuplicates() == 0 && !chemins.filter(u" (2).iso"_s).isEmpty());
+        }
+        for (const int gros : {70, 200}) { // the clock of the PC went wrong for a time
+            Atelier atelier;
+            QDir(atelier.Dossier()).mkdir(u"Sauvegardes"_s);
+            for (int i = 0; i < 120; ++i) {
+                const QString date = i == 119 ? u" a moi.iso"_s : u"_2026-11-20_000000.iso"_s;
+                QFile fichier(atelier.Ecrit(u"Sauvegardes/V%1"_s.arg(1000 + i) + date, "V"));
+                QVERIFY(fichier.resize(i == gros ? 199'999'990 : 2) && fichier.open(QIODevice::ReadWrite));
+                fichier.setFileTime(QDateTime::currentDateTime().addDays(50 - i), QFile::FileModificationTime);
+            }
+            OuvreAutre(atelier);
+            const QStringList noms = QDir(atelier.Chemin("Sauvegardes")).entryList(QDir::Files, QDir::Name);
+            const int restent = std::min(gros, 99);
+            QVERIFY(noms.size() == restent + 2 && noms.at(0).startsWith(u"P_") && noms.last() == u"V1119 a moi.iso");
+            QVERIFY(noms.at(restent).startsWith(u"V%1_"_s.arg(999 + restent)));
+        }
     }
 
     // At rest the text stands in one file, written anew after a while only; the saving takes it away, and lets a new
