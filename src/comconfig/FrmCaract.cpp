@@ -102,7 +102,6 @@ QPushButton *FrmCaract::CreeBouton(int code)
 {
     auto *const bouton = new QPushButton(Frame1);
     bouton->setObjectName(QStringLiteral("Car_%1").arg(code));
-    bouton->setAutoDefault(false);
     // As wide as the longest caption asks, not as wide as a style makes its buttons: there are sixteen in a row.
     bouton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     ChoisitBouton(bouton, code, Legende(code));

@@ -2,6 +2,7 @@
 
 #include "gauges/ChoixMac.h"
 #include "gauges/ParamMac.h"
+#include "gauges/TexteVirgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/EntreeOptions.h"
@@ -51,7 +52,7 @@ ConfMac::ConfMac(QWidget *parent, const QString &chemin)
     EntreAuChoix(this);
     GardePlaces({Frame2, Label6, Text6, Frame7});
     for (const Longueur &longueur : Longueurs)
-        LimiteTouches(this->*longueur.saisie, QStringLiteral("[-.0-9]*"));
+        LimiteNombre(this->*longueur.saisie, QStringLiteral("[-.0-9]*"), Texte(VirguleRefusee));
     LimiteTouches(Text3, QStringLiteral("[0-9]*"));
     Form_Load();
     BrancheOptions();

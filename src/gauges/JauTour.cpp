@@ -2,11 +2,15 @@
 
 #include "gauges/Jauge.h"
 #include "gauges/ParamMac.h"
+#include "gauges/TexteVirgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
+#include "platform/Clavier.h"
 #include "platform/FiltreTouches.h"
 #include "platform/Nombres.h"
+#include "platform/TouchesVolet.h"
+#include "platform/UnClic.h"
 
 #include <QKeyEvent>
 
@@ -39,10 +43,12 @@ JauTour::JauTour(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    LimiteTouches(Text1, QStringLiteral("[0-9.]*"));
+    LimiteNombre(Text1, QStringLiteral("[0-9.]*"), Texte(VirguleRefusee));
     LimiteTouches(Text2, QStringLiteral("[0-9]*"));
+    SelectionneAuClic(Text1);
+    SelectionneAuClic(Text2);
     BrancheTuiles();
-    Command1->installEventFilter(this);
+    UnClic(Command1);
     connect(Command1, &QPushButton::clicked, this, &JauTour::Command1_Click);
     Form_Activate();
 }
@@ -98,18 +104,18 @@ void JauTour::DesigneTuiles()
     }
 }
 
-// Escape, the second stroke of a double click and a hand that leans on Enter would leave tools with neither radius nor
-// quadrant, which the machine would then use.
-
-bool JauTour::eventFilter(QObject *objet, QEvent *evenement)
-{
-    return evenement->type() == QEvent::MouseButtonDblClick || QDialog::eventFilter(objet, evenement);
-}
-
+/// Enter goes from box to box and validates from the last one. Escape would leave tools with neither radius nor
+/// quadrant, which the machine would then use; so would a second stroke on Enter.
 void JauTour::keyPressEvent(QKeyEvent *touche)
 {
-    if (touche->key() != Qt::Key_Escape && !touche->isAutoRepeat())
+    if (touche->key() == Qt::Key_Escape)
+        return;
+    if (!EstEntree(*touche) || focusWidget() != Text1) {
         QDialog::keyPressEvent(touche);
+        return;
+    }
+    Text2->setFocus(Qt::TabFocusReason);
+    RetientTouches(this);
 }
 
 /// The close box leaves the tools that are not validated without radius and quadrant.
@@ -134,5 +140,6 @@ void JauTour::Command1_Click()
         JauTourFait = 1;
     } else {
         MontreMesure(QStringLiteral("  "));
+        RetientTouches(this);
     }
 }

@@ -22,7 +22,6 @@ public:
     void reject() override;
 
 protected:
-    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *touche) override;
 
 private:

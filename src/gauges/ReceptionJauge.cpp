@@ -11,6 +11,7 @@
 #include "locale/TextesErreur.h"
 #include "platform/Boites.h"
 #include "platform/CedeLaMain.h"
+#include "platform/Clavier.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
@@ -257,8 +258,10 @@ void Seance::PermetSuite(bool permis)
     m_dialogue.Frame4->window()->setFocus();
     m_dialogue.Command5->setEnabled(permis);
     m_dialogue.Command6->setEnabled(permis);
-    if (permis)
-        m_dialogue.Command5->setFocus();
+    if (!permis)
+        return;
+    m_dialogue.Command5->setFocus();
+    RetientTouches(m_dialogue.Frame4->window());
 }
 
 void Seance::Termine()

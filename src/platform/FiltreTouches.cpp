@@ -1,9 +1,11 @@
 #include "platform/FiltreTouches.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -63,6 +65,65 @@ private:
     Interdit m_interdit;
 };
 
+/// Takes a comma for the point where it can only have been meant as one.
+class ValideNombre : public QRegularExpressionValidator
+{
+public:
+    using QRegularExpressionValidator::QRegularExpressionValidator;
+
+    State validate(QString &texte, int &curseur) const override
+    {
+        if (texte.count(u',') == 1 && !texte.contains(u'.'))
+            texte.replace(u',', u'.');
+        return QRegularExpressionValidator::validate(texte, curseur);
+    }
+};
+
+/// Drops a comma that is typed, and says so: "0,4" would become 4 unseen. The keypad's is its point, whatever character
+/// the system gives it.
+class RefusVirgule : public QObject
+{
+public:
+    RefusVirgule(const QString &avis, QLineEdit *saisie)
+        : QObject(saisie)
+        , m_avis(avis)
+        , m_saisie(saisie)
+    {
+        saisie->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *evenement) override
+    {
+        if (evenement->type() != QEvent::KeyPress)
+            return false;
+        const auto &touche = *static_cast<QKeyEvent *>(evenement);
+        if (touche.text() != QLatin1String(",") || touche.modifiers().testFlag(Qt::KeypadModifier))
+            return false;
+        QApplication::beep();
+        QToolTip::showText(m_saisie->mapToGlobal(QPoint(0, m_saisie->height() / 2)), m_avis, m_saisie);
+        return true;
+    }
+
+private:
+    QString m_avis;
+    QLineEdit *m_saisie;
+};
+
+/// Selects the whole of a box that is clicked, unless the mouse has selected a part of it.
+class SelectionAuClic : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *objet, QEvent *evenement) override
+    {
+        auto &saisie = *static_cast<QLineEdit *>(objet);
+        if (evenement->type() == QEvent::MouseButtonRelease && !saisie.hasSelectedText())
+            saisie.selectAll();
+        return false;
+    }
+};
+
 /// Sorts out of a text what no name may hold.
 class ValideNom : public QValidator
 {
@@ -94,6 +155,17 @@ void FiltreChiffres(QLineEdit *saisie)
 void LimiteTouches(QLineEdit *saisie, const QString &motif)
 {
     saisie->setValidator(new QRegularExpressionValidator(QRegularExpression(motif), saisie));
+}
+
+void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis)
+{
+    saisie->setValidator(new ValideNombre(QRegularExpression(motif), saisie));
+    new RefusVirgule(avis, saisie);
+}
+
+void SelectionneAuClic(QLineEdit *saisie)
+{
+    saisie->installEventFilter(new SelectionAuClic(saisie));
 }
 
 void MontreEnEntier(QLineEdit *saisie, const QString &texte)

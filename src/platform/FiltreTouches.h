@@ -17,6 +17,14 @@ void FiltreChiffres(QLineEdit *saisie);
 /// Keeps a box to texts that match motif, a regular expression; a key or a pasted text that would break it is dropped.
 void LimiteTouches(QLineEdit *saisie, const QString &motif);
 
+/// The same for a box that takes a number with a point, which motif lets in. A comma that is pasted, or typed on the
+/// keypad, becomes the point; one that is typed elsewhere is dropped, and avis tells why beside the box.
+void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis);
+
+/// Has a click in a box select all of it, as the tabulator does: what is typed then takes its place. A box that is full
+/// would take no key.
+void SelectionneAuClic(QLineEdit *saisie);
+
 /// Shows texte in a box, whole: where it is longer than what the operator may type, the box takes that much from now
 /// on. A value of a file would otherwise be cut, and saved so.
 void MontreEnEntier(QLineEdit *saisie, const QString &texte);

@@ -6,6 +6,8 @@
 #include "gauges/CommandesMac.h"
 #include "gauges/ReceptionJauge.h"
 #include "locale/FrmLangue.h"
+#include "platform/Clavier.h"
+#include "platform/Molette.h"
 #include "platform/MSComm.h"
 #include "platform/UneLigne.h"
 #include "shell/AideEnLigne.h"
@@ -81,6 +83,8 @@ void Branche()
     BrancheFilet();
     BrancheAide();
     TientUneLigne(frmPrinc);
+    BrancheClavier(frmPrinc);
+    BrancheMolette(frmPrinc);
     Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);

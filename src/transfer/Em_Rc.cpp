@@ -7,8 +7,10 @@
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
 #include "platform/CentreFeuille.h"
+#include "platform/Clavier.h"
 #include "platform/GardePlaces.h"
 #include "platform/MSComm.h"
+#include "platform/UnClic.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Confirmation.h"
 #include "transfer/Emission.h"
@@ -100,6 +102,11 @@ constexpr Texte3 ForcerTexte{
     u"Close the receiving and record the received lines !\rConfirm the end of receiving ?",
     u"Cerrar la recepción y registrar las líneas recibidas !\rConfirme el final de recepción ?"};
 
+constexpr Texte3 ArreterTitre{u"Transfert en cours", u"Transfer under way", u"Transferencia en curso"};
+constexpr Texte3 ArreterTexte{u"Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
+                              u"The transfer is not finished !\rConfirm the stop of the transfer ?",
+                              u"¡La transferencia no ha terminado!\r¿Confirma la parada de la transferencia?"};
+
 } // namespace
 
 void (*Em_Rc::RoutineBanc)(Ui::Em_Rc &) = nullptr;
@@ -110,7 +117,7 @@ Em_Rc::Em_Rc(QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     GardePlaces({Progression, Label3, Label4, Frame2}); // lines above the buttons
-    Command2->installEventFilter(this);
+    UnClic(Command2); // a short program has gone between the two strokes of a double click
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
@@ -128,8 +135,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     if (evenement->spontaneous())
         return;
     Form_Activate();
-    m_coup.start(); // the hand that has just confirmed may still lean on its key
-    adjustSize();   // the mode has hidden some of its parts
+    adjustSize(); // the mode has hidden some of its parts
     CentreFeuille(this);
 }
 
@@ -190,6 +196,7 @@ void Em_Rc::CommenceReception()
         receptions[ParamCom.TypeRecep](*this);
     if (FinTransfert == 1)
         Command1->setFocus();
+    RetientTouches(this);
 }
 
 void Em_Rc::MontreConfigurationChoisie()
@@ -217,6 +224,7 @@ void Em_Rc::Command2_Click()
         EnvoiFich_FinFich(*this);
     Command2->setEnabled(true);
     Command2->setFocus();
+    RetientTouches(this); // a short program would go many times over while a hand leans on Enter
 }
 
 void Em_Rc::Command3_Click()
@@ -247,32 +255,17 @@ void Em_Rc::Command7_Click()
         ForceRECEPT = 1;
 }
 
-/// A stroke that follows another within a second is the same heavy hand. The system does not mark every repetition as
-/// one.
-bool Em_Rc::MainLourde(const QKeyEvent &touche)
-{
-    constexpr qint64 repos = 1000; // milliseconds; a keyboard begins to repeat after some 600
-    if (touche.key() != Qt::Key_Return && touche.key() != Qt::Key_Enter && touche.key() != Qt::Key_Space)
-        return false;
-    const bool repetee = touche.isAutoRepeat() || (m_coup.isValid() && !m_coup.hasExpired(repos));
-    m_coup.start();
-    return repetee;
-}
-
-/// A short program has gone between the two strokes of a double click, and would go many times over while a hand leans
-/// on Enter.
-bool Em_Rc::eventFilter(QObject *objet, QEvent *evenement)
-{
-    const bool encore = evenement->type() == QEvent::MouseButtonDblClick ||
-                        (evenement->type() == QEvent::KeyPress && MainLourde(*static_cast<QKeyEvent *>(evenement)));
-    return (objet == Command2 && encore) || QDialog::eventFilter(objet, evenement);
-}
-
-/// From any other place of the dialog Enter means Command2 too.
+/// Escape lies near and ends what no one can bring back. The buttons say what they do.
 void Em_Rc::keyPressEvent(QKeyEvent *evenement)
 {
-    if (!MainLourde(*evenement))
+    if (!evenement->matches(QKeySequence::Cancel) || !TransfertEnCours() || ConfirmeArret())
         QDialog::keyPressEvent(evenement);
+}
+
+bool Em_Rc::ConfirmeArret()
+{
+    const MSComm::SansEvenements sansEvenements(*frmPrinc->MSComm1);
+    return Confirme(Texte(ArreterTexte), Boite::Question | Boite::SecondBouton, Texte(ArreterTitre));
 }
 
 void Em_Rc::done(int resultat)

@@ -3,7 +3,6 @@
 #include "ui_Em_Rc.h"
 
 #include <QDialog>
-#include <QElapsedTimer>
 
 /// The modal dialog in which every transfer runs: it tells the operator what to do at the machine, starts the transfer
 /// and shows it.
@@ -28,12 +27,9 @@ public:
 
 protected:
     void showEvent(QShowEvent *evenement) override;
-    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
-    bool MainLourde(const QKeyEvent &touche);
-
     void Form_Activate();
     void Command1_Click();
     void Command2_Click();
@@ -48,6 +44,6 @@ private:
     /// has been closed.
     void CommenceReception();
     void MontreConfigurationChoisie();
-
-    QElapsedTimer m_coup; // since a key last pressed a button
+    /// Asks whether the transfer under way may end here. It stands still meanwhile.
+    static bool ConfirmeArret();
 };

@@ -7,6 +7,7 @@
 #include "platform/CommonDialog.h"
 #include "platform/FichierTexte.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
 
@@ -47,11 +48,16 @@ private Q_SLOTS:
             for (auto *const option : {d.OptMac_1, d.OptJauge_1, d.OptTour_1, d.OptionX_1, d.OptionRAZ_1})
                 option->click();
             QCOMPARE(Montres(d), QList<bool>({false, true, true, true}));
-            QStringList touches = u"a1+0e0,.3 mm|-12345.678|-99.9|-.5|co1x| %12 "_s.split(u'|');
+            QStringList touches = u"a1+0e0,|-12345.678|-99.9||co1x| %12 "_s.split(u'|');
             for (QLineEdit *const saisie : Saisies(d)) {
                 saisie->selectAll();
                 QTest::keyClicks(saisie, touches.takeFirst());
             }
+            QTest::keyClick(d.Text1, Qt::Key_Comma, Qt::KeypadModifier); // the point of its keypad
+            QTest::keyClicks(d.Text1, u"3 mm"_s);
+            QGuiApplication::clipboard()->setText(u"-,5"_s);
+            for (QLineEdit *const saisie : {d.Text1, d.Text4}) // the first has its point
+                saisie->paste();
             QCOMPARE(ParamMac.JaugeMaxiX, 100.0);
             d.Command2->click(); // cancelled
             QCOMPARE(d.windowTitle(), u"Configuration Machine : Sans Nom"_s);

@@ -75,7 +75,8 @@ private Q_SLOTS:
         const auto tape = [&](const QString &rayon, const QString &localisateur) {
             const QString vues = d.Frame1->title() + d.Text1->text() + d.Text2->text() + d.ValeursMesure->text();
             QTest::keyClicks(d.focusWidget(), rayon); // the keyboard waits in the first box, its content selected
-            QTest::keyClick(d.focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(d.focusWidget(), Qt::Key_Return);
+            QTest::mouseClick(d.Text2, Qt::LeftButton); // all of it gives way to the key
             QTest::keyClicks(d.focusWidget(), localisateur);
             QTest::keyClick(d.focusWidget(), Qt::Key_Return);
             return vues;
@@ -83,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(tape(u"a.8x"_s, u"3"_s), u"Measured tool N° : 1   Corrector N° : 1000X = 2.5 (R)    Z = 1"_s);
         QCOMPARE(tape(u"1,2345"_s, u"5"_s), u"Measured tool N° : 2  Corrector N° : 2000X = -2.5 (?)    Z = 1"_s);
         QCOMPARE(tape(u"-"_s, u"67"_s), u"Measured tool N° : 5  Corrector N° : 3000X = 2.5 (R)    Z = 1"_s);
-        d.Text1->clear();
+        QTest::keyClick(d.Text1, Qt::Key_Backspace);
         tape(QString(), u"7"_s);
         Clique(d, u"Picture25"_s);
         QTest::keyClick(d.Picture9, Qt::Key_Space);
@@ -91,6 +92,7 @@ private Q_SLOTS:
         QVERIFY(d.isVisible() && JauTourFait == 0);
         QTest::mouseClick(d.Command1, Qt::LeftButton);
         QTest::mouseDClick(d.Command1, Qt::LeftButton); // strokes too many
+        QTest::mousePress(d.Command1, Qt::LeftButton);
         QTest::mouseRelease(d.Command1, Qt::LeftButton);
         QKeyEvent encore(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
         QCoreApplication::sendEvent(d.Text1, &encore);

@@ -149,10 +149,15 @@ private Q_SLOTS:
                 QCOMPARE(fenetre.focusWidget(), mesuree ? bouton(Suivante) : &fenetre);
                 QCOMPARE(frmPrinc->shpReceive->FillColor(), mesuree ? Lampe::Rouge : Lampe::Verte);
                 QCOMPARE(atelier.Disque(), Brut((i + 1) / 2));
-                if (mesuree)
-                    bouton(i == 1 ? Suivante : Fin)->click();
-                else
+                if (!mesuree) { // the hand rests on a key while the measure comes
+                    QTest::keyPress(&fenetre, Qt::Key_J, Qt::AltModifier);
                     atelier.banc->Envoie(Outil(i / 2 + 1));
+                    return;
+                }
+                QTest::simulateEvent(&fenetre, true, Qt::Key_J, Qt::AltModifier, u"j"_s, true);
+                QCOMPARE(JaugeSuivante, 0);
+                QTest::keyRelease(&fenetre, Qt::Key_J, Qt::AltModifier);
+                bouton(i == 1 ? Suivante : Fin)->click();
             };
             atelier.Fait(Dialogue, verifie,
                          [statut = etapes[i].second] { return PortOuvert && Operateur::Lu("Label2") == statut; });
@@ -213,8 +218,12 @@ private Q_SLOTS:
         atelier.Nomme(QMessageBox::No);
         atelier.Recoit(QMessageBox::Yes);
         atelier.Outils(1);
-        atelier.Fait(
-            Dialogue, [](QWidget &dialogue) { QTest::keyClick(&dialogue, Qt::Key_Escape); }, Mesure(1));
+        for (const auto reponse : {QMessageBox::No, QMessageBox::Yes}) {
+            atelier.Fait(
+                Dialogue, [](QWidget &dialogue) { QTest::keyClick(&dialogue, Qt::Key_Escape); }, Mesure(1));
+            atelier.Repond("Transfert en cours", "Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
+                           Operateur::Demande, reponse);
+        }
         atelier.Abandonne();
         QCOMPARE(NbJauges + FinTransfert, 0);
         QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);

@@ -197,7 +197,8 @@ void TestTransferts::Emissions()
 }
 
 // A double click on the button, and a hand left on Enter since the confirmation: all that sends once. While the machine
-// holds the line in the third piece, the dialog shows how far the sending is; at the end it shows the end.
+// holds the line in the third piece, the dialog shows how far the sending is, and Escape ends nothing unasked; at the
+// end it shows the end.
 void TestTransferts::EmissionMontree()
 {
     QByteArray corps;
@@ -212,15 +213,10 @@ void TestTransferts::EmissionMontree()
         essai.ligne->accepte = 210;
         ParamCom.Echo = echo ? 1 : 0;
         ParamCom.TailleTamponEmis = 100;
+        QTest::keyPress(frmPrinc, Qt::Key_Return);
         essai.pilote.Fait(Dialogue, [&](QWidget &fenetre) {
             auto *const bouton = fenetre.findChild<QPushButton *>(u"Command2"_s);
-            const auto appuie = [&] {
-                for (const bool marquee : {true, false}) {
-                    QKeyEvent entree(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, marquee);
-                    QApplication::sendEvent(bouton, &entree);
-                    QApplication::sendEvent(&fenetre, &entree);
-                }
-            };
+            const auto appuie = [=] { QTest::simulateEvent(bouton, true, Qt::Key_Return, {}, u"\r"_s, true); };
             appuie(); // still from the confirmation
             QVERIFY(bouton->isEnabled() && essai.ligne->ecrits.isEmpty());
             QTest::mouseClick(bouton, Qt::LeftButton);
@@ -230,8 +226,9 @@ void TestTransferts::EmissionMontree()
         });
         essai.pilote.Fait(
             Dialogue,
-            [&](const QWidget &fenetre) {
+            [&](QWidget &fenetre) {
                 const auto controle = [&](const QString &nom) { return fenetre.findChild<QWidget *>(nom); };
+                QTest::keyClick(&fenetre, Qt::Key_Escape);
                 QCOMPARE(essai.ligne->accepte, 0);
                 QCOMPARE(controle(u"Label3"_s)->isVisible(), echo);
                 QVERIFY(Operateur::Lu("Label3").endsWith(echoLu));
@@ -244,6 +241,8 @@ void TestTransferts::EmissionMontree()
                 return Operateur::Lu("Label2") == statut &&
                        (echo || Operateur::Lu("Progression").startsWith(u"69 %  -  reste "));
             });
+        essai.pilote.Repond("Transfert en cours", "Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
+                            Operateur::Demande, QMessageBox::No);
         essai.pilote.Fait(
             Dialogue,
             [&](QWidget &) {
