@@ -17,14 +17,14 @@ public:
     // What the test sets
     std::optional<EtatsLigne> etats = EtatsLigne{true, true, true, false};
     CompteursLigne compteurs;
-    int accepte = 1'000'000;  ///< characters that the line still takes before it refuses
-    bool casse = false;       ///< and then it does not refuse: it is gone
-    int parAppel = 1'000'000; ///< most characters that one call takes
-    int nonEmis = 0;          ///< what the system says that it holds
-    bool immobile = false;    ///< a line that stands still: nonEmis grows by what is handed over
-    bool obeitXoff = true;    ///< the driver deals with XON/XOFF
-    int refusReglage = 0;     ///< number with which settings are refused, 0 takes them
-    bool sansVidage = false;  ///< what has come cannot be thrown away
+    int accepte = 1'000'000;    ///< characters that the line still takes before it refuses
+    bool casse = false;         ///< and then it does not refuse: it is gone
+    int parAppel = 1'000'000;   ///< most characters that one call takes
+    int nonEmis = 0;            ///< what the system says that it holds
+    bool immobile = false;      ///< a line that stands still: nonEmis grows by what is handed over
+    bool obeitXoff = true;      ///< the driver deals with XON/XOFF
+    int refusReglage = 0;       ///< number with which settings are refused, 0 takes them
+    int parLecture = 1'000'000; ///< most characters that one reading gives
 
     // What the control did
     QByteArray ecrits;
@@ -97,7 +97,7 @@ public:
     {
         ExigePresente();
         LectureLigne lecture;
-        lecture.octets = m_scenario->m_enRoute.left(tailleMax);
+        lecture.octets = m_scenario->m_enRoute.left(std::min(tailleMax, m_scenario->parLecture));
         m_scenario->m_enRoute.remove(0, lecture.octets.size());
         for (qsizetype &fausse : m_scenario->m_fausses) {
             if (fausse >= 0 && fausse < lecture.octets.size())
@@ -125,8 +125,6 @@ public:
     int NonEmis() override { return ++m_scenario->regards, m_scenario->nonEmis; }
     void JetteReception() override
     {
-        if (m_scenario->sansVidage)
-            return;
         m_scenario->m_enRoute.clear();
         m_scenario->m_fausses.clear();
     }

@@ -113,6 +113,7 @@ void MetConfigurationNeuve()
     for (QString *const libelle : {&p.LibDebProg, &p.LibFinLig, &p.LibFinTrans})
         libelle->clear();
     p.NbCarDebProg = p.NbCarFinLig = p.NbCarFinTrans = 0;
+    EtatConf().fiche = EtatConfiguration::EnAttente;
 }
 
 /// A cancelled choice is no failure.

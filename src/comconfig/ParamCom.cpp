@@ -9,6 +9,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <utility>
 
 ConfigurationCom ParamCom;
 QString FicConf;
@@ -78,8 +79,15 @@ QString LigneChaine(const QString &texte)
 
 } // namespace
 
+EtatConfiguration &EtatConf()
+{
+    static EtatConfiguration etat;
+    return etat;
+}
+
 void LireFichierPar(const QString &chemin)
 {
+    EtatConf().fiche = EtatConfiguration::Incomplete;
     LecteurChamps champs(LitFichierTexte(chemin));
     const auto tenus = qScopeGuard(TientNombres); // also when the reading breaks off
     for (const Champ &champ : Champs) {
@@ -92,6 +100,7 @@ void LireFichierPar(const QString &chemin)
         LisCodes(champs, chaine);
     ParamCom.FinLigRecep = champs.LigneEntier();
     ParamCom.TypeEnvoi = champs.LigneEntier();
+    EtatConf() = {EtatConfiguration::Entiere, true};
 }
 
 void EcrireFichierPar(const QString &chemin)
@@ -106,6 +115,7 @@ void EcrireFichierPar(const QString &chemin)
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
     EcritFichierTexte(chemin, texte);
+    EtatConf().fiche = EtatConfiguration::Entiere;
 }
 
 void BatirChaines()
@@ -144,6 +154,16 @@ bool FinTransfertPerdue()
     const QString chaine = CaracteresDe(ChaineTransfert);
     return ParamCom.TypeFinTrans == 0 ||
            (ParamCom.TypeFinTrans == autre && (chaine.contains(u'\x11') || chaine.contains(u'\x13')));
+}
+
+bool ChainesAJour()
+{
+    const QString transfert = ParamCom.ChaineFinTrans;
+    const QString ligne = ParamCom.ChaineFinLig;
+    BatirChaines();
+    const bool memeTransfert = std::exchange(ParamCom.ChaineFinTrans, transfert) == transfert;
+    const bool memeLigne = std::exchange(ParamCom.ChaineFinLig, ligne) == ligne;
+    return memeTransfert && memeLigne;
 }
 
 QString CaracteresDe(TypeChaine type)

@@ -54,6 +54,8 @@ struct ConfigurationCom
     // Derived by BatirChaines(), never stored.
     QString ChaineFinTrans; ///< characters that end a transfer
     QString ChaineFinLig;   ///< characters that end a line
+
+    bool operator==(const ConfigurationCom &) const = default;
 };
 
 /// The chains that the operator composes, in the order in which a file holds their codes.
@@ -81,6 +83,21 @@ extern ConfigurationCom ParamCom; ///< the one configuration in force
 extern QString FicConf;           ///< full path of its .par file; "" when there is none
 extern QString NomConf;           ///< that file's name without its folder
 
+/// Whether ParamCom holds one configuration, or pieces of several: a reading that breaks off takes nothing back.
+struct EtatConfiguration
+{
+    enum Fiche {
+        Incomplete, ///< nothing was read yet, or the last reading broke off
+        EnAttente,  ///< made or changed by the operator, neither applied nor saved
+        Entiere     ///< read or saved whole, or applied
+    };
+    Fiche fiche = Incomplete;
+    bool lue = false; ///< a configuration has been read whole since the program started
+};
+
+/// Kept by whatever changes ParamCom as a whole.
+EtatConfiguration &EtatConf();
+
 /// Reads the .par file at chemin into ParamCom. Raises what the file system, LecteurChamps and a count above 100
 /// (IndiceHorsPlage) raise; the fields ahead of the failure then hold the file's values and the others their former
 /// ones. The counts of the chains are held to 0 to 100 in any case.
@@ -95,6 +112,9 @@ void BatirChaines();
 
 /// True when XON/XOFF takes a character of the chosen end of transfer out of what is received: the end never arrives.
 bool FinTransfertPerdue();
+
+/// True when BatirChaines() would change nothing. Reading and saving a file do not rebuild them.
+bool ChainesAJour();
 
 /// The characters of a chain, whatever TypeFinLig and TypeFinTrans say.
 QString CaracteresDe(TypeChaine type);

@@ -119,6 +119,7 @@ Prop::Prop(QWidget *parent)
     BrancheAides(*this);
     Form_Load();
     Form_Activate();
+    m_validee = ParamCom;
 }
 
 void Prop::BrancheCommandes()
@@ -213,6 +214,9 @@ void Prop::cmdOK_Click()
         MontreDonnee(frmPrinc->Label4, NomConf);
     MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
     AppliqueResteAuPort();
+    m_validee = ParamCom;
+    if (EtatConf().fiche == EtatConfiguration::EnAttente)
+        EtatConf().fiche = EtatConfiguration::Entiere;
 }
 
 /// A number that the file cannot hold is refused before anything is taken. Giving the dialog up, and a file that cannot
@@ -232,10 +236,20 @@ void Prop::Command1_Click()
         FicConf = CommonDialog1->FileName;
         NomConf = CommonDialog1->FileTitle;
         EcrireFichierPar(FicConf);
+        m_validee = ParamCom;
         Nomme(NomConf);
         if (FinTransfertPerdue())
             MsgBox(Texte(FinPerdue), Boite::Exclamation, QString::fromUtf16(Programme));
     });
+}
+
+void Prop::done(int resultat)
+{
+    m_validee.DosRecep = ParamCom.DosRecep; // chosen at once, and in no way the machine's
+    const bool sue = ParamCom == m_validee && ChainesAJour();
+    if (!sue && EtatConf().fiche == EtatConfiguration::Entiere)
+        EtatConf().fiche = EtatConfiguration::EnAttente;
+    QDialog::done(resultat);
 }
 
 void Prop::MontreSaisieRefusee(QWidget *boite, const QString &raison)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "comconfig/ParamCom.h"
 #include "ui_Prop.h"
 
 #include <QDialog>
@@ -28,6 +29,10 @@ public:
     /// Only the folders and the editor can be reached.
     void LimiteAuxDossiers();
 
+    /// Closing, by whatever way, with choices in the record that were neither applied nor saved: the transfers are to
+    /// know of it.
+    void done(int resultat) override;
+
 protected:
     void changeEvent(QEvent *evenement) override;
 
@@ -44,4 +49,5 @@ private:
     void MontreSaisieRefusee(QWidget *boite, const QString &raison);
 
     CommonDialog *const CommonDialog1; ///< file dialog of Save As and of the editor
+    ConfigurationCom m_validee;        // the record when the dialog opened, or was last applied or saved
 };

@@ -26,6 +26,7 @@ constexpr Legende Em_Rc[] = {
     {"Picture1", Nom, u"Transfer", u"Transferencia"},
     {"Picture2", Nom, u"Presetting bench", u"Banco de reglaje previo"},
     {"Progression", Nom, u"Progress of the transfer", u"Avance de la transferencia"},
+    {"BilanSigne", Nom, u"Warning", u"Advertencia"},
 };
 
 constexpr Legende Rc_Fic[] = {

@@ -11,7 +11,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace {
@@ -29,24 +28,7 @@ constexpr Duree Jeu = 20ms;    // after that a line is taken to stand still
 
 constexpr int EvtEmission = 1;
 constexpr int EvtReception = 2;
-constexpr int EvtAnneau = 6;
-
-constexpr std::array<std::pair<unsigned CompteursLigne::*, int>, 8> EvtCompteurs = {{
-    {&CompteursLigne::cts, 3},
-    {&CompteursLigne::dsr, 4},
-    {&CompteursLigne::cd, 5},
-    {&CompteursLigne::pauses, 1001},
-    {&CompteursLigne::trame, 1004},
-    {&CompteursLigne::cadence, 1006},
-    {&CompteursLigne::debordements, 1008},
-    {&CompteursLigne::parite, 1009},
-}};
-
-constexpr std::array<std::pair<bool EtatsLigne::*, int>, 3> EvtEtats = {{
-    {&EtatsLigne::cts, 3},
-    {&EtatsLigne::dsr, 4},
-    {&EtatsLigne::cd, 5},
-}};
+constexpr int FileSysteme = 4096; // characters that the system keeps at most
 
 } // namespace
 
@@ -124,8 +106,7 @@ void MSComm::Ouvre()
 
     m_emission.Ouvre(*ligne, m_reglage);
     m_ligne = std::move(ligne);
-    m_etats = m_ligne->Etats();
-    m_compteurs = m_ligne->Compteurs();
+    m_veille.Ouvre(*m_ligne);
     SuitMachine();
     m_lecture = std::make_unique<QSocketNotifier>(m_ligne->Descripteur(), QSocketNotifier::Read);
     connect(m_lecture.get(), &QSocketNotifier::activated, this, &MSComm::Recolte);
@@ -141,6 +122,8 @@ void MSComm::Ferme()
     const bool vivante = !m_panne;
     const bool abandon = vivante && (m_emission.Nombre() > 0 || m_emission.Retenue());
     const CadenceEmission cadence = m_emission.Cadence();
+    m_veille.Regarde(*m_ligne);       // the last errors are counted
+    m_ajoutes -= m_emission.Nombre(); // these never went
     // From here on the port is closed for everyone who runs while the line empties.
     const std::unique_ptr<LigneSerie> ligne = std::move(m_ligne);
     m_emission.Ferme();
@@ -149,7 +132,7 @@ void MSComm::Ferme()
     m_evenements.Oublie();
     m_panne.reset();
     m_recus.clear();
-    m_etats.reset();
+    m_veille.Oublie();
     if (!vivante)
         return;
 
@@ -197,9 +180,10 @@ void MSComm::Panne(const Erreur &erreur)
 {
     m_panne = erreur;
     m_lecture->setEnabled(false);
+    m_ajoutes -= m_emission.Nombre();
     m_emission.Arrete();
     m_surveillance.stop();
-    m_etats.reset();
+    m_veille.Oublie();
     SignaleMouvement();
 }
 
@@ -337,7 +321,8 @@ void MSComm::FreineMachine()
     }
 }
 
-void MSComm::Range(const LectureLigne &lecture)
+/// The characters of a reading as the program is to have them.
+QByteArray MSComm::Epure(const LectureLigne &lecture)
 {
     QByteArray octets = lecture.octets;
     const QByteArray remplacant = OctetsEn1252(m_parityReplace.left(1));
@@ -347,6 +332,14 @@ void MSComm::Range(const LectureLigne &lecture)
     }
     if (m_nullDiscard)
         octets.removeIf([](char octet) { return octet == '\0'; });
+    if (!octets.isEmpty())
+        m_veille.NoteReception(octets.size());
+    return octets;
+}
+
+void MSComm::Range(const LectureLigne &lecture)
+{
+    const QByteArray octets = Epure(lecture);
     if (octets.isEmpty())
         return;
     m_recus += octets;
@@ -400,15 +393,16 @@ int MSComm::InBufferCount() const
     return static_cast<int>(m_recus.size());
 }
 
-void MSComm::ViderReception()
+/// What the system holds is read, so that it is known what goes, and an XON among it is heard.
+QString MSComm::ViderReception()
 {
     ExigeVivant();
-    m_recus.clear();
-    if (m_xonXoff.Actif())
-        Releve(FluxXonXoff::Reserve); // an XON may be on its way among the rest
-    else
-        m_ligne->JetteReception();
+    const LectureLigne lecture = Releve(FileSysteme);
+    const QByteArray jetes = std::exchange(m_recus, {}) + Epure(lecture);
+    if (lecture.erreur)
+        Surveille();
     ReprendRecolte();
+    return TexteDe1252(jetes);
 }
 
 // ---- Sending
@@ -423,6 +417,7 @@ void MSComm::Output(const QString &texte)
 {
     ExigeVivant();
     m_emission.Ajoute(OctetsEn1252(texte));
+    m_ajoutes += texte.size();
 }
 
 int MSComm::OutBufferCount() const
@@ -447,40 +442,39 @@ void MSComm::ViderEmission()
     const CadenceEmission &cadence = m_emission.Cadence();
     const int nombre = std::min(m_emission.Nombre(), ChaineMax) + cadence.Avance();
     Attend(cadence.Temps(nombre) + Jeu, termine);
-    if (m_ligne && !m_panne && m_emission.Nombre() > 0)
-        m_emission.Jette();
+    if (!m_ligne || m_panne || m_emission.Nombre() == 0)
+        return;
+    m_ajoutes -= m_emission.Nombre();
+    m_emission.Jette();
 }
 
 // ---- Line states and errors
 
+void MSComm::RemetComptes()
+{
+    m_veille.RemetComptes();
+    m_ajoutes = m_emission.Nombre();
+}
+
+ComptesPort MSComm::Comptes() const
+{
+    ComptesPort comptes = m_veille.Comptes();
+    comptes.emis = m_ajoutes - m_emission.Nombre();
+    return comptes;
+}
+
 void MSComm::Surveille()
 {
-    const std::optional<EtatsLigne> etats = m_ligne->Etats();
-    const EtatsLigne avant = m_etats.value_or(EtatsLigne());
-    const EtatsLigne apres = etats.value_or(EtatsLigne());
-    const CompteursLigne compteurs = m_ligne->Compteurs();
-
-    for (const auto &[champ, code] : EvtEtats) {
-        if (apres.*champ != avant.*champ)
-            m_evenements.Annonce(code);
-    }
-    for (const auto &[champ, code] : EvtCompteurs) {
-        if (compteurs.*champ != m_compteurs.*champ)
-            m_evenements.Annonce(code);
-    }
-    // A ring is one event, though the driver counts its end.
-    if (!avant.anneau && (apres.anneau || compteurs.anneau != m_compteurs.anneau))
-        m_evenements.Annonce(EvtAnneau);
-
-    m_etats = etats;
-    m_compteurs = compteurs;
+    const QList<int> codes = m_veille.Regarde(*m_ligne);
+    for (const int code : codes)
+        m_evenements.Annonce(code);
     SuitMachine();
     FreineMachine();
 }
 
 void MSComm::SuitMachine()
 {
-    m_emission.Retient(m_xonXoff.Retenue() || (m_reglage.ARtsCts() && m_etats && !m_etats->cts));
+    m_emission.Retient(m_xonXoff.Retenue() || (m_reglage.ARtsCts() && Etats() && !Etats()->cts));
 }
 
 void MSComm::Delivre()

@@ -5,6 +5,7 @@
 #include "platform/EvenementsPort.h"
 #include "platform/FluxXonXoff.h"
 #include "platform/LigneSerie.h"
+#include "platform/VeilleLigne.h"
 
 #include <QByteArray>
 #include <QSocketNotifier>
@@ -164,9 +165,9 @@ public:
     bool DTREnable() const { return m_dtr; }
     void setDTREnable(bool actif);
     /// State of the machine's lines; False while the port is closed.
-    bool CTSHolding() const { return m_etats && m_etats->cts; }
-    bool DSRHolding() const { return m_etats && m_etats->dsr; }
-    bool CDHolding() const { return m_etats && m_etats->cd; }
+    bool CTSHolding() const { return Etats() && Etats()->cts; }
+    bool DSRHolding() const { return Etats() && Etats()->dsr; }
+    bool CDHolding() const { return Etats() && Etats()->cd; }
 
     /// Size of the receive buffer in characters; the usual 1024 stands in for 0 and below.
     /// Raises ErreurPort::DejaOuvert for another size while the port is open.
@@ -194,6 +195,11 @@ public:
     int SThreshold() const { return m_sThreshold; }
     void setSThreshold(int seuil);
 
+    /// The counts of a transfer; they stay when the port closes. RemetComptes begins them anew, with the port open or
+    /// closed.
+    ComptesPort Comptes() const;
+    void RemetComptes();
+
     // The following raise ErreurPort::Ferme on a closed port, and Lecture once the device has gone.
 
     /// Does nothing else.
@@ -202,8 +208,8 @@ public:
     /// Takes the characters that wait out of the receive buffer, at most InputLen.
     QString Input();
     int InBufferCount() const;
-    /// Throws away what the control and the system have received.
-    void ViderReception();
+    /// Throws away what the control and the system have received, and gives it back to whoever wants to know.
+    QString ViderReception();
     /// Queues texte for sending, whatever its length.
     void Output(const QString &texte);
     /// Characters that have not gone to the line yet.
@@ -237,6 +243,7 @@ Q_SIGNALS:
     void OnComm();
 
 private:
+    const std::optional<EtatsLigne> &Etats() const { return m_veille.Etats(); }
     std::unique_ptr<LigneSerie> OuvreLigne() const;
     void Ouvre();
     void Ferme();
@@ -250,6 +257,7 @@ private:
     int PlaceReception() const;
     void Recolte();
     LectureLigne Releve(int place);
+    QByteArray Epure(const LectureLigne &lecture);
     void FreineMachine();
     void Range(const LectureLigne &lecture);
     void ReprendRecolte();
@@ -277,11 +285,11 @@ private:
     std::unique_ptr<LigneSerie> m_ligne;
     std::optional<Erreur> m_panne; // the device has gone
     std::unique_ptr<QSocketNotifier> m_lecture;
-    std::optional<EtatsLigne> m_etats;
-    CompteursLigne m_compteurs;
+    VeilleLigne m_veille;
     QTimer m_surveillance;
     EmissionPort m_emission;
     FluxXonXoff m_xonXoff;
     EvenementsPort m_evenements;
     QByteArray m_recus;
+    qint64 m_ajoutes = 0; // characters given to Output and not thrown away, since the counts began
 };

@@ -187,7 +187,8 @@ void OpenFile(const QString &path)
     NomFichier = path;
     TitreFichier = NomSeul(path);
     TitreFenetre(NomFichier);
-    frmPrinc->ActiveEmission(!FicConf.isEmpty() && !NomFichier.isEmpty());
+    // FicConf names also a default configuration that is missing or cut.
+    frmPrinc->ActiveEmission(EtatConf().lue && !FicConf.isEmpty() && !NomFichier.isEmpty());
     frmPrinc->ActiveFichier(true);
     MontreDonnee(frmPrinc->Label2, TitreFichier);
     frmPrinc->Text1->show();

@@ -12,6 +12,8 @@
 #include "platform/MSComm.h"
 #include "platform/UnClic.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/Apercu.h"
+#include "transfer/Bilan.h"
 #include "transfer/Confirmation.h"
 #include "transfer/Emission.h"
 #include "transfer/FichierRecu.h"
@@ -24,6 +26,7 @@
 
 #include <QKeyEvent>
 #include <QShowEvent>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -116,7 +119,8 @@ Em_Rc::Em_Rc(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    GardePlaces({Progression, Label3, Label4, Frame2}); // lines above the buttons
+    GardePlaces({Progression, Label3, Label4, Frame2, BilanSigne}); // lines above the buttons
+    PrepareBilan();
     UnClic(Command2); // a short program has gone between the two strokes of a double click
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
@@ -151,7 +155,23 @@ void Em_Rc::Form_Activate()
     Label1->clear();
     Label2->clear();
     MontreConfigurationChoisie();
+    MontreApercu(*this);
     MontreMode();
+}
+
+/// Room for what most transfers have to say, so that nothing moves; and the errors of the line as they come, which the
+/// main window shows only for a moment.
+void Em_Rc::PrepareBilan()
+{
+    constexpr int lignes = 3;
+    Bilan->setMinimumHeight(lignes * Bilan->fontMetrics().lineSpacing());
+    const int cote = 3 * Bilan->fontMetrics().height() / 2;
+    BilanSigne->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(cote, cote));
+    connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [this] {
+        constexpr int premiereFaute = 1001; // the events from here on are errors
+        if (TransfertEnCours() && frmPrinc->MSComm1->CommEvent() >= premiereFaute)
+            MontreFautes(*this);
+    });
 }
 
 void Em_Rc::MontreMode()
@@ -183,10 +203,11 @@ void Em_Rc::CommenceReception()
 {
     const EnTransfert enTransfert;
     setFocus(); // or the button that cancels would have it when the box closes, and a second stroke would press it
-    if (!ConfirmeTransfert(TypeTransfert)) {
+    if (!ConfirmeTransfert(TypeTransfert) || !ConfirmeApercu(*this)) {
         reject();
         return;
     }
+    DebuteBilan();
     if (TypeTransfert == ReceptionBanc) {
         RoutineBanc(*this);
         return;
@@ -213,7 +234,10 @@ void Em_Rc::Command1_Click()
 
 void Em_Rc::Command2_Click()
 {
+    if (!ConfirmeApercu(*this))
+        return;
     const EnTransfert enTransfert;
+    DebuteBilan();
     // A second click would start a second sending inside the first. The focus of a button that is disabled would pass
     // to the cancel button, where a second stroke of the space bar would end the sending.
     setFocus();
@@ -233,6 +257,7 @@ void Em_Rc::Command3_Click()
         MontreConfigurationChoisie();
         ChoisitFinLigneRecep();
     });
+    MontreApercu(*this); // a file that breaks off has changed the configuration too
 }
 
 void Em_Rc::Command5_Click()

@@ -8,7 +8,8 @@
 /// and shows it.
 ///
 /// Label1: what to do at the machine; Label2: status; Label3: echo of the line, Label4: echo of the character; Label5:
-/// current configuration. Command1: cancel; Command2: start the sending; Command3: other configuration; Command4 to
+/// current configuration; Bilan: what will go out, then what has passed and what was lost, with BilanSigne beside a
+/// warning. Command1: cancel; Command2: start the sending; Command3: other configuration; Command4 to
 /// Command6: bench (cancel, next gauge, end); Command7: force the end of a reception.
 class Em_Rc : public QDialog, public Ui::Em_Rc
 {
@@ -39,6 +40,7 @@ private:
     void Command7_Click();
     void Form_Unload();
 
+    void PrepareBilan();
     void MontreMode();
     /// Asks for confirmation and runs the reception; returns when the routine returns, perhaps long after the dialog
     /// has been closed.

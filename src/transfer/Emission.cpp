@@ -10,6 +10,7 @@
 #include "platform/Nombres.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Avancement.h"
+#include "transfer/Bilan.h"
 #include "transfer/PortCom.h"
 #include "transfer/RythmeAffichage.h"
 #include "ui_Em_Rc.h"
@@ -235,6 +236,13 @@ void Termine(Ui::Em_Rc &dialogue)
 {
     FermePortCOM(dialogue);
     PoseTexte(dialogue.Label2, Succes);
+    MontreBilan(dialogue, Issue::Emis);
+}
+
+void Echoue(const Erreur &erreur, Ui::Em_Rc &dialogue)
+{
+    MontreBilan(dialogue, Issue::EmissionRompue); // ahead of the box, for whose time nothing is sent
+    ErreurPortCOM(erreur, dialogue);
 }
 
 } // namespace
@@ -252,7 +260,7 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
         emission.Fin();
         Termine(dialogue);
     } catch (const Erreur &erreur) {
-        ErreurPortCOM(erreur, dialogue);
+        Echoue(erreur, dialogue);
     }
 }
 
@@ -267,6 +275,11 @@ void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue)
         emission.Fin();
         Termine(dialogue);
     } catch (const Erreur &erreur) {
-        ErreurPortCOM(erreur, dialogue);
+        Echoue(erreur, dialogue);
     }
+}
+
+bool DepasseTable(const QString &texte)
+{
+    return texte.count(QLatin1String("\r\n")) >= CapaciteLignes;
 }

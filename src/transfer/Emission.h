@@ -1,5 +1,6 @@
 #pragma once
 
+class QString;
 namespace Ui {
 class Em_Rc;
 }
@@ -17,3 +18,6 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue);
 /// Sends the text line by line, each line closed by ChaineFinLig. A line keeps its own CR ahead of that; its LF does
 /// not go out.
 void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue);
+
+/// True when texte has more lines than EnvoiFich_Lig_Lig() takes. It would send so many lines as the last text had.
+bool DepasseTable(const QString &texte);

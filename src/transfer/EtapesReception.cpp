@@ -4,6 +4,7 @@
 #include "locale/Legendes.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/Bilan.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/Transfert.h"
@@ -51,6 +52,7 @@ void AcheveReception(Ui::Em_Rc &dialogue)
 
 void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu)
 {
+    MontreBilan(dialogue, Issue::ReceptionRompue);
     ErreurPortCOM(erreur, dialogue);
     SauveAilleurs(recu);
 }

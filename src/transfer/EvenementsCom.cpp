@@ -5,6 +5,7 @@
 #include "platform/Erreur.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/Bilan.h"
 #include "transfer/ReceptionFichier.h"
 #include "transfer/Transfert.h"
 
@@ -106,6 +107,6 @@ void MSComm1_OnComm()
         RecolteFichier();
     }
     if (code == EvtDebordement)
-        Saute([] { frmPrinc->MSComm1->ViderReception(); });
+        Saute([] { NotePerte(Perte::Debordement, frmPrinc->MSComm1->ViderReception()); });
     Annonce(LigneDe(code));
 }

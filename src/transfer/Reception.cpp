@@ -9,6 +9,7 @@
 #include "platform/MSComm.h"
 #include "platform/Nombres.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/Bilan.h"
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
@@ -102,13 +103,17 @@ bool Remplissage::EchoSuperflu()
 
 void Remplissage::Termine()
 {
-    Controle().ViderReception();
+    const QString reste = Controle().ViderReception();
+    if (ForceRECEPT == 1) // else it stands behind the end
+        NotePerte(Perte::Jetes, reste);
+    NotePerte(Perte::SansFin, Ligne);
     FinTransfert = 1;
     NbLignes = m_compteur;
     RendFinTransfert(m_dialogue);
     AcheveReception(m_dialogue);
     Ligne.clear();
     EcritFichierRecu(Recu());
+    MontreBilan(m_dialogue, Issue::Recu);
     OuvreFichierRecu();
     if (FinTransfert == 1)
         BoutonFermer(*m_dialogue.Command1);
@@ -182,7 +187,7 @@ void EmplitParCaractere(Remplissage &table)
             table.Range();
             table.MontreFinLigne(FinLigneCar);
             table.Suivante();
-            Controle().ViderReception();
+            NotePerte(Perte::Jetes, Controle().ViderReception());
         }
         const bool fini = car == ParamCom.ChaineFinTrans;
         if (!fini) {
@@ -209,6 +214,15 @@ void AttendLigne(QString &recu)
              ForceRECEPT != 1);
 }
 
+/// What is cut is a line end only where it was not the end of transfer behind a line that ended the wait.
+void RetireFinLigne(QString &recu)
+{
+    const QString coupe = recu.right(ParamCom.ChaineFinLig.size());
+    recu.chop(coupe.size());
+    if (coupe != ParamCom.ChaineFinLig)
+        NotePerte(Perte::SansFin, coupe);
+}
+
 void EmplitParLigne(Remplissage &table)
 {
     QString &recu = table.Ligne; // what was read since the last line
@@ -226,9 +240,9 @@ void EmplitParLigne(Remplissage &table)
         }
         if (recu.isEmpty())
             continue;
-        recu.chop(ParamCom.ChaineFinLig.size());
+        RetireFinLigne(recu);
         table.Range(ChaineFinLigRecep);
-        Controle().ViderReception();
+        NotePerte(Perte::Jetes, Controle().ViderReception());
         table.Suivante();
         table.MontreFinLigne(FinLigneLigne);
     }

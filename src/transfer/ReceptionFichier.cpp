@@ -10,6 +10,7 @@
 #include "platform/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "transfer/Bilan.h"
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
@@ -168,6 +169,7 @@ void TermineFichier(Ui::Em_Rc &dialogue)
         EchoueReception(erreur, dialogue, frmPrinc->Text1->Text());
         return;
     }
+    MontreBilan(dialogue, Issue::Recu);
     TitreFenetre(NomFicRecep);
     MontreDonnee(frmPrinc->Label2, NomFicRecep);
     FichierModifie = 0;

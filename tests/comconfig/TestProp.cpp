@@ -238,6 +238,41 @@ private Q_SLOTS:
         QVERIFY(banc.Lit("Dorvanel.CFG").endsWith("\r\n\"" + editeur.toUtf8() + "\"\r\n"));
     }
 
+    // What the transfers are told of the record that a closed dialog leaves: a choice that was neither applied nor
+    // saved is no configuration yet, nor is a saved one whose ends of line and of transfer are still the former ones. A
+    // file that broke off has to be saved.
+    void Fermee()
+    {
+        using E = EtatConfiguration;
+        constexpr const char *rien = nullptr, *flux = "optFlow_3", *fin = "OptFinLig_1";
+        for (const auto &[avant, option, applique, enregistre, apres] :
+             {std::tuple{E::Entiere, rien, false, false, E::Entiere},
+              {E::Entiere, flux, false, false, E::EnAttente},
+              {E::Entiere, flux, true, false, E::Entiere},
+              {E::Entiere, flux, false, true, E::Entiere},
+              {E::Entiere, fin, false, true, E::EnAttente},
+              {E::EnAttente, rien, false, false, E::EnAttente},
+              {E::EnAttente, rien, true, false, E::Entiere},
+              {E::Incomplete, flux, true, false, E::Incomplete},
+              {E::Incomplete, rien, false, true, E::Entiere}}) {
+            Banc banc;
+            ParamCom.BitsArret = u"1"_s; // which go with 8 data bits
+            BatirChaines();
+            EtatConf().fiche = avant;
+            const Prop prop(frmPrinc);
+            if (option != nullptr)
+                Bouton(prop, QLatin1String(option))->click();
+            if (applique)
+                prop.cmdOK->click();
+            if (enregistre) {
+                banc.Choisit(banc.Chemin("Tour.par"));
+                prop.Command1->click();
+            }
+            prop.cmdCancel->click();
+            QCOMPARE(EtatConf().fiche, apres);
+        }
+    }
+
     // A configuration to modify: a saving without a change gives it back byte for byte, also where no list has its
     // value, or no box takes as many digits. One that breaks off is told, opened, saved again and whole.
     void Modifie()

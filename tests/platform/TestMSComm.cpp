@@ -105,8 +105,10 @@ private Q_SLOTS:
         m_scenario->Envoie("N10 G0");
         QTRY_COMPARE(m_port->InBufferCount(), 6);
         m_scenario->Envoie("N20");
-        m_port->ViderReception();
+        QCOMPARE(m_port->ViderReception(), QStringLiteral("N10 G0N20"));
         QCOMPARE(m_port->InBufferCount() + m_scenario->EnAttente(), 0);
+        QCOMPARE(m_port->Comptes().recus, 9);
+        m_port->RemetComptes();
         m_scenario->Envoie(TousLesOctets(), {1});
         QCOMPARE(LitTout(256), TexteDe1252(TousLesOctets()));
         m_port->setParityReplace(QStringLiteral("é!"));
@@ -116,6 +118,7 @@ private Q_SLOTS:
         m_scenario->Envoie(QByteArray("\0a\0\0b\0", 6));
         QCOMPARE(LitTout(2), QStringLiteral("ab"));
         QCOMPARE(m_port->InBufferCount(), 0);
+        QCOMPARE(m_port->Comptes().recus, 256 + 4 + 2);
     }
 
     // What the buffer has no room for stays with the system, and nothing is lost.
@@ -217,6 +220,12 @@ private Q_SLOTS:
             m_scenario->etats->anneau = false; // the end of a ring is no event
             ++m_scenario->compteurs.trame;
             QTRY_COMPARE(m_codes, QList<int>({code, 1004}));
+            m_scenario->compteurs.trame += 2; // no event tells of these any more
+            m_port->setPortOpen(false);
+            QCOMPARE(m_port->Comptes().fautes.trame, 3u);
+            QCOMPARE(m_port->Comptes().fautes.parite, code == 1009 ? 1u : 0u);
+            m_port->RemetComptes();
+            QCOMPARE(m_port->Comptes().fautes.trame, 0u);
         }
     }
 
@@ -256,6 +265,7 @@ private Q_SLOTS:
             m_port->Output(texte.left(taille / 3));
             m_port->Output(texte.mid(taille / 3));
             QTRY_COMPARE(m_port->OutBufferCount(), taille - 40);
+            QCOMPARE(m_port->Comptes().emis, 40);
             const int essais = m_scenario->essais;
             QTRY_VERIFY(m_scenario->essais >= essais + 3); // tried again though nothing wakes it
             m_scenario->accepte = 1'000'000;
@@ -289,6 +299,7 @@ private Q_SLOTS:
         QCOMPARE(m_port->OutBufferCount(), 500 - AvanceA9600);
         m_port->ViderEmission(); // it is held: nothing gets any time
         QCOMPARE(m_scenario->ecrits.size(), AvanceA9600);
+        QCOMPARE(m_port->Comptes().emis, AvanceA9600);
         QCOMPARE(m_scenario->jetsEmission, 1);
     }
 

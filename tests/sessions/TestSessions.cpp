@@ -24,6 +24,7 @@ private Q_SLOTS:
     void CommandeInconnue();
     void BancTour();
     void XoffPerdu();
+    void SansPause();
 };
 
 namespace {
@@ -173,6 +174,41 @@ void TestSessions::XoffPerdu()
     QCOMPARE(envoie(rapide), 0);
     QVERIFY(rapide.Attend([](const EtatMachine &etat) { return etat.Programmes == 1; }));
     QCOMPARE(rapide.Programmes()[0].Brut, charge.attendu);
+}
+
+// A machine that sends without a pause, 18,886 characters, to the receptions that empty the port at each line end: what
+// they threw away is told, and every character is accounted for. By file nothing is lost.
+void TestSessions::SansPause()
+{
+    QByteArray programme;
+    for (int bloc = 1; programme.size() < 18886; ++bloc)
+        programme += "N" + QByteArray::number(bloc) + " G1 X" + QByteArray::number(bloc * 7) + " Y-12.5 F200\r\n";
+    programme.truncate(18886);
+    MachineSimulee machine({{1'000'000, 20}, {}, {}, "\x04", true}); // faster than a character a turn
+    const Poste poste(0);
+    Pilote pilote(poste);
+    poste.Relie(2, machine.Chemin());
+    for (const Genre genre : {Genre::Ligne, Genre::Caractere, Genre::Fichier}) {
+        pilote.Regle(genre);
+        bool emis = false, force = false;
+        const auto joue = pilote.Joue(genre, {}, [&](const QDialog &transfert) {
+            if (PortOuvert && !std::exchange(emis, true))
+                machine.Emet({programme});
+            const EtatEnvoi envoi = machine.Etat().Envoi;
+            const bool tout = frmPrinc->MSComm1->Comptes().recus == programme.size() + 1;
+            if (genre != Genre::Fichier && tout && !envoi.EnCours && !std::exchange(force, true))
+                Operateur::Presse(transfert, "Command7");
+        });
+        const QByteArray recu = poste.Lit("PIECE.ISO").chopped(2);
+        qint64 perdus = 0;
+        for (const QString &perte : joue.bilan.section(u'\n', 1).section(u" : "_s, 0, 0).split(u", "_s))
+            perdus += QString(perte.section(u' ', 0, 0)).remove(QChar(0x202F)).toInt();
+        QCOMPARE(joue.bilan.section(u" en "_s, 0, 0), u"18\u202F887 caractères reçus"_s);
+        QVERIFY(genre == Genre::Fichier ? recu == programme : genre == Genre::Ligne || perdus > 1000);
+        // A line end that was cut in two is whole again in the file.
+        const qsizetype ecart = recu.size() + perdus - programme.size();
+        QVERIFY2(ecart >= 0 && ecart <= recu.count('\n'), qPrintable(QString::number(ecart)));
+    }
 }
 
 QTEST_MAIN(TestSessions)

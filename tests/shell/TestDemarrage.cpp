@@ -160,7 +160,10 @@ private Q_SLOTS:
             etabli.Ecrit(Ini, " 0 \r\n\"\"\r\n 1 \r\n\"" + chemin.toLatin1() + "\"\r\n 0 \r\n\r\n 1 \r\n");
             etabli.Demarre();
             QCOMPARE(FicConf, chemin);
-            QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Bouton(13)->isEnabled());
+            OuvreDocument(etabli.Ecrit("P.iso", "G0"));
+            for (const int bouton : {9, 10, 11, 12, 13})
+                QVERIFY(!frmPrinc->Bouton(bouton)->isEnabled());
+            QVERIFY(!Operateur::Offre("Mnu_RecepProg") && !Operateur::Offre("Mnu_EmisProgCN"));
             QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), u"NoneNone"_s);
         }
     }

@@ -41,15 +41,15 @@ QByteArray Venu(const EssaiTransfert &essai, qsizetype nombre)
 
 /// A transfer that the plug or the operator cuts short once that many characters have crossed the line. At the very end
 /// of a reception it is the answer that finds the line gone.
-QStringList Coupe(EssaiTransfert &essai, bool debranche, qsizetype position)
+Pilote::Deroulement Coupe(EssaiTransfert &essai, bool debranche, qsizetype position)
 {
     essai.ligne = std::make_shared<Scenario>();
     const bool reponse = !EstEmission(essai.genre) && position == essai.Envoye().size();
     essai.ligne->accepte = reponse ? 0 : EstEmission(essai.genre) ? int(position) : 1'000'000;
     essai.ligne->casse = debranche;
     if (debranche && essai.ligne->accepte <= position)
-        return Titres(essai.Joue());
-    return Titres(essai.Joue(position, [&](QDialog &transfert) {
+        return essai.Joue();
+    return essai.Joue(position, [&](QDialog &transfert) {
         if (debranche && position % 2 == 1 && essai.genre != Genre::Banc) {
             // while he is asked whether to force the end
             essai.pilote.Fait("MsgBox", [&essai, position](QWidget &boite) {
@@ -64,7 +64,7 @@ QStringList Coupe(EssaiTransfert &essai, bool debranche, qsizetype position)
         else
             transfert.close();
         return true;
-    }));
+    });
 }
 
 } // namespace
@@ -113,7 +113,8 @@ void TestPannes::Coupures()
                 break; // it is over
             essai.poste.Ecrit("PIECE.ISO", "ANCIEN");
             const QString volet = emission ? QString::fromLatin1(essai.charge.texte) : frmPrinc->Text1->Text();
-            const QStringList dits = Coupe(essai, debranche, position);
+            const Pilote::Deroulement joue = Coupe(essai, debranche, position);
+            const QStringList dits = Titres(joue);
             const QByteArray venu = Venu(essai, position);
             QStringList attendus;
             if (debranche)
@@ -123,6 +124,9 @@ void TestPannes::Coupures()
                 attendus = {emission ? ErreurN(8018) : AnnuleDite};
             QCOMPARE(dits, attendus);
             QCOMPARE(frmPrinc->Text1->Text(), volet);
+            if (emission && debranche)
+                QVERIFY2(joue.bilan.startsWith(u"Emission interrompue ! %1 caractère"_s.arg(position)),
+                         qPrintable(joue.bilan));
             if (emission)
                 QCOMPARE(essai.ligne->ecrits, essai.charge.attendu.left(position));
             else if (banc)
@@ -175,6 +179,8 @@ void TestPannes::PortPris()
             return true;
         }));
         QStringList attendus{ErreurN(refus)};
+        if (vide && EstEmission(essai.genre))
+            attendus.prepend(u"Emission d'un programme CN"_s); // asked once more
         if (essai.genre == Genre::LigneParLigne || (essai.genre == Genre::FichierEntier && !vide))
             attendus << ErreurN(8018);
         else if (essai.genre == Genre::Fichier)
@@ -193,11 +199,13 @@ void TestPannes::LigneFautive()
     EssaiTransfert essai(Genres[rang]);
     QList<int> evenements;
     connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [&] { evenements << frmPrinc->MSComm1->CommEvent(); });
-    for (const auto &[code, compteur] : {std::pair{1009, &CompteursLigne::parite},
-                                         {1004, &CompteursLigne::trame},
-                                         {1001, &CompteursLigne::pauses},
-                                         {1006, &CompteursLigne::cadence},
-                                         {1008, &CompteursLigne::debordements}}) {
+    for (const auto &[code, compteur, nom] :
+         {std::tuple{1009, &CompteursLigne::parite, u"erreurs de parité : vérifier la vitesse"_s},
+          {1004, &CompteursLigne::trame, u"erreurs de cadrage : "_s},
+          {1001, &CompteursLigne::pauses, u"interruptions de la ligne : "_s},
+          {1006, &CompteursLigne::cadence, u"caractères perdus par le port : régler"_s},
+          {1008, &CompteursLigne::debordements,
+           u"caractères perdus par le PC, %1 caractères jetés avec eux : régler"_s}}) {
         QByteArray file;
         qsizetype fautes = 0;
         evenements.clear();
@@ -224,6 +232,8 @@ void TestPannes::LigneFautive()
         QCOMPARE(Titres(deroulement), QStringList());
         QCOMPARE(essai.Disque(), essai.charge.attendu);
         QVERIFY(fautes >= 5);
+        if (essai.genre != Genre::Banc) // whose dialog closes by itself
+            QVERIFY2(deroulement.bilan.contains((u"\n%1 "_s + nom).arg(fautes)), qPrintable(deroulement.bilan));
     }
 }
 
@@ -299,6 +309,7 @@ void TestPannes::Disque()
             QVERIFY(!deroulement.avis.isEmpty() && deroulement.avis[0].titre.startsWith(u"Erreur N°: "_s));
             if (genre != Genre::Banc || cible) { // a bench knows before the first tool
                 QCOMPARE(deroulement.avis.size(), 2);
+                QVERIFY(genre == Genre::Banc || deroulement.bilan.startsWith(u"PIECE.ISO n'est pas enregistré !"_s));
                 QCOMPARE(essai.poste.Lit("sauve.txt"),
                          genre == Genre::Banc ? essai.charge.pieces[0] + "\r\n" : Venu(essai, essai.Envoye().size()));
             }

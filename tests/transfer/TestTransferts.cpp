@@ -4,6 +4,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "gauges/Lignes.h"
+#include "locale/Langue.h"
 #include "shell/Document.h"
 
 #include <QApplication>
@@ -17,6 +18,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr char Dialogue[] = "Em_Rc";
+const QString EnMorceaux =
+    u"Incomplete configuration: load or save it again. Port used: Com3, speed: 115200."_s; // of a file of two lines
+const QString QuandMeme = u"\rContinuer quand même ?"_s;
 
 /// A line at a time, as the receptions by line and by character ask for.
 QByteArrayList ParLignes(const QByteArray &programme)
@@ -40,7 +44,9 @@ class TestTransferts : public QObject
 
 private Q_SLOTS:
     void Annonce();
+    void Apercus();
     void AutreConfiguration();
+    void Bilans();
     void DialogueReception();
     void Emissions();
     void EmissionMontree();
@@ -86,6 +92,93 @@ void TestTransferts::Annonce()
     QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
 }
 
+// What will go out stands in the dialog, in words for the operator; nothing to be read is a warning, and asked about
+// once more, with the text that the pane holds then.
+void TestTransferts::Apercus()
+{
+    EssaiTransfert essai(Genre::FichierEntier);
+    const QByteArray longue = QByteArray(300, 'X') + "\n";
+    // language, text, what the line says, whether that is a warning
+    const std::tuple<int, QByteArray, QString, bool> cas[] = {
+        {0, " \r\n%2010 (PLATINE)\tA\r\nN10\n", u"%2010 (PLATINE)<HT>A : 3 lignes, 26 caractères"_s, false},
+        {1, "\r\rO1", u"O1: 3 lines, 4 characters"_s, false},
+        {1, "A", u"A: 1 line, 1 character"_s, false},
+        {0, longue.repeated(50), u"… : 50 lignes, 15\u202F050 caractères"_s, false},
+        {2, longue.repeated(50), u"…: 50 líneas, 15.050 caracteres"_s, false},
+        {0, "", u"Le texte à envoyer est vide : 0 ligne, 0 caractère."_s, true},
+        {1, "\r\n \x7f\r\n", u"The text to be sent is empty: 2 lines, 6 characters."_s, true}};
+    for (const auto &[langue, texte, attendu, alerte] : cas) {
+        LangIndex = langue;
+        essai.charge.texte = texte;
+        essai.pilote.Fait(Dialogue, [&](const QWidget &fenetre) {
+            const QString lu = Operateur::Lu("Bilan");
+            QVERIFY2(lu.endsWith(attendu) && lu.size() < 100, qPrintable(lu));
+            QCOMPARE(fenetre.findChild<QWidget *>(u"BilanSigne"_s)->isVisible(), alerte);
+            if (alerte)
+                frmPrinc->Text1->setText(u"N10"_s); // it is no more what it was
+        });
+        QCOMPARE(essai.Joue().avis.size(), 0);
+        QCOMPARE(essai.ligne->ecrits, (alerte ? "N10" : texte) + FinTrans);
+        essai.ligne->ecrits.clear();
+    }
+    LangIndex = 0;
+    essai.ligne = std::make_shared<Scenario>();
+    essai.charge.texte = "A";
+    essai.pilote.Fait(Dialogue, [](const QWidget &fenetre) {
+        frmPrinc->Text1->setText(QString());
+        Operateur::Presse(fenetre, "Command2");
+    });
+    essai.pilote.Repond("Emission d'un programme CN",
+                        u"Le texte à envoyer est vide : 0 ligne, 0 caractère."_s + QuandMeme,
+                        Operateur::DemandeSimple | Boite::SecondBouton, QMessageBox::No);
+    essai.pilote.Ferme(Dialogue);
+    essai.Joue();
+    QVERIFY(essai.ligne->ecrits.isEmpty() && essai.ligne->reglages.isEmpty()); // the port was not even opened
+}
+
+// What a reception had to throw away is counted, and what no program misses is not: what follows the end, the rest of a
+// line end, a leader of NULs.
+void TestTransferts::Bilans()
+{
+    const QString conseil = u" : recevoir par fichier, ou faire une pause en fin de ligne à la machine."_s;
+    // type of line end, what the machine sends at a time, whether the operator forces the end, what is told behind the
+    // count and the time
+    const std::tuple<Genre, int, QByteArrayList, bool, QString> cas[] = {
+        {Genre::Ligne, 3, {"A\r\n", "B\r\n", "\x04"}, false, {}},
+        {Genre::Ligne, 3, {"N1\r\nN2 X", "\r\n", "N3"}, true, u"2 caractères d'une ligne sans fin"_s + conseil},
+        {Genre::Ligne, 3, {"A\r\n", "M30\x04", "\x04"}, false, u"1 caractère d'une ligne sans fin"_s + conseil},
+        {Genre::Caractere, 1, {"A\r\n", "B\r\n", "\x04Z"}, false, {}},
+        {Genre::Caractere, 3, {QByteArray("A\r\n\0\0", 5), "B\r\n", "\x04"}, false, {}},
+        {Genre::Caractere,
+         3,
+         {"A\r\nB\r\nC", "D\r\n", "%\x04"},
+         false,
+         u"4 caractères jetés, 1 caractère d'une ligne sans fin"_s + conseil},
+        {Genre::Caractere,
+         3,
+         {"A\r\nB\x04", "CD"},
+         true,
+         u"1 caractère jeté, 2 caractères d'une ligne sans fin"_s + conseil},
+        {Genre::Fichier, 3, {"A\r\nB\r\nC", "\x04"}, false, {}}};
+    for (const auto &[genre, finLigne, pieces, force, attendu] : cas) {
+        EssaiTransfert essai(genre);
+        ParamCom.TypeFinLig = finLigne;
+        BatirChaines();
+        essai.charge.pieces = pieces;
+        const qsizetype recus = essai.Envoye().size();
+        if (force)
+            essai.PreditEnsuite();
+        bool presse = false;
+        const auto joue = essai.Joue(force ? recus : 0, [&](const QDialog &transfert) {
+            if (force && !std::exchange(presse, true))
+                Operateur::Presse(transfert, "Command7");
+            return true;
+        });
+        QCOMPARE(joue.bilan.section(u" en "_s, 0, 0), u"%1 caractères reçus"_s.arg(recus));
+        QCOMPARE(joue.bilan.section(u'\n', 1), attendu);
+    }
+}
+
 // Another configuration from inside the dialog; a cancelled choice leaves the first, and a file that breaks off,
 // which is told, leaves its name.
 void TestTransferts::AutreConfiguration()
@@ -110,10 +203,17 @@ void TestTransferts::AutreConfiguration()
     operateur.Fait(Dialogue, [](QWidget &) {
         QCOMPARE(Operateur::Lu("Label5"), u"Machine.par  Tour"_s);
         QCOMPARE(frmPrinc->Label4->text(), u"Machine.par"_s);
+        QCOMPARE(Operateur::Lu("Bilan"), u"G0: 1 line, 2 characters\n"_s + EnMorceaux);
     });
+    operateur.Presse(Dialogue, "Command2");
+    operateur.Repond("Sending of a program", EnMorceaux + u"\rGo on all the same ?"_s,
+                     Operateur::DemandeSimple | Boite::SecondBouton, QMessageBox::No);
     operateur.Presse(Dialogue, "Command3");
     operateur.Choisit(autre);
-    operateur.Fait(Dialogue, [](QWidget &) { QCOMPARE(Operateur::Lu("Label5"), u"Tour.par  Tour 2 axes, été €"_s); });
+    operateur.Fait(Dialogue, [](QWidget &) {
+        QCOMPARE(Operateur::Lu("Label5"), u"Tour.par  Tour 2 axes, été €"_s);
+        QCOMPARE(Operateur::Lu("Bilan"), u"G0: 1 line, 2 characters"_s);
+    });
     operateur.Presse(Dialogue, "Command1");
     Operateur::Menu("Mnu_EmisProgCN");
     QCOMPARE(FicConf + frmPrinc->Label4->text(), autre + u"Tour.par"_s);
@@ -375,20 +475,27 @@ void TestTransferts::TropDeLignes()
         essai.charge.texte = "A\r\nB\r\nC";
         essai.Joue();
         essai.charge.texte = pleine;
-        QCOMPARE(essai.Joue().avis.size(), 0);
+        QCOMPARE(
+            essai.Joue().avis,
+            (QList<Pilote::Avis>{
+                {u"Emission d'un programme CN"_s,
+                 u"L'envoi ligne par ligne prend 25 000 lignes au plus, la ligne vide de la fin comprise : choisir l'envoi jusqu'à fin de fichier."_s +
+                     QString(QuandMeme).replace(u'\r', u'\n')}}));
         QCOMPARE(NbLignes, 3);
         QCOMPARE(essai.ligne->ecrits, QByteArray("A\r\nB\r\nC\n\x04N\r\nN\r\nN\r\n\x04"));
     }
     EssaiTransfert essai(Genre::Ligne);
-    essai.ligne->sansVidage = true; // all stands ready at once
+    essai.ligne->parLecture = ParamCom.TailleTamponRecep = 2; // one line waits behind a line end, and is thrown away
     ParamCom.TypeFinLig = 0;
     BatirChaines();
-    ParamCom.TailleTamponRecep = 2; // so that nothing waits behind a line end
-    essai.charge.pieces = {QByteArray("N\n").repeated(CapaciteLignes)};
+    essai.charge.pieces = {QByteArray("N\n").repeated(2 * CapaciteLignes)};
     essai.PreditEnsuite();
     essai.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La table est pleine.\rLa réception dépasse 25000 lignes."_s);
     essai.pilote.Ferme("CommonDialog"); // he thinks better of it: offered once more
-    essai.Joue();
+    const QString bilan = essai.Joue().bilan;
+    QVERIFY2(bilan.startsWith(u"PIECE.ISO n'est pas enregistré ! 100\u202F000 caractères reçus en "_s) &&
+                 bilan.contains(u"\n50\u202F000 caractères jetés : "_s),
+             qPrintable(bilan));
     QCOMPARE(essai.poste.Lit("sauve.txt"), pleine);
 }
 

@@ -56,6 +56,7 @@ QWidget *Transfert(ModeTransfert mode)
 {
     TypeTransfert = mode;
     NomFicRecep = QStringLiteral("PIECE2.ISO");
+    EtatConf().fiche = EtatConfiguration::Entiere;
     return new Em_Rc(frmPrinc);
 }
 
@@ -63,6 +64,7 @@ QWidget *Transfert(ModeTransfert mode)
 QWidget *TransfertEnCours(ModeTransfert mode)
 {
     auto *const fenetre = static_cast<Em_Rc *>(Transfert(mode));
+    EtatConf().fiche = EtatConfiguration::Incomplete;
     for (QWidget *const passager :
          std::initializer_list<QWidget *>{fenetre->Progression, fenetre->Label3, fenetre->Label4, fenetre->Command7})
         passager->show();

@@ -178,6 +178,7 @@ void Pilote::Transfere(QDialog &dialogue)
         m_pendant(dialogue);
     } else if (m_commence) {
         m_deroulement.statut = Lu("Label2");
+        m_deroulement.bilan = Lu("Bilan");
         Annule(m_genre, dialogue);
     } else if (EstEmission(m_genre)) {
         m_commence = true;

@@ -47,6 +47,7 @@ public:
     {
         QList<Avis> avis;
         QString statut; ///< what the status line bore at the end; empty when the dialog closed by itself
+        QString bilan;  ///< and the line that tells what has passed and what was lost
     };
 
     /// The configuration becomes that of a kind; any field may be changed afterwards.

@@ -45,6 +45,7 @@ Poste::~Poste()
 void Poste::RemetEnregistrements()
 {
     ParamCom = {};
+    EtatConf() = {};
     ParamMac = {};
     VideJauges();
     for (QString *texte :

@@ -1,0 +1,134 @@
+#include "transfer/Apercu.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Comptes.h"
+#include "platform/Boites.h"
+#include "platform/MSComm.h"
+#include "platform/PageCode1252.h"
+#include "shell/FrmPrinc.h"
+#include "transfer/Bilan.h"
+#include "transfer/Emission.h"
+#include "transfer/PortCom.h"
+#include "transfer/Transfert.h"
+#include "ui_Em_Rc.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+constexpr Nom3 NomLignes{{u"ligne", u"line", u"línea"}, {u"lignes", u"lines", u"líneas"}};
+constexpr Nom3 NomCaracteres{{u"caractère", u"character", u"carácter"}, {u"caractères", u"characters", u"caracteres"}};
+constexpr Texte3 Contenu{u"%1 : %2, %3", u"%1: %2, %3", u"%1: %2, %3"};
+constexpr Texte3 Vide{u"Le texte à envoyer est vide : %1, %2.", u"The text to be sent is empty: %1, %2.",
+                      u"El texto que debe enviarse está vacío: %1, %2."};
+constexpr Texte3 TropDeLignes{u"L'envoi ligne par ligne prend 25 000 lignes au plus, la ligne vide de la fin comprise "
+                              u": choisir l'envoi jusqu'à fin de fichier.",
+                              u"The sending line by line takes 25,000 lines at most, the empty one at the end "
+                              u"included: choose the sending to the end of the file.",
+                              u"El envío línea por línea admite 25.000 líneas como máximo, incluida la línea vacía del "
+                              u"final: elegir el envío hasta el final del fichero."};
+
+// The port and the speed stand behind these.
+constexpr Texte3 Incomplete{u"Configuration incomplète : la charger ou l'enregistrer de nouveau. ",
+                            u"Incomplete configuration: load or save it again. ",
+                            u"Configuración incompleta: cargarla o registrarla de nuevo. "};
+constexpr Texte3 NonAppliquee{u"Configuration modifiée sans être appliquée : la charger de nouveau. ",
+                              u"Configuration changed and not applied: load it again. ",
+                              u"Configuración modificada sin ser aplicada: cargarla de nuevo. "};
+constexpr Texte3 PortUtilise{u"Port utilisé : Com%1, vitesse : %2.", u"Port used: Com%1, speed: %2.",
+                             u"Puerto utilizado: Com%1, velocidad: %2."};
+constexpr Texte3 QuandMeme{u"Continuer quand même ?", u"Go on all the same ?", u"¿Continuar de todos modos?"};
+
+struct Apercu
+{
+    QString contenu;
+    QStringList alertes;
+};
+
+bool EstFin(QChar c)
+{
+    return c == u'\r' || c == u'\n';
+}
+
+/// Lines as an operator counts them, whatever ends them.
+qint64 NombreLignes(const QString &texte)
+{
+    qint64 lignes = 0;
+    for (qsizetype i = 0; i < texte.size(); ++i) {
+        if (texte[i] == u'\r' || (texte[i] == u'\n' && (i == 0 || texte[i - 1] != u'\r')))
+            ++lignes;
+    }
+    return lignes + (texte.isEmpty() || EstFin(texte.back()) ? 0 : 1);
+}
+
+/// The first line of texte that is not mute; empty when there is none.
+QString PremiereLigne(const QString &texte)
+{
+    constexpr qsizetype place = 200; // characters; more than any window shows of it
+    const auto *const debut =
+        std::find_if(texte.begin(), texte.end(), [](QChar c) { return !EstMuet(QStringView(&c, 1)); });
+    const auto *const fin = std::find_if(debut, texte.end(), EstFin);
+    return QString(debut, std::min<qsizetype>(fin - debut, place));
+}
+
+void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
+{
+    const QString texte = frmPrinc->Text1->Text();
+    const QString lignes = Compte(NombreLignes(texte), NomLignes);
+    const QString caracteres = Compte(texte.size(), NomCaracteres);
+    const QString premiere = PremiereLigne(texte);
+    if (premiere.isEmpty())
+        apercu.alertes << Texte(Vide).arg(lignes, caracteres);
+    else
+        apercu.contenu = Texte(Contenu).arg(police.elidedText(ControlesVisibles(premiere), Qt::ElideRight, largeur),
+                                            lignes, caracteres);
+    if (ParamCom.TypeEnvoi == 0 && DepasseTable(texte))
+        apercu.alertes << Texte(TropDeLignes);
+}
+
+void RegardeConfiguration(Apercu &apercu)
+{
+    if (EtatConf().fiche == EtatConfiguration::Entiere)
+        return;
+    const int port = Controle().PortOpen() ? Controle().CommPort() : ParamCom.NumPort;
+    apercu.alertes << Texte(EtatConf().fiche == EtatConfiguration::EnAttente ? NonAppliquee : Incomplete) +
+                          Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
+}
+
+Apercu Regarde(const Ui::Em_Rc &dialogue)
+{
+    Apercu apercu;
+    if (Texte(Contenu).isNull())
+        return apercu;
+    if (TypeTransfert == EmissionProgramme || TypeTransfert == EmissionJauges)
+        RegardeTexte(apercu, dialogue.Bilan->fontMetrics(), dialogue.Bilan->window()->minimumWidth() / 2);
+    RegardeConfiguration(apercu);
+    return apercu;
+}
+
+void Montre(Ui::Em_Rc &dialogue, const Apercu &apercu)
+{
+    QStringList lignes = apercu.alertes;
+    if (!apercu.contenu.isEmpty())
+        lignes.prepend(apercu.contenu);
+    EcritBilan(dialogue, lignes.join(u'\n'), !apercu.alertes.isEmpty());
+}
+
+} // namespace
+
+void MontreApercu(Ui::Em_Rc &dialogue)
+{
+    Montre(dialogue, Regarde(dialogue));
+}
+
+bool ConfirmeApercu(Ui::Em_Rc &dialogue)
+{
+    const Apercu apercu = Regarde(dialogue);
+    Montre(dialogue, apercu);
+    if (apercu.alertes.isEmpty())
+        return true;
+    return Confirme(apercu.alertes.join(u'\r') + u'\r' + Texte(QuandMeme), Boite::Exclamation | Boite::SecondBouton,
+                    dialogue.Bilan->window()->windowTitle());
+}

@@ -1,0 +1,186 @@
+#include "transfer/Bilan.h"
+
+#include "comconfig/ParamCom.h"
+#include "locale/Comptes.h"
+#include "platform/MSComm.h"
+#include "transfer/PortCom.h"
+#include "transfer/Transfert.h"
+#include "ui_Em_Rc.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using Lignes = CompteursLigne;
+
+/// What the transfer under way has cost so far, beside what the port counts.
+struct Pertes
+{
+    QElapsedTimer depuis;
+    std::array<qint64, 3> caracteres{}; ///< by Perte
+
+    qint64 &operator[](Perte perte) { return caracteres[static_cast<std::size_t>(perte)]; }
+};
+Pertes pertes;
+
+/// A kind of fault: where its count is found, and how it is named.
+struct Faute
+{
+    unsigned Lignes::*ligne; ///< a count of the port; null: one of Pertes
+    Perte perte;
+    Nom3 nom;
+};
+
+/// Faults that have one remedy.
+struct Remede
+{
+    std::array<Faute, 3> fautes;
+    Texte3 conseil;
+};
+
+constexpr Remede Remedes[] = {
+    {{{{nullptr,
+        Perte::Jetes,
+        {{u"caractère jeté", u"character thrown away", u"carácter descartado"},
+         {u"caractères jetés", u"characters thrown away", u"caracteres descartados"}}},
+       {nullptr,
+        Perte::SansFin,
+        {{u"caractère d'une ligne sans fin", u"character of a line without end", u"carácter de una línea sin fin"},
+         {u"caractères d'une ligne sans fin", u"characters of a line without end",
+          u"caracteres de una línea sin fin"}}}}},
+     {u"recevoir par fichier, ou faire une pause en fin de ligne à la machine",
+      u"receive by file, or have the machine pause at the end of each line",
+      u"recibir por fichero, o hacer una pausa al final de cada línea en la máquina"}},
+    {{{{&Lignes::parite,
+        {},
+        {{u"erreur de parité", u"parity error", u"error de paridad"},
+         {u"erreurs de parité", u"parity errors", u"errores de paridad"}}},
+       {&Lignes::trame,
+        {},
+        {{u"erreur de cadrage", u"framing error", u"error de encuadre"},
+         {u"erreurs de cadrage", u"framing errors", u"errores de encuadre"}}},
+       {&Lignes::pauses,
+        {},
+        {{u"interruption de la ligne", u"break", u"interrupción de la línea"},
+         {u"interruptions de la ligne", u"breaks", u"interrupciones de la línea"}}}}},
+     {u"vérifier la vitesse, la parité et le câble", u"check the speed, the parity and the cable",
+      u"comprobar la velocidad, la paridad y el cable"}},
+    {{{{&Lignes::cadence,
+        {},
+        {{u"caractère perdu par le port", u"character lost by the port", u"carácter perdido por el puerto"},
+         {u"caractères perdus par le port", u"characters lost by the port", u"caracteres perdidos por el puerto"}}},
+       {&Lignes::debordements,
+        {},
+        {{u"caractère perdu par le PC", u"character lost by the PC", u"carácter perdido por el PC"},
+         {u"caractères perdus par le PC", u"characters lost by the PC", u"caracteres perdidos por el PC"}}},
+       {nullptr,
+        Perte::Debordement,
+        {{u"caractère jeté avec eux", u"character thrown away with them", u"carácter descartado con ellos"},
+         {u"caractères jetés avec eux", u"characters thrown away with them", u"caracteres descartados con ellos"}}}}},
+     {u"régler le contrôle de flux, ou baisser la vitesse", u"set the flow control, or lower the speed",
+      u"ajustar el control de flujo, o bajar la velocidad"}}};
+
+constexpr Nom3 CaracteresEmis{{u"caractère envoyé", u"character sent", u"carácter enviado"},
+                              {u"caractères envoyés", u"characters sent", u"caracteres enviados"}};
+constexpr Nom3 CaracteresRecus{{u"caractère reçu", u"character received", u"carácter recibido"},
+                               {u"caractères reçus", u"characters received", u"caracteres recibidos"}};
+constexpr Texte3 EnTemps{u"%1 en %2.", u"%1 in %2.", u"%1 en %2."};
+constexpr Texte3 EmissionInterrompue{u"Emission interrompue ! ", u"Sending broken off ! ", u"Emisión interrumpida ! "};
+constexpr Texte3 FichierNonEcrit{u"%1 n'est pas enregistré ! ", u"%1 is not saved ! ", u"%1 no está guardado ! "};
+constexpr Texte3 DeuxPoints{u" : ", u": ", u": "};
+
+/// The faults of a remedy that have occurred, counted, and the remedy; nothing when there are none.
+QString EnClair(const Remede &remede, const Lignes &comptes)
+{
+    QStringList fautes;
+    for (const Faute &faute : remede.fautes) {
+        const bool nommee = faute.nom.un.francais != nullptr;
+        const qint64 nombre = !nommee ? 0 : faute.ligne != nullptr ? comptes.*faute.ligne : pertes[faute.perte];
+        if (nombre > 0)
+            fautes << Compte(nombre, faute.nom);
+    }
+    if (fautes.isEmpty())
+        return {};
+    return fautes.join(QStringLiteral(", ")) + Texte(DeuxPoints) + Texte(remede.conseil) + u'.';
+}
+
+QStringList FautesEnClair()
+{
+    const Lignes comptes = Controle().Comptes().fautes;
+    QStringList textes;
+    for (const Remede &remede : Remedes) {
+        if (const QString texte = EnClair(remede, comptes); !texte.isEmpty())
+            textes << texte;
+    }
+    return textes;
+}
+
+} // namespace
+
+void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte)
+{
+    constexpr QRgb surClair = 0x9a3000;
+    constexpr QRgb surSombre = 0xffb870;
+    QPalette palette;
+    const bool sombre = palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    if (alerte)
+        palette.setColor(QPalette::WindowText, QColor(sombre ? surSombre : surClair));
+    dialogue.Bilan->setPalette(palette);
+    dialogue.Bilan->setText(texte);
+    dialogue.BilanSigne->setVisible(alerte);
+    if (dialogue.Bilan->isVisible()) // more than the room that was reserved takes what it needs
+        dialogue.Bilan->setMinimumHeight(
+            std::max(dialogue.Bilan->minimumHeight(), dialogue.Bilan->heightForWidth(dialogue.Bilan->width())));
+}
+
+bool EstMuet(QStringView texte)
+{
+    constexpr char16_t blanc = 32, efface = 127;
+    return std::all_of(texte.begin(), texte.end(),
+                       [](QChar c) { return c.unicode() <= blanc || c.unicode() == efface; });
+}
+
+void DebuteBilan()
+{
+    pertes = {};
+    pertes.depuis.start();
+    Controle().RemetComptes();
+}
+
+void NotePerte(Perte perte, const QString &caracteres)
+{
+    QStringView programme = caracteres;
+    if (programme.endsWith(ParamCom.ChaineFinTrans))
+        programme.chop(ParamCom.ChaineFinTrans.size());
+    if (!EstMuet(programme) && !ParamCom.ChaineFinTrans.endsWith(programme))
+        pertes[perte] += programme.size();
+}
+
+void MontreFautes(Ui::Em_Rc &dialogue)
+{
+    const QStringList fautes = FautesEnClair();
+    if (!fautes.isEmpty())
+        EcritBilan(dialogue, fautes.join(u'\n'), true);
+}
+
+void MontreBilan(Ui::Em_Rc &dialogue, Issue issue)
+{
+    const QString enTemps = Texte(EnTemps);
+    if (enTemps.isNull())
+        return;
+    const ComptesPort comptes = Controle().Comptes();
+    const bool emission = issue == Issue::Emis || issue == Issue::EmissionRompue;
+    const bool rompu = issue == Issue::EmissionRompue || issue == Issue::ReceptionRompue;
+    const qint64 nombre = emission ? comptes.emis : comptes.recus;
+    const std::chrono::milliseconds duree =
+        emission ? std::chrono::milliseconds(pertes.depuis.elapsed()) : comptes.dureeReception;
+    QString passe = enTemps.arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
+    if (rompu)
+        passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(NomFicRecep));
+    const QStringList fautes = FautesEnClair();
+    const bool rienParti = emission && nombre <= ParamCom.ChaineFinTrans.size();
+    EcritBilan(dialogue, (QStringList(passe) + fautes).join(u'\n'), rompu || rienParti || !fautes.isEmpty());
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+namespace Ui {
+class Em_Rc;
+}
+
+// The line Bilan of the transfer dialog: before a transfer what will go out (see Apercu), behind it what has happened,
+// which Label2 does not know: it says "success" whatever was lost on the way.
+
+/// Writes texte there. alerte: in the colour and with the sign of a warning.
+void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte);
+
+/// True when texte holds nothing that can be read: blanks and control characters.
+bool EstMuet(QStringView texte);
+
+/// A transfer begins: what is counted from here on is its own.
+void DebuteBilan();
+
+/// Why characters that have come are not in the file of a reception.
+enum class Perte {
+    Jetes,      ///< they stood behind a line end, where the reception empties the port
+    SansFin,    ///< the line under way had no end
+    Debordement ///< the port was emptied since the system had lost some already
+};
+
+/// The reception drops caracteres. What no program misses does not count: the end of transfer or its tail, and what is
+/// mute.
+void NotePerte(Perte perte, const QString &caracteres);
+
+/// What has gone wrong on the line so far; nothing as long as nothing has.
+void MontreFautes(Ui::Em_Rc &dialogue);
+
+/// How a transfer has ended. A reception that failed has left no whole file, whatever came.
+enum class Issue { Emis, EmissionRompue, Recu, ReceptionRompue };
+
+/// How much has passed, in what time, and what went wrong, with what can be done about it.
+void MontreBilan(Ui::Em_Rc &dialogue, Issue issue);
