@@ -54,6 +54,7 @@ private Q_SLOTS:
     {
         const Poste poste(0);
         poste.Charge("");
+        poste.Ecrit("DORVANEL.HLP", "<p>G0</p>");
         QDir(poste.Dossier()).mkdir(u"Conf"_s);
         QFile::copy(FicConf, poste.Chemin("Conf/Machine_simulee.par"));
         const auto cas =
@@ -124,7 +125,9 @@ private Q_SLOTS:
             }
         }
         // The text behind the box is not there for the hand that has answered it.
-        QVERIFY(demande(Qt::Key_Return, u"| P"_s) && QTest::qWaitForWindowActive(frmPrinc));
+        QVERIFY(demande(Qt::Key_Return, u"| P"_s));
+        frmPrinc->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(frmPrinc));
         Joue(frmPrinc->Text1, Qt::Key_Return, u"M J +30 M R +100 P R"_s);
         QCOMPARE(frmPrinc->Text1->Text(), QString());
         Joue(frmPrinc->Text1, Qt::Key_Return, u"+400 P R"_s);
