@@ -56,19 +56,6 @@ struct Atelier : Etabli
         }
         return gardes;
     }
-    /// The program once more, in a process of its own that changes the text and does what joue says until it is ended.
-    template <typename Jeu>
-    pid_t Copie(Jeu joue) const
-    {
-        const pid_t enfant = fork();
-        if (enfant == 0) {
-            frmPrinc->hide(); // the threads that paint stay with the parent
-            joue();
-            QTest::qWait(60'000);
-            _exit(1);
-        }
-        return enfant;
-    }
     static int Etat(pid_t enfant)
     {
         int etat = 0;
@@ -231,24 +218,33 @@ private Q_SLOTS:
         QVERIFY(!repos->isActive() && Operateur::Offre("Mnu_Imprim") && frmPrinc->Bouton(5)->isEnabled());
     }
 
-    // A process is killed while its text is changed. While it lives its file is its own; the next start asks once.
+    // Another copy of the program, whose text is changed, is killed, or asked by the system to end. While it lives its
+    // file is its own; only of a killed one the next start asks, once.
     void Mort()
     {
-        for (const bool ouvre : {false, true}) {
+        for (const auto &[signal, ouvre] :
+             {std::pair{SIGKILL, false}, {SIGKILL, true}, {SIGTERM, false}, {SIGHUP, false}}) {
             Atelier atelier;
-            const pid_t enfant = atelier.Copie([&] {
+            const pid_t copie = fork();
+            if (copie == 0) {
+                frmPrinc->hide(); // the threads that paint stay with the parent
+                const FinDemandee fin([] { RetientTexte(); });
                 while (atelier.Gardes().isEmpty())
                     QTest::qWait(10);
                 std::raise(SIGSTOP);
-            });
-            QCOMPARE(Atelier::Etat(enfant), SIGSTOP);
+                QTest::qWait(60'000);
+                _exit(1);
+            }
+            QCOMPARE(Atelier::Etat(copie), SIGSTOP);
             QCOMPARE(atelier.Gardes(), QByteArrayList{"!P.iso=N10 G0\r\n"});
             ProposeTextesRetrouves();
-            kill(enfant, SIGKILL);
-            QCOMPARE(Atelier::Etat(enfant), SIGKILL);
+            kill(copie, signal);
+            kill(copie, SIGCONT);
+            QCOMPARE(Atelier::Etat(copie), signal);
             atelier.Ecrit("Sauvegardes/En cours_00000000.partiel", "N1");
             atelier.Redemarre();
-            atelier.Repond(ouvre ? Oui : Non, u"P.iso, 20"_s);
+            if (signal == SIGKILL)
+                atelier.Repond(ouvre ? Oui : Non, u"P.iso, 20"_s);
             ProposeTextesRetrouves();
             ProposeTextesRetrouves();
             QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
@@ -260,22 +256,6 @@ private Q_SLOTS:
                 atelier.Repond(Non);
             frmPrinc->close(); // it stands in the folder already
             QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
-        }
-    }
-
-    // The system asks the process to end: the text is kept, the process ends by that signal, and nothing is asked.
-    void FinDuSysteme()
-    {
-        for (const int numero : {SIGTERM, SIGHUP}) {
-            const Atelier atelier;
-            const pid_t enfant = atelier.Copie([numero] {
-                const FinDemandee fin([] { RetientTexte(); });
-                std::raise(numero);
-                QTest::qWait(60'000); // as long as the guard lives
-            });
-            QCOMPARE(Atelier::Etat(enfant), numero);
-            QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
-            ProposeTextesRetrouves();
         }
     }
 
