@@ -75,7 +75,9 @@ void PlaceACote(QWidget *fenetre, const QWidget *appelante)
     const int gauche = occupe.left() - ecran.left();
     const int droite = ecran.right() - occupe.right();
     const int place = std::min(std::max({gauche, droite, largeurMin}), ecran.width());
-    fenetre->resize(fenetre->size().boundedTo(QSize(place, ecran.height()) - cadre));
+    // Its captions may need more than that, and the window would grow to it as it is shown.
+    fenetre->resize(
+        fenetre->size().boundedTo(QSize(place, ecran.height()) - cadre).expandedTo(fenetre->minimumSizeHint()));
     const QSize entier = fenetre->size() + cadre;
     const int x = droite >= gauche ? occupe.right() + 1 : occupe.left() - entier.width();
     fenetre->move(Dans(ecran.left(), ecran.width(), x, entier.width()),
