@@ -27,6 +27,7 @@ struct Mains
 {
     QSet<quint32> tenues;        ///< keys held down
     Temps coup{-Repos};          ///< of the last stroke
+    quint64 instantCoup = 0;     ///< the same by the clock of the events
     quint32 relachee = 0;        ///< the key released last
     quint64 instantRelachee = 0; ///< by the clock of the events
     bool repetee = false;        ///< the key that is on its way is a repetition
@@ -44,13 +45,16 @@ quint32 Touche(const QKeyEvent &touche)
     return touche.nativeScanCode() != 0 ? touche.nativeScanCode() : static_cast<quint32>(touche.key());
 }
 
-/// Each key comes several times: to the window, to the control, to what lies around it, as a shortcut and as a key.
+/// Each key comes several times: to the window, to the control, to what lies around it, as a shortcut and as a key. A
+/// release that went to no window of ours leaves its key held here: the next stroke has another time.
 void SuitCoup(const QKeyEvent &evenement)
 {
     const quint32 touche = Touche(evenement);
+    const bool memeInstant = evenement.timestamp() == 0 || evenement.timestamp() == mains.instantCoup;
     if (evenement.isAutoRepeat()) {
         mains.repetee = true;
-    } else if (!mains.tenues.contains(touche)) {
+    } else if (!mains.tenues.contains(touche) || !memeInstant) {
+        mains.instantCoup = evenement.timestamp();
         mains.repetee = touche == mains.relachee && evenement.timestamp() != 0 &&
                         evenement.timestamp() - mains.instantRelachee < Jumelles;
         mains.coup = Maintenant();

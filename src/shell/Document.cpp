@@ -101,6 +101,13 @@ bool ProposeEnregistrement()
     return !Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)) || EnregistreSurPlace();
 }
 
+/// The text has a file: it can be printed, and edited elsewhere.
+void ActiveNomme()
+{
+    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_Imprim, frmPrinc->Bouton(5)})
+        action->setEnabled(true);
+}
+
 void Text1_Change()
 {
     FichierModifie = Vrai;
@@ -215,8 +222,7 @@ void Mnu_EnregistrerSous()
     NomFichier = dialogue.FileName;
     TitreFichier = dialogue.FileTitle;
     Saute([] { SaveFile(NomFichier); });
-    for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_Imprim, frmPrinc->Bouton(5)})
-        action->setEnabled(true);
+    ActiveNomme();
 }
 
 bool EnregistreSurPlace()
@@ -226,6 +232,7 @@ bool EnregistreSurPlace()
     try {
         GardeCopie(NomFichier);
         SaveFile(NomFichier);
+        ActiveNomme();
         return true;
     } catch (const Erreur &) {
         return false;

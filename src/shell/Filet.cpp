@@ -107,8 +107,10 @@ Filet::~Filet()
 
 QString Filet::Retient()
 {
-    if (!TexteModifie())
+    if (!TexteModifie()) {
+        RetireEnCours(); // of a text that the operator has emptied himself
         return {};
+    }
     if (m_garde.isEmpty() || !FichierExiste(m_garde))
         m_garde = GardeTexte(NomFichier, frmPrinc->Text1->Text());
     if (!m_garde.isEmpty())
