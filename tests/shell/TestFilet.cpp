@@ -222,6 +222,7 @@ private Q_SLOTS:
     // file is its own; only of a killed one the next start asks, once.
     void Mort()
     {
+        const QByteArrayList enCours{"!P.iso=N10 G0\r\n"};
         for (const auto &[signal, ouvre] :
              {std::pair{SIGKILL, false}, {SIGKILL, true}, {SIGTERM, false}, {SIGHUP, false}}) {
             Atelier atelier;
@@ -229,15 +230,15 @@ private Q_SLOTS:
             if (copie == 0) {
                 frmPrinc->hide(); // the threads that paint stay with the parent
                 const FinDemandee fin([] { RetientTexte(); });
-                while (atelier.Gardes().isEmpty())
+                while (atelier.Gardes() != enCours)
                     QTest::qWait(10);
                 std::raise(SIGSTOP);
                 QTest::qWait(60'000);
                 _exit(1);
             }
             QCOMPARE(Atelier::Etat(copie), SIGSTOP);
-            QCOMPARE(atelier.Gardes(), QByteArrayList{"!P.iso=N10 G0\r\n"});
             ProposeTextesRetrouves();
+            QCOMPARE(atelier.Gardes(), enCours);
             kill(copie, signal);
             kill(copie, SIGCONT);
             QCOMPARE(Atelier::Etat(copie), signal);
