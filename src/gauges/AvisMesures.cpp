@@ -1,5 +1,6 @@
 #include "gauges/AvisMesures.h"
 
+#include "comconfig/ParamCom.h"
 #include "gauges/Jauge.h"
 #include "gauges/ParamMac.h"
 #include "gauges/SalveBanc.h"
@@ -33,9 +34,9 @@ constexpr Texte3 PrisPour{u" pris pour ", u" taken for ", u" tomado por "};
 constexpr Texte3 Lettre{u"lettre ", u"letter ", u"letra "};
 constexpr Texte3 AuRayon{u" au rayon", u" as a radius", u" como radio"};
 constexpr Texte3 AuDiametre{u" au diamètre", u" as a diameter", u" como diámetro"};
-constexpr Texte3 Double{u"une seconde mesure dans la même salve n'est pas écrite",
-                        u"a second measure in the same burst is not written",
-                        u"una segunda medida en la misma ráfaga no se escribe"};
+constexpr Texte3 Suite{u"ce qui suit dans la même salve n'est pas écrit : ",
+                       u"what follows in the same burst is not written: ",
+                       u"lo que sigue en la misma ráfaga no se escribe: "};
 
 QString EntreGuillemets(const QString &texte)
 {
@@ -63,6 +64,17 @@ QString Doute(const QString &nom, const QString &champ, const QString &valeur)
     return nom + u' ' + EntreGuillemets(champ) + Texte(PrisPour) + valeur;
 }
 
+/// What stands in a burst behind its measure: a second one that came unasked begins with its mark, and where the line
+/// has spoilt that, behind the characters of a whole one. Less than a mark is no measure.
+QString DerriereMesure(const QString &salve)
+{
+    qsizetype debut = salve.indexOf(QStringView(MarqueMesure), 1);
+    if (debut < 0 && ParamCom.TailleRecep >= ColonneMode.debut)
+        debut = ParamCom.TailleRecep;
+    const QString suite = debut < 0 ? QString() : salve.mid(debut).simplified();
+    return suite.size() < QStringView(MarqueMesure).size() ? QString() : suite;
+}
+
 /// The doubts about a measure, none for a sound one.
 QStringList Doutes(const QString &salve, const JaugeOutil &jauge)
 {
@@ -78,8 +90,8 @@ QStringList Doutes(const QString &salve, const JaugeOutil &jauge)
     if (jauge.ModeMesure != u'R' && jauge.ModeMesure != u'D')
         doutes << Texte(Lettre) + EntreGuillemets(jauge.ModeMesure) + QStringLiteral(" : X") + Texte(PrisPour) +
                       TexteReel(jauge.JaugeX) + Texte(ParamMac.ModeX == 0 ? AuRayon : AuDiametre);
-    if (salve.indexOf(QStringView(MarqueMesure), 1) > 0)
-        doutes << Texte(Double);
+    if (const QString suite = DerriereMesure(salve); !suite.isEmpty())
+        doutes << Texte(Suite) + EntreGuillemets(suite);
     return doutes;
 }
 

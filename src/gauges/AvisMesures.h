@@ -16,7 +16,7 @@ public:
     void NonDemandee(int place, qsizetype caracteres);
 
     /// The burst holds the measure jauge, which goes into the gauge file. It is told if a field was not a number, if
-    /// the letter is neither R nor D, or if a second measure stands in the same burst.
+    /// the letter is neither R nor D, or if more than one measure's characters stand in the burst.
     void Lue(int place, const QString &salve, const JaugeOutil &jauge);
 
     /// Tells all of it in one box; where there is nothing to tell there is no box. lues: measures that were read; none

@@ -72,6 +72,8 @@ public:
     void MontreEchec(const Erreur &erreur) const;
     /// Then what the disk does not hold may be saved elsewhere.
     void SauveReste() const;
+    /// The same for texte. The pane then shows what was saved, and never bears the name of a file that is not there.
+    void SauveAutrePart(const QString &texte, const QString &question = {}) const;
 
 private:
     void Reception1Jauge();
@@ -85,6 +87,7 @@ private:
     void PermetSuite(bool permis);
 
     Ui::Em_Rc &m_dialogue;
+    bool m_dansPane = false;   ///< the program pane shows the text of the bench
     QString m_brut;            ///< all that has come, as the file holds it
     QString m_compteMontre;    ///< what MontreRecus() shows
     qsizetype m_enAttente = 0; ///< characters that wait for the operator to ask for their tool
@@ -247,6 +250,7 @@ void Seance::AnnonceLimite()
     QApplication::beep();
     const QString fin = QString::number(ParamMac.NbCorrecteurs) + QStringLiteral(" !");
     PoseTexte(m_dialogue.Label2, Limite, fin);
+    m_dialogue.Label1->clear(); // no further tool is to be preset
     MsgBox(Texte(Limite) + fin, Boite::Critique, Texte(LimiteTitre));
 }
 
@@ -273,6 +277,7 @@ void Seance::Termine()
         return;
     }
     OuvreFichierRecu();
+    m_dansPane = true;
     m_dialogue.Progression->hide();
     if (FinJauges == 1 && NbJauges >= 1) {
         FiltreJauge(m_enAttente);
@@ -294,14 +299,24 @@ void Seance::SauveReste() const
     QString surDisque;
     Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
     if (surDisque != m_brut)
-        SauveAilleurs(m_brut);
+        SauveAutrePart(m_brut);
 }
 
-/// The dialog is closed by then; the gauges, with all that the operator typed at the dial, may be saved elsewhere.
-void SauveJauges(const JaugesNonEcrites &erreur)
+void Seance::SauveAutrePart(const QString &texte, const QString &question) const
 {
-    SauveAilleurs(erreur.TexteJauges(), Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : BancPerdu) +
-                                            CheminRecep() + Texte(Ailleurs));
+    const QString chemin = SauveAilleurs(texte, question);
+    if (!m_dansPane)
+        return;
+    if (!chemin.isEmpty())
+        MontreRecu(chemin);
+    else if (!FichierExiste(CheminRecep()))
+        PerdNomRecu();
+}
+
+/// What the operator is asked when the gauges, with all that he typed at the dial, stand on no disk.
+QString QuestionJauges(const JaugesNonEcrites &erreur)
+{
+    return Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : BancPerdu) + CheminRecep() + Texte(Ailleurs);
 }
 
 } // namespace
@@ -315,7 +330,7 @@ void ReceptionJauge(Ui::Em_Rc &dialogue)
         seance.Termine();
     } catch (const JaugesNonEcrites &erreur) {
         ErreurPortCOM(erreur, dialogue);
-        SauveJauges(erreur);
+        seance.SauveAutrePart(erreur.TexteJauges(), QuestionJauges(erreur)); // the dialog is closed by then
     } catch (const Erreur &erreur) {
         ErreurPortCOM(erreur, dialogue);
         seance.MontreEchec(erreur);

@@ -6,6 +6,7 @@
 #include "platform/CommonDialog.h"
 #include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
+#include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FiltresFichiers.h"
 #include "shell/FrmPrinc.h"
@@ -28,30 +29,35 @@ constexpr qint64 TailleTropGrande = 65536;
 
 bool ecritEntier = false; // the file of the last reception stands whole on the disk
 
-void VidePane()
+void OublieNom()
 {
-    frmPrinc->Text1->setText(QString()); // first: a changed text is kept under the name that it still has
     NomFichier.clear();
     TitreFichier.clear();
     MontreDonnee(frmPrinc->Label2, QString());
+}
+
+void VidePane()
+{
+    frmPrinc->Text1->setText(QString()); // first: a changed text is kept under the name that it still has
+    OublieNom();
     frmPrinc->Text1->hide();
     frmPrinc->ActiveFichier(false);
 }
 
-void ProposeTraitementDeTexte()
+void ProposeTraitementDeTexte(const QString &chemin)
 {
-    const QString question = QStringLiteral("Le fichier ") + NomFicRecep +
+    const QString question = QStringLiteral("Le fichier ") + NomSeul(chemin) +
                              QStringLiteral(" est trop volumineux pour être ouvert par Brovane.\r"
                                             "           Voulez-vous utiliser WordPad pour lire ce fichier ?");
     if (Confirme(question, Boite::Information, QStringLiteral("Message")))
-        OuvreAvecTraitementDeTexte(CheminRecep());
+        OuvreAvecTraitementDeTexte(chemin);
 }
 
-void MontreFichier()
+void MontreFichier(const QString &chemin)
 {
-    frmPrinc->Text1->setText(LitFichierTexte(CheminRecep()));
-    TitreFenetre(CheminRecep());
-    MontreDonnee(frmPrinc->Label2, NomFicRecep);
+    frmPrinc->Text1->setText(LitFichierTexte(chemin));
+    TitreFenetre(chemin);
+    MontreDonnee(frmPrinc->Label2, NomSeul(chemin));
     frmPrinc->Text1->show();
     frmPrinc->ActiveFichier(true);
     frmPrinc->ActiveEmission(true);
@@ -87,22 +93,34 @@ void AjouteFichierRecu(const QString &texte)
 
 void OuvreFichierRecu()
 {
-    if (!ecritEntier)
-        return;
-    Saute([] {
-        if (QFileInfo(CheminRecep()).size() >= TailleTropGrande) {
+    if (ecritEntier)
+        MontreRecu(CheminRecep());
+}
+
+void MontreRecu(const QString &chemin)
+{
+    Saute([&chemin] {
+        if (QFileInfo(chemin).size() >= TailleTropGrande) {
             VidePane();
-            ProposeTraitementDeTexte();
+            ProposeTraitementDeTexte(chemin);
         } else {
-            MontreFichier();
+            MontreFichier(chemin);
         }
-        NomFichier = CheminRecep();
-        TitreFichier = NomFicRecep;
+        NomFichier = chemin;
+        TitreFichier = NomSeul(chemin);
         FichierModifie = 0;
     });
 }
 
-void SauveAilleurs(const QString &texte, const QString &question)
+void PerdNomRecu()
+{
+    OublieNom();
+    TitreFenetre(QString());
+    FichierModifie = Vrai;
+    frmPrinc->ActiveEmission(false);
+}
+
+QString SauveAilleurs(const QString &texte, const QString &question)
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
     const QString demande = question.isEmpty() ? Texte(ResteTexte) : question;
@@ -112,10 +130,11 @@ void SauveAilleurs(const QString &texte, const QString &question)
             dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), dossier, NomFicRecep);
             dialogue.ShowSave();
             EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
-            return;
+            return dialogue.FileName;
         } catch (const Erreur &erreur) {
             if (erreur.Numero() != Erreur::DialogueAnnule)
                 MsgBox(TexteNonEnregistre(erreur), Boite::Critique, Texte(ResteTitre));
         }
     }
+    return {};
 }

@@ -20,6 +20,14 @@ void AjouteFichierRecu(const QString &texte);
 /// operator may open it with the word processor. When it was not written whole, or cannot be read, nothing changes.
 void OuvreFichierRecu();
 
+/// Makes chemin the document in the same way.
+void MontreRecu(const QString &chemin);
+
+/// The file of the last reception is gone, its text still stands in the pane: it is a text without a name then, changed
+/// and not to be sent.
+void PerdNomRecu();
+
 /// A reception has failed: offers to save what had come, again and again until it is written or given up. An empty
-/// texte asks nothing. question: what is asked, where it is not the received lines that are lost.
-void SauveAilleurs(const QString &texte, const QString &question = {});
+/// texte asks nothing. question: what is asked, where it is not the received lines that are lost. Gives the full path
+/// of the file written, "" for none.
+QString SauveAilleurs(const QString &texte, const QString &question = {});

@@ -1,6 +1,7 @@
 #include "Donnees.h"
 #include "Etabli.h"
 
+#include "comconfig/ParamCom.h"
 #include "gauges/FiltreJauge.h"
 #include "gauges/Jauge.h"
 #include "gauges/Lignes.h"
@@ -24,6 +25,7 @@ struct Atelier : Etabli
     {
         ParamMac.TypeMachine = 1;
         ParamMac.JaugeMaxiX = 1e9;
+        ParamCom.TailleRecep = 70;
     }
 
     /// Filters the bursts of a reception of as many tools; gives the gauge file.

@@ -272,38 +272,46 @@ private Q_SLOTS:
     }
 
     // A tool that nobody asked for is told at the end. The disk fails while the dial stands open: what the disk holds
-    // is told truly, and what was typed can be saved.
+    // is told truly, and what was typed can be saved and stands in the pane then. The text of the bench that is left
+    // there otherwise bears no name and is not to be sent.
     void EcritureRatee()
     {
-        Atelier atelier;
-        atelier.Ecrit("M.mac", "0\n0\n0\n0\n1\n1000\n1000\n32\ncor\nP\n0");
-        atelier.Nomme();
-        atelier.Outils(1);
-        atelier.Envoie(Outil(2), Mesure(1));
-        atelier.Presse(Dialogue, Fin, [] {
-            return QApplication::activeModalWidget()->findChild<QProgressBar *>()->text() == u"N° 2 : 70 / 70";
-        });
-        atelier.Apprend("Mesures du banc", "Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :\r"
-                                           "    N° 2 : 70 caractères arrivés sans que la jauge suivante soit demandée");
-        const QString chemin = atelier.Chemin("JAUGES.COR");
-        atelier.Saisit("JauTour", "Text1", ".8");
-        atelier.Fait("JauTour", [&](QWidget &cadran) {
-            QCOMPARE(atelier.Disque(), Outil(1).trimmed() + "\r\n");
-            QVERIFY(QFile::remove(chemin) && QFile::link(u"/dev/full"_s, chemin));
-            cadran.findChild<QLineEdit *>(u"Text2"_s)->setText(u"5"_s);
-            Operateur::Presse(cadran, "Command1");
-        });
-        atelier.LitErreur(61, u"Le disque est plein.\r"_s + qt_error_string(ENOSPC));
-        atelier.Fait("MsgBox", [&](QWidget &boite) {
-            QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(),
-                     u"Les jauges ne sont pas enregistrées.\nCe fichier est incomplet ou introuvable :\n%1\n"
-                     "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin));
-            QVERIFY(QFile::remove(chemin));
-            Operateur::Clique(QMessageBox::Yes)(boite);
-        });
-        atelier.Choisit(atelier.Chemin("SAUVE.COR"));
-        atelier.Abandonne();
-        QCOMPARE(atelier.Lit("SAUVE.COR"), "%\r\nD1 X-1 Z101.5 R.8 C5\r\n");
+        for (const bool sauve : {true, false}) {
+            Atelier atelier;
+            atelier.Ecrit("M.mac", "0\n0\n0\n0\n1\n1000\n1000\n32\ncor\nP\n0");
+            atelier.Nomme();
+            atelier.Outils(1);
+            atelier.Envoie(Outil(2), Mesure(1));
+            atelier.Presse(Dialogue, Fin, [] {
+                return QApplication::activeModalWidget()->findChild<QProgressBar *>()->text() == u"N° 2 : 70 / 70";
+            });
+            atelier.Apprend("Mesures du banc",
+                            "Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :\r"
+                            "    N° 2 : 70 caractères arrivés sans que la jauge suivante soit demandée");
+            const QString chemin = atelier.Chemin("JAUGES.COR");
+            atelier.Saisit("JauTour", "Text1", ".8");
+            atelier.Fait("JauTour", [&](QWidget &cadran) {
+                QCOMPARE(atelier.Disque(), Outil(1).trimmed() + "\r\n");
+                QVERIFY(QFile::remove(chemin) && QFile::link(u"/dev/full"_s, chemin));
+                cadran.findChild<QLineEdit *>(u"Text2"_s)->setText(u"5"_s);
+                Operateur::Presse(cadran, "Command1");
+            });
+            atelier.LitErreur(61, u"Le disque est plein."_s);
+            atelier.Fait("MsgBox", [&](QWidget &boite) {
+                QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(),
+                         u"Les jauges ne sont pas enregistrées.\nCe fichier est incomplet ou introuvable :\n%1\n"
+                         "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin));
+                QVERIFY(QFile::remove(chemin));
+                Operateur::Clique(sauve ? QMessageBox::Yes : QMessageBox::No)(boite);
+            });
+            if (sauve)
+                atelier.Choisit(atelier.Chemin("SAUVE.COR"));
+            atelier.Abandonne();
+            QCOMPARE(atelier.Lit("SAUVE.COR"), sauve ? "%\r\nD1 X-1 Z101.5 R.8 C5\r\n" : "");
+            QCOMPARE(frmPrinc->Text1->Text().toLatin1(), sauve ? atelier.Lit("SAUVE.COR") : Brut(1));
+            QCOMPARE(NomFichier + TitreFichier, sauve ? atelier.Chemin("SAUVE.COR") + u"SAUVE.COR"_s : QString());
+            QVERIFY(TexteModifie() != sauve && frmPrinc->Mnu_EmisProgCN->isEnabled() == sauve);
+        }
     }
 
     // The correctors of the machine are used up: the tools end there, and only the operator's own end makes a gauge
@@ -318,8 +326,9 @@ private Q_SLOTS:
                 atelier.Presse(Dialogue, Suivante, Mesure(nombre));
             const QString limite = u"Nombre de correcteurs reçus > à %1 !"_s.arg(nombre);
             atelier.Apprend("Avertissement", limite, Boite::Critique);
-            atelier.Presse(Dialogue, Annule,
-                           [&limite] { return Operateur::Lu("Label2") == limite && !TransfertEnCours(); });
+            atelier.Presse(Dialogue, Annule, [&limite] {
+                return Operateur::Lu("Label2") == limite && Operateur::Lu("Label1").isEmpty() && !TransfertEnCours();
+            });
             atelier.Abandonne();
             QCOMPARE(atelier.Disque(), Brut(nombre));
             QCOMPARE(frmPrinc->Text1->Text().toLatin1(), atelier.Disque());
