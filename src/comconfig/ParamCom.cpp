@@ -59,7 +59,7 @@ void LisCodes(LecteurChamps &champs, const ChampsChaine &chaine)
 {
     for (int i = 1; i <= ParamCom.*chaine.nombre; ++i) {
         if (i > C::CapaciteChaine)
-            throw Erreur(Erreur::IndiceHorsPlage, QStringLiteral("Subscript out of range"));
+            throw Erreur(Erreur::IndiceHorsPlage, QString::number(i));
         const int code = champs.LigneEntier();
         if (code < 0 || code > CodeMax)
             throw Erreur(Erreur::Depassement, QString::number(code));

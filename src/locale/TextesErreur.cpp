@@ -2,7 +2,10 @@
 
 #include "locale/Langue.h"
 
+#include <QStringList>
+
 #include <algorithm>
+#include <cerrno>
 #include <iterator>
 
 namespace {
@@ -103,7 +106,7 @@ constexpr TextePort TextesPort[] = {
 struct TexteSysteme
 {
     int numero;
-    bool avecDetails; ///< the platform's words say something to an operator: a file, a device, a cause
+    bool avecDetails; ///< the object says something to an operator: a file, a device, a value; and so does the cause
     Texte3 texte;
 };
 
@@ -148,6 +151,82 @@ constexpr TexteSysteme TextesSysteme[] = {
      {u"L'opérateur a annulé.", u"The operator has cancelled.", u"El operador ha cancelado."}},
 };
 
+/// A cause that the system names by a number (errno), in the operator's words.
+struct TexteCause
+{
+    int numero;
+    int dit; ///< the number of Erreur whose text says as much already, else 0
+    Texte3 texte;
+};
+
+constexpr TexteCause TextesCause[] = {
+    {ENOENT,
+     Erreur::FichierIntrouvable,
+     {u"Le fichier, le dossier ou l'appareil n'existe pas.", u"The file, directory or device does not exist.",
+      u"El fichero, el directorio o el aparato no existe."}},
+    {ENOTDIR,
+     0,
+     {u"Un nom du chemin n'est pas celui d'un dossier.", u"A name in the path is not that of a directory.",
+      u"Un nombre de la ruta no es el de un directorio."}},
+    {EISDIR,
+     0,
+     {u"Ce nom est celui d'un dossier.", u"This name is that of a directory.", u"Este nombre es el de un directorio."}},
+    {EEXIST, 0, {u"Ce nom existe déjà.", u"This name exists already.", u"Este nombre ya existe."}},
+    {ENAMETOOLONG, 0, {u"Le nom est trop long.", u"The name is too long.", u"El nombre es demasiado largo."}},
+    {EACCES,
+     Erreur::AccesRefuse,
+     {u"Les droits ne suffisent pas.", u"The rights do not suffice.", u"Los derechos no bastan."}},
+    {EPERM,
+     Erreur::AccesRefuse,
+     {u"Le système ne le permet pas.", u"The system does not permit it.", u"El sistema no lo permite."}},
+    {EROFS,
+     0,
+     {u"Le disque est protégé contre l'écriture.", u"The disk is write-protected.",
+      u"El disco está protegido contra escritura."}},
+    {ENOSPC, Erreur::DisqueSature, {u"Il n'y a plus de place.", u"There is no room left.", u"No queda sitio."}},
+    {EDQUOT,
+     0,
+     {u"La place accordée à cet utilisateur est épuisée.", u"The room granted to this user is used up.",
+      u"El espacio concedido a este usuario está agotado."}},
+    {EFBIG,
+     0,
+     {u"Le fichier est trop grand pour ce disque.", u"The file is too large for this disk.",
+      u"El fichero es demasiado grande para este disco."}},
+    {EMFILE,
+     0,
+     {u"Le programme a trop de fichiers ouverts.", u"The program has too many files open.",
+      u"El programa tiene demasiados ficheros abiertos."}},
+    {ENFILE,
+     0,
+     {u"Le système a trop de fichiers ouverts.", u"The system has too many files open.",
+      u"El sistema tiene demasiados ficheros abiertos."}},
+    {EMLINK,
+     0,
+     {u"Ce nom a trop de liens.", u"This name has too many links.", u"Este nombre tiene demasiados enlaces."}},
+    {ELOOP,
+     0,
+     {u"Le chemin passe par trop de liens.", u"The path leads through too many links.",
+      u"La ruta pasa por demasiados enlaces."}},
+    {ENOTEMPTY, 0, {u"Le dossier n'est pas vide.", u"The directory is not empty.", u"El directorio no está vacío."}},
+    {EBUSY,
+     0,
+     {u"Il est utilisé par un autre programme.", u"It is in use by another program.",
+      u"Otro programa lo está utilizando."}},
+    {EINVAL,
+     0,
+     {u"Le système n'accepte pas ce nom ou ce réglage.", u"The system does not accept this name or setting.",
+      u"El sistema no acepta este nombre o este ajuste."}},
+    {EIO,
+     0,
+     {u"Le disque ou l'appareil ne répond plus.", u"The disk or device no longer answers.",
+      u"El disco o el aparato ya no responde."}},
+    {ENODEV, 0, {u"L'appareil n'est plus là.", u"The device is gone.", u"El aparato ya no está."}},
+    {ENXIO, 0, {u"L'appareil n'est pas là.", u"The device is not there.", u"El aparato no está."}},
+};
+
+constexpr Texte3 CauseInconnue{u"Cause inconnue, numéro %1.", u"Unknown cause, number %1.",
+                               u"Causa desconocida, número %1."};
+
 /// The row of the number in one of the tables, or nullptr.
 template <typename Table>
 const auto *Ligne(const Table &table, int numero)
@@ -157,9 +236,22 @@ const auto *Ligne(const Table &table, int numero)
     return trouve == std::end(table) ? nullptr : &*trouve;
 }
 
+/// The cause in the operator's words; empty where there is none, or where the text of the failure tells it.
+QString Cause(const Erreur &erreur)
+{
+    if (erreur.Cause() == 0)
+        return {};
+    const auto *const cause = Ligne(TextesCause, erreur.Cause());
+    if (cause == nullptr)
+        return Texte(CauseInconnue).arg(erreur.Cause());
+    return cause->dit == erreur.Numero() ? QString() : Texte(cause->texte);
+}
+
 QString AvecDetails(const QString &texte, const Erreur &erreur)
 {
-    return texte + u'\r' + erreur.Description();
+    QStringList lignes{texte, erreur.Objet(), Cause(erreur)};
+    lignes.removeAll(QString());
+    return lignes.join(u'\r');
 }
 
 } // namespace
@@ -170,7 +262,7 @@ QString TexteErreur(const Erreur &erreur)
         return Texte(port->texte);
     const auto *const systeme = Ligne(TextesSysteme, erreur.Numero());
     if (systeme == nullptr)
-        return erreur.Description();
+        return AvecDetails(QString(), erreur);
     return systeme->avecDetails ? AvecDetails(Texte(systeme->texte), erreur) : Texte(systeme->texte);
 }
 

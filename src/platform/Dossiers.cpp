@@ -21,15 +21,7 @@ fs::path EnChemin(const QString &chemin)
 
 [[noreturn]] void Echoue(const fs::path &chemin, std::error_code cause)
 {
-    const int numero = cause == std::errc::no_such_file_or_directory || cause == std::errc::not_a_directory
-                           ? Erreur::FichierIntrouvable
-                       : cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted ||
-                               cause == std::errc::read_only_file_system
-                           ? Erreur::AccesRefuse
-                       : cause == std::errc::no_space_on_device ? Erreur::DisqueSature
-                                                                : Erreur::ErreurFichier;
-    throw Erreur(numero, QDir::toNativeSeparators(QFileInfo(chemin).filePath()) + QLatin1String(" : ") +
-                             qt_error_string(cause.value()));
+    throw ErreurDeFichier(cause.value(), QDir::toNativeSeparators(QFileInfo(chemin).filePath()));
 }
 
 void Exige(const fs::path &chemin, std::error_code cause)

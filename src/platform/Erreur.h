@@ -11,10 +11,14 @@ class Erreur : public std::exception
 {
 public:
     /// numero: the number by which the program knows the failure (see the constants below and MSComm.h).
-    /// description: what the platform says, its own words for whoever looks after the program.
-    Erreur(int numero, const QString &description);
+    /// objet: what failed: the file, the device, the value.
+    /// cause: the system's own number for it (errno), 0 where it has none.
+    Erreur(int numero, const QString &objet, int cause = 0);
 
     int Numero() const { return m_numero; }
+    const QString &Objet() const { return m_objet; }
+    int Cause() const { return m_cause; }
+    /// The object and the system's own words for the cause, for whoever looks after the program.
     const QString &Description() const { return m_description; }
     const char *what() const noexcept override { return m_octets.constData(); }
 
@@ -34,9 +38,15 @@ public:
 
 private:
     int m_numero;
+    int m_cause;
+    QString m_objet;
     QString m_description;
     QByteArray m_octets;
 };
+
+/// The failure of an operation on files or folders that the system refused with cause (errno): DisqueSature,
+/// FichierIntrouvable, AccesRefuse, or else ErreurFichier.
+Erreur ErreurDeFichier(int cause, const QString &objet = {});
 
 /// Runs one step of a routine and goes on with the next when it fails, without a message.
 template <typename Etape>

@@ -15,28 +15,14 @@
 
 namespace {
 
-/// cause: the system's own number. QFile's does not tell a full disk from a broken one, nor a missing file from one
-/// that may not be read; so errno is cleared before each call and read when the call has failed.
-[[noreturn]] void Echoue(int cause, const QString &description)
-{
-    const int numero = cause == ENOSPC || cause == EDQUOT                    ? Erreur::DisqueSature
-                       : cause == ENOENT || cause == ENOTDIR                 ? Erreur::FichierIntrouvable
-                       : cause == EACCES || cause == EPERM || cause == EROFS ? Erreur::AccesRefuse
-                                                                             : Erreur::ErreurFichier;
-    throw Erreur(numero, description);
-}
-
-/// Where a write got only a part away, QFile knows of no failure: then the system's words alone tell the cause.
-[[noreturn]] void Echoue(const QFile &fichier, int cause)
-{
-    Echoue(cause, cause != 0 ? qt_error_string(cause) : fichier.errorString());
-}
+// QFile's own error does not tell a full disk from a broken one, nor a missing file from one that may not be read, and
+// knows of none where a write got only a part away. So errno is cleared before each call and read when it has failed.
 
 void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
 {
     errno = 0;
     if (!fichier.open(mode))
-        Echoue(fichier, errno);
+        throw ErreurDeFichier(errno);
 }
 
 /// Raises DisqueSature, or ErreurFichier for a size that the file system does not have, while a file that is to grow to
@@ -52,23 +38,23 @@ void ExigePlace(const QString &chemin, qint64 taille)
     const int cause = posix_fallocate(fichier.handle(), presente, taille - presente);
     fichier.resize(presente);
     if (cause == ENOSPC || cause == EDQUOT || cause == EFBIG)
-        Echoue(cause, qt_error_string(cause));
+        throw ErreurDeFichier(cause);
 }
 
 void Ecrit(QFile &fichier, const QByteArray &octets)
 {
     errno = 0;
     if (fichier.write(octets) != octets.size())
-        Echoue(fichier, errno);
+        throw ErreurDeFichier(errno);
     // The system takes everything at first. That a stick was pulled meanwhile, it tells only here.
     const int cause = Reprise([&fichier] { return fsync(fichier.handle()); }) < 0 ? errno : 0;
     if (cause != 0 && cause != EINVAL && cause != EROFS) // a device has nothing to keep
-        Echoue(cause, qt_error_string(cause));
+        throw ErreurDeFichier(cause);
     // A network drive may find out only here that it has no room.
     errno = 0;
     fichier.close();
     if (fichier.error() != QFileDevice::NoError)
-        Echoue(fichier, errno);
+        throw ErreurDeFichier(errno);
 }
 
 } // namespace
@@ -85,7 +71,7 @@ try {
     errno = 0;
     QByteArray octets = fichier.readAll();
     if (fichier.error() != QFileDevice::NoError)
-        Echoue(fichier, errno);
+        throw ErreurDeFichier(errno);
     return octets;
 } catch (const std::bad_alloc &) {
     throw Erreur(Erreur::MemoireInsuffisante, chemin);
@@ -117,7 +103,13 @@ void AjouteFichierTexte(const QString &chemin, const QString &texte)
 {
     QFile fichier(chemin);
     Ouvre(fichier, QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
-    Ecrit(fichier, OctetsEn1252(texte));
+    const qint64 presente = fichier.size();
+    try {
+        Ecrit(fichier, OctetsEn1252(texte));
+    } catch (const Erreur &) {
+        QFile::resize(chemin, presente); // what has gone, and a device, has no length to take back
+        throw;
+    }
 }
 
 bool FichierExiste(const QString &chemin)

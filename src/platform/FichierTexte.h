@@ -27,8 +27,8 @@ enum class FichierCoupe {
 /// the text. Raises FichierIntrouvable, AccesRefuse, DisqueSature, ErreurFichier.
 void EcritFichierTexte(const QString &chemin, const QString &texte, FichierCoupe coupe = FichierCoupe::Reste);
 
-/// Adds texte at the end of the file at chemin, which must exist; what it held is not touched. Raises as
-/// EcritFichierTexte().
+/// Adds texte at the end of the file at chemin, which must exist; what it held is not touched. Where the disk takes
+/// only a part of texte, that is cut off again: the file never ends in half a line. Raises as EcritFichierTexte().
 void AjouteFichierTexte(const QString &chemin, const QString &texte);
 
 /// True when chemin names a plain file; any failure gives False.

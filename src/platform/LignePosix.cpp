@@ -47,12 +47,12 @@ int NumeroOuverture(int erreur)
 
 [[noreturn]] void EchecOuverture(const QString &chemin, int erreur)
 {
-    throw Erreur(NumeroOuverture(erreur), chemin + QLatin1String(": ") + qt_error_string(erreur));
+    throw Erreur(NumeroOuverture(erreur), chemin, erreur);
 }
 
 [[noreturn]] void LigneDisparue(int erreur)
 {
-    throw Erreur(ErreurPort::Lecture, qt_error_string(erreur));
+    throw Erreur(ErreurPort::Lecture, QString(), erreur);
 }
 
 dev_t Numero(int fd)

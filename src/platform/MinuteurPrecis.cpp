@@ -5,6 +5,7 @@
 #include "platform/Reprise.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <sys/timerfd.h>
 #include <unistd.h>
@@ -15,7 +16,7 @@ int OuvreMinuteur()
 {
     const int fd = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
     if (fd < 0)
-        throw Erreur(ErreurPort::Indisponible, qt_error_string());
+        throw Erreur(ErreurPort::Indisponible, QString(), errno);
     return fd;
 }
 

@@ -16,7 +16,7 @@ namespace {
 
 [[noreturn]] void Echoue()
 {
-    throw Erreur(Erreur::ErreurFichier, QStringLiteral("Printer error"));
+    throw Erreur(Erreur::ErreurFichier, QString());
 }
 
 } // namespace

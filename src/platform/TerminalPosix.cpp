@@ -5,6 +5,7 @@
 #include "platform/Reprise.h"
 
 #include <asm/termbits.h>
+#include <cerrno>
 #include <cstdlib>
 #include <sys/ioctl.h>
 
@@ -93,7 +94,7 @@ void RegleTerminal(int fd, const ReglagePort &reglage, bool verifie)
 {
     termios2 ancien{};
     if (Reprise([&] { return ioctl(fd, TCGETS2, &ancien); }) < 0)
-        throw Erreur(ErreurPort::Reglage, qt_error_string());
+        throw Erreur(ErreurPort::Reglage, QString(), errno);
 
     termios2 demande = ancien;
     RendBrut(demande);
@@ -101,9 +102,9 @@ void RegleTerminal(int fd, const ReglagePort &reglage, bool verifie)
     demande.c_cflag = Commande(reglage);
     demande.c_ispeed = demande.c_ospeed = static_cast<speed_t>(reglage.vitesse);
     if (Reprise([&] { return ioctl(fd, TCSETS2, &demande); }) < 0) {
-        const QString texte = qt_error_string();
+        const int cause = errno;
         Reprise([&] { return ioctl(fd, TCSETS2, &ancien); });
-        throw Erreur(ErreurPort::Reglage, texte);
+        throw Erreur(ErreurPort::Reglage, QString(), cause);
     }
     if (!verifie)
         return;
@@ -112,7 +113,7 @@ void RegleTerminal(int fd, const ReglagePort &reglage, bool verifie)
     Reprise([&] { return ioctl(fd, TCGETS2, &obtenu); });
     if (const int numero = ReglageRefuse(demande, obtenu)) {
         Reprise([&] { return ioctl(fd, TCSETS2, &ancien); });
-        throw Erreur(numero, qt_error_string(EINVAL));
+        throw Erreur(numero, QString(), EINVAL);
     }
 }
 

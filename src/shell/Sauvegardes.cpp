@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QRegularExpression>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace {
@@ -59,10 +60,12 @@ QString Reserve(const QString &nom, const QDateTime &date)
         const QString suite = rang == 1 ? QString() : QStringLiteral(" (%1)").arg(rang);
         QFile fichier(AjouteAntislash(dossier) + racine + date.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + suite +
                       fin);
+        errno = 0;
         if (fichier.open(QIODevice::WriteOnly | QIODevice::NewOnly))
             return fichier.fileName();
+        const int cause = errno;
         if (!fichier.exists())
-            throw Erreur(Erreur::ErreurFichier, fichier.errorString());
+            throw ErreurDeFichier(cause);
     }
 }
 

@@ -47,7 +47,7 @@ void Pose(const QString &partiel, const QString &chemin, std::unique_ptr<Fichier
     else
         QFile::remove(partiel);
     if (cause)
-        throw Erreur(Erreur::ErreurFichier, QString::fromStdString(cause.message()));
+        throw ErreurDeFichier(cause.value());
     if (!place.voulu)
         return;
     if (!place.chemin.isEmpty() && place.chemin != chemin)

@@ -63,6 +63,7 @@ private Q_SLOTS:
         const rlimit serre{16, libre.rlim_max};
         setrlimit(RLIMIT_FSIZE, &serre);
         QStringList causes;
+        const int plein = NumeroErreur([&] { AjouteFichierTexte(Chemin("gros"), QString(16, u'y')); });
         for (const auto &[nom, coupe] :
              {std::pair{"fichier", FichierCoupe::Part}, {"neuf", FichierCoupe::Part}, {"cut", FichierCoupe::Reste}}) {
             try {
@@ -75,6 +76,8 @@ private Q_SLOTS:
         QVERIFY(!FichierExiste(Chemin("neuf")) && FichierExiste(Chemin("cut")));
         setrlimit(RLIMIT_FSIZE, &libre);
         QCOMPARE(LitOctets(Chemin("fichier"), 8), QByteArray("12345678"));
+        QCOMPARE(plein, Erreur::ErreurFichier); // half of the line that was added is cut off again
+        QCOMPARE(LitOctets(Chemin("gros")), QByteArray("x"));
     }
 };
 

@@ -81,8 +81,8 @@ struct Atelier : Poste, Operateur
 
     void Dit(const QString &dit, const QString &titre = u"Error"_s, int icone = Boite::Critique)
     {
-        const QString cause = ferme ? u"Access is refused.\r"_s + qt_error_string(EACCES)
-                                    : u"Reading or writing has failed.\r"_s + qt_error_string(EFBIG);
+        const QString cause =
+            ferme ? u"Access is refused."_s : u"Reading or writing has failed.\rThe file is too large for this disk."_s;
         const QString details = icone == Boite::Critique ? QString() : u'\r' + cause;
         if (echoue)
             Repond(titre, dit + details, icone, QMessageBox::Ok);

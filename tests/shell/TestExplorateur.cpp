@@ -248,7 +248,7 @@ private Q_SLOTS:
         frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(tour);
         atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
         atelier.Apprend("Information",
-                        u"ERREUR N° 70\rL'accès est refusé.\r%1/b.cn : Autorisation refusée\r"
+                        u"ERREUR N° 70\rL'accès est refusé.\r%1/b.cn\r"
                         u"Il reste dans le dossier : Sous-dossiers : 0, fichiers : 1"_s.arg(tour),
                         Boite::Information);
         const uid_t avant = geteuid();

@@ -128,14 +128,16 @@ private Q_SLOTS:
         OuvrePortCOM();
         QVERIFY(atelier.controle.PortOpen() && atelier.controle.CommPort() == 2);
         QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
-        LangIndex = 2; // the platform's words stand below ours, or alone for a number without a text
+        LangIndex = 2; // object and cause stand below, where they say more, or alone for a number without a text
         Em_Rc dialogue(frmPrinc);
-        for (const auto &[numero, texte] : {std::pair{70, u"El acceso está denegado.\rPermission denied"_s},
-                                            {62, u"El fichero está incompleto."_s},
-                                            {1005, u"Permission denied"_s}}) {
+        for (const auto &[numero, cause, texte] :
+             {std::tuple{70, EACCES, u"El acceso está denegado.\r/dev/x"_s},
+              {70, EROFS, u"El acceso está denegado.\r/dev/x\rEl disco está protegido contra escritura."_s},
+              {62, EIO, u"El fichero está incompleto."_s},
+              {1005, EPROTO, u"/dev/x\rCausa desconocida, número 71."_s}}) {
             atelier.operateur.Repond(u"Error N°:  %1Cierre del puerto de comunicación"_s.arg(numero), texte,
                                      Boite::Critique, QMessageBox::Ok);
-            ErreurPortCOM(Erreur(numero, u"Permission denied"_s), dialogue);
+            ErreurPortCOM(Erreur(numero, u"/dev/x"_s, cause), dialogue);
         }
         QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
     }
@@ -240,8 +242,8 @@ private Q_SLOTS:
         accepte();
         atelier.operateur.Choisit(atelier.poste.Chemin("RESTE.ISO"));
         atelier.operateur.Repond("Enregistrer les lignes reçues",
-                                 u"Erreur lors de l'enregistrement du fichier\rLa lecture ou l'écriture a échoué.\r"_s +
-                                     qt_error_string(EIO),
+                                 "Erreur lors de l'enregistrement du fichier\rLa lecture ou l'écriture a échoué.\r"
+                                 "Le disque ou l'appareil ne répond plus.",
                                  Boite::Critique, QMessageBox::Ok);
         accepte();
         atelier.operateur.Ferme("CommonDialog");
