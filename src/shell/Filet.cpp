@@ -113,7 +113,9 @@ QString Filet::Retient()
     }
     if (m_garde.isEmpty() || !FichierExiste(m_garde))
         m_garde = GardeTexte(NomFichier, frmPrinc->Text1->Text());
-    if (!m_garde.isEmpty())
+    if (m_garde.isEmpty())
+        LaisseEnCours();
+    else
         RetireEnCours();
     return m_garde;
 }
@@ -132,7 +134,6 @@ void Filet::RetientFinal(bool nonEnregistre)
 void Filet::Part()
 {
     Retient();
-    RetireEnCours();
     m_tranche.stop();
 }
 
@@ -140,9 +141,10 @@ void Filet::Change()
 {
     m_garde.clear();
     m_tranche.stop();
-    const std::chrono::milliseconds ecoule(m_dernierEcrit.isValid() ? m_dernierEcrit.elapsed() : 0);
-    m_repos.start(m_dernierEcrit.isValid() ? std::max<std::chrono::milliseconds>(ReposClavier, EntreDeuxEcrits - ecoule)
-                                           : ReposClavier);
+    std::chrono::milliseconds attente = ReposClavier;
+    if (m_dernierEcrit.isValid())
+        attente = std::max(attente, EntreDeuxEcrits - std::chrono::milliseconds(m_dernierEcrit.elapsed()));
+    m_repos.start(attente);
 }
 
 /// The keyboard rests.

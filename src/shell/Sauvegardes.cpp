@@ -35,19 +35,23 @@ NomCoupe Coupe(const QString &nom)
     return {avecFin ? nom.left(point) : nom, avecFin ? nom.mid(point) : QString()};
 }
 
-/// The name alone of a path, cut where it would be too long.
+/// The date that a kept file bears, and its ending.
+const QRegularExpression &FormeDate()
+{
+    static const QRegularExpression forme(QStringLiteral(R"(_\d{4}-\d\d-\d\d_\d{6}(?: \(\d+\))?(\.[^.]*)?$)"));
+    return forme;
+}
+
+/// The name alone of a path, cut where it would be too long. What comes from the folder itself bears a date already.
 QString NomCourt(const QString &chemin)
 {
-    auto [racine, fin] = Coupe(NomSeul(chemin));
+    QString nom = NomSeul(chemin);
+    if (chemin == AjouteAntislash(DossierSauvegardes()) + nom)
+        nom.replace(FormeDate(), QStringLiteral("\\1"));
+    auto [racine, fin] = Coupe(nom);
     while (QFile::encodeName(racine + fin).size() > LongueurNom)
         racine.chop(1);
     return racine + fin;
-}
-
-bool EstSauvegarde(const QString &nom)
-{
-    static const QRegularExpression forme(QStringLiteral(R"(_\d{4}-\d\d-\d\d_\d{6}( \(\d+\))?(\.[^.]*)?$)"));
-    return forme.match(nom).hasMatch();
 }
 
 /// Makes an empty file under the first name of nom that is free; another copy of the program may look for one too.
@@ -78,7 +82,7 @@ void Limite(const QString &derniere)
     const QFileInfoList fichiers =
         QDir(DossierSauvegardes()).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time);
     for (const QFileInfo &fichier : fichiers) {
-        if (fichier.fileName() == NomSeul(derniere) || !EstSauvegarde(fichier.fileName()))
+        if (fichier.fileName() == NomSeul(derniere) || !FormeDate().match(fichier.fileName()).hasMatch())
             continue;
         taille += fichier.size();
         if (++nombre > NombreMax || taille > TailleMax)
@@ -118,7 +122,7 @@ QString NomPourTexte(const QString &nom)
     if (nom.isEmpty())
         return QStringLiteral("Sans nom.iso");
     const bool enrichi = nom.right(3).toUpper() == QLatin1String("RTF");
-    return NomCourt(enrichi ? nom + QStringLiteral(".txt") : nom);
+    return enrichi ? NomCourt(nom) + QStringLiteral(".txt") : NomCourt(nom);
 }
 
 QString GardeTexte(const QString &nom, const QString &texte)

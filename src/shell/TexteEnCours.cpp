@@ -30,11 +30,13 @@ struct
 
 std::future<void> ecriture;
 
-/// Of this run.
+/// Of this run, "" for none yet.
+QString numero;
+
 QString Debut()
 {
-    static const QString numero =
-        QStringLiteral("%1").arg(QRandomGenerator::system()->generate(), LongueurNumero, 16, QLatin1Char('0'));
+    if (numero.isEmpty())
+        numero = QStringLiteral("%1").arg(QRandomGenerator::system()->generate(), LongueurNumero, 16, QLatin1Char('0'));
     return AjouteAntislash(DossierSauvegardes()) + Prefixe + numero;
 }
 
@@ -54,6 +56,14 @@ void Pose(const QString &partiel, const QString &chemin, std::unique_ptr<Fichier
         QFile::remove(place.chemin); // the program was given another name meanwhile
     place.chemin = chemin;
     place.tenu = std::move(tenu);
+}
+
+/// Under the lock.
+void Oublie()
+{
+    place.voulu = false;
+    place.chemin.clear();
+    place.tenu.reset();
 }
 
 /// On the thread of its own. The text stands beside its place until it is whole, so that a death while it is written
@@ -98,11 +108,16 @@ bool EcritureEnRoute()
 void RetireEnCours()
 {
     const std::lock_guard garde(place.verrou);
-    place.voulu = false;
     if (!place.chemin.isEmpty())
         QFile::remove(place.chemin);
-    place.chemin.clear();
-    place.tenu.reset();
+    Oublie();
+}
+
+void LaisseEnCours()
+{
+    const std::lock_guard garde(place.verrou);
+    Oublie();
+    numero.clear(); // or the next text of the same name would be written over it
 }
 
 void FinitEnCours()

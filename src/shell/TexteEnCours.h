@@ -17,7 +17,10 @@ bool EcritureEnRoute();
 /// The text was saved, or has left the pane: the file goes, and what is on its way does not come. Waits for no disk.
 void RetireEnCours();
 
-/// Same, at the end of the program: waits until nothing writes any more.
+/// The text could not be kept: what was written of it last stays, for the next start to find.
+void LaisseEnCours();
+
+/// Same as RetireEnCours(), at the end of the program: waits until nothing writes any more.
 void FinitEnCours();
 
 /// The files that other runs have left, or hold, the oldest first. What one of them did not write to its end is
