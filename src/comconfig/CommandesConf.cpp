@@ -113,6 +113,7 @@ void MetConfigurationNeuve()
     for (QString *const libelle : {&p.LibDebProg, &p.LibFinLig, &p.LibFinTrans})
         libelle->clear();
     p.NbCarDebProg = p.NbCarFinLig = p.NbCarFinTrans = 0;
+    EtatConf().neuve = true;
     // What a reading that broke off has left stays in the fields that are not set here.
     if (EtatConf().fiche == EtatConfiguration::Entiere)
         EtatConf().fiche = EtatConfiguration::EnAttente;

@@ -100,7 +100,7 @@ void LireFichierPar(const QString &chemin)
         LisCodes(champs, chaine);
     ParamCom.FinLigRecep = champs.LigneEntier();
     ParamCom.TypeEnvoi = champs.LigneEntier();
-    EtatConf() = {EtatConfiguration::Entiere, true};
+    EtatConf() = {.fiche = EtatConfiguration::Entiere, .lue = true};
 }
 
 void EcrireFichierPar(const QString &chemin)
@@ -116,6 +116,7 @@ void EcrireFichierPar(const QString &chemin)
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
     EcritFichierTexte(chemin, texte);
     EtatConf().fiche = EtatConfiguration::Entiere;
+    EtatConf().neuve = false;
 }
 
 void BatirChaines()

@@ -92,7 +92,8 @@ struct EtatConfiguration
         Entiere     ///< read or saved whole, or applied
     };
     Fiche fiche = Incomplete;
-    bool lue = false; ///< a configuration has been read whole since the program started
+    bool neuve = false; ///< made by the operator, and no file holds it yet
+    bool lue = false;   ///< a configuration has been read whole since the program started
 };
 
 /// Kept by whatever changes ParamCom as a whole.
