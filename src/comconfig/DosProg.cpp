@@ -101,6 +101,7 @@ void DosProg::Command1_Click()
 {
     FolderTreeview1_SelectionChange();
     AnnonceNomPerdu(Dossier(), LigneNom::Citee, windowTitle());
+    AnnonceCfgPerdu(ParamCom.DosRecep, windowTitle());
     try {
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {

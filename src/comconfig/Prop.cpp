@@ -238,9 +238,18 @@ void Prop::Command1_Click()
         EcrireFichierPar(FicConf);
         m_validee = ParamCom;
         Nomme(NomConf);
-        if (FinTransfertPerdue())
-            MsgBox(Texte(FinPerdue), Boite::Exclamation, QString::fromUtf16(Programme));
+        AnnoncePertes();
     });
+}
+
+/// What the file does not keep, and what the line will not bring.
+void Prop::AnnoncePertes()
+{
+    const QString titre = QString::fromUtf16(Programme);
+    AnnonceNomRepris(ParamCom.DosRecep, titre);
+    AnnonceSaisiePerdue(ParamCom.Commentaire + ParamCom.LibDebProg + ParamCom.LibFinLig + ParamCom.LibFinTrans, titre);
+    if (FinTransfertPerdue())
+        MsgBox(Texte(FinPerdue), Boite::Exclamation, titre);
 }
 
 void Prop::done(int resultat)
@@ -268,6 +277,7 @@ void Prop::Command5_Click()
         EditeurCN = CommonDialog1->FileName;
         Label12->setText(EditeurCN);
         AnnonceNomPerdu(EditeurCN, LigneNom::Citee, QString::fromUtf16(Programme));
+        AnnonceCfgPerdu(ParamCom.DosRecep, QString::fromUtf16(Programme));
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {
         if (erreur.Numero() != Erreur::DialogueAnnule)

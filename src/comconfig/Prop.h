@@ -46,6 +46,7 @@ private:
     void BrancheCommandes();
     void BrancheChaines();
     void BrancheDossiers();
+    static void AnnoncePertes();
     void MontreSaisieRefusee(QWidget *boite, const QString &raison);
 
     CommonDialog *const CommonDialog1; ///< file dialog of Save As and of the editor

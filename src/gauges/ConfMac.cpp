@@ -10,6 +10,7 @@
 #include "platform/FiltreTouches.h"
 #include "platform/GardePlaces.h"
 #include "platform/Nombres.h"
+#include "shell/NomsPerdus.h"
 
 namespace {
 
@@ -123,6 +124,7 @@ void ConfMac::Command2_Click()
         EcritMac(NomCompletMac);
         m_chemin = NomCompletMac;
         MontreNom();
+        AnnonceSaisiePerdue(ParamMac.ExtJauge + ParamMac.NumProgJauge, windowTitle());
     } catch (const Erreur &) {
         // Cancelled or not written: the dialog stays open and keeps the name of its former file.
     }

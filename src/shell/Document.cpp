@@ -11,6 +11,7 @@
 #include "shell/Chemins.h"
 #include "shell/FiltresFichiers.h"
 #include "shell/FrmPrinc.h"
+#include "shell/NomsPerdus.h"
 #include "shell/ProgrammesExternes.h"
 #include "shell/Reglages.h"
 #include "shell/Sauvegardes.h"
@@ -79,8 +80,10 @@ void ChoisitDosDefaut()
     QDir::setCurrent(DosDefaut);
     if (!ListeUnFichier(DosDefaut))
         DosDefaut = DossierApplication();
-    if (const auto applique = frmPrinc->DossierApplique())
+    if (const auto applique = frmPrinc->DossierApplique()) {
         DosDefaut = *applique;
+        AnnonceNomRepris(DosDefaut, Texte(TitreOuvrir));
+    }
 }
 
 void ProposeTraitementDeTexte(const QString &chemin)

@@ -10,6 +10,7 @@
 #include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "shell/NomsPerdus.h"
 #include "shell/Reglages.h"
 #include "shell/SuppressionDossier.h"
 
@@ -226,6 +227,13 @@ void Command4_Click()
     }
 }
 
+/// Programs are opened in the selected folder and received there from now on.
+void CheckDOS_Click()
+{
+    if (const auto dossier = frmPrinc->DossierApplique())
+        AnnonceNomPerdu(*dossier, LigneNom::Citee, Texte(RacineTitre));
+}
+
 /// Makes the column and ties its controls to its commands.
 void CreeColonne()
 {
@@ -241,6 +249,7 @@ void CreeColonne()
     QObject::connect(colonne->FolderTreeview1, &FolderTreeview::SelectionChange, frmPrinc, FolderTreeview1_Click);
     QObject::connect(colonne->FolderTreeview1, &FolderTreeview::Click, frmPrinc, FolderTreeview1_Click);
     QObject::connect(colonne->FolderTreeview1, &FolderTreeview::Disparu, frmPrinc, FolderTreeview1_Disparu);
+    QObject::connect(colonne->CheckDOS, &QCheckBox::clicked, frmPrinc, CheckDOS_Click);
     QObject::connect(colonne->File1, &FileListBox::DblClick, frmPrinc, File1_DblClick);
     QObject::connect(colonne->Combo1, &QComboBox::editTextChanged, frmPrinc, Combo1_Change);
 }
@@ -256,5 +265,5 @@ void Mnu_AffichDOS()
     if (montre)
         PointeDossier();
     frmPrinc->MontreExplorateur(montre);
-    PoseBulle(frmPrinc->Bouton(15), Texte(montre ? BulleOuvert : BulleFerme));
+    PoseBulle(frmPrinc->Bouton(15), TexteChoisi(montre ? BulleOuvert : BulleFerme));
 }

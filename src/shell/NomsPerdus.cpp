@@ -4,7 +4,9 @@
 #include "platform/Boites.h"
 #include "platform/PageCode1252.h"
 #include "shell/Chemins.h"
+#include "shell/Reglages.h"
 
+#include <QSet>
 #include <QStringList>
 #include <QTextBoundaryFinder>
 
@@ -33,6 +35,13 @@ constexpr Texte3 Signes{u"Ce nom contient des signes que les fichiers de réglag
                         u"Vale hasta el fin del programa; el próximo arranque no lo encontraría.\r"
                         u"Elegir un nombre sin esos signos, cambiarlo, o usar un enlace con otro nombre."};
 
+constexpr Texte3 Remplaces{u"Cette saisie contient des signes que le fichier ne peut pas garder :  %1\r"
+                           u"Chacun y devient un point d'interrogation.",
+                           u"What was entered holds signs that the file cannot keep:  %1\r"
+                           u"Each becomes a question mark there.",
+                           u"Lo introducido contiene signos que el fichero no puede guardar:  %1\r"
+                           u"Cada uno se convierte allí en un signo de interrogación."};
+
 constexpr Texte3 DossierTitre{u"Dossier de Dorvanel", u"Folder of Dorvanel", u"Carpeta de Dorvanel"};
 constexpr Texte3 DossierTexte{
     u"Le nom du dossier de Dorvanel contient des signes que les fichiers de réglages ne peuvent pas garder :  %2\r%1\r"
@@ -44,6 +53,9 @@ constexpr Texte3 DossierTexte{
     u"El nombre de la carpeta de Dorvanel contiene signos que los ficheros de ajustes no pueden guardar:  %2\r%1\r"
     u"Los próximos arranques perderían carpetas o el idioma.\r"
     u"Dejar Dorvanel, y después dar a la carpeta un nombre sin esos signos."};
+
+/// The names of which the operator was told in this run.
+QSet<QString> dits;
 
 /// The signs of nom that its line cannot hold, each once, as they are read; separateurs: those that end the value.
 QString SignesPerdus(const QString &nom, QStringView separateurs)
@@ -69,6 +81,25 @@ void AnnonceNomPerdu(const QString &nom, LigneNom ligne, const QString &titre)
         MsgBox(Texte(Virgule), Boite::Exclamation, titre);
     else if (!perdus.isEmpty())
         MsgBox(Texte(Signes).arg(nom, perdus), Boite::Exclamation, titre);
+    dits << nom;
+}
+
+void AnnonceNomRepris(const QString &nom, const QString &titre)
+{
+    if (!dits.contains(nom))
+        AnnonceNomPerdu(nom, LigneNom::Citee, titre);
+}
+
+void AnnonceCfgPerdu(const QString &dosRecep, const QString &titre)
+{
+    for (const QString &nom : {dosRecep, DosJauge, EditeurCN})
+        AnnonceNomRepris(nom, titre);
+}
+
+void AnnonceSaisiePerdue(const QString &saisie, const QString &titre)
+{
+    if (const QString perdus = SignesPerdus(saisie, u""); !perdus.isEmpty())
+        MsgBox(Texte(Remplaces).arg(perdus), Boite::Exclamation, titre);
 }
 
 void AnnonceDossierPerdu()

@@ -16,5 +16,15 @@ enum class LigneNom {
 /// titre: of the box.
 void AnnonceNomPerdu(const QString &nom, LigneNom ligne, const QString &titre);
 
-/// Same for the application folder, which a first start writes down in both forms.
+/// Same for a name that the program takes over from elsewhere, or writes along with another, between quotes: told once
+/// a run.
+void AnnonceNomRepris(const QString &nom, const QString &titre);
+
+/// Same for the names in "Dorvanel.CFG", of which the operator has chosen one. dosRecep: as for SauveCfg().
+void AnnonceCfgPerdu(const QString &dosRecep, const QString &titre);
+
+/// Tells the operator when a text that he has entered loses letters in the file that it is saved in.
+void AnnonceSaisiePerdue(const QString &saisie, const QString &titre);
+
+/// Same as AnnonceNomPerdu() for the application folder, which a first start writes down in both forms.
 void AnnonceDossierPerdu();

@@ -14,6 +14,7 @@
 #include "platform/Nombres.h"
 #include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
+#include "shell/NomsPerdus.h"
 #include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/ImageTransfert.h"
@@ -92,8 +93,10 @@ void Rc_Fic::Form_Load()
 {
     MontreFinLigne();
     QString &reception = Dossier();
-    if (const auto applique = frmPrinc->DossierApplique())
+    if (const auto applique = frmPrinc->DossierApplique()) {
         reception = *applique;
+        AnnonceNomRepris(reception, windowTitle());
+    }
     if (const Mode *const mode = ModeChoisi()) {
         Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
         Combo1->setEnabled(mode->extension != nullptr);

@@ -61,14 +61,17 @@ private Q_SLOTS:
         }
     }
 
-    // A folder whose name the file cannot keep is told as it is applied, and not found by the next start.
+    // A folder whose name the file cannot keep is told as it is applied, also where it goes along
+    // with another, and not found by the next start.
     void NomPerdu()
     {
         Atelier atelier(1);
         QDir(atelier.Dossier()).mkdir(u"a\"b"_s);
         const DosProg dialogue(DossierJauges, nullptr);
         dialogue.FolderTreeview1->setSelectedFolder(atelier.Chemin(u"a\"b"_s));
+        ParamCom.DosRecep = u"/Łódź"_s; // only looked at
         atelier.ApprendQue(u"  \"\n"_s);
+        atelier.ApprendQue(u"  Ł ź\n"_s);
         dialogue.Command1->click();
         AnnonceNomPerdu(DosJauge, LigneNom::Nue, {}); // a bare line would keep it
         atelier.Redemarre();

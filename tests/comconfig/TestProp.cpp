@@ -202,8 +202,8 @@ private Q_SLOTS:
     }
 
     // A cancelled saving ends without a word: the fields are taken. One whose end of transfer the flow control takes
-    // away is told. A folder only looked at is in the record until the one that is shown is put back. The editor goes
-    // to the settings at once.
+    // away, or whose comment the file cannot hold, is told. A folder only looked at is in the record until the one that
+    // is shown is put back. The editor goes to the settings at once.
     void Choix()
     {
         Banc banc;
@@ -224,6 +224,8 @@ private Q_SLOTS:
         ParamCom.ControleFlux = 1;
         prop.OptFinTrans_0->click();
         banc.Choisit(banc.Chemin("Fin.par"));
+        prop.Text1->setText(u"Tour é Łódź"_s);
+        banc.ApprendQue(u"  Ł ź\n"_s);
         banc.ApprendQue(u"17 ou 19"_s);
         prop.Command1->click();
         QVERIFY(QFile::exists(banc.Chemin("Fin.par")));

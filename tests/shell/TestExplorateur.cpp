@@ -260,15 +260,18 @@ private Q_SLOTS:
     }
 
     // Ticked, the box makes the open dialog and the receptions start in the selected folder, also when the column is
-    // closed again; nothing selected changes nothing.
+    // closed again; nothing selected changes nothing. A name that the settings cannot keep is told once.
     void DossierApplique()
     {
         Atelier atelier;
-        const QString tour = atelier.Chemin("Pieces/Tour/");
+        const QString tour = atelier.Chemin(u"Pieces/Łódź/"_s);
+        QVERIFY(QDir().rename(atelier.Chemin("Pieces/Tour"), tour));
         frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(tour);
         Operateur::Barre(15);
         for (const bool coche : {false, true}) {
             frmPrinc->Frame1->CheckDOS->setChecked(coche);
+            if (coche)
+                atelier.ApprendQue(u"  Ł ź\n"_s);
             atelier.Choisit("b.cn");
             Operateur::Menu("Mnu_Ouvrir");
             QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
@@ -278,6 +281,9 @@ private Q_SLOTS:
                 QCOMPARE(Rc_Fic(frmPrinc).Label3->text() == tour, coche);
             }
         }
+        frmPrinc->Frame1->CheckDOS->click();
+        atelier.ApprendQue(u"  Ł ź\n"_s);
+        frmPrinc->Frame1->CheckDOS->click();
         frmPrinc->Frame1->FolderTreeview1->clearSelection();
         TypeTransfert = ReceptionProgramme;
         QCOMPARE(Rc_Fic(frmPrinc).Label3->text(), tour);
