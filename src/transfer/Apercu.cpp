@@ -37,6 +37,9 @@ constexpr Texte3 Incomplete{u"Configuration incomplète : la charger ou l'enregi
 constexpr Texte3 NonAppliquee{u"Configuration modifiée sans être appliquée : la charger de nouveau. ",
                               u"Configuration changed and not applied: load it again. ",
                               u"Configuración modificada sin ser aplicada: cargarla de nuevo. "};
+constexpr Texte3 Neuve{u"Nouvelle configuration, jamais enregistrée : en charger une, ou la refaire. ",
+                       u"New configuration, never saved: load one, or make it again. ",
+                       u"Configuración nueva, nunca registrada: cargar una, o hacerla de nuevo. "};
 constexpr Texte3 PortUtilise{u"Port utilisé : Com%1, vitesse : %2.", u"Port used: Com%1, speed: %2.",
                              u"Puerto utilizado: Com%1, velocidad: %2."};
 constexpr Texte3 QuandMeme{u"Continuer quand même ?", u"Go on all the same ?", u"¿Continuar de todos modos?"};
@@ -88,20 +91,22 @@ void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
         apercu.alertes << Texte(TropDeLignes);
 }
 
+const Texte3 &Defaut(const EtatConfiguration &etat)
+{
+    return etat.fiche == EtatConfiguration::Incomplete ? Incomplete : etat.neuve ? Neuve : NonAppliquee;
+}
+
 void RegardeConfiguration(Apercu &apercu)
 {
     if (EtatConf().fiche == EtatConfiguration::Entiere)
         return;
     const int port = Controle().PortOpen() ? Controle().CommPort() : ParamCom.NumPort;
-    apercu.alertes << Texte(EtatConf().fiche == EtatConfiguration::EnAttente ? NonAppliquee : Incomplete) +
-                          Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
+    apercu.alertes << Texte(Defaut(EtatConf())) + Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
 }
 
 Apercu Regarde(const Ui::Em_Rc &dialogue)
 {
     Apercu apercu;
-    if (Texte(Contenu).isNull())
-        return apercu;
     if (TypeTransfert == EmissionProgramme || TypeTransfert == EmissionJauges)
         RegardeTexte(apercu, dialogue.Bilan->fontMetrics(), dialogue.Bilan->window()->minimumWidth() / 2);
     RegardeConfiguration(apercu);
