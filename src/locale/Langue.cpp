@@ -8,6 +8,12 @@ int LangIndex = 0;
 
 QString Texte(const Texte3 &texte)
 {
+    const bool connue = LangIndex >= 0 && LangIndex <= 2;
+    return connue ? TexteChoisi(texte) : QString::fromUtf16(texte.francais);
+}
+
+QString TexteChoisi(const Texte3 &texte)
+{
     const char16_t *const choisi = LangIndex == 0   ? texte.francais
                                    : LangIndex == 1 ? texte.anglais
                                    : LangIndex == 2 ? texte.espagnol
@@ -20,7 +26,7 @@ void AppliqueLangueSysteme()
     static auto *const traducteur = new QTranslator(QCoreApplication::instance());
     const QString fichier = Texte({u"qtbase_fr", u"qtbase_en", u"qtbase_es"});
     static QString pris;
-    if (fichier.isNull() || fichier == pris)
+    if (fichier == pris)
         return;
     pris = fichier;
     QCoreApplication::removeTranslator(traducteur);

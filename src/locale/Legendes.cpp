@@ -83,7 +83,7 @@ void MontreLangue()
     for (const QWidget *const fenetre : fenetres) {
         for (int langue = 0; langue < 3; ++langue) {
             auto *const entree = fenetre->findChild<QAction *>(QStringLiteral("Mnu_Lang_%1").arg(langue));
-            const QString nom = Texte(NomsLangues[langue]);
+            const QString nom = TexteChoisi(NomsLangues[langue]);
             if (entree == nullptr || nom.isNull())
                 continue;
             entree->setChecked(langue == LangIndex);
@@ -98,7 +98,7 @@ void AppliqueLegendes(QWidget *fenetre)
         if (fenetre->objectName() != QLatin1String(table->fenetre))
             continue;
         for (const Legende &legende : table->legendes) {
-            const QString texte = Texte({nullptr, legende.anglais, legende.espagnol});
+            const QString texte = TexteChoisi({nullptr, legende.anglais, legende.espagnol});
             QObject *const controle = texte.isNull() ? nullptr : Controle(fenetre, QLatin1String(legende.controle));
             if (controle != nullptr && !controle->property(Donnee).toBool())
                 EcritLegende(controle, legende.endroit, texte);
@@ -128,7 +128,7 @@ void MontreDonnee(QWidget *controle, const QString &donnee)
 
 void PoseTexte(QWidget *controle, const Texte3 &texte, const QString &suite)
 {
-    const QString choisi = Texte(texte);
+    const QString choisi = TexteChoisi(texte);
     if (!choisi.isNull())
         EcritTitre(controle, choisi + suite);
 }

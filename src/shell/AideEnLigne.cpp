@@ -13,7 +13,7 @@ constexpr Texte3 CheminAide{u"/Dorvanel/index.html", u"/Dorvanel/English/index.h
 
 void Mnu_AideEnLigne()
 {
-    const QString chemin = Texte(CheminAide);
+    const QString chemin = TexteChoisi(CheminAide);
     if (!chemin.isNull())
         QDesktopServices::openUrl(QUrl(QString::fromUtf16(AdresseSite) + chemin));
 }

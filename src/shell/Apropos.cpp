@@ -26,7 +26,7 @@ Apropos::Apropos(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    const QString programme = Texte(Programme);
+    const QString programme = TexteChoisi(Programme);
     if (!programme.isNull())
         Label1->setText(PourAffichage(programme));
     Label4->setText(QString::fromUtf16(AdresseCourrier));

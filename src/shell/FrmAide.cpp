@@ -114,7 +114,7 @@ public:
 void Mnu_Aide()
 {
     static QPointer<FrmAide> ouverte; // the one help window
-    if (Texte(Manuel).isNull())
+    if (TexteChoisi(Manuel).isNull())
         return;
     const QString manuel = CheminManuel();
     if (!QFileInfo(manuel).isFile()) {

@@ -184,7 +184,7 @@ void FrmPrinc::MontreEtat(const QString &message)
 void FrmPrinc::MontrePort(bool ouvert, const QString &texte)
 {
     shpPortOpen->setFillColor(Couleur(ouvert));
-    const QString mots = texte.isNull() ? Texte(ouvert ? PortOuvertTexte : PortFermeTexte) : texte;
+    const QString mots = texte.isNull() ? TexteChoisi(ouvert ? PortOuvertTexte : PortFermeTexte) : texte;
     if (!mots.isNull())
         lblPortOpen->setText(mots);
     DitLampes();
@@ -220,8 +220,6 @@ void FrmPrinc::DitLampes()
 {
     const QString allumee = Texte(AllumeeTexte);
     const QString eteinte = Texte(EteinteTexte);
-    if (allumee.isNull())
-        return;
     const std::pair<Lampe *, QLabel *> paires[] = {{shpPortOpen, lblPortOpen}, {shpCD, lblCD},
                                                    {shpRTS, lblRTS},           {shpCTS, lblCTS},
                                                    {shpSend, lblSend},         {shpReceive, lblReceive}};

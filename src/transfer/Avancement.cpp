@@ -35,10 +35,9 @@ void Avancement::Montre(qint64 faits)
     m_dernierAffichage = maintenant;
     m_barre.setValue(static_cast<int>(faits * Pleine / m_total));
     const QString pourcent = QString::number(faits * 100 / m_total);
-    const QString format = Texte(Reste);
-    m_barre.setFormat(complet || faits == 0 || maintenant < PremierTemps || format.isNull()
+    m_barre.setFormat(complet || faits == 0 || maintenant < PremierTemps
                           ? pourcent + QStringLiteral(" %")
-                          : format.arg(pourcent, TempsRestant(faits)));
+                          : Texte(Reste).arg(pourcent, TempsRestant(faits)));
 }
 
 QString Avancement::TempsRestant(qint64 faits) const

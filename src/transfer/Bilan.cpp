@@ -168,16 +168,14 @@ void MontreFautes(Ui::Em_Rc &dialogue)
 
 void MontreBilan(Ui::Em_Rc &dialogue, Issue issue)
 {
-    const QString enTemps = Texte(EnTemps);
-    if (enTemps.isNull())
-        return;
     const ComptesPort comptes = Controle().Comptes();
     const bool emission = issue == Issue::Emis || issue == Issue::EmissionRompue;
     const bool rompu = issue == Issue::EmissionRompue || issue == Issue::ReceptionRompue;
     const qint64 nombre = emission ? comptes.emis : comptes.recus;
     const std::chrono::milliseconds duree =
         emission ? std::chrono::milliseconds(pertes.depuis.elapsed()) : comptes.dureeReception;
-    QString passe = enTemps.arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
+    QString passe =
+        Texte(EnTemps).arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
     if (rompu)
         passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(NomFicRecep));
     const QStringList fautes = FautesEnClair();

@@ -87,7 +87,7 @@ const TexteEvenement &LigneDe(int code)
 
 void Annonce(const TexteEvenement &ligne)
 {
-    frmPrinc->MontreEtat(Texte(ligne.texte));
+    frmPrinc->MontreEtat(TexteChoisi(ligne.texte));
     if (ligne.genre == Faute) {
         QApplication::beep();
         frmPrinc->Etat->hide();

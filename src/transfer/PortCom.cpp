@@ -72,7 +72,7 @@ void FermePortCOM(Ui::Em_Rc &dialogue)
         if (!controle.PortOpen())
             return;
         controle.setPortOpen(false);
-        frmPrinc->MontrePort(false, Texte(PortFermeTexte));
+        frmPrinc->MontrePort(false, TexteChoisi(PortFermeTexte));
         PortOuvert = false;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreur(erreur));

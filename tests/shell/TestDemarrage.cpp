@@ -125,6 +125,8 @@ private Q_SLOTS:
             QVERIFY(!frmPrinc->Mnu_EnregistrerSous->isEnabled() && !frmPrinc->Mnu_Imprim->isEnabled());
             for (const QString *dossier : {&DosAppli, &ParamCom.DosRecep, &DosJauge, &EditeurCN})
                 QCOMPARE(dossier->isEmpty(), !lisible);
+            etabli.ApprendQue(u" Dorvanel\n"_s); // in whatever language, a box has words
+            Operateur::Menu("Mnu_Quitter");
         }
     }
 
