@@ -117,6 +117,8 @@ void ConfMac::MontreNom()
 
 void ConfMac::Command2_Click()
 {
+    if (RetientVirgule(this))
+        return;
     PrendTextes();
     MontreTextes(); // the values as they are held now
     try {

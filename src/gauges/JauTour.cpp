@@ -114,6 +114,8 @@ void JauTour::keyPressEvent(QKeyEvent *touche)
         QDialog::keyPressEvent(touche);
         return;
     }
+    if (RetientVirgule(this))
+        return;
     Text2->setFocus(Qt::TabFocusReason);
     RetientTouches(this);
 }
@@ -128,6 +130,8 @@ void JauTour::reject()
 
 void JauTour::Command1_Click()
 {
+    if (RetientVirgule(this))
+        return;
     JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(OutilCadran));
     jauge.Rayon = static_cast<float>(Val(Text1->text()));
     jauge.Localisateur = EnEntier(Val(Text2->text()));

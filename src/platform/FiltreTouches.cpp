@@ -1,5 +1,7 @@
 #include "platform/FiltreTouches.h"
 
+#include "platform/Clavier.h"
+
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -79,6 +81,15 @@ public:
     }
 };
 
+/// Set at a box of which a comma was dropped that nobody has made good: why it was.
+constexpr const char *VirguleJetee = "virguleJetee";
+
+void MontreAvis(QLineEdit *saisie, const QString &avis)
+{
+    QApplication::beep();
+    QToolTip::showText(saisie->mapToGlobal(QPoint(0, saisie->height() / 2)), avis, saisie);
+}
+
 /// Drops a comma that is typed, and says so: "0,4" would become 4 unseen. The keypad's is its point, whatever character
 /// the system gives it.
 class RefusVirgule : public QObject
@@ -90,6 +101,7 @@ public:
         , m_saisie(saisie)
     {
         saisie->installEventFilter(this);
+        connect(saisie, &QLineEdit::textChanged, this, &RefusVirgule::Suit);
     }
 
     bool eventFilter(QObject *, QEvent *evenement) override
@@ -99,14 +111,24 @@ public:
         const auto &touche = *static_cast<QKeyEvent *>(evenement);
         if (touche.text() != QLatin1String(",") || touche.modifiers().testFlag(Qt::KeypadModifier))
             return false;
-        QApplication::beep();
-        QToolTip::showText(m_saisie->mapToGlobal(QPoint(0, m_saisie->height() / 2)), m_avis, m_saisie);
+        MontreAvis(m_saisie, m_avis);
+        m_saisie->setProperty(VirguleJetee, m_avis);
+        m_devant = m_saisie->text().left(m_saisie->hasSelectedText() ? m_saisie->selectionStart()
+                                                                     : m_saisie->cursorPosition());
         return true;
     }
 
 private:
+    /// A point, or another text in the place of the one before the comma, makes good for it; further digits do not.
+    void Suit(const QString &texte)
+    {
+        if (!texte.startsWith(m_devant) || texte.count(u'.') > m_devant.count(u'.'))
+            m_saisie->setProperty(VirguleJetee, QVariant());
+    }
+
     QString m_avis;
     QLineEdit *m_saisie;
+    QString m_devant; ///< what stood before the comma that was dropped last
 };
 
 /// Selects the whole of a box that is clicked, unless the mouse has selected a part of it.
@@ -161,6 +183,23 @@ void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis)
 {
     saisie->setValidator(new ValideNombre(QRegularExpression(motif), saisie));
     new RefusVirgule(avis, saisie);
+}
+
+bool RetientVirgule(QWidget *fenetre)
+{
+    const auto saisies = fenetre->findChildren<QLineEdit *>();
+    for (QLineEdit *const saisie : saisies) {
+        const QString avis = saisie->property(VirguleJetee).toString();
+        if (avis.isEmpty())
+            continue;
+        saisie->setProperty(VirguleJetee, QVariant());
+        saisie->setFocus();
+        saisie->selectAll();
+        MontreAvis(saisie, avis);
+        RetientTouches(fenetre); // a second stroke on Enter has not seen it
+        return true;
+    }
+    return false;
 }
 
 void SelectionneAuClic(QLineEdit *saisie)

@@ -3,6 +3,7 @@
 #include <QString>
 
 class QLineEdit;
+class QWidget;
 
 // What may enter a text box. A key that may not is dropped, and what is selected in the box stays.
 
@@ -18,8 +19,14 @@ void FiltreChiffres(QLineEdit *saisie);
 void LimiteTouches(QLineEdit *saisie, const QString &motif);
 
 /// The same for a box that takes a number with a point, which motif lets in. A comma that is pasted, or typed on the
-/// keypad, becomes the point; one that is typed elsewhere is dropped, and avis tells why beside the box.
+/// keypad, becomes the point; one that is typed elsewhere is dropped, and avis tells why beside the box. What the
+/// dialog does with the number goes through RetientVirgule().
 void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis);
+
+/// To be asked before the numbers of fenetre are taken. True once for a box in which a comma was dropped and digits may
+/// have been typed on, blind: "0,4" reads 04. The box is then selected and its notice shown again, and nothing is
+/// taken.
+bool RetientVirgule(QWidget *fenetre);
 
 /// Has a click in a box select all of it, as the tabulator does: what is typed then takes its place. A box that is full
 /// would take no key.

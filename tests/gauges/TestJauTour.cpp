@@ -82,7 +82,15 @@ private Q_SLOTS:
             return vues;
         };
         QCOMPARE(tape(u"a.8x"_s, u"3"_s), u"Measured tool N° : 1   Corrector N° : 1000X = 2.5 (R)    Z = 1"_s);
-        QCOMPARE(tape(u"1,2345"_s, u"5"_s), u"Measured tool N° : 2  Corrector N° : 2000X = -2.5 (?)    Z = 1"_s);
+        for (const bool entree : {true, false}) { // "04" is held back once, and what has its point is not
+            QTest::keyClicks(d.Text1, u"0,4"_s);
+            entree ? QTest::keyClick(d.Text1, Qt::Key_Return) : QTest::mouseClick(d.Command1, Qt::LeftButton);
+            QCOMPARE(d.focusWidget(), d.Text1);
+            QCOMPARE(d.Text1->selectedText(), u"04"_s);
+        }
+        d.Text1->setText(u"0"_s);
+        d.Text1->selectAll();
+        QCOMPARE(tape(u"1,.2345"_s, u"5"_s), u"Measured tool N° : 2  Corrector N° : 2000X = -2.5 (?)    Z = 1"_s);
         QCOMPARE(tape(u"-"_s, u"67"_s), u"Measured tool N° : 5  Corrector N° : 3000X = 2.5 (R)    Z = 1"_s);
         QTest::keyClick(d.Text1, Qt::Key_Backspace);
         tape(QString(), u"7"_s);
@@ -102,7 +110,7 @@ private Q_SLOTS:
         QString lues;
         for (std::size_t i = 1; i <= 6; ++i)
             lues += u"%1/%2/%3 "_s.arg(Jauge[i].Rayon).arg(Jauge[i].Localisateur).arg(Jauge[i].JaugeX);
-        QCOMPARE(lues, u"0.8/3/2.5 1234/5/2.5 0/6/-2.5 0/7/-2.5 0.8/8/2.5 0/9/2.5 "_s);
+        QCOMPARE(lues, u"0.8/3/2.5 1.23/5/2.5 0/6/-2.5 0/7/-2.5 0.8/8/2.5 0/9/2.5 "_s);
     }
 };
 
