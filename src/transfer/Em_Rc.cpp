@@ -24,7 +24,6 @@
 #include "transfer/TextesReception.h"
 #include "transfer/Transfert.h"
 
-#include <QKeyEvent>
 #include <QShowEvent>
 #include <QStyle>
 
@@ -125,7 +124,7 @@ Em_Rc::Em_Rc(QWidget *parent)
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
-    connect(Command4, &QPushButton::clicked, this, &Em_Rc::reject);
+    connect(Command4, &QPushButton::clicked, this, [this] { done(Rejected); });
     connect(Command5, &QPushButton::clicked, this, &Em_Rc::Command5_Click);
     connect(Command6, &QPushButton::clicked, this, &Em_Rc::Command6_Click);
     connect(Command7, &QPushButton::clicked, this, &Em_Rc::Command7_Click);
@@ -204,7 +203,7 @@ void Em_Rc::CommenceReception()
     const EnTransfert enTransfert;
     setFocus(); // or the button that cancels would have it when the box closes, and a second stroke would press it
     if (!ConfirmeTransfert(TypeTransfert) || !ConfirmeApercu(*this)) {
-        reject();
+        done(Rejected);
         return;
     }
     DebuteBilan();
@@ -215,8 +214,7 @@ void Em_Rc::CommenceReception()
     constexpr void (*receptions[])(Ui::Em_Rc &) = {ReceptionLigne, ReceptionCar, ReceptionFichier};
     if (ParamCom.TypeRecep >= 0 && ParamCom.TypeRecep < static_cast<int>(std::size(receptions)))
         receptions[ParamCom.TypeRecep](*this);
-    if (FinTransfert == 1)
-        Command1->setFocus();
+    Command1->setFocus();
     RetientTouches(this);
 }
 
@@ -229,7 +227,7 @@ void Em_Rc::Command1_Click()
 {
     if (FinTransfert == 1 && ParamCom.TypeRecep != RecepFichier)
         OuvreFichierRecu();
-    reject();
+    done(Rejected);
 }
 
 void Em_Rc::Command2_Click()
@@ -280,11 +278,11 @@ void Em_Rc::Command7_Click()
         ForceRECEPT = 1;
 }
 
-/// Escape lies near and ends what no one can bring back. The buttons say what they do.
-void Em_Rc::keyPressEvent(QKeyEvent *evenement)
+/// Escape and the window's close box lie near and end what no one can bring back. The buttons say what they do.
+void Em_Rc::reject()
 {
-    if (!evenement->matches(QKeySequence::Cancel) || !TransfertEnCours() || ConfirmeArret())
-        QDialog::keyPressEvent(evenement);
+    if (!TransfertEnCours() || ConfirmeArret())
+        done(Rejected);
 }
 
 bool Em_Rc::ConfirmeArret()

@@ -26,9 +26,11 @@ public:
     /// the dialog lives, unseen, until that routine has returned.
     void done(int resultat) override;
 
+    /// Escape, the close box and the window manager close so: a transfer under way ends only if the operator says Yes.
+    void reject() override;
+
 protected:
     void showEvent(QShowEvent *evenement) override;
-    void keyPressEvent(QKeyEvent *evenement) override;
 
 private:
     void Form_Activate();
