@@ -52,6 +52,7 @@ void AcheveReception(Ui::Em_Rc &dialogue)
 
 void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu)
 {
+    FinTransfert = 0; // the end may have come, but the file has not: the name is asked for once more
     MontreBilan(dialogue, Issue::ReceptionRompue);
     ErreurPortCOM(erreur, dialogue);
     SauveAilleurs(recu);

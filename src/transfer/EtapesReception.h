@@ -20,5 +20,6 @@ void RendFinTransfert(Ui::Em_Rc &dialogue);
 /// raises.
 void AcheveReception(Ui::Em_Rc &dialogue);
 
-/// The reception has failed: tells the operator, closes the port, and offers to save recu, what had come, elsewhere.
+/// The reception has failed, be it only in writing its file: tells the operator, closes the port, and offers to save
+/// recu, what had come, elsewhere. FinTransfert is 0 from here on, so that another try follows.
 void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu);

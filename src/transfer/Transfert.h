@@ -28,7 +28,7 @@ public:
 };
 
 extern int TypeTransfert; ///< mode of the transfer, set by the menu command
-extern int FinTransfert;  ///< 1: a reception has reached its end
+extern int FinTransfert;  ///< 1: a reception has reached its end, and its file is written or being written
 extern int AnnuleRECEPT;  ///< 1: the operator has cancelled; stays until the next reception
 extern int ForceRECEPT;   ///< 1: the operator ends the reception with what has come
 
