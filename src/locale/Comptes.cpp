@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr Texte3 TresCourt{u"moins de 0,1 s", u"less than 0.1 s", u"menos de 0,1 s"};
+
 QLocale Ecriture()
 {
     return LangIndex == 1 ? QLocale::English : LangIndex == 2 ? QLocale::Spanish : QLocale::French;
@@ -35,6 +37,8 @@ QString Compte(qint64 nombre, const Nom3 &nom)
 QString DureeEnClair(std::chrono::milliseconds duree)
 {
     using namespace std::chrono_literals;
+    if (duree < 100ms)
+        return Texte(TresCourt);
     if (duree < 1min)
         return Ecriture().toString(static_cast<double>(duree / 100ms) / 10, 'f', 1) + QStringLiteral(" s");
     if (duree < 1h)

@@ -18,7 +18,6 @@
 
 namespace {
 
-constexpr Nom3 NomLignes{{u"ligne", u"line", u"línea"}, {u"lignes", u"lines", u"líneas"}};
 constexpr Nom3 NomCaracteres{{u"caractère", u"character", u"carácter"}, {u"caractères", u"characters", u"caracteres"}};
 constexpr Texte3 Contenu{u"%1 : %2, %3", u"%1: %2, %3", u"%1: %2, %3"};
 constexpr Texte3 Vide{u"Le texte à envoyer est vide : %1, %2.", u"The text to be sent is empty: %1, %2.",
@@ -29,6 +28,10 @@ constexpr Texte3 TropDeLignes{u"L'envoi ligne par ligne prend 25 000 lignes au p
                               u"included: choose the sending to the end of the file.",
                               u"El envío línea por línea admite 25.000 líneas como máximo, incluida la línea vacía del "
                               u"final: elegir el envío hasta el final del fichero."};
+constexpr Texte3 RienNePart{u" Rien du programme ne partirait.", u" Nothing of the program would go out.",
+                            u" No saldría nada del programa."};
+constexpr Texte3 PartieSeule{u" Partiraient seulement : %1 sur %2.", u" Only this would go out: %1 of %2.",
+                             u" Saldrían solamente: %1 de %2."};
 
 // The port and the speed stand behind these.
 constexpr Texte3 Incomplete{u"Configuration incomplète : la charger ou l'enregistrer de nouveau. ",
@@ -76,6 +79,14 @@ QString PremiereLigne(const QString &texte)
     return QString(debut, std::min<qsizetype>(fin - debut, place));
 }
 
+/// The sending line by line would leave out some of the text: why, and what would go out.
+QString SansToutesLesLignes(const LignesEnvoyees &lignes)
+{
+    if (lignes.nombre == 0)
+        return Texte(TropDeLignes) + Texte(RienNePart);
+    return Texte(TropDeLignes) + Texte(PartieSeule).arg(Compte(lignes.nombre, NomLignes), NombreEnClair(lignes.total));
+}
+
 void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
 {
     const QString texte = frmPrinc->Text1->Text();
@@ -87,8 +98,8 @@ void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
     else
         apercu.contenu = Texte(Contenu).arg(police.elidedText(ControlesVisibles(premiere), Qt::ElideRight, largeur),
                                             lignes, caracteres);
-    if (ParamCom.TypeEnvoi == 0 && DepasseTable(texte))
-        apercu.alertes << Texte(TropDeLignes);
+    if (const LignesEnvoyees envoi = CompteLignesEnvoyees(texte); ParamCom.TypeEnvoi == 0 && !envoi.Toutes())
+        apercu.alertes << SansToutesLesLignes(envoi);
 }
 
 const Texte3 &Defaut(const EtatConfiguration &etat)

@@ -21,6 +21,8 @@ struct Pertes
 {
     QElapsedTimer depuis;
     std::array<qint64, 3> caracteres{}; ///< by Perte
+    bool finCollee = false;             ///< see NoteFinCollee()
+    bool nouvelles = false;             ///< since they were shown
 
     qint64 &operator[](Perte perte) { return caracteres[static_cast<std::size_t>(perte)]; }
 };
@@ -45,15 +47,18 @@ constexpr Remede Remedes[] = {
     {{{{nullptr,
         Perte::Jetes,
         {{u"caractère jeté", u"character thrown away", u"carácter descartado"},
-         {u"caractères jetés", u"characters thrown away", u"caracteres descartados"}}},
-       {nullptr,
+         {u"caractères jetés", u"characters thrown away", u"caracteres descartados"}}}}},
+     {u"recevoir par fichier, ou faire une pause en fin de ligne à la machine",
+      u"receive by file, or have the machine pause at the end of each line",
+      u"recibir por fichero, o hacer una pausa al final de cada línea en la máquina"}},
+    {{{{nullptr,
         Perte::SansFin,
         {{u"caractère d'une ligne sans fin", u"character of a line without end", u"carácter de una línea sin fin"},
          {u"caractères d'une ligne sans fin", u"characters of a line without end",
           u"caracteres de una línea sin fin"}}}}},
-     {u"recevoir par fichier, ou faire une pause en fin de ligne à la machine",
-      u"receive by file, or have the machine pause at the end of each line",
-      u"recibir por fichero, o hacer una pausa al final de cada línea en la máquina"}},
+     {u"recevoir par fichier, ou finir à la machine la dernière ligne par une fin de ligne",
+      u"receive by file, or have the machine put a line end behind the last line",
+      u"recibir por fichero, o acabar en la máquina la última línea con un final de línea"}},
     {{{{&Lignes::parite,
         {},
         {{u"erreur de parité", u"parity error", u"error de paridad"},
@@ -88,8 +93,12 @@ constexpr Nom3 CaracteresEmis{{u"caractère envoyé", u"character sent", u"cará
 constexpr Nom3 CaracteresRecus{{u"caractère reçu", u"character received", u"carácter recibido"},
                                {u"caractères reçus", u"characters received", u"caracteres recibidos"}};
 constexpr Texte3 EnTemps{u"%1 en %2.", u"%1 in %2.", u"%1 en %2."};
+constexpr Texte3 EnTempsForce{u"%1 en %2, fin forcée.", u"%1 in %2, end forced.", u"%1 en %2, final forzado."};
 constexpr Texte3 EmissionInterrompue{u"Emission interrompue ! ", u"Sending broken off ! ", u"Emisión interrumpida ! "};
 constexpr Texte3 FichierNonEcrit{u"%1 n'est pas enregistré ! ", u"%1 is not saved ! ", u"%1 no está guardado ! "};
+constexpr Texte3 FinCollee{u"La fin de transfert est arrivée collée à une ligne : forcer la fin de réception.",
+                           u"The end of transfer has come stuck to a line: force the end of receiving.",
+                           u"El final de transferencia ha llegado pegado a una línea: forzar el final de recepción."};
 constexpr Texte3 DeuxPoints{u" : ", u": ", u": "};
 
 /// The faults of a remedy that have occurred, counted, and the remedy; nothing when there are none.
@@ -155,30 +164,45 @@ void NotePerte(Perte perte, const QString &caracteres)
     QStringView programme = caracteres;
     if (programme.endsWith(ParamCom.ChaineFinTrans))
         programme.chop(ParamCom.ChaineFinTrans.size());
-    if (!EstMuet(programme) && !ParamCom.ChaineFinTrans.endsWith(programme))
-        pertes[perte] += programme.size();
+    if (EstMuet(programme) || ParamCom.ChaineFinTrans.endsWith(programme))
+        return;
+    pertes[perte] += programme.size();
+    pertes.nouvelles = true;
+}
+
+void NoteFinCollee()
+{
+    pertes.finCollee = pertes.nouvelles = true;
 }
 
 void MontreFautes(Ui::Em_Rc &dialogue)
 {
-    const QStringList fautes = FautesEnClair();
+    pertes.nouvelles = false;
+    QStringList fautes = FautesEnClair();
+    if (pertes.finCollee)
+        fautes.prepend(Texte(FinCollee));
     if (!fautes.isEmpty())
         EcritBilan(dialogue, fautes.join(u'\n'), true);
 }
 
-void MontreBilan(Ui::Em_Rc &dialogue, Issue issue)
+void MontreNouvellesPertes(Ui::Em_Rc &dialogue)
 {
-    const ComptesPort comptes = Controle().Comptes();
+    if (pertes.nouvelles)
+        MontreFautes(dialogue);
+}
+
+void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques)
+{
     const bool emission = issue == Issue::Emis || issue == Issue::EmissionRompue;
+    const ComptesPort comptes = Controle().Comptes();
     const bool rompu = issue == Issue::EmissionRompue || issue == Issue::ReceptionRompue;
     const qint64 nombre = emission ? comptes.emis : comptes.recus;
     const std::chrono::milliseconds duree =
         emission ? std::chrono::milliseconds(pertes.depuis.elapsed()) : comptes.dureeReception;
-    QString passe =
-        Texte(EnTemps).arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
+    QString passe = Texte(!emission && ForceRECEPT == 1 ? EnTempsForce : EnTemps)
+                        .arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
     if (rompu)
         passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(NomFicRecep));
-    const QStringList fautes = FautesEnClair();
-    const bool rienParti = emission && nombre <= ParamCom.ChaineFinTrans.size();
-    EcritBilan(dialogue, (QStringList(passe) + fautes).join(u'\n'), rompu || rienParti || !fautes.isEmpty());
+    const QStringList alertes = manques + FautesEnClair();
+    EcritBilan(dialogue, (QStringList(passe) + alertes).join(u'\n'), rompu || !alertes.isEmpty());
 }

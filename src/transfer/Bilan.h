@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace Ui {
 class Em_Rc;
@@ -29,11 +30,18 @@ enum class Perte {
 /// mute.
 void NotePerte(Perte perte, const QString &caracteres);
 
-/// What has gone wrong on the line so far; nothing as long as nothing has.
+/// The end of transfer has come in one reading with a line, where the reception by line does not see it: it waits on,
+/// and the operator has to force the end.
+void NoteFinCollee();
+
+/// What has gone wrong so far; nothing as long as nothing has.
 void MontreFautes(Ui::Em_Rc &dialogue);
+/// Same, where a reception has dropped something since the last showing. It costs nothing where it has not.
+void MontreNouvellesPertes(Ui::Em_Rc &dialogue);
 
 /// How a transfer has ended. A reception that failed has left no whole file, whatever came.
 enum class Issue { Emis, EmissionRompue, Recu, ReceptionRompue };
 
-/// How much has passed, in what time, and what went wrong, with what can be done about it.
-void MontreBilan(Ui::Em_Rc &dialogue, Issue issue);
+/// How much has passed, in what time, whether the operator forced the end, and what went wrong, with what can be done
+/// about it. manques: sentences on what did not go out, the whole program above all.
+void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques = {});

@@ -2,6 +2,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "gauges/Lignes.h"
+#include "locale/Comptes.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/CedeLaMain.h"
@@ -28,6 +29,12 @@ constexpr Texte3 FinDeTransfert{u"Emission fin de transfert", u"Sending end of t
                                 u"Emisión fino de transferencia"};
 constexpr Texte3 Succes{u"Transfert terminé avec succès !", u"Transfer finished successfully !",
                         u"Transferencia terminada con éxito !"};
+
+constexpr Texte3 RienEnvoye{u"Le texte envoyé est vide !", u"The text sent is empty !",
+                            u"¡El texto enviado está vacío!"};
+constexpr Texte3 EnvoyeEnPartie{u"Le programme n'est pas parti en entier : %1 sur %2 !",
+                                u"The program has not gone out whole: %1 of %2 !",
+                                u"El programa no ha salido entero: ¡%1 de %2!"};
 
 constexpr int BlocParDefaut = 512; // for a configuration whose transmit buffer holds nothing
 
@@ -232,11 +239,23 @@ qint64 TailleLignes()
     return total;
 }
 
-void Termine(Ui::Em_Rc &dialogue)
+/// manques: see MontreBilan().
+void Termine(Ui::Em_Rc &dialogue, const QStringList &manques)
 {
     FermePortCOM(dialogue);
     PoseTexte(dialogue.Label2, Succes);
-    MontreBilan(dialogue, Issue::Emis);
+    MontreBilan(dialogue, Issue::Emis, manques);
+}
+
+/// What a sending of texte has left undone that Label2 calls a success.
+QStringList Manques(const QString &texte)
+{
+    QStringList manques;
+    if (EstMuet(texte))
+        manques << Texte(RienEnvoye);
+    if (const LignesEnvoyees lignes = CompteLignesEnvoyees(texte); ParamCom.TypeEnvoi == 0 && !lignes.Toutes())
+        manques << Texte(EnvoyeEnPartie).arg(Compte(lignes.nombre, NomLignes), NombreEnClair(lignes.total));
+    return manques;
 }
 
 void Echoue(const Erreur &erreur, Ui::Em_Rc &dialogue)
@@ -258,7 +277,7 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
         EnvoieBlocs(emission, texte);
         emission.Fin();
-        Termine(dialogue);
+        Termine(dialogue, Manques(texte));
     } catch (const Erreur &erreur) {
         Echoue(erreur, dialogue);
     }
@@ -267,19 +286,21 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
 void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue)
 {
     try {
-        CalculeLigne(frmPrinc->Text1->Text());
+        const QString texte = frmPrinc->Text1->Text();
+        CalculeLigne(texte);
         Emission emission(dialogue, TailleLignes());
         OuvrePortCOM();
         emission.Debut();
         EnvoieLignes(emission);
         emission.Fin();
-        Termine(dialogue);
+        Termine(dialogue, Manques(texte));
     } catch (const Erreur &erreur) {
         Echoue(erreur, dialogue);
     }
 }
 
-bool DepasseTable(const QString &texte)
+LignesEnvoyees CompteLignesEnvoyees(const QString &texte)
 {
-    return texte.count(QLatin1String("\r\n")) >= CapaciteLignes;
+    const qint64 total = texte.count(QLatin1String("\r\n")) + 1;
+    return {total > CapaciteLignes ? NbLignes : total, total};
 }

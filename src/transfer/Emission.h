@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QString;
 namespace Ui {
 class Em_Rc;
@@ -19,5 +21,13 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue);
 /// not go out.
 void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue);
 
-/// True when texte has more lines than EnvoiFich_Lig_Lig() takes. It would send so many lines as the last text had.
-bool DepasseTable(const QString &texte);
+/// How many lines of a text EnvoiFich_Lig_Lig() sends, of how many; the empty one behind a last line end counts.
+struct LignesEnvoyees
+{
+    qint64 nombre;
+    qint64 total;
+    bool Toutes() const { return nombre == total; }
+};
+
+/// Of a text with more lines than the table takes, it sends as many as the table held before.
+LignesEnvoyees CompteLignesEnvoyees(const QString &texte);

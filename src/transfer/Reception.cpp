@@ -28,13 +28,14 @@ struct TexteLigne
 {
     Texte3 avant;
     Texte3 apres;
+    int suivante; ///< 1: the number is that of the next line
 };
 
 // Reception by line has no blank of its own before the number.
-constexpr TexteLigne FinLigneCar{{u"Fin de ligne ", u"End of line ", u"Final de línea "},
-                                 {u" détectée", u" detected", u" detectada"}};
-constexpr TexteLigne FinLigneLigne{{u"Fin de ligne", u"End of line", u"Final de línea"},
-                                   {u" détectée", u" detected", u" detectada"}};
+constexpr TexteLigne FinLigneCar{
+    {u"Fin de ligne ", u"End of line ", u"Final de línea "}, {u" détectée", u" detected", u" detectada"}, 0};
+constexpr TexteLigne FinLigneLigne{
+    {u"Fin de ligne", u"End of line", u"Final de línea"}, {u" détectée", u" detected", u" detectada"}, 1};
 
 /// The table Lignes as a reception fills it: its counter, and the steps that both ways of filling it share.
 class Remplissage
@@ -45,14 +46,17 @@ public:
     {
     }
 
-    /// Puts Ligne, with fin behind it, into the table and empties it.
+    /// Puts Ligne, with fin behind it, into the table, empties it and goes on to the next.
     void Range(const QString &fin = QString());
+    /// What no longer fits the table ends the reception: raises IndiceHorsPlage.
+    void ExigePlace() const;
     void MontreFinLigne(const TexteLigne &texte);
     void MontreEcho(const QString &ligne, const QString &lu);
     /// True for a character that others follow already and whose echo the eye could not read.
     bool EchoSuperflu();
-    /// Goes on to the next line. Raises IndiceHorsPlage past the last one of the table.
-    void Suivante();
+    /// A turn of the wait has brought lu. What was lost is shown once the line is silent: drawn while characters come,
+    /// it would let more of them gather behind the next line end.
+    void Guette(const QString &lu);
 
     /// The machine gets its end string back, the port closes, and the file is written and stands in the pane.
     void Termine();
@@ -64,25 +68,27 @@ public:
 
 private:
     Ui::Em_Rc &m_dialogue;
-    int m_compteur = 1;
-    RythmeAffichage m_rythme; // of the echo
+    int m_compteur = 1;        // the line under way
+    RythmeAffichage m_rythme;  // of the echo
+    RythmeAffichage m_silence; // since the last character
 };
 
 void Remplissage::Range(const QString &fin)
 {
     Lignes[static_cast<std::size_t>(m_compteur)] = Ligne + fin;
     Ligne.clear();
+    ++m_compteur;
 }
 
-void Remplissage::Suivante()
+void Remplissage::ExigePlace() const
 {
-    if (++m_compteur > CapaciteLignes)
+    if (m_compteur > CapaciteLignes)
         throw Erreur(Erreur::IndiceHorsPlage, Texte(TropDeLignes));
 }
 
 void Remplissage::MontreFinLigne(const TexteLigne &texte)
 {
-    PoseTexte(m_dialogue.Label2, texte.avant, TexteNombre(m_compteur) + Texte(texte.apres));
+    PoseTexte(m_dialogue.Label2, texte.avant, TexteNombre(m_compteur - 1 + texte.suivante) + Texte(texte.apres));
 }
 
 void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
@@ -91,6 +97,14 @@ void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
         return;
     EcritEcho(*m_dialogue.Label3, ligne);
     EcritEcho(*m_dialogue.Label4, lu.right(ParamCom.ChaineFinLig.size()));
+}
+
+void Remplissage::Guette(const QString &lu)
+{
+    if (!lu.isEmpty())
+        m_silence.Note();
+    else if (m_silence.Permet())
+        MontreNouvellesPertes(m_dialogue);
 }
 
 bool Remplissage::EchoSuperflu()
@@ -159,13 +173,14 @@ public:
 };
 
 /// Waits for the next character; an empty one when the operator has cancelled or forced the end.
-QString AttendCaractere()
+QString AttendCaractere(Remplissage &table)
 {
     QString car;
     do {
         CedeLaMain();
         if (Controle().PortOpen())
             car = Controle().Input();
+        table.Guette(car);
     } while (car.isEmpty() && AnnuleRECEPT != 1 && ForceRECEPT != 1);
     return car;
 }
@@ -176,7 +191,7 @@ void EmplitParCaractere(Remplissage &table)
     const QString fin = FinLigneCherchee();
     QString dernier;
     while (true) {
-        QString car = AttendCaractere();
+        QString car = AttendCaractere(table);
         if (AnnuleRECEPT == 1)
             return;
         frmPrinc->shpReceive->setFillColor(Lampe::Verte);
@@ -186,7 +201,7 @@ void EmplitParCaractere(Remplissage &table)
         if (effet == EffetFinLigne::Termine) {
             table.Range();
             table.MontreFinLigne(FinLigneCar);
-            table.Suivante();
+            table.ExigePlace();
             NotePerte(Perte::Jetes, Controle().ViderReception());
         }
         const bool fini = car == ParamCom.ChaineFinTrans;
@@ -202,13 +217,16 @@ void EmplitParCaractere(Remplissage &table)
 }
 
 /// Reads until the buffer ends with a line end or the end of transfer, or the operator ends the wait.
-void AttendLigne(QString &recu)
+void AttendLigne(Remplissage &table)
 {
+    QString &recu = table.Ligne;
     do {
         CedeLaMain();
         if (!Controle().PortOpen())
             continue;
-        recu += Controle().Input();
+        const QString lu = Controle().Input();
+        recu += lu;
+        table.Guette(lu);
         frmPrinc->shpReceive->setFillColor(recu.isEmpty() ? Lampe::Rouge : Lampe::Verte);
     } while (!recu.endsWith(ParamCom.ChaineFinTrans) && !recu.endsWith(ParamCom.ChaineFinLig) && AnnuleRECEPT != 1 &&
              ForceRECEPT != 1);
@@ -217,6 +235,8 @@ void AttendLigne(QString &recu)
 /// What is cut is a line end only where it was not the end of transfer behind a line that ended the wait.
 void RetireFinLigne(QString &recu)
 {
+    if (recu.endsWith(ParamCom.ChaineFinTrans) && !ParamCom.ChaineFinLig.endsWith(ParamCom.ChaineFinTrans))
+        NoteFinCollee();
     const QString coupe = recu.right(ParamCom.ChaineFinLig.size());
     recu.chop(coupe.size());
     if (coupe != ParamCom.ChaineFinLig)
@@ -227,7 +247,7 @@ void EmplitParLigne(Remplissage &table)
 {
     QString &recu = table.Ligne; // what was read since the last line
     while (true) {
-        AttendLigne(recu);
+        AttendLigne(table);
         if (AnnuleRECEPT == 1)
             return;
         if (ForceRECEPT == 1)
@@ -243,7 +263,7 @@ void EmplitParLigne(Remplissage &table)
         RetireFinLigne(recu);
         table.Range(ChaineFinLigRecep);
         NotePerte(Perte::Jetes, Controle().ViderReception());
-        table.Suivante();
+        table.ExigePlace();
         table.MontreFinLigne(FinLigneLigne);
     }
 }

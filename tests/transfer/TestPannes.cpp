@@ -87,6 +87,7 @@ class TestPannes : public QObject
 private Q_SLOTS:
     void Coupures_data() { RangsGenres(); }
     void Coupures();
+    void LigneDebranchee();
     void BancDebranche();
     void PortPris_data() { RangsGenres(); }
     void PortPris();
@@ -139,6 +140,25 @@ void TestPannes::Coupures()
             if (QTest::currentTestFailed())
                 return;
         }
+    }
+}
+
+// The plug is pulled when a line has come that the reception has not taken yet: it can be saved too.
+void TestPannes::LigneDebranchee()
+{
+    for (const Genre genre : {Genre::Caractere, Genre::Ligne}) {
+        EssaiTransfert essai(genre);
+        essai.Joue(0, [&](const QDialog &) {
+            essai.ligne->Envoie("AB\r\n");
+            const bool lue = QTest::qWaitFor([] { return frmPrinc->MSComm1->InBufferCount() == 4; });
+            essai.ligne->Debranche();
+            return QTest::qWaitFor([lue] {
+                bool vivante = lue;
+                Saute([&] { frmPrinc->MSComm1->ExigeVivant(), vivante = false; });
+                return vivante;
+            });
+        });
+        QCOMPARE(essai.poste.Lit("sauve.txt"), QByteArray("AB\r\n"));
     }
 }
 
@@ -290,8 +310,8 @@ void TestPannes::MachineRelancee()
     essai.VerifiePret();
 }
 
-// The disk is full, the folder may not be written or has gone, when the file of a reception is to be written: told, and
-// what came can be saved elsewhere.
+// The disk is full, the folder may not be written or has gone, when the file of a reception is to be written: told,
+// what came can be saved elsewhere, and the name is asked for again.
 void TestPannes::Disque()
 {
     for (const Genre genre : {Genre::Caractere, Genre::Ligne, Genre::Fichier, Genre::Banc}) {
@@ -306,6 +326,7 @@ void TestPannes::Disque()
             if (cible)
                 QFile::link(QLatin1String(cible), essai.pilote.Chemin(genre));
             const auto deroulement = essai.Joue();
+            QCOMPARE(FinTransfert, 0);
             QVERIFY(!deroulement.avis.isEmpty() && deroulement.avis[0].titre.startsWith(u"Erreur N°: "_s));
             if (genre != Genre::Banc || cible) { // a bench knows before the first tool
                 QCOMPARE(deroulement.avis.size(), 2);
