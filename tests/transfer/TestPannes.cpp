@@ -153,9 +153,9 @@ void TestPannes::LigneDebranchee()
             const bool lue = QTest::qWaitFor([] { return frmPrinc->MSComm1->InBufferCount() == 4; });
             essai.ligne->Debranche();
             return QTest::qWaitFor([lue] {
-                bool vivante = lue;
-                Saute([&] { frmPrinc->MSComm1->ExigeVivant(), vivante = false; });
-                return vivante;
+                bool partie = lue;
+                Saute([&] { frmPrinc->MSComm1->ExigeVivant(), partie = false; });
+                return partie;
             });
         });
         QCOMPARE(essai.poste.Lit("sauve.txt"), QByteArray("AB\r\n"));
