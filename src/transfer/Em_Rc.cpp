@@ -121,6 +121,7 @@ Em_Rc::Em_Rc(QWidget *parent)
     GardePlaces({Progression, Label3, Label4, Frame2, BilanSigne}); // lines above the buttons
     PrepareBilan();
     UnClic(Command2); // a short program has gone between the two strokes of a double click
+    UnClic(Command5); // and so has a measure that was waiting; behind the last tool only a further one could end it
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);

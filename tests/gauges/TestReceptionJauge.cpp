@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -37,6 +38,14 @@ QByteArray Brut(int nombre)
     for (int k = 1; k <= nombre; ++k)
         brut += Outil(k) + "\r\n";
     return brut;
+}
+
+/// A stroke of the mouse on a button.
+void Frappe(QWidget &bouton, QEvent::Type coup)
+{
+    const QPointF centre = bouton.rect().center();
+    QMouseEvent evenement(coup, centre, bouton.mapToGlobal(centre), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&bouton, &evenement);
 }
 
 QString Recue(int k)
@@ -230,17 +239,26 @@ private Q_SLOTS:
         QCOMPARE(atelier.Disque(), Brut(1));
     }
 
-    // The bench is unplugged behind the last tool: what was measured counts.
+    // A double click on a measure that waits takes that one only. The bench is unplugged behind the last tool: what was
+    // measured counts.
     void DebrancheALaFin()
     {
         Atelier atelier;
         atelier.Nomme();
         atelier.Outils(1);
-        atelier.Fait(
-            Dialogue, [&atelier](QWidget &) { atelier.banc->Debranche(); }, Mesure(1));
+        atelier.Envoie(Outil(2), Mesure(1));
+        atelier.Presse(Dialogue, Suivante, Mesure(1));
+        const auto encore = [&atelier](QWidget &dialogue) {
+            auto *const bouton = dialogue.findChild<QPushButton *>(QLatin1String(Suivante));
+            for (const auto coup : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease})
+                Frappe(*bouton, coup);
+            QCOMPARE(JaugeSuivante, 0);
+            atelier.banc->Debranche();
+        };
+        atelier.Fait(Dialogue, encore, Mesure(2));
         atelier.Presse(Dialogue, Fin);
         Operateur::Menu("Mnu_RecepBanc");
-        QCOMPARE(atelier.Disque(), "%\r\n" + LigneD(1));
+        QCOMPARE(atelier.Disque(), "%\r\n" + LigneD(1) + LigneD(2));
     }
 
     // The characters of a burst under way are counted, also of one that comes before anybody has asked for it. What a
