@@ -5,7 +5,7 @@
 #include <exception>
 #include <optional>
 
-/// A platform operation that failed: its number and the platform's own words for it.
+/// A platform operation that failed: its number, what it failed on and the system's cause.
 /// A handler catches it at one place near its end, or wraps each statement that may fail in Saute().
 class Erreur : public std::exception
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// Numbers of the failures of the serial control, as the operator's texts know them. A port that the user may not open
-/// raises Erreur::AccesRefuse, which has no such text, so that he reads the system's own words and the device.
+/// raises Erreur::AccesRefuse, which has no such text, so that he reads which device it is.
 namespace ErreurPort {
 constexpr int DejaOuvert = 8000;   ///< changed, or opened again, while the port is open
 constexpr int Inconnu = 8002;      ///< no such port, or no device behind it

@@ -24,7 +24,7 @@ bool TexteModifie();
 /// Puts "Dorvanel Pro version 2.7.0 : " and nom in the title of the main window.
 void TitreFenetre(const QString &nom);
 
-/// What the operator is told of a file that could not be written, with the system's words for the cause.
+/// What the operator is told of a file that could not be written, with the cause.
 QString TexteNonEnregistre(const Erreur &erreur);
 
 /// Writes the text of the pane and one CR LF to path, then shows the document's names. When that fails it says so to

@@ -59,7 +59,7 @@ void OuvrePortCOM()
         frmPrinc->MontrePort(true);
         PortOuvert = true;
     } catch (const Erreur &erreur) {
-        // The system's words name the device; how to get the right to it, only we can tell.
+        // The failure names the device; here stands how to get the right to it.
         const QString conseil = erreur.Numero() == Erreur::AccesRefuse ? Texte(SansDroit) : QString();
         MontreErreur(erreur, TexteErreur(erreur) + conseil);
     }
