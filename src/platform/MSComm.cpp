@@ -26,8 +26,6 @@ constexpr auto PeriodeSurveillance = 50ms;
 constexpr Duree Transit = 2ms; // what an adapter adds to a line time
 constexpr Duree Jeu = 20ms;    // after that a line is taken to stand still
 
-constexpr int EvtEmission = 1;
-constexpr int EvtReception = 2;
 constexpr int FileSysteme = 4096; // characters that the system keeps at most
 
 } // namespace
@@ -35,7 +33,7 @@ constexpr int FileSysteme = 4096; // characters that the system keeps at most
 MSComm::MSComm(QObject *parent)
     : QObject(parent)
 {
-    connect(&m_emission, &EmissionPort::SousSeuil, this, [this] { m_evenements.Annonce(EvtEmission); });
+    connect(&m_emission, &EmissionPort::SousSeuil, this, [this] { m_evenements.Annonce(EvenementPort::Emission); });
     connect(&m_emission, &EmissionPort::AttendMachine, this, &MSComm::Surveille);
     connect(&m_emission, &EmissionPort::Panne, this, &MSComm::Panne);
     m_surveillance.setInterval(PeriodeSurveillance);
@@ -365,7 +363,7 @@ bool MSComm::SeuilReceptionAtteint() const
 void MSComm::ControleSeuilReception()
 {
     if (SeuilReceptionAtteint())
-        m_evenements.Annonce(EvtReception);
+        m_evenements.Annonce(EvenementPort::Reception);
 }
 
 QString MSComm::Input()
@@ -480,7 +478,7 @@ void MSComm::SuitMachine()
 void MSComm::Delivre()
 {
     // What was announced may have been read or thrown away meanwhile.
-    if (CommEvent() == EvtReception && !SeuilReceptionAtteint())
+    if (CommEvent() == EvenementPort::Reception && !SeuilReceptionAtteint())
         return;
     Q_EMIT OnComm();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/EmissionPort.h"
 #include "platform/ErreurPort.h"
+#include "platform/EvenementPort.h"
 #include "platform/EvenementsPort.h"
 #include "platform/FluxXonXoff.h"
 #include "platform/LigneSerie.h"
@@ -45,15 +46,16 @@
 /// is thrown away, since then the sending was cancelled. Both keep the event loop turning meanwhile, with the
 /// operator's keys and clicks and this control's event held back until they return.
 ///
-/// Pacing. The lead follows the PC (AvanceEmission). It begins short at each opening, 6 characters or 3.5 ms of line time,
-/// whichever is more, and on a quiet PC it stays there: at most 8 characters come behind an XOFF up to 19200 baud and at
-/// most 60 at 115200. Where the line keeps running dry because the PC is busy elsewhere it grows, to 9 characters or 5 ms
-/// at most, and shrinks again after some seconds. No more, since some controls raise an alarm at the eleventh character:
-/// rather the line stands still now and then. The pump is woken to the microsecond (MinuteurPrecis), for with whole
-/// milliseconds a fast line would need twice the lead. What a busy system takes to heed an XOFF comes on top and is out
-/// of this program's hands. The clock is computed from Settings and not asked of the device, since an adapter says "sent"
-/// when the characters have crossed the USB and not the line. What the system says it still holds counts on top, so that
-/// a line slower than its Settings, or one that the machine holds, is not fed.
+/// Pacing. The lead follows the PC (AvanceEmission). It begins short at each opening, 6 characters or 3.5 ms of line
+/// time, whichever is more, and on a quiet PC it stays there: at most 8 characters come behind an XOFF up to 19200 baud
+/// and at most 60 at 115200. Where the line keeps running dry because the PC is busy elsewhere it grows, to 9
+/// characters or 5 ms at most, and shrinks again after some seconds. No more, since some controls raise an alarm at the
+/// eleventh character: rather the line stands still now and then. The pump is woken to the microsecond
+/// (MinuteurPrecis), for with whole milliseconds a fast line would need twice the lead. What a busy system takes to
+/// heed an XOFF comes on top and is out of this program's hands. The clock is computed from Settings and not asked of
+/// the device, since an adapter says "sent" when the characters have crossed the USB and not the line. What the system
+/// says it still holds counts on top, so that a line slower than its Settings, or one that the machine holds, is not
+/// fed.
 ///
 /// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy, or by the control
 /// behind an adapter whose driver does not, see Adapters; with them on, the characters 17 and 19 never reach Input. The
@@ -63,11 +65,9 @@
 /// well as every 50 ms, so that it holds the sending also behind a driver that takes the setting and does nothing about
 /// it.
 ///
-/// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent: 1 sending (the queue has
-/// fallen below SThreshold), 2 reception (RThreshold characters wait, and new ones have come), 3 CTS, 4 DSR, 5 CD, 6
-/// ring, 1001 break, 1004 framing, 1006 overrun, 1008 lost by the system, 1009 parity. A handler may yield; the event
-/// that it is handling is not delivered again before it returns, see EvenementsPort. Line changes are seen within 50
-/// ms, also those that came and went in between where the driver counts them.
+/// Events. OnComm comes only from the event loop or a yield, with its code in CommEvent, see EvenementPort. A handler
+/// may yield; the event that it is handling is not delivered again before it returns, see EvenementsPort. Line changes
+/// are seen within 50 ms, also those that came and went in between where the driver counts them.
 ///
 /// Errors of characters. The system marks a character that came with an error inside what is read (DecodeurMarques) and
 /// counts it apart, by kind (TIOCGICOUNT). The mark says where, the counter what; a driver may give both, one, or none,
@@ -87,8 +87,8 @@
 /// Adapters. What the common ones do on Linux, and what comes of it here:
 ///
 ///   The PC's own port (8250 family) has 16 characters of FIFO each way and counts every kind of error. The driver
-///   deals with XOFF and CTS between two fillings of the FIFO. What is in it still leaves, and that is the lead, as it is
-///   never given more.
+///   deals with XOFF and CTS between two fillings of the FIFO. What is in it still leaves, and that is the lead, as it
+///   is never given more.
 ///
 ///   FTDI (ftdi_sio) has 128 characters towards the line and 256 from it. It deals with XOFF and CTS in the chip,
 ///   within a character or two; when both are asked for, the chip does RTS/CTS alone. Received characters cross the USB

@@ -1,28 +1,27 @@
 #include "platform/VeilleLigne.h"
 
+#include "platform/EvenementPort.h"
+
 #include <array>
 #include <utility>
 
 namespace {
 
-constexpr int EvtAnneau = 6;
-constexpr int PremiereFaute = 1001; // the events from here on are errors
-
 constexpr std::array<std::pair<unsigned CompteursLigne::*, int>, 8> EvtCompteurs = {{
-    {&CompteursLigne::cts, 3},
-    {&CompteursLigne::dsr, 4},
-    {&CompteursLigne::cd, 5},
-    {&CompteursLigne::pauses, 1001},
-    {&CompteursLigne::trame, 1004},
-    {&CompteursLigne::cadence, 1006},
-    {&CompteursLigne::debordements, 1008},
-    {&CompteursLigne::parite, 1009},
+    {&CompteursLigne::cts, EvenementPort::Cts},
+    {&CompteursLigne::dsr, EvenementPort::Dsr},
+    {&CompteursLigne::cd, EvenementPort::Cd},
+    {&CompteursLigne::pauses, EvenementPort::Pause},
+    {&CompteursLigne::trame, EvenementPort::Cadrage},
+    {&CompteursLigne::cadence, EvenementPort::Cadence},
+    {&CompteursLigne::debordements, EvenementPort::Perte},
+    {&CompteursLigne::parite, EvenementPort::Parite},
 }};
 
 constexpr std::array<std::pair<bool EtatsLigne::*, int>, 3> EvtEtats = {{
-    {&EtatsLigne::cts, 3},
-    {&EtatsLigne::dsr, 4},
-    {&EtatsLigne::cd, 5},
+    {&EtatsLigne::cts, EvenementPort::Cts},
+    {&EtatsLigne::dsr, EvenementPort::Dsr},
+    {&EtatsLigne::cd, EvenementPort::Cd},
 }};
 
 } // namespace
@@ -52,7 +51,7 @@ QList<int> VeilleLigne::Regarde(LigneSerie &ligne)
     }
     // A ring is one event, though the driver counts its end.
     if (!avant.anneau && (apres.anneau || m_compteurs.anneau != comptes.anneau))
-        codes << EvtAnneau;
+        codes << EvenementPort::Sonnerie;
     return codes;
 }
 
@@ -77,7 +76,7 @@ ComptesPort VeilleLigne::Comptes() const
     if (m_recus > 0)
         comptes.dureeReception = std::chrono::duration_cast<std::chrono::milliseconds>(m_dernier - m_premier);
     for (const auto &[champ, code] : EvtCompteurs) {
-        if (code >= PremiereFaute)
+        if (code >= EvenementPort::PremiereFaute)
             comptes.fautes.*champ = m_compteurs.*champ - m_depart.*champ;
     }
     return comptes;

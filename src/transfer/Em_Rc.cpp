@@ -168,8 +168,7 @@ void Em_Rc::PrepareBilan()
     const int cote = 3 * Bilan->fontMetrics().height() / 2;
     BilanSigne->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(cote, cote));
     connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [this] {
-        constexpr int premiereFaute = 1001; // the events from here on are errors
-        if (TransfertEnCours() && frmPrinc->MSComm1->CommEvent() >= premiereFaute)
+        if (TransfertEnCours() && frmPrinc->MSComm1->CommEvent() >= EvenementPort::PremiereFaute)
             MontreFautes(*this);
     });
 }

@@ -24,30 +24,32 @@ struct TexteEvenement
     Texte3 texte;
 };
 
-constexpr int EvtReception = 2;
-constexpr int EvtDebordement = 1008;
+namespace E = EvenementPort;
 
+// Those without a name are not raised by the control.
 constexpr TexteEvenement Textes[] = {
-    {2, Evenement, {u"Réception d'un évènement", u"Receiving of an event", u"Recepción de un acontecimiento"}},
-    {1, Evenement, {u"Envoi d'un événement.", u"Sending of an event.", u"Envío de un acontecimiento."}},
-    {3,
+    {E::Reception,
+     Evenement,
+     {u"Réception d'un évènement", u"Receiving of an event", u"Recepción de un acontecimiento"}},
+    {E::Emission, Evenement, {u"Envoi d'un événement.", u"Sending of an event.", u"Envío de un acontecimiento."}},
+    {E::Cts,
      Evenement,
      {u"Changement de Prêt à émettre (CTS) détecté", u"Change of Loan to be emitted (CTS) detected",
       u"Cambio de Préstamo que debe emitirse (CTS) detectado"}},
-    {4,
+    {E::Dsr,
      Evenement,
      {u"Changement de Modem prêt (DSR) détecté", u"Change of ready Modem (DSR) detected",
       u"Cambio de Módem listo (DSR) detectado"}},
-    {5,
+    {E::Cd,
      Evenement,
      {u"Changement de Détection de porteuse (CD) détecté", u"Change of Detection of carrying (CD) detected",
       u"Cambio de Detección de portador (CD) detectado"}},
-    {6,
+    {E::Sonnerie,
      Evenement,
      {u"Le téléphone sonne - Détection d'anneau.", u"The telephone sounds - Detection of ring.",
       u"El teléfono suena - Detección de anillo."}},
     {7, Evenement, {u"Fin de fichier détecté", u"End of detected file", u"Final de fichero detectado"}},
-    {1001, Faute, {u"Pause reçue", u"Pauses received", u"Pausa recibida"}},
+    {E::Pause, Faute, {u"Pause reçue", u"Pauses received", u"Pausa recibida"}},
     {1002,
      Faute,
      {u"Délai d'attente de Prêt à émettre (CTS) expiré", u"Withdrawal period of Loan to emit (CTS) expired ",
@@ -56,18 +58,18 @@ constexpr TexteEvenement Textes[] = {
      Faute,
      {u"Délai d'attente de Modem prêt (DSR) expiré", u"Withdrawal period of ready Modem (DSR) expired",
       u"Plazo de espera de Módem listo (DSR) expirado"}},
-    {1004, Faute, {u"Erreur de cadrage", u"Misregistration", u"Error de encuadre"}},
-    {1006, Faute, {u"Erreur de cadence", u"Error of rate", u"Error de ritmo"}},
+    {E::Cadrage, Faute, {u"Erreur de cadrage", u"Misregistration", u"Error de encuadre"}},
+    {E::Cadence, Faute, {u"Erreur de cadence", u"Error of rate", u"Error de ritmo"}},
     {1007,
      Faute,
      {u"Délai d'attente de Détection de porteuse (CD) expiré",
       u"Withdrawal period of Detection of carrying (CD) expired",
       u"Plazo de espera de Detección de portador (CD) expirado"}},
-    {1008,
+    {E::Perte,
      Faute,
      {u"Dépassement du tampon de réception", u"Going beyond of the plug of receiving",
       u"Rebasamiento del tampón de recepción"}},
-    {1009, Faute, {u"Erreur de parité", u"Error of parity", u"Error de paridad"}},
+    {E::Parite, Faute, {u"Erreur de parité", u"Error of parity", u"Error de paridad"}},
     {1010, Faute, {u"Tampon de transmission plein", u"Full plug of transmission", u"Tampón de transmisión lleno"}},
     {1011,
      Faute,
@@ -102,11 +104,11 @@ void MSComm1_OnComm()
     if (TypeTransfert == ReceptionBanc)
         return;
     const int code = frmPrinc->MSComm1->CommEvent();
-    if (code == EvtReception) {
+    if (code == E::Reception) {
         frmPrinc->shpReceive->setFillColor(Lampe::Verte);
         RecolteFichier();
     }
-    if (code == EvtDebordement)
+    if (code == E::Perte)
         Saute([] { NotePerte(Perte::Debordement, frmPrinc->MSComm1->ViderReception()); });
     Annonce(LigneDe(code));
 }
