@@ -164,10 +164,13 @@ void Rc_Fic::Command2_Click()
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
         return;
     Em_Rc(this).exec();
-    if (FinTransfert == 1)
-        return accept();
-    Form_Activate();
-    activateWindow(); // where the question is answered No, two windows go at once, and the keyboard with them
+    const bool fini = FinTransfert == 1;
+    if (fini)
+        accept();
+    else
+        Form_Activate();
+    // Two windows go at once here, and where nobody takes the keyboard it goes with them.
+    (fini ? frmPrinc : window())->activateWindow();
 }
 
 bool Rc_Fic::ConfirmeRemplacement() const
