@@ -101,6 +101,7 @@ private Q_SLOTS:
             {u"P +900 | M +30 M +900 M"_s, false},
             {u"P +900 | J +30 J +900 R +29 P"_s, false},
             {u"P +900 | +900 R +30 P"_s, true},
+            {u"P +900 M | +900 P"_s, true}, // its release went to another program
         };
         Etabli etabli(0);
         const auto demande = [&](Qt::Key touche, const QString &gestes) {
