@@ -6,10 +6,10 @@
 #include "Pair.h"
 
 #include "comconfig/ParamCom.h"
-#include "platform/CedeLaMain.h"
+#include "platform/base/CedeLaMain.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/FichierTexte.h"
 #include "platform/MSComm.h"
-#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 #include "transfer/Em_Rc.h"

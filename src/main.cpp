@@ -1,5 +1,5 @@
 #include "locale/Langue.h"
-#include "platform/FinDemandee.h"
+#include "platform/base/FinDemandee.h"
 #include "platform/MSComm.h"
 #include "platform/Polices.h"
 #include "platform/StyleContraste.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 // What Apply of the properties dialog does to the serial control. A step that fails does not stop the next one: it
 // stays pending, and is told where the road ends.

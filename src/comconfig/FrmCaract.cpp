@@ -2,8 +2,8 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
-#include "platform/PageCode1252.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "comconfig/LabelChaine.h"
 
-#include "platform/PageCode1252.h"
+#include "platform/base/PageCode1252.h"
 
 #include <QPainter>
 #include <QRegularExpression>

@@ -1,10 +1,10 @@
 #include "comconfig/ParamCom.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Nombres.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/FichierTexte.h"
 #include "platform/LecteurChamps.h"
-#include "platform/Nombres.h"
-#include "platform/PageCode1252.h"
 
 #include <QScopeGuard>
 

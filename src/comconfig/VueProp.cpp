@@ -3,8 +3,8 @@
 #include "comconfig/ParamCom.h"
 #include "comconfig/PortsPC.h"
 #include "locale/Langue.h"
+#include "platform/base/Nombres.h"
 #include "platform/FiltreTouches.h"
-#include "platform/Nombres.h"
 #include "shell/Reglages.h"
 #include "ui_Prop.h"
 

@@ -5,8 +5,8 @@
 #include "gauges/ParamMac.h"
 #include "gauges/SalveBanc.h"
 #include "locale/Langue.h"
+#include "platform/base/Nombres.h"
 #include "platform/Boites.h"
-#include "platform/Nombres.h"
 #include "transfer/Transfert.h"
 
 #include <QRegularExpression>

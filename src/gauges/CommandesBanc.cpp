@@ -3,7 +3,7 @@
 #include "gauges/ChoixMac.h"
 #include "gauges/Jauge.h"
 #include "locale/Legendes.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Rc_Fic.h"
 #include "transfer/Transfert.h"

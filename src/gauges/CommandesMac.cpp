@@ -5,8 +5,8 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
 #include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 

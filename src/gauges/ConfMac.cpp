@@ -5,11 +5,11 @@
 #include "gauges/TexteVirgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Nombres.h"
 #include "platform/EntreeOptions.h"
-#include "platform/Erreur.h"
 #include "platform/FiltreTouches.h"
 #include "platform/GardePlaces.h"
-#include "platform/Nombres.h"
 #include "shell/NomsPerdus.h"
 
 namespace {

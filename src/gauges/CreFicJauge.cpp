@@ -4,9 +4,9 @@
 #include "gauges/Lignes.h"
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
+#include "platform/base/Nombres.h"
 #include "platform/Boites.h"
 #include "platform/FichierTexte.h"
-#include "platform/Nombres.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/Transfert.h"
 

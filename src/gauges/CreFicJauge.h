@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "gauges/Filtrage.h"
 
 #include "gauges/Lignes.h"
-#include "platform/Nombres.h"
+#include "platform/base/Nombres.h"
 
 #include <algorithm>
 

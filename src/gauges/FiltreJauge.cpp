@@ -9,10 +9,10 @@
 #include "gauges/ParamMac.h"
 #include "gauges/SalveBanc.h"
 #include "locale/Langue.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Nombres.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
 #include "platform/FenetreAppelante.h"
-#include "platform/Nombres.h"
 #include "transfer/FichierRecu.h"
 
 #include <QApplication>

@@ -5,10 +5,10 @@
 #include "gauges/TexteVirgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/Nombres.h"
 #include "platform/Boites.h"
 #include "platform/Clavier.h"
 #include "platform/FiltreTouches.h"
-#include "platform/Nombres.h"
 #include "platform/TouchesVolet.h"
 #include "platform/UnClic.h"
 

@@ -1,6 +1,6 @@
 #include "gauges/Lignes.h"
 
-#include "platform/Nombres.h"
+#include "platform/base/Nombres.h"
 
 #include <QStringList>
 

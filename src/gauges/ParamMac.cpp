@@ -1,10 +1,10 @@
 #include "gauges/ParamMac.h"
 
 #include "gauges/Jauge.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Nombres.h"
 #include "platform/FichierTexte.h"
 #include "platform/LecteurChamps.h"
-#include "platform/Nombres.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,9 +2,9 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/EntreeOptions.h"
-#include "platform/Erreur.h"
 #include "shell/Reglages.h"
 
 namespace {

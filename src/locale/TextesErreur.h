@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 // What the operator reads of a failure. Each number of Erreur.h and ErreurPort.h has a text in the three languages.
 

@@ -1,6 +1,6 @@
 #include "platform/CodagesRtf.h"
 
-#include "platform/PageCode1252.h"
+#include "platform/base/PageCode1252.h"
 
 #include <QHash>
 #include <QStringDecoder>

@@ -1,9 +1,9 @@
 #include "platform/CommonDialog.h"
 
+#include "platform/base/Erreur.h"
 #include "platform/DialogueFichier.h"
 #include "platform/DialogueImprimante.h"
 #include "platform/DialoguePolice.h"
-#include "platform/Erreur.h"
 #include "platform/FenetreAppelante.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "platform/Dossiers.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 #include <QDir>
 #include <QFileInfo>

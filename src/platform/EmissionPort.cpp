@@ -1,6 +1,6 @@
 #include "platform/EmissionPort.h"
 
-#include "platform/CedeLaMain.h"
+#include "platform/base/CedeLaMain.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/base/Erreur.h"
 #include "platform/CadenceEmission.h"
-#include "platform/Erreur.h"
 #include "platform/LigneSerie.h"
 #include "platform/MinuteurPrecis.h"
 

@@ -1,6 +1,6 @@
 #include "platform/FichierTenu.h"
 
-#include "platform/Reprise.h"
+#include "platform/base/Reprise.h"
 
 #include <sys/file.h>
 

@@ -1,8 +1,8 @@
 #include "platform/FichierTexte.h"
 
-#include "platform/Erreur.h"
-#include "platform/PageCode1252.h"
-#include "platform/Reprise.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/PageCode1252.h"
+#include "platform/base/Reprise.h"
 
 #include <QFile>
 #include <QFileInfo>

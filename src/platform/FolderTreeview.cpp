@@ -1,6 +1,6 @@
 #include "platform/FolderTreeview.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/Volumes.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "platform/Lanceur.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 #include <QOperatingSystemVersion>
 #include <QProcess>

@@ -1,7 +1,7 @@
 #include "platform/LecteurChamps.h"
 
-#include "platform/Erreur.h"
-#include "platform/Nombres.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Nombres.h"
 
 namespace {
 

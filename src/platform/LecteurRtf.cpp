@@ -1,7 +1,7 @@
 #include "platform/LecteurRtf.h"
 
+#include "platform/base/Erreur.h"
 #include "platform/CodagesRtf.h"
-#include "platform/Erreur.h"
 
 #include <QHash>
 

@@ -1,8 +1,8 @@
 #include "platform/LignePosix.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Reprise.h"
 #include "platform/ErreurPort.h"
-#include "platform/Reprise.h"
 #include "platform/TerminalPosix.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "platform/MinuteurPrecis.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Reprise.h"
 #include "platform/ErreurPort.h"
-#include "platform/Reprise.h"
 
 #include <algorithm>
 #include <cerrno>

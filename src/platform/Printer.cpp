@@ -1,7 +1,7 @@
 #include "platform/Printer.h"
 
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "platform/ReglagePort.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/ErreurPort.h"
 
 #include <QStringList>

@@ -1,11 +1,11 @@
 #include "platform/RichTextBox.h"
 
 #include "platform/AspectVolet.h"
+#include "platform/base/FinsDeLigne.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/FichierTexte.h"
-#include "platform/FinsDeLigne.h"
 #include "platform/LecteurRtf.h"
 #include "platform/MiseEnPage.h"
-#include "platform/PageCode1252.h"
 #include "platform/SansAnnulation.h"
 #include "platform/TouchesVolet.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FinsDeLigne.h"
+#include "platform/base/FinsDeLigne.h"
 
 #include <QPlainTextEdit>
 #include <QPoint>

@@ -2,9 +2,9 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/Dossiers.h"
-#include "platform/Erreur.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"
 #include "shell/CheminsTenus.h"

@@ -2,8 +2,8 @@
 
 #include "locale/Langue.h"
 #include "locale/TextesErreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
 #include "platform/FichierTenu.h"
 #include "platform/FichierTexte.h"
 #include "platform/LignesVolet.h"

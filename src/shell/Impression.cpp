@@ -1,8 +1,8 @@
 #include "shell/Impression.h"
 
 #include "locale/Langue.h"
+#include "platform/base/Erreur.h"
 #include "platform/CommonDialog.h"
-#include "platform/Erreur.h"
 #include "platform/Printer.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"

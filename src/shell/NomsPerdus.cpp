@@ -1,8 +1,8 @@
 #include "shell/NomsPerdus.h"
 
 #include "locale/Langue.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
-#include "platform/PageCode1252.h"
 #include "shell/Chemins.h"
 #include "shell/Reglages.h"
 

@@ -1,7 +1,7 @@
 #include "shell/Police.h"
 
+#include "platform/base/Erreur.h"
 #include "platform/CommonDialog.h"
-#include "platform/Erreur.h"
 #include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
 

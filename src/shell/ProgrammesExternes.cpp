@@ -1,8 +1,8 @@
 #include "shell/ProgrammesExternes.h"
 
 #include "locale/Langue.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
 #include "platform/Lanceur.h"
 
 namespace {

@@ -1,10 +1,10 @@
 #include "shell/Reglages.h"
 
 #include "locale/Langue.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/Nombres.h"
 #include "platform/FichierTexte.h"
 #include "platform/LecteurChamps.h"
-#include "platform/Nombres.h"
 #include "shell/Chemins.h"
 
 #include <QFile>

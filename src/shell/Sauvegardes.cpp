@@ -1,6 +1,6 @@
 #include "shell/Sauvegardes.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/FichierTexte.h"
 #include "shell/Chemins.h"
 

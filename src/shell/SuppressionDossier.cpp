@@ -2,9 +2,9 @@
 
 #include "locale/Langue.h"
 #include "locale/TextesErreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/Dossiers.h"
-#include "platform/Erreur.h"
 #include "platform/FenetreAppelante.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "shell/TexteEnCours.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/FichierTenu.h"
 #include "platform/FichierTexte.h"
 #include "shell/Chemins.h"

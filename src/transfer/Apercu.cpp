@@ -2,9 +2,9 @@
 
 #include "comconfig/ParamCom.h"
 #include "locale/Comptes.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
 #include "platform/MSComm.h"
-#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/Emission.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "locale/Langue.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 namespace Ui {
 class Em_Rc;

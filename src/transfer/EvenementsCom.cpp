@@ -1,8 +1,8 @@
 #include "transfer/EvenementsCom.h"
 
 #include "locale/Langue.h"
-#include "platform/CedeLaMain.h"
-#include "platform/Erreur.h"
+#include "platform/base/CedeLaMain.h"
+#include "platform/base/Erreur.h"
 #include "platform/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"

@@ -2,9 +2,9 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
+#include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
-#include "platform/Erreur.h"
 #include "platform/FichierTexte.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"

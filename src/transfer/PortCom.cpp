@@ -5,10 +5,10 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "locale/TextesErreur.h"
+#include "platform/base/Nombres.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
 #include "platform/MSComm.h"
-#include "platform/Nombres.h"
-#include "platform/PageCode1252.h"
 #include "shell/FrmPrinc.h"
 #include "ui_Em_Rc.h"
 

@@ -2,8 +2,8 @@
 #include "platform/Essais.h"
 
 #include "comconfig/ParamCom.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/FichierTexte.h"
-#include "platform/PageCode1252.h"
 
 #include <QTemporaryDir>
 #include <QTest>

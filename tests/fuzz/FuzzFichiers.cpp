@@ -2,7 +2,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "gauges/ParamMac.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 namespace {
 

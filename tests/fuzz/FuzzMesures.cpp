@@ -5,9 +5,9 @@
 #include "gauges/Jauge.h"
 #include "gauges/Lignes.h"
 #include "gauges/ParamMac.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
-#include "platform/Erreur.h"
-#include "platform/PageCode1252.h"
 #include "transfer/Transfert.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz.h"
 
-#include "platform/Erreur.h"
-#include "platform/PageCode1252.h"
+#include "platform/base/Erreur.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/RichTextBox.h"
 
 // Any file is a text: what the pane gives back is what was loaded, to the byte. As rich text it may be refused, or is

@@ -4,7 +4,7 @@
 #include "gauges/CreFicJauge.h"
 #include "gauges/Jauge.h"
 #include "gauges/ParamMac.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "transfer/Transfert.h"
 
 #include <QDate>

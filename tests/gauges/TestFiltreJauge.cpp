@@ -6,7 +6,7 @@
 #include "gauges/Jauge.h"
 #include "gauges/Lignes.h"
 #include "gauges/ParamMac.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "transfer/Transfert.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 
 #include "gauges/Jauge.h"
 #include "machine/Banc.h"
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "transfer/Transfert.h"
 
 #include <QApplication>

@@ -49,7 +49,7 @@ def sans_texte(sources):
     lu = lambda chemin: (pathlib.Path(sources) / chemin).read_text(encoding="utf-8")
     nombres = r"constexpr int (\w+) = (\d+);"
     textes = set(re.findall(r"\{(?:Erreur::)?(\w+),\s*(?:true|false|\{)", lu("locale/TextesErreur.cpp")))
-    for nom, nombre in re.findall(nombres, lu("platform/Erreur.h") + lu("platform/ErreurPort.h")):
+    for nom, nombre in re.findall(nombres, lu("platform/base/Erreur.h") + lu("platform/ErreurPort.h")):
         if textes.isdisjoint({nom, nombre}):
             yield "", nom
 
@@ -58,7 +58,7 @@ def main(sources, liste):
     code = set()
     for fichier in sorted(pathlib.Path(sources).rglob("*.*")):
         if fichier.suffix in (".cpp", ".h") and not fichier.name.startswith("Table"):
-            code |= set(textes(fichier, fichier.parent.name))
+            code |= set(textes(fichier, fichier.relative_to(sources).parts[0]))
     attendus = {tuple(ligne.split("\t")) for ligne in pathlib.Path(liste).read_text(encoding="utf-8").splitlines()}
     manquent = attendus - code
     inconnus = {texte for texte in code - attendus if len(texte) > 2 or se_lit(texte[1])}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 /// The number with which an operation fails, 0 when it succeeds.
 template <typename Operation>

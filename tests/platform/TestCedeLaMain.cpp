@@ -1,4 +1,4 @@
-#include "platform/CedeLaMain.h"
+#include "platform/base/CedeLaMain.h"
 
 #include <QAbstractEventDispatcher>
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
 #include "Essais.h"
 #include "LigneScenario.h"
-#include "platform/CedeLaMain.h"
+#include "platform/base/CedeLaMain.h"
+#include "platform/base/PageCode1252.h"
 #include "platform/MSComm.h"
-#include "platform/PageCode1252.h"
 
 #include <QAbstractEventDispatcher>
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
 #include "Etabli.h"
 #include "platform/Essais.h"
 
-#include "platform/FinDemandee.h"
-#include "platform/PageCode1252.h"
+#include "platform/base/FinDemandee.h"
+#include "platform/base/PageCode1252.h"
 #include "shell/Filet.h"
 #include "shell/Sauvegardes.h"
 #include "transfer/FichierRecu.h"

@@ -1,6 +1,6 @@
 #include "Etabli.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 #include "platform/Printer.h"
 
 #include <QComboBox>

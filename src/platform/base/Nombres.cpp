@@ -1,6 +1,6 @@
-#include "platform/Nombres.h"
+#include "platform/base/Nombres.h"
 
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 #include <QLocale>
 

@@ -1,4 +1,4 @@
-#include "platform/Erreur.h"
+#include "platform/base/Erreur.h"
 
 #include <cerrno>
 

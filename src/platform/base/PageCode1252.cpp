@@ -1,4 +1,4 @@
-#include "platform/PageCode1252.h"
+#include "platform/base/PageCode1252.h"
 
 #include <algorithm>
 #include <array>

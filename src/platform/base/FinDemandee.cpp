@@ -1,6 +1,6 @@
-#include "platform/FinDemandee.h"
+#include "platform/base/FinDemandee.h"
 
-#include "platform/Reprise.h"
+#include "platform/base/Reprise.h"
 
 #include <csignal>
 #include <fcntl.h>

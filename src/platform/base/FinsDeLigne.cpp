@@ -1,6 +1,6 @@
-#include "platform/FinsDeLigne.h"
+#include "platform/base/FinsDeLigne.h"
 
-#include "platform/PageCode1252.h"
+#include "platform/base/PageCode1252.h"
 
 #include <algorithm>
 
