@@ -7,7 +7,7 @@
 #include "Pair.h"
 
 #include "comconfig/ParamCom.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Transfert.h"

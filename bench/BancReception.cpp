@@ -9,7 +9,7 @@
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/FichierTexte.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
 #include "transfer/Em_Rc.h"

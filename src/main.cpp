@@ -1,7 +1,7 @@
 #include "locale/Langue.h"
 #include "platform/base/FinDemandee.h"
-#include "platform/MSComm.h"
 #include "platform/Polices.h"
+#include "platform/serie/MSComm.h"
 #include "platform/StyleContraste.h"
 #include "shell/Arrivee.h"
 #include "shell/Chemins.h"

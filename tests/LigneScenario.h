@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/base/Erreur.h"
-#include "platform/LigneSerie.h"
-#include "platform/MSComm.h"
+#include "platform/serie/LigneSerie.h"
+#include "platform/serie/MSComm.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "comconfig/ReglagesCom.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "comconfig/PortsPC.h"
 
 #include "locale/Langue.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 
 #include <QFile>

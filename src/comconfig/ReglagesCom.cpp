@@ -1,7 +1,7 @@
 #include "comconfig/ReglagesCom.h"
 
 #include "comconfig/ParamCom.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 
 #include <QStringList>
 

@@ -15,7 +15,7 @@
 #include "platform/Boites.h"
 #include "platform/Clavier.h"
 #include "platform/FichierTexte.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/FichierRecu.h"

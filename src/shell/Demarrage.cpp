@@ -8,7 +8,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/FichierTexte.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/Chemins.h"
 #include "shell/CheminsTenus.h"
 #include "shell/Document.h"

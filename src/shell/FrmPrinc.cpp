@@ -5,7 +5,7 @@
 #include "platform/CommonDialog.h"
 #include "platform/GardePlaces.h"
 #include "platform/Icone.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/CadreExplorateur.h"
 
 #include <QApplication>

@@ -8,7 +8,7 @@
 #include "locale/FrmLangue.h"
 #include "platform/Clavier.h"
 #include "platform/Molette.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "platform/UneLigne.h"
 #include "shell/AideEnLigne.h"
 #include "shell/Apropos.h"

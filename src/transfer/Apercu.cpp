@@ -4,7 +4,7 @@
 #include "locale/Comptes.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/Emission.h"

@@ -2,7 +2,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "locale/Comptes.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "transfer/PortCom.h"
 #include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"

@@ -9,7 +9,7 @@
 #include "platform/CentreFeuille.h"
 #include "platform/Clavier.h"
 #include "platform/GardePlaces.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "platform/UnClic.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Apercu.h"

@@ -2,7 +2,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "locale/Legendes.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/FichierRecu.h"

@@ -3,7 +3,7 @@
 #include "locale/Langue.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/ReceptionFichier.h"

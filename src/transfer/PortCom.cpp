@@ -8,7 +8,7 @@
 #include "platform/base/Nombres.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/Boites.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "ui_Em_Rc.h"
 

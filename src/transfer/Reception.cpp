@@ -7,7 +7,7 @@
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/EtapesReception.h"

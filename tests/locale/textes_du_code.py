@@ -49,7 +49,7 @@ def sans_texte(sources):
     lu = lambda chemin: (pathlib.Path(sources) / chemin).read_text(encoding="utf-8")
     nombres = r"constexpr int (\w+) = (\d+);"
     textes = set(re.findall(r"\{(?:Erreur::)?(\w+),\s*(?:true|false|\{)", lu("locale/TextesErreur.cpp")))
-    for nom, nombre in re.findall(nombres, lu("platform/base/Erreur.h") + lu("platform/ErreurPort.h")):
+    for nom, nombre in re.findall(nombres, lu("platform/base/Erreur.h") + lu("platform/serie/ErreurPort.h")):
         if textes.isdisjoint({nom, nombre}):
             yield "", nom
 

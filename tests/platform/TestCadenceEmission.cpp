@@ -1,4 +1,4 @@
-#include "platform/CadenceEmission.h"
+#include "platform/serie/CadenceEmission.h"
 
 #include <QTest>
 

@@ -1,10 +1,10 @@
 #include "AppelsSysteme.h"
 #include "Essais.h"
 #include "machine/PaireTerminaux.h"
-#include "platform/DecodeurMarques.h"
-#include "platform/ErreurPort.h"
-#include "platform/LignePosix.h"
-#include "platform/TerminalPosix.h"
+#include "platform/serie/DecodeurMarques.h"
+#include "platform/serie/ErreurPort.h"
+#include "platform/serie/LignePosix.h"
+#include "platform/serie/TerminalPosix.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -2,7 +2,7 @@
 #include "LigneScenario.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 
 #include <QAbstractEventDispatcher>
 #include <QSignalSpy>

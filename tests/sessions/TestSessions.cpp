@@ -5,7 +5,7 @@
 #include "comconfig/Prop.h"
 #include "machine/Banc.h"
 #include "machine/MachineSimulee.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/PortCom.h"

@@ -3,7 +3,7 @@
 #include "machine/Options.h"
 #include "platform/Essais.h"
 #include "platform/FichierTexte.h"
-#include "platform/LignePosix.h"
+#include "platform/serie/LignePosix.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

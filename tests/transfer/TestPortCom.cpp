@@ -5,7 +5,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "locale/Langue.h"
-#include "platform/ErreurPort.h"
+#include "platform/serie/ErreurPort.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Emission.h"

@@ -1,7 +1,7 @@
 #include "captures_prog/Defauts.h"
 #include "captures_prog/Vues.h"
 #include "locale/Langue.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "platform/StyleContraste.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"

@@ -1,7 +1,7 @@
 #include "endurance/Epreuve.h"
 
 #include "comconfig/ParamCom.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Transfert.h"
 

@@ -4,7 +4,7 @@
 #include "gauges/Jauge.h"
 #include "gauges/Lignes.h"
 #include "machine/Banc.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"

@@ -6,7 +6,7 @@
 #include "gauges/Lignes.h"
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/Document.h"

@@ -1,4 +1,4 @@
-#include "platform/FluxXonXoff.h"
+#include "platform/serie/FluxXonXoff.h"
 
 #include <algorithm>
 

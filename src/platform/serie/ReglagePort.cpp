@@ -1,7 +1,7 @@
-#include "platform/ReglagePort.h"
+#include "platform/serie/ReglagePort.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/ErreurPort.h"
+#include "platform/serie/ErreurPort.h"
 
 #include <QStringList>
 

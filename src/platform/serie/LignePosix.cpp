@@ -1,9 +1,9 @@
-#include "platform/LignePosix.h"
+#include "platform/serie/LignePosix.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Reprise.h"
-#include "platform/ErreurPort.h"
-#include "platform/TerminalPosix.h"
+#include "platform/serie/ErreurPort.h"
+#include "platform/serie/TerminalPosix.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ComptesPort.h"
-#include "platform/LigneSerie.h"
+#include "platform/serie/ComptesPort.h"
+#include "platform/serie/LigneSerie.h"
 
 #include <QList>
 

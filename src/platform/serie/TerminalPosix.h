@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ReglagePort.h"
+#include "platform/serie/ReglagePort.h"
 
 // The settings of a terminal. They stand in a unit of their own because the one structure that holds any speed is the
 // kernel's, which does not go together with the C library's <termios.h>.

@@ -1,4 +1,4 @@
-#include "platform/DecodeurMarques.h"
+#include "platform/serie/DecodeurMarques.h"
 
 namespace {
 constexpr char Annonce = '\xFF';

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/AvanceEmission.h"
+#include "platform/serie/AvanceEmission.h"
 
 #include <QtGlobal>
 

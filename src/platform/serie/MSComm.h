@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/EmissionPort.h"
-#include "platform/ErreurPort.h"
-#include "platform/EvenementPort.h"
-#include "platform/EvenementsPort.h"
-#include "platform/FluxXonXoff.h"
-#include "platform/LigneSerie.h"
-#include "platform/VeilleLigne.h"
+#include "platform/serie/EmissionPort.h"
+#include "platform/serie/ErreurPort.h"
+#include "platform/serie/EvenementPort.h"
+#include "platform/serie/EvenementsPort.h"
+#include "platform/serie/FluxXonXoff.h"
+#include "platform/serie/LigneSerie.h"
+#include "platform/serie/VeilleLigne.h"
 
 #include <QByteArray>
 #include <QSocketNotifier>

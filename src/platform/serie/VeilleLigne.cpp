@@ -1,6 +1,6 @@
-#include "platform/VeilleLigne.h"
+#include "platform/serie/VeilleLigne.h"
 
-#include "platform/EvenementPort.h"
+#include "platform/serie/EvenementPort.h"
 
 #include <array>
 #include <utility>

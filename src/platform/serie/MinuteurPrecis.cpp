@@ -1,8 +1,8 @@
-#include "platform/MinuteurPrecis.h"
+#include "platform/serie/MinuteurPrecis.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Reprise.h"
-#include "platform/ErreurPort.h"
+#include "platform/serie/ErreurPort.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/LigneSerie.h"
+#include "platform/serie/LigneSerie.h"
 
 /// Takes the system's in-band marks out of what was read: 0xFF 0x00 c stands for the character c that came with a
 /// parity or framing error, or for a break where c is 0; 0xFF 0xFF stands for the character 0xFF. A mark can be cut by

@@ -1,4 +1,4 @@
-#include "platform/AvanceEmission.h"
+#include "platform/serie/AvanceEmission.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/base/Erreur.h"
-#include "platform/CadenceEmission.h"
-#include "platform/LigneSerie.h"
-#include "platform/MinuteurPrecis.h"
+#include "platform/serie/CadenceEmission.h"
+#include "platform/serie/LigneSerie.h"
+#include "platform/serie/MinuteurPrecis.h"
 
 #include <QByteArray>
 #include <QObject>

@@ -1,8 +1,8 @@
-#include "platform/MSComm.h"
+#include "platform/serie/MSComm.h"
 
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/LignePosix.h"
+#include "platform/serie/LignePosix.h"
 
 #include <QAbstractEventDispatcher>
 #include <QDeadlineTimer>

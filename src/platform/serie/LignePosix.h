@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DecodeurMarques.h"
-#include "platform/LigneSerie.h"
+#include "platform/serie/DecodeurMarques.h"
+#include "platform/serie/LigneSerie.h"
 
 /// What stands between the system and the line: no USB, an adapter whose chip obeys XOFF, or one that leaves it to us.
 enum class PiloteUsb { Aucun, Obeissant, Sourd };

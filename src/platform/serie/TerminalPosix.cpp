@@ -1,8 +1,8 @@
-#include "platform/TerminalPosix.h"
+#include "platform/serie/TerminalPosix.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Reprise.h"
-#include "platform/ErreurPort.h"
+#include "platform/serie/ErreurPort.h"
 
 #include <asm/termbits.h>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "platform/EmissionPort.h"
+#include "platform/serie/EmissionPort.h"
 
 #include "platform/base/CedeLaMain.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/LigneSerie.h"
+#include "platform/serie/LigneSerie.h"
 
 #include <chrono>
 

@@ -1,4 +1,4 @@
-#include "platform/EvenementsPort.h"
+#include "platform/serie/EvenementsPort.h"
 
 #include <QPointer>
 

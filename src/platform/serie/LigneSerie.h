@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ReglagePort.h"
+#include "platform/serie/ReglagePort.h"
 
 #include <QByteArray>
 #include <QList>
