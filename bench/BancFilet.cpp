@@ -3,7 +3,7 @@
 
 #include "Mesure.h"
 
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/Filet.h"

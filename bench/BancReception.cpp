@@ -8,7 +8,7 @@
 #include "comconfig/ParamCom.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"

@@ -6,7 +6,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/UneLigne.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"

@@ -5,7 +5,7 @@
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Dossiers.h"
+#include "platform/fichiers/Dossiers.h"
 #include "platform/FiltreTouches.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"

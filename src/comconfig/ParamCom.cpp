@@ -3,8 +3,8 @@
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/FichierTexte.h"
-#include "platform/LecteurChamps.h"
+#include "platform/fichiers/FichierTexte.h"
+#include "platform/fichiers/LecteurChamps.h"
 
 #include <QScopeGuard>
 

@@ -6,7 +6,7 @@
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
 #include "platform/Boites.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/Transfert.h"
 

@@ -3,8 +3,8 @@
 #include "gauges/Jauge.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
-#include "platform/FichierTexte.h"
-#include "platform/LecteurChamps.h"
+#include "platform/fichiers/FichierTexte.h"
+#include "platform/fichiers/LecteurChamps.h"
 
 #include <algorithm>
 #include <cmath>

@@ -14,7 +14,7 @@
 #include "platform/base/Nombres.h"
 #include "platform/Boites.h"
 #include "platform/Clavier.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"

@@ -3,7 +3,7 @@
 #include "platform/AspectVolet.h"
 #include "platform/base/FinsDeLigne.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/LecteurRtf.h"
 #include "platform/MiseEnPage.h"
 #include "platform/SansAnnulation.h"

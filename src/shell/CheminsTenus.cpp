@@ -1,6 +1,6 @@
 #include "shell/CheminsTenus.h"
 
-#include "platform/Dossiers.h"
+#include "platform/fichiers/Dossiers.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"

@@ -7,7 +7,7 @@
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
 #include "shell/Chemins.h"
 #include "shell/CheminsTenus.h"

@@ -3,7 +3,7 @@
 #include "locale/Langue.h"
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Lanceur.h"
+#include "platform/fichiers/Lanceur.h"
 
 namespace {
 

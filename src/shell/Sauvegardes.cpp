@@ -1,7 +1,7 @@
 #include "shell/Sauvegardes.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/Chemins.h"
 
 #include <QDateTime>

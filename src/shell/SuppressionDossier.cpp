@@ -4,8 +4,8 @@
 #include "locale/TextesErreur.h"
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/Dossiers.h"
 #include "platform/FenetreAppelante.h"
+#include "platform/fichiers/Dossiers.h"
 
 #include <QFileInfo>
 #include <QProgressDialog>

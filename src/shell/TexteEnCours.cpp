@@ -1,8 +1,8 @@
 #include "shell/TexteEnCours.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/FichierTenu.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTenu.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/Chemins.h"
 #include "shell/Sauvegardes.h"
 

@@ -5,7 +5,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
 #include "platform/CommonDialog.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FiltresFichiers.h"

@@ -10,7 +10,7 @@
 #include "platform/base/Nombres.h"
 #include "platform/Boites.h"
 #include "platform/EntreeOptions.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/FiltreTouches.h"
 #include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"

@@ -2,7 +2,7 @@
 #include "Etabli.h"
 
 #include "comconfig/FrmConfDem.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/CadreExplorateur.h"
 
 #include <QDir>

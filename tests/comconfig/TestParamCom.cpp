@@ -3,7 +3,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -8,7 +8,7 @@
 #include "comconfig/Prop.h"
 #include "gauges/JauTour.h"
 #include "locale/Legendes.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "transfer/Rc_Fic.h"
 
 #include <QClipboard>

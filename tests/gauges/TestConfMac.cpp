@@ -5,7 +5,7 @@
 #include "gauges/ConfMac.h"
 #include "gauges/ParamMac.h"
 #include "platform/CommonDialog.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 
 #include <QClipboard>
 #include <QDir>

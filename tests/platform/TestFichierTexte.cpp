@@ -1,6 +1,6 @@
 #include "Essais.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #include "Essais.h"
-#include "platform/Dossiers.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/Dossiers.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/FileListBox.h"
 #include "platform/FolderTreeview.h"
 #include "platform/Volumes.h"

@@ -1,6 +1,6 @@
 #include "Essais.h"
-#include "platform/FichierTexte.h"
-#include "platform/Lanceur.h"
+#include "platform/fichiers/FichierTexte.h"
+#include "platform/fichiers/Lanceur.h"
 
 #include <QDir>
 #include <QTemporaryDir>

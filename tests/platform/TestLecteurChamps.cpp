@@ -1,6 +1,6 @@
 #include "Essais.h"
 #include "platform/base/Nombres.h"
-#include "platform/LecteurChamps.h"
+#include "platform/fichiers/LecteurChamps.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 #include "Essais.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/LecteurRtf.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "Donnees.h"
 #include "Etabli.h"
 
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/CadreExplorateur.h"
 #include "transfer/Rc_Fic.h"
 #include "transfer/Transfert.h"

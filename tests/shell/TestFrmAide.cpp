@@ -2,7 +2,7 @@
 #include "Etabli.h"
 
 #include "locale/FrmLangue.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "shell/FrmAide.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "machine/MachineSimulee.h"
 #include "machine/Options.h"
 #include "platform/Essais.h"
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/LignePosix.h"
 
 #include <QProcess>

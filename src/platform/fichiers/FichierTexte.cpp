@@ -1,4 +1,4 @@
-#include "platform/FichierTexte.h"
+#include "platform/fichiers/FichierTexte.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/PageCode1252.h"

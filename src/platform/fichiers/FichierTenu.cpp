@@ -1,4 +1,4 @@
-#include "platform/FichierTenu.h"
+#include "platform/fichiers/FichierTenu.h"
 
 #include "platform/base/Reprise.h"
 

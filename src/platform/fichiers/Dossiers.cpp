@@ -1,4 +1,4 @@
-#include "platform/Dossiers.h"
+#include "platform/fichiers/Dossiers.h"
 
 #include "platform/base/Erreur.h"
 

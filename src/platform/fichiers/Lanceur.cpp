@@ -1,4 +1,4 @@
-#include "platform/Lanceur.h"
+#include "platform/fichiers/Lanceur.h"
 
 #include "platform/base/Erreur.h"
 

@@ -1,4 +1,4 @@
-#include "platform/LecteurChamps.h"
+#include "platform/fichiers/LecteurChamps.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
