@@ -9,7 +9,7 @@
 #include "platform/Boites.h"
 #include "platform/Clavier.h"
 #include "platform/FiltreTouches.h"
-#include "platform/TouchesVolet.h"
+#include "platform/texte/TouchesVolet.h"
 #include "platform/UnClic.h"
 
 #include <QKeyEvent>

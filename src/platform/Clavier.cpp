@@ -1,6 +1,6 @@
 #include "platform/Clavier.h"
 
-#include "platform/TouchesVolet.h"
+#include "platform/texte/TouchesVolet.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -6,7 +6,7 @@
 #include "platform/Boites.h"
 #include "platform/fichiers/FichierTenu.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "platform/LignesVolet.h"
+#include "platform/texte/LignesVolet.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Sauvegardes.h"

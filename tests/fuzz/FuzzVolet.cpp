@@ -2,7 +2,7 @@
 
 #include "platform/base/Erreur.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/RichTextBox.h"
+#include "platform/texte/RichTextBox.h"
 
 // Any file is a text: what the pane gives back is what was loaded, to the byte. As rich text it may be refused, or is
 // never longer than what its file can say.

@@ -1,6 +1,6 @@
 #include "Essais.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "platform/LecteurRtf.h"
+#include "platform/texte/LecteurRtf.h"
 
 #include <QTest>
 

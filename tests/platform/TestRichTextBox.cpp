@@ -1,5 +1,5 @@
 #include "platform/base/PageCode1252.h"
-#include "platform/RichTextBox.h"
+#include "platform/texte/RichTextBox.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/LecteurRtf.h"
+#include "platform/texte/LecteurRtf.h"
 
 #include <QFont>
 #include <QTextCharFormat>

@@ -1,13 +1,13 @@
-#include "platform/RichTextBox.h"
+#include "platform/texte/RichTextBox.h"
 
-#include "platform/AspectVolet.h"
 #include "platform/base/FinsDeLigne.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "platform/LecteurRtf.h"
-#include "platform/MiseEnPage.h"
-#include "platform/SansAnnulation.h"
-#include "platform/TouchesVolet.h"
+#include "platform/texte/AspectVolet.h"
+#include "platform/texte/LecteurRtf.h"
+#include "platform/texte/MiseEnPage.h"
+#include "platform/texte/SansAnnulation.h"
+#include "platform/texte/TouchesVolet.h"
 
 #include <QMimeData>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "platform/TouchesVolet.h"
+#include "platform/texte/TouchesVolet.h"
 
 #include <algorithm>
 #include <array>

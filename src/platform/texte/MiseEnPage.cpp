@@ -1,4 +1,4 @@
-#include "platform/MiseEnPage.h"
+#include "platform/texte/MiseEnPage.h"
 
 #include <QTextBlock>
 #include <QTextDocument>

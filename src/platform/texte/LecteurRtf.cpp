@@ -1,7 +1,7 @@
-#include "platform/LecteurRtf.h"
+#include "platform/texte/LecteurRtf.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/CodagesRtf.h"
+#include "platform/texte/CodagesRtf.h"
 
 #include <QHash>
 

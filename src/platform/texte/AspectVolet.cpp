@@ -1,4 +1,4 @@
-#include "platform/AspectVolet.h"
+#include "platform/texte/AspectVolet.h"
 
 #include <QFontDatabase>
 

@@ -1,6 +1,6 @@
-#include "platform/LignesVolet.h"
+#include "platform/texte/LignesVolet.h"
 
-#include "platform/RichTextBox.h"
+#include "platform/texte/RichTextBox.h"
 
 QString LignesDe(const RichTextBox &volet, int premiere, int nombre)
 {

@@ -1,4 +1,4 @@
-#include "platform/CodagesRtf.h"
+#include "platform/texte/CodagesRtf.h"
 
 #include "platform/base/PageCode1252.h"
 
