@@ -4,7 +4,7 @@
 #include "Mesure.h"
 
 #include "locale/Langue.h"
-#include "platform/Polices.h"
+#include "platform/controles/Polices.h"
 #include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/Disposition.h"

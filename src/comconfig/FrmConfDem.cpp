@@ -5,8 +5,8 @@
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/ChoixDossier.h"
+#include "platform/controles/Icone.h"
 #include "platform/FenetreAppelante.h"
-#include "platform/Icone.h"
 #include "shell/Chemins.h"
 #include "shell/Reglages.h"
 

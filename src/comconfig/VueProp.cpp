@@ -4,7 +4,7 @@
 #include "comconfig/PortsPC.h"
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
-#include "platform/FiltreTouches.h"
+#include "platform/controles/FiltreTouches.h"
 #include "shell/Reglages.h"
 #include "ui_Prop.h"
 

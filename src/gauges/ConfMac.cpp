@@ -7,9 +7,9 @@
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
-#include "platform/EntreeOptions.h"
-#include "platform/FiltreTouches.h"
-#include "platform/GardePlaces.h"
+#include "platform/controles/EntreeOptions.h"
+#include "platform/controles/FiltreTouches.h"
+#include "platform/controles/GardePlaces.h"
 #include "shell/NomsPerdus.h"
 
 namespace {

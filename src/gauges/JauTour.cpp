@@ -7,10 +7,10 @@
 #include "locale/Legendes.h"
 #include "platform/base/Nombres.h"
 #include "platform/Boites.h"
-#include "platform/Clavier.h"
-#include "platform/FiltreTouches.h"
+#include "platform/controles/Clavier.h"
+#include "platform/controles/FiltreTouches.h"
+#include "platform/controles/UnClic.h"
 #include "platform/texte/TouchesVolet.h"
-#include "platform/UnClic.h"
 
 #include <QKeyEvent>
 

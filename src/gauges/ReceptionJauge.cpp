@@ -13,7 +13,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
 #include "platform/Boites.h"
-#include "platform/Clavier.h"
+#include "platform/controles/Clavier.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"

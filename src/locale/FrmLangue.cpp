@@ -4,7 +4,7 @@
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/Boites.h"
-#include "platform/EntreeOptions.h"
+#include "platform/controles/EntreeOptions.h"
 #include "shell/Reglages.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/Boites.h"
-#include "platform/Icone.h"
+#include "platform/controles/Icone.h"
 #include "shell/AideEnLigne.h"
 #include "shell/FrmPrinc.h"
 

@@ -1,6 +1,6 @@
 #include "shell/CadreExplorateur.h"
 
-#include "platform/Icone.h"
+#include "platform/controles/Icone.h"
 
 #include <QLineEdit>
 

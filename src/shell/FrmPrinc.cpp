@@ -3,8 +3,8 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/CommonDialog.h"
-#include "platform/GardePlaces.h"
-#include "platform/Icone.h"
+#include "platform/controles/GardePlaces.h"
+#include "platform/controles/Icone.h"
 #include "platform/serie/MSComm.h"
 #include "shell/CadreExplorateur.h"
 

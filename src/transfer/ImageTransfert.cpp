@@ -1,6 +1,6 @@
 #include "transfer/ImageTransfert.h"
 
-#include "platform/Icone.h"
+#include "platform/controles/Icone.h"
 #include "transfer/Transfert.h"
 
 QPixmap ImageTransfert()

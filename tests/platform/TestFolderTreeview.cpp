@@ -1,9 +1,9 @@
 #include "Essais.h"
+#include "platform/controles/FileListBox.h"
+#include "platform/controles/FolderTreeview.h"
+#include "platform/controles/Volumes.h"
 #include "platform/fichiers/Dossiers.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "platform/FileListBox.h"
-#include "platform/FolderTreeview.h"
-#include "platform/Volumes.h"
 
 #include <QDir>
 #include <QSignalSpy>

@@ -3,7 +3,7 @@
 #include "LigneScenario.h"
 #include "pilote/Pilote.h"
 
-#include "platform/Lampe.h"
+#include "platform/controles/Lampe.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 #include "transfer/Transfert.h"

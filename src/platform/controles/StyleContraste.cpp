@@ -1,6 +1,6 @@
-#include "platform/StyleContraste.h"
+#include "platform/controles/StyleContraste.h"
 
-#include "platform/Icone.h"
+#include "platform/controles/Icone.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>

@@ -1,6 +1,6 @@
-#include "platform/FiltreTouches.h"
+#include "platform/controles/FiltreTouches.h"
 
-#include "platform/Clavier.h"
+#include "platform/controles/Clavier.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>

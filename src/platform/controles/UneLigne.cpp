@@ -1,4 +1,4 @@
-#include "platform/UneLigne.h"
+#include "platform/controles/UneLigne.h"
 
 #include <QApplication>
 #include <QEvent>

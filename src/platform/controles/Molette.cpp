@@ -1,4 +1,4 @@
-#include "platform/Molette.h"
+#include "platform/controles/Molette.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "platform/Lampe.h"
+#include "platform/controles/Lampe.h"
 
 #include <QPainter>
 

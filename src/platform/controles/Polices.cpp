@@ -1,4 +1,4 @@
-#include "platform/Polices.h"
+#include "platform/controles/Polices.h"
 
 #ifdef AVEC_FONTCONFIG
 #include <fontconfig/fontconfig.h>

@@ -1,4 +1,4 @@
-#include "platform/GuetteurDossiers.h"
+#include "platform/controles/GuetteurDossiers.h"
 
 GuetteurDossiers::GuetteurDossiers()
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Volumes.h"
+#include "platform/controles/Volumes.h"
 
 #include <QFileSystemWatcher>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "platform/Icone.h"
+#include "platform/controles/Icone.h"
 
 #include <QApplication>
 #include <QIconEngine>

@@ -1,4 +1,4 @@
-#include "platform/UnClic.h"
+#include "platform/controles/UnClic.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "platform/Clavier.h"
+#include "platform/controles/Clavier.h"
 
 #include "platform/texte/TouchesVolet.h"
 

@@ -1,4 +1,4 @@
-#include "platform/GardePlaces.h"
+#include "platform/controles/GardePlaces.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
-#include "platform/LabelElide.h"
+#include "platform/controles/LabelElide.h"
 
-#include "platform/UneLigne.h"
+#include "platform/controles/UneLigne.h"
 
 #include <QHelpEvent>
 #include <QStyle>

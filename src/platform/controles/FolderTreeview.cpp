@@ -1,7 +1,7 @@
-#include "platform/FolderTreeview.h"
+#include "platform/controles/FolderTreeview.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/Volumes.h"
+#include "platform/controles/Volumes.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "platform/FileListBox.h"
+#include "platform/controles/FileListBox.h"
 
 #include "platform/base/Erreur.h"
 

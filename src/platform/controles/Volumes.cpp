@@ -1,4 +1,4 @@
-#include "platform/Volumes.h"
+#include "platform/controles/Volumes.h"
 
 #include <QDir>
 #include <QFileInfo>

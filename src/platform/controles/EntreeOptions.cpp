@@ -1,4 +1,4 @@
-#include "platform/EntreeOptions.h"
+#include "platform/controles/EntreeOptions.h"
 
 #include <QRadioButton>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/GuetteurDossiers.h"
+#include "platform/controles/GuetteurDossiers.h"
 
 #include <QTreeWidget>
 

@@ -1,4 +1,4 @@
-#include "platform/CaseLongue.h"
+#include "platform/controles/CaseLongue.h"
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
