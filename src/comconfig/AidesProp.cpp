@@ -1,7 +1,7 @@
 #include "comconfig/AidesProp.h"
 
 #include "locale/Langue.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "ui_Prop.h"
 
 namespace {

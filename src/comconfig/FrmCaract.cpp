@@ -3,7 +3,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 
 namespace {
 

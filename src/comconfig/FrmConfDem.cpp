@@ -4,9 +4,9 @@
 #include "locale/FrmLangue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
-#include "platform/ChoixDossier.h"
 #include "platform/controles/Icone.h"
-#include "platform/FenetreAppelante.h"
+#include "platform/dialogues/ChoixDossier.h"
+#include "platform/dialogues/FenetreAppelante.h"
 #include "shell/Chemins.h"
 #include "shell/Reglages.h"
 

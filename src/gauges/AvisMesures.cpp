@@ -6,7 +6,7 @@
 #include "gauges/SalveBanc.h"
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "transfer/Transfert.h"
 
 #include <QRegularExpression>

@@ -2,7 +2,7 @@
 
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
-#include "platform/CommonDialog.h"
+#include "platform/dialogues/CommonDialog.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"
 

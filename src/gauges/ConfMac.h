@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DialogueCentre.h"
+#include "platform/dialogues/DialogueCentre.h"
 #include "ui_ConfMac.h"
 
 /// Shows and edits ParamMac. Choices reach it at once, typed values only when they are saved; Command1 (close) takes

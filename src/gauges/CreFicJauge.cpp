@@ -5,7 +5,7 @@
 #include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/Transfert.h"

@@ -11,8 +11,8 @@
 #include "locale/Langue.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
-#include "platform/Boites.h"
-#include "platform/FenetreAppelante.h"
+#include "platform/dialogues/Boites.h"
+#include "platform/dialogues/FenetreAppelante.h"
 #include "transfer/FichierRecu.h"
 
 #include <QApplication>

@@ -6,10 +6,10 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Nombres.h"
-#include "platform/Boites.h"
 #include "platform/controles/Clavier.h"
 #include "platform/controles/FiltreTouches.h"
 #include "platform/controles/UnClic.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/texte/TouchesVolet.h"
 
 #include <QKeyEvent>

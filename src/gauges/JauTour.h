@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DialogueCentre.h"
+#include "platform/dialogues/DialogueCentre.h"
 #include "ui_JauTour.h"
 
 /// The dial of a lathe: for each measure, one after another, the operator gives what the bench cannot measure, the

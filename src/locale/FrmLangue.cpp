@@ -3,8 +3,8 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
 #include "platform/controles/EntreeOptions.h"
+#include "platform/dialogues/Boites.h"
 #include "shell/Reglages.h"
 
 namespace {

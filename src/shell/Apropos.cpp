@@ -2,8 +2,8 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "platform/Boites.h"
 #include "platform/controles/Icone.h"
+#include "platform/dialogues/Boites.h"
 #include "shell/AideEnLigne.h"
 #include "shell/FrmPrinc.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DialogueCentre.h"
+#include "platform/dialogues/DialogueCentre.h"
 #include "ui_Apropos.h"
 
 /// The about window. Image1: picture; Label1: program and version; Label8, Label4 and Label5: links to the lessons on

@@ -6,7 +6,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
 #include "shell/Chemins.h"

@@ -3,7 +3,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/fichiers/Dossiers.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"

@@ -3,7 +3,7 @@
 #include "locale/Langue.h"
 #include "locale/TextesErreur.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTenu.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/texte/LignesVolet.h"

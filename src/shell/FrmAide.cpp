@@ -2,7 +2,7 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Reglages.h"

@@ -2,9 +2,9 @@
 
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
-#include "platform/CommonDialog.h"
 #include "platform/controles/GardePlaces.h"
 #include "platform/controles/Icone.h"
+#include "platform/dialogues/CommonDialog.h"
 #include "platform/serie/MSComm.h"
 #include "shell/CadreExplorateur.h"
 

@@ -2,8 +2,8 @@
 
 #include "locale/Langue.h"
 #include "platform/base/Erreur.h"
-#include "platform/CommonDialog.h"
-#include "platform/Printer.h"
+#include "platform/dialogues/CommonDialog.h"
+#include "platform/dialogues/Printer.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 

@@ -2,7 +2,7 @@
 
 #include "locale/Langue.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "shell/Chemins.h"
 #include "shell/Reglages.h"
 

@@ -1,7 +1,7 @@
 #include "shell/Police.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/CommonDialog.h"
+#include "platform/dialogues/CommonDialog.h"
 #include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
 

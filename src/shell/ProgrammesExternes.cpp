@@ -2,7 +2,7 @@
 
 #include "locale/Langue.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/fichiers/Lanceur.h"
 
 namespace {

@@ -3,8 +3,8 @@
 #include "locale/Langue.h"
 #include "locale/TextesErreur.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
-#include "platform/FenetreAppelante.h"
+#include "platform/dialogues/Boites.h"
+#include "platform/dialogues/FenetreAppelante.h"
 #include "platform/fichiers/Dossiers.h"
 
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "comconfig/ParamCom.h"
 #include "locale/Comptes.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"

@@ -2,7 +2,7 @@
 
 #include "comconfig/ParamCom.h"
 #include "locale/Langue.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "shell/Document.h"
 #include "transfer/Transfert.h"
 

@@ -7,7 +7,7 @@
 #include "locale/TextesErreur.h"
 #include "platform/base/Nombres.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "ui_Em_Rc.h"

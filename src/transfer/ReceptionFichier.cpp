@@ -5,7 +5,7 @@
 #include "locale/Legendes.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/serie/ErreurPort.h"
 #include "platform/serie/MSComm.h"
 #include "shell/Document.h"

@@ -7,7 +7,7 @@
 #include "gauges/ParamMac.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 #include "transfer/Transfert.h"
 
 #include <QFileInfo>

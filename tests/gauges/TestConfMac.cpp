@@ -4,7 +4,7 @@
 
 #include "gauges/ConfMac.h"
 #include "gauges/ParamMac.h"
-#include "platform/CommonDialog.h"
+#include "platform/dialogues/CommonDialog.h"
 #include "platform/fichiers/FichierTexte.h"
 
 #include <QClipboard>

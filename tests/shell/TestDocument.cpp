@@ -1,7 +1,7 @@
 #include "Etabli.h"
 #include "platform/Essais.h"
 
-#include "platform/CommonDialog.h"
+#include "platform/dialogues/CommonDialog.h"
 
 #include <QClipboard>
 #include <QDir>

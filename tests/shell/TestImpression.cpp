@@ -1,7 +1,7 @@
 #include "Etabli.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/Printer.h"
+#include "platform/dialogues/Printer.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -11,7 +11,7 @@
 #include "gauges/JauTour.h"
 #include "gauges/ParamMac.h"
 #include "locale/FrmLangue.h"
-#include "platform/ChoixDossier.h"
+#include "platform/dialogues/ChoixDossier.h"
 #include "shell/Apropos.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Chemins.h"

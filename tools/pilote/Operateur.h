@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -49,7 +49,8 @@ public:
     ~Operateur();
     Q_DISABLE_COPY_MOVE(Operateur)
 
-    /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/Boites.h) is answered.
+    /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/dialogues/Boites.h) is
+    /// answered.
     void Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
                 Lieu ou = Lieu::Ici());
     /// The box, in French, of a transfer that an error has ended.

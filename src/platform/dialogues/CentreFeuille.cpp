@@ -1,4 +1,4 @@
-#include "platform/CentreFeuille.h"
+#include "platform/dialogues/CentreFeuille.h"
 
 #include <QScreen>
 #include <QWidget>

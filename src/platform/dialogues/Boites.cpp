@@ -1,6 +1,6 @@
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 
-#include "platform/FenetreAppelante.h"
+#include "platform/dialogues/FenetreAppelante.h"
 
 #include <QDir>
 #include <QFontMetrics>

@@ -1,4 +1,4 @@
-#include "platform/DialoguePolice.h"
+#include "platform/dialogues/DialoguePolice.h"
 
 #include <QCheckBox>
 #include <QColorDialog>

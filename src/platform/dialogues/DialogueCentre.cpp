@@ -1,6 +1,6 @@
-#include "platform/DialogueCentre.h"
+#include "platform/dialogues/DialogueCentre.h"
 
-#include "platform/CentreFeuille.h"
+#include "platform/dialogues/CentreFeuille.h"
 
 #include <QShowEvent>
 

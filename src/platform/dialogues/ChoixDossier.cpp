@@ -1,6 +1,6 @@
-#include "platform/ChoixDossier.h"
+#include "platform/dialogues/ChoixDossier.h"
 
-#include "platform/DialogueFichier.h"
+#include "platform/dialogues/DialogueFichier.h"
 
 #include <QDir>
 #include <QFileDialog>

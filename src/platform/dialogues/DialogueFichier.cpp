@@ -1,4 +1,4 @@
-#include "platform/DialogueFichier.h"
+#include "platform/dialogues/DialogueFichier.h"
 
 #include <QFileDialog>
 #include <QHeaderView>

@@ -1,4 +1,4 @@
-#include "platform/DialogueImprimante.h"
+#include "platform/dialogues/DialogueImprimante.h"
 
 #include <QComboBox>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "platform/FenetreAppelante.h"
+#include "platform/dialogues/FenetreAppelante.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -1,7 +1,7 @@
-#include "platform/Printer.h"
+#include "platform/dialogues/Printer.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/Boites.h"
+#include "platform/dialogues/Boites.h"
 
 #include <QDir>
 #include <QFile>
