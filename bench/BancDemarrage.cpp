@@ -3,14 +3,14 @@
 
 #include "Mesure.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "platform/controles/Polices.h"
-#include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/Disposition.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
-#include "shell/Reglages.h"
 
 #include <QApplication>
 #include <QProcess>

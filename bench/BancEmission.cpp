@@ -6,11 +6,11 @@
 #include "Mesure.h"
 #include "Pair.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Em_Rc.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QFile>

@@ -3,8 +3,8 @@
 
 #include "Mesure.h"
 
+#include "donnees/Chemins.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/Filet.h"
 #include "shell/FrmPrinc.h"

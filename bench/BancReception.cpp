@@ -5,7 +5,8 @@
 #include "Mesure.h"
 #include "Pair.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/fichiers/FichierTexte.h"
@@ -15,7 +16,6 @@
 #include "transfer/Em_Rc.h"
 #include "transfer/Reception.h"
 #include "transfer/ReceptionFichier.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "Mesure.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -3,10 +3,10 @@
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
 #include <QTest>
 

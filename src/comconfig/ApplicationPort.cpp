@@ -1,7 +1,7 @@
 #include "comconfig/ApplicationPort.h"
 
-#include "comconfig/ParamCom.h"
 #include "comconfig/ReglagesCom.h"
+#include "donnees/ParamCom.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 

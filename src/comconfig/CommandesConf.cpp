@@ -1,17 +1,17 @@
 #include "comconfig/CommandesConf.h"
 
-#include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
+#include "donnees/Chemins.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/controles/UneLigne.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
 #include <QDir>
 

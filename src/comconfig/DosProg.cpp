@@ -1,6 +1,8 @@
 #include "comconfig/DosProg.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/Chemins.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
@@ -8,11 +10,9 @@
 #include "platform/dialogues/Boites.h"
 #include "platform/fichiers/Dossiers.h"
 #include "shell/CadreExplorateur.h"
-#include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
-#include "shell/Reglages.h"
 
 namespace {
 

@@ -4,9 +4,10 @@
 #include "comconfig/ApplicationPort.h"
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmCaract.h"
-#include "comconfig/ParamCom.h"
 #include "comconfig/TextesConf.h"
 #include "comconfig/VueProp.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
 #include "locale/Legendes.h"
 #include "locale/TextesErreur.h"
 #include "platform/controles/EntreeOptions.h"
@@ -17,7 +18,6 @@
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
-#include "shell/Reglages.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
 #include "ui_Prop.h"
 
 #include <QDialog>

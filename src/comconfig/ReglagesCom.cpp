@@ -1,6 +1,6 @@
 #include "comconfig/ReglagesCom.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
 #include "platform/serie/MSComm.h"
 
 #include <QStringList>

@@ -1,11 +1,11 @@
 #include "comconfig/VueProp.h"
 
-#include "comconfig/ParamCom.h"
 #include "comconfig/PortsPC.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
 #include "platform/controles/FiltreTouches.h"
-#include "shell/Reglages.h"
 #include "ui_Prop.h"
 
 #include <algorithm>

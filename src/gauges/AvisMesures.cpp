@@ -1,13 +1,13 @@
 #include "gauges/AvisMesures.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/Jauge.h"
-#include "gauges/ParamMac.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Transfert.h"
 #include "gauges/SalveBanc.h"
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
 #include "platform/dialogues/Boites.h"
-#include "transfer/Transfert.h"
 
 #include <QRegularExpression>
 

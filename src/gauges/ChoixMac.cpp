@@ -1,10 +1,10 @@
 #include "gauges/ChoixMac.h"
 
-#include "gauges/ParamMac.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
 #include <QDir>
 #include <QScopeGuard>

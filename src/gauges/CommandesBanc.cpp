@@ -1,12 +1,12 @@
 #include "gauges/CommandesBanc.h"
 
+#include "donnees/Jauge.h"
+#include "donnees/Transfert.h"
 #include "gauges/ChoixMac.h"
-#include "gauges/Jauge.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Rc_Fic.h"
-#include "transfer/Transfert.h"
 
 void Mnu_RecepBanc()
 {

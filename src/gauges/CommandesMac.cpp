@@ -1,13 +1,13 @@
 #include "gauges/CommandesMac.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/ParamMac.h"
 #include "gauges/ChoixMac.h"
 #include "gauges/ConfMac.h"
-#include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/dialogues/Boites.h"
-#include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 
 namespace {

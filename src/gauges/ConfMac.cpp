@@ -1,7 +1,7 @@
 #include "gauges/ConfMac.h"
 
+#include "donnees/ParamMac.h"
 #include "gauges/ChoixMac.h"
-#include "gauges/ParamMac.h"
 #include "gauges/TexteVirgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"

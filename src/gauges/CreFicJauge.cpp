@@ -1,14 +1,14 @@
 #include "gauges/CreFicJauge.h"
 
-#include "gauges/Jauge.h"
-#include "gauges/Lignes.h"
-#include "gauges/ParamMac.h"
+#include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "transfer/FichierRecu.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QDate>

@@ -1,6 +1,6 @@
 #include "gauges/Filtrage.h"
 
-#include "gauges/Lignes.h"
+#include "donnees/Lignes.h"
 #include "platform/base/Nombres.h"
 
 #include <algorithm>

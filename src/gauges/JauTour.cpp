@@ -1,7 +1,7 @@
 #include "gauges/JauTour.h"
 
-#include "gauges/Jauge.h"
-#include "gauges/ParamMac.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamMac.h"
 #include "gauges/TexteVirgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"

@@ -1,11 +1,12 @@
 #include "gauges/ReceptionJauge.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Transfert.h"
 #include "gauges/CreFicJauge.h"
 #include "gauges/FiltreJauge.h"
-#include "gauges/Jauge.h"
-#include "gauges/Lignes.h"
-#include "gauges/ParamMac.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "locale/TextesErreur.h"
@@ -21,7 +22,6 @@
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/TextesReception.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>

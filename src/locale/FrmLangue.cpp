@@ -1,11 +1,11 @@
 #include "locale/FrmLangue.h"
 
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/controles/EntreeOptions.h"
 #include "platform/dialogues/Boites.h"
-#include "shell/Reglages.h"
 
 namespace {
 

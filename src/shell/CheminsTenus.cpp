@@ -1,7 +1,7 @@
 #include "shell/CheminsTenus.h"
 
+#include "donnees/Chemins.h"
 #include "platform/fichiers/Dossiers.h"
-#include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 

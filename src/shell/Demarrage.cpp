@@ -1,7 +1,9 @@
 #include "shell/Demarrage.h"
 
 #include "comconfig/CommandesConf.h"
-#include "comconfig/ParamCom.h"
+#include "donnees/Chemins.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
 #include "locale/FrmLangue.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
@@ -9,14 +11,12 @@
 #include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
-#include "shell/Chemins.h"
 #include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
 #include "shell/Filet.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
-#include "shell/Reglages.h"
 
 #include <QCoreApplication>
 #include <QTemporaryFile>

@@ -1,6 +1,10 @@
 #include "shell/Document.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/Chemins.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
+#include "donnees/Sauvegardes.h"
+#include "donnees/TexteEnCours.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "locale/TextesErreur.h"
@@ -8,14 +12,10 @@
 #include "platform/dialogues/Boites.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
 #include "shell/FiltresFichiers.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
 #include "shell/ProgrammesExternes.h"
-#include "shell/Reglages.h"
-#include "shell/Sauvegardes.h"
-#include "shell/TexteEnCours.h"
 
 #include <QDir>
 

@@ -1,9 +1,9 @@
 #include "shell/Editeur.h"
 
+#include "donnees/Reglages.h"
 #include "locale/Legendes.h"
 #include "shell/Document.h"
 #include "shell/ProgrammesExternes.h"
-#include "shell/Reglages.h"
 
 void Mnu_EditProg()
 {

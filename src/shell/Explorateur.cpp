@@ -1,17 +1,17 @@
 #include "shell/Explorateur.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/fichiers/Dossiers.h"
 #include "shell/CadreExplorateur.h"
-#include "shell/Chemins.h"
 #include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
-#include "shell/Reglages.h"
 #include "shell/SuppressionDossier.h"
 
 #include <QApplication>

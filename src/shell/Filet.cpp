@@ -1,5 +1,7 @@
 #include "shell/Filet.h"
 
+#include "donnees/Sauvegardes.h"
+#include "donnees/TexteEnCours.h"
 #include "locale/Langue.h"
 #include "locale/TextesErreur.h"
 #include "platform/base/Erreur.h"
@@ -9,8 +11,6 @@
 #include "platform/texte/LignesVolet.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Sauvegardes.h"
-#include "shell/TexteEnCours.h"
 
 #include <QApplication>
 #include <QDateTime>

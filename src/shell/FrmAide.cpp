@@ -1,11 +1,11 @@
 #include "shell/FrmAide.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/dialogues/Boites.h"
-#include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
 
 #include <QFileInfo>
 #include <QKeyEvent>

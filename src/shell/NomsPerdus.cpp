@@ -1,10 +1,10 @@
 #include "shell/NomsPerdus.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/dialogues/Boites.h"
-#include "shell/Chemins.h"
-#include "shell/Reglages.h"
 
 #include <QSet>
 #include <QStringList>

@@ -1,6 +1,7 @@
 #include "transfer/Apercu.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Comptes.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/dialogues/Boites.h"
@@ -9,7 +10,6 @@
 #include "transfer/Bilan.h"
 #include "transfer/Emission.h"
 #include "transfer/PortCom.h"
-#include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
 #include <QStringList>

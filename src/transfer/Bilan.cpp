@@ -1,10 +1,10 @@
 #include "transfer/Bilan.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Comptes.h"
 #include "platform/serie/MSComm.h"
 #include "transfer/PortCom.h"
-#include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
 #include <QElapsedTimer>

@@ -1,11 +1,11 @@
 #include "transfer/CommandesTransfert.h"
 
+#include "donnees/Transfert.h"
 #include "locale/Legendes.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Confirmation.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
-#include "transfer/Transfert.h"
 
 namespace {
 

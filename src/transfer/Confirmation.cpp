@@ -1,10 +1,10 @@
 #include "transfer/Confirmation.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "platform/dialogues/Boites.h"
 #include "shell/Document.h"
-#include "transfer/Transfert.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 #include "transfer/Em_Rc.h"
 
 #include "comconfig/CommandesConf.h"
-#include "comconfig/ParamCom.h"
-#include "gauges/Jauge.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/controles/Clavier.h"
@@ -22,7 +23,6 @@
 #include "transfer/Reception.h"
 #include "transfer/ReceptionFichier.h"
 #include "transfer/TextesReception.h"
-#include "transfer/Transfert.h"
 
 #include <QShowEvent>
 #include <QStyle>

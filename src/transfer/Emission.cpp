@@ -1,7 +1,7 @@
 #include "transfer/Emission.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/Lignes.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
 #include "locale/Comptes.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"

@@ -1,13 +1,13 @@
 #include "transfer/EtapesReception.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Legendes.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
-#include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
 namespace {

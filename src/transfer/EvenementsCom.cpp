@@ -1,5 +1,6 @@
 #include "transfer/EvenementsCom.h"
 
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
@@ -7,7 +8,6 @@
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/ReceptionFichier.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 

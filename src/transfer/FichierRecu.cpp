@@ -1,17 +1,17 @@
 #include "transfer/FichierRecu.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
 #include "shell/Document.h"
 #include "shell/FiltresFichiers.h"
 #include "shell/FrmPrinc.h"
 #include "shell/ProgrammesExternes.h"
-#include "transfer/Transfert.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #include "transfer/ImageTransfert.h"
 
+#include "donnees/Transfert.h"
 #include "platform/controles/Icone.h"
-#include "transfer/Transfert.h"
 
 QPixmap ImageTransfert()
 {

@@ -1,7 +1,7 @@
 #include "transfer/PortCom.h"
 
-#include "comconfig/ParamCom.h"
 #include "comconfig/ReglagesCom.h"
+#include "donnees/ParamCom.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "locale/TextesErreur.h"

@@ -2,9 +2,12 @@
 
 #include "comconfig/CommandesConf.h"
 #include "comconfig/DosProg.h"
-#include "comconfig/ParamCom.h"
-#include "gauges/Jauge.h"
-#include "gauges/ParamMac.h"
+#include "donnees/Chemins.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Reglages.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Nombres.h"
@@ -12,13 +15,10 @@
 #include "platform/controles/FiltreTouches.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
-#include "shell/Reglages.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/ImageTransfert.h"
-#include "transfer/Transfert.h"
 
 #include <algorithm>
 

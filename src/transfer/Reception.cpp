@@ -1,7 +1,8 @@
 #include "transfer/Reception.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/Lignes.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/CedeLaMain.h"
@@ -15,7 +16,6 @@
 #include "transfer/PortCom.h"
 #include "transfer/RythmeAffichage.h"
 #include "transfer/TextesReception.h"
-#include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #include "transfer/ReceptionFichier.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/CedeLaMain.h"
@@ -15,7 +16,6 @@
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/RythmeAffichage.h"
-#include "transfer/Transfert.h"
 #include "ui_Em_Rc.h"
 
 #include <QScopedValueRollback>

@@ -1,7 +1,7 @@
 #include "Donnees.h"
 #include "platform/Essais.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/fichiers/FichierTexte.h"
 

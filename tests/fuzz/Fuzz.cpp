@@ -1,6 +1,6 @@
 #include "fuzz/Fuzz.h"
 
-#include "shell/Chemins.h"
+#include "donnees/Chemins.h"
 #include "shell/FrmPrinc.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/ParamMac.h"
+#include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
 #include "platform/base/Erreur.h"
 
 namespace {

@@ -1,14 +1,14 @@
 #include "fuzz/Fuzz.h"
 
+#include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Transfert.h"
 #include "gauges/Filtrage.h"
 #include "gauges/FiltreJauge.h"
-#include "gauges/Jauge.h"
-#include "gauges/Lignes.h"
-#include "gauges/ParamMac.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/dialogues/Boites.h"
-#include "transfer/Transfert.h"
 
 #include <QFileInfo>
 

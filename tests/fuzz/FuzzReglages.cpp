@@ -1,7 +1,7 @@
 #include "fuzz/Fuzz.h"
 
+#include "donnees/Reglages.h"
 #include "platform/base/Erreur.h"
-#include "shell/Reglages.h"
 
 // Settings that can be read are the same after they were saved, read and saved again; half of the bytes are the one
 // file, half the other.

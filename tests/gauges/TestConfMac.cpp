@@ -2,8 +2,8 @@
 #include "Etabli.h"
 #include "platform/Essais.h"
 
+#include "donnees/ParamMac.h"
 #include "gauges/ConfMac.h"
-#include "gauges/ParamMac.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "platform/fichiers/FichierTexte.h"
 

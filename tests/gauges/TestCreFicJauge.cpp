@@ -1,11 +1,11 @@
 #include "Donnees.h"
 #include "Etabli.h"
 
+#include "donnees/Jauge.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Transfert.h"
 #include "gauges/CreFicJauge.h"
-#include "gauges/Jauge.h"
-#include "gauges/ParamMac.h"
 #include "platform/base/Erreur.h"
-#include "transfer/Transfert.h"
 
 #include <QDate>
 

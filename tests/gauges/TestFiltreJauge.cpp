@@ -1,13 +1,13 @@
 #include "Donnees.h"
 #include "Etabli.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Transfert.h"
 #include "gauges/FiltreJauge.h"
-#include "gauges/Jauge.h"
-#include "gauges/Lignes.h"
-#include "gauges/ParamMac.h"
 #include "platform/base/Erreur.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "Etabli.h"
 
-#include "gauges/Jauge.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamMac.h"
 #include "gauges/JauTour.h"
-#include "gauges/ParamMac.h"
 
 #include <QAbstractButton>
 

@@ -1,10 +1,10 @@
 #include "Etabli.h"
 #include "LigneScenario.h"
 
-#include "gauges/Jauge.h"
+#include "donnees/Jauge.h"
+#include "donnees/Transfert.h"
 #include "machine/Banc.h"
 #include "platform/base/Erreur.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QComboBox>

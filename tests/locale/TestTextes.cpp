@@ -7,8 +7,9 @@
 #include "comconfig/FrmCaract.h"
 #include "comconfig/FrmConfDem.h"
 #include "comconfig/Prop.h"
+#include "donnees/Jauge.h"
+#include "donnees/Transfert.h"
 #include "gauges/ConfMac.h"
-#include "gauges/Jauge.h"
 #include "gauges/JauTour.h"
 #include "locale/FrmLangue.h"
 #include "locale/Langue.h"
@@ -16,7 +17,6 @@
 #include "shell/Apropos.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
-#include "transfer/Transfert.h"
 
 #include <QDir>
 #include <QMenu>

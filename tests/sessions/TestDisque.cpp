@@ -4,17 +4,17 @@
 
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmConfDem.h"
-#include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
+#include "donnees/Transfert.h"
 #include "gauges/ConfMac.h"
 #include "gauges/CreFicJauge.h"
-#include "gauges/Jauge.h"
 #include "locale/FrmLangue.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
-#include "transfer/Transfert.h"
 
 #include <QDir>
 #include <QLineEdit>

@@ -1,15 +1,15 @@
 #include "Donnees.h"
 #include "pilote/Pilote.h"
 
-#include "comconfig/ParamCom.h"
 #include "comconfig/Prop.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "machine/Banc.h"
 #include "machine/MachineSimulee.h"
 #include "platform/serie/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/PortCom.h"
-#include "transfer/Transfert.h"
 
 #include <QTest>
 

@@ -2,8 +2,8 @@
 #include "Etabli.h"
 #include "platform/Essais.h"
 
+#include "donnees/Chemins.h"
 #include "locale/Langue.h"
-#include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 
 #include <csignal>

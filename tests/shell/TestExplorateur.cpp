@@ -1,10 +1,10 @@
 #include "Donnees.h"
 #include "Etabli.h"
 
+#include "donnees/Transfert.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "shell/CadreExplorateur.h"
 #include "transfer/Rc_Fic.h"
-#include "transfer/Transfert.h"
 
 #include <QDirIterator>
 #include <QInputDialog>

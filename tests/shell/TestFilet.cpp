@@ -1,12 +1,12 @@
 #include "Etabli.h"
 #include "platform/Essais.h"
 
+#include "donnees/Sauvegardes.h"
+#include "donnees/Transfert.h"
 #include "platform/base/FinDemandee.h"
 #include "platform/base/PageCode1252.h"
 #include "shell/Filet.h"
-#include "shell/Sauvegardes.h"
 #include "transfer/FichierRecu.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QDir>

@@ -3,10 +3,10 @@
 #include "LigneScenario.h"
 #include "pilote/Pilote.h"
 
+#include "donnees/Reglages.h"
+#include "donnees/Transfert.h"
 #include "platform/controles/Lampe.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
-#include "transfer/Transfert.h"
 
 #include <QTest>
 

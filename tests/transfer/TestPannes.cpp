@@ -1,7 +1,7 @@
 #include "EssaiTransfert.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/Jauge.h"
+#include "donnees/Jauge.h"
+#include "donnees/ParamCom.h"
 
 #include <chrono>
 

@@ -3,7 +3,7 @@
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
 #include "locale/Langue.h"
 #include "platform/serie/ErreurPort.h"
 #include "shell/FrmPrinc.h"

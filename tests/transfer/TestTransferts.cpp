@@ -2,8 +2,8 @@
 #include "EssaiTransfert.h"
 #include "platform/Essais.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/Lignes.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
 #include "locale/Langue.h"
 #include "shell/Document.h"
 

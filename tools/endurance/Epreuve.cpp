@@ -1,9 +1,9 @@
 #include "endurance/Epreuve.h"
 
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Transfert.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
-#include "transfer/Transfert.h"
 
 #include <QFile>
 #include <QPushButton>

@@ -1,14 +1,14 @@
 #include "pilote/Pilote.h"
 
-#include "comconfig/ParamCom.h"
-#include "gauges/Jauge.h"
-#include "gauges/Lignes.h"
+#include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
+#include "donnees/Reglages.h"
+#include "donnees/Transfert.h"
 #include "machine/Banc.h"
 #include "platform/serie/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Reglages.h"
-#include "transfer/Transfert.h"
 
 #include <QApplication>
 #include <QFileDialog>

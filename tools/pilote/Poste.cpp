@@ -1,19 +1,19 @@
 #include "pilote/Poste.h"
 
 #include "comconfig/CommandesConf.h"
-#include "comconfig/ParamCom.h"
-#include "gauges/Jauge.h"
-#include "gauges/Lignes.h"
-#include "gauges/ParamMac.h"
+#include "donnees/Chemins.h"
+#include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
+#include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
+#include "donnees/Reglages.h"
+#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "platform/serie/MSComm.h"
-#include "shell/Chemins.h"
 #include "shell/Demarrage.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Menus.h"
-#include "shell/Reglages.h"
-#include "transfer/Transfert.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,8 +1,8 @@
-#include "shell/Sauvegardes.h"
+#include "donnees/Sauvegardes.h"
 
+#include "donnees/Chemins.h"
 #include "platform/base/Erreur.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,11 +1,11 @@
-#include "shell/Reglages.h"
+#include "donnees/Reglages.h"
 
+#include "donnees/Chemins.h"
 #include "locale/Langue.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/fichiers/LecteurChamps.h"
-#include "shell/Chemins.h"
 
 #include <QFile>
 #include <QFileInfo>

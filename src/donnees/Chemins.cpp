@@ -1,4 +1,4 @@
-#include "shell/Chemins.h"
+#include "donnees/Chemins.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "comconfig/ParamCom.h"
+#include "donnees/ParamCom.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"

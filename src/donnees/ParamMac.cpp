@@ -1,6 +1,6 @@
-#include "gauges/ParamMac.h"
+#include "donnees/ParamMac.h"
 
-#include "gauges/Jauge.h"
+#include "donnees/Jauge.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
 #include "platform/fichiers/FichierTexte.h"

@@ -1,4 +1,4 @@
-#include "gauges/Jauge.h"
+#include "donnees/Jauge.h"
 
 std::array<JaugeOutil, CapaciteJauges + 1> Jauge;
 

@@ -1,4 +1,4 @@
-#include "gauges/Lignes.h"
+#include "donnees/Lignes.h"
 
 #include "platform/base/Nombres.h"
 

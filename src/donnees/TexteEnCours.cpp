@@ -1,10 +1,10 @@
-#include "shell/TexteEnCours.h"
+#include "donnees/TexteEnCours.h"
 
+#include "donnees/Chemins.h"
+#include "donnees/Sauvegardes.h"
 #include "platform/base/Erreur.h"
 #include "platform/fichiers/FichierTenu.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "shell/Chemins.h"
-#include "shell/Sauvegardes.h"
 
 #include <QCoreApplication>
 #include <QDir>

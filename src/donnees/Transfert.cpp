@@ -1,7 +1,7 @@
-#include "transfer/Transfert.h"
+#include "donnees/Transfert.h"
 
-#include "comconfig/ParamCom.h"
-#include "shell/Chemins.h"
+#include "donnees/Chemins.h"
+#include "donnees/ParamCom.h"
 
 int TypeTransfert = 0;
 int FinTransfert = 0;
