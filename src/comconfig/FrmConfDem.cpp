@@ -3,12 +3,12 @@
 #include "comconfig/CommandesConf.h"
 #include "donnees/Chemins.h"
 #include "donnees/Reglages.h"
-#include "locale/FrmLangue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/controles/Icone.h"
 #include "platform/dialogues/ChoixDossier.h"
 #include "platform/dialogues/FenetreAppelante.h"
+#include "shell/FrmLangue.h"
 
 FrmConfDem::FrmConfDem(QWidget *parent)
     : QDialog(parent)

@@ -4,7 +4,6 @@
 #include "donnees/Chemins.h"
 #include "donnees/ParamCom.h"
 #include "donnees/Reglages.h"
-#include "locale/FrmLangue.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
@@ -15,6 +14,7 @@
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
 #include "shell/Filet.h"
+#include "shell/FrmLangue.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
 

@@ -11,10 +11,10 @@
 #include "donnees/Transfert.h"
 #include "gauges/ConfMac.h"
 #include "gauges/JauTour.h"
-#include "locale/FrmLangue.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "shell/Apropos.h"
+#include "shell/FrmLangue.h"
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
 

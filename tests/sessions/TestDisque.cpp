@@ -11,9 +11,9 @@
 #include "donnees/Transfert.h"
 #include "gauges/ConfMac.h"
 #include "gauges/CreFicJauge.h"
-#include "locale/FrmLangue.h"
 #include "shell/CadreExplorateur.h"
 #include "shell/Document.h"
+#include "shell/FrmLangue.h"
 #include "shell/FrmPrinc.h"
 
 #include <QDir>

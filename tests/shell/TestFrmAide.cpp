@@ -1,9 +1,9 @@
 #include "Donnees.h"
 #include "Etabli.h"
 
-#include "locale/FrmLangue.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "shell/FrmAide.h"
+#include "shell/FrmLangue.h"
 
 #include <QDir>
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include "locale/FrmLangue.h"
+#include "shell/FrmLangue.h"
 
 #include "donnees/Reglages.h"
 #include "locale/Langue.h"
