@@ -7,10 +7,10 @@
 #include "donnees/Reglages.h"
 #include "locale/Langue.h"
 #include "platform/controles/Polices.h"
-#include "shell/Demarrage.h"
+#include "programme/Demarrage.h"
+#include "programme/Menus.h"
 #include "shell/Disposition.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Menus.h"
 
 #include <QApplication>
 #include <QProcess>

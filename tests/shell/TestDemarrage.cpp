@@ -4,7 +4,7 @@
 
 #include "donnees/Chemins.h"
 #include "locale/Langue.h"
-#include "shell/Demarrage.h"
+#include "programme/Demarrage.h"
 
 #include <csignal>
 #include <sys/resource.h>

@@ -4,9 +4,9 @@
 #include "locale/Langue.h"
 #include "platform/controles/StyleContraste.h"
 #include "platform/serie/MSComm.h"
-#include "shell/Demarrage.h"
+#include "programme/Demarrage.h"
+#include "programme/Menus.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Menus.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -10,10 +10,10 @@
 #include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "platform/serie/MSComm.h"
-#include "shell/Demarrage.h"
+#include "programme/Demarrage.h"
+#include "programme/Menus.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Menus.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "shell/Arrivee.h"
+#include "programme/Arrivee.h"
 
 #include "comconfig/CommandesConf.h"
 #include "gauges/CommandesMac.h"

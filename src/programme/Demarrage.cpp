@@ -1,4 +1,4 @@
-#include "shell/Demarrage.h"
+#include "programme/Demarrage.h"
 
 #include "comconfig/CommandesConf.h"
 #include "donnees/Chemins.h"

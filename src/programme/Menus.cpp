@@ -1,4 +1,4 @@
-#include "shell/Menus.h"
+#include "programme/Menus.h"
 
 #include "comconfig/CommandesConf.h"
 #include "comconfig/FrmConfDem.h"
@@ -9,10 +9,10 @@
 #include "platform/controles/Molette.h"
 #include "platform/controles/UneLigne.h"
 #include "platform/serie/MSComm.h"
+#include "programme/Arrivee.h"
+#include "programme/Demarrage.h"
 #include "shell/AideEnLigne.h"
 #include "shell/Apropos.h"
-#include "shell/Arrivee.h"
-#include "shell/Demarrage.h"
 #include "shell/Document.h"
 #include "shell/Editeur.h"
 #include "shell/Edition.h"

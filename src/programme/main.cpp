@@ -4,12 +4,12 @@
 #include "platform/controles/Polices.h"
 #include "platform/controles/StyleContraste.h"
 #include "platform/serie/MSComm.h"
-#include "shell/Arrivee.h"
-#include "shell/Demarrage.h"
+#include "programme/Arrivee.h"
+#include "programme/Demarrage.h"
+#include "programme/Menus.h"
 #include "shell/Disposition.h"
 #include "shell/Filet.h"
 #include "shell/FrmPrinc.h"
-#include "shell/Menus.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
