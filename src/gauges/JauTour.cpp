@@ -6,11 +6,11 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Nombres.h"
+#include "platform/base/Touches.h"
 #include "platform/controles/Clavier.h"
 #include "platform/controles/FiltreTouches.h"
 #include "platform/controles/UnClic.h"
 #include "platform/dialogues/Boites.h"
-#include "platform/texte/TouchesVolet.h"
 
 #include <QKeyEvent>
 

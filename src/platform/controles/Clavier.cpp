@@ -1,6 +1,6 @@
 #include "platform/controles/Clavier.h"
 
-#include "platform/texte/TouchesVolet.h"
+#include "platform/base/Touches.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -2,6 +2,7 @@
 
 #include "platform/base/FinsDeLigne.h"
 #include "platform/base/PageCode1252.h"
+#include "platform/base/Touches.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/texte/AspectVolet.h"
 #include "platform/texte/LecteurRtf.h"

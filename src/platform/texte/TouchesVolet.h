@@ -7,9 +7,3 @@
 /// Ctrl with a letter is a shortcut of the menu, except for those of the pane: all, cut, paste, redo, undo. Alt with a
 /// character is one too, whether a menu bears that letter or not: left to itself the toolkit would type it.
 bool EstRaccourciDuMenu(const QKeyEvent &touche);
-
-/// Enter, of whichever half of the keyboard, with or without Shift.
-bool EstEntree(const QKeyEvent &touche);
-
-/// A key that puts a character into the text or takes one out.
-bool DonneUnCaractere(const QKeyEvent &touche);
