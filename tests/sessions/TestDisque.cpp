@@ -1,6 +1,6 @@
+#include "Essais.h"
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
-#include "platform/Essais.h"
 
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmConfDem.h"

@@ -1,5 +1,5 @@
+#include "Essais.h"
 #include "Etabli.h"
-#include "platform/Essais.h"
 
 #include "platform/dialogues/CommonDialog.h"
 

@@ -1,5 +1,5 @@
+#include "Essais.h"
 #include "Etabli.h"
-#include "platform/Essais.h"
 
 #include "donnees/Sauvegardes.h"
 #include "donnees/Transfert.h"

@@ -1,7 +1,7 @@
+#include "Essais.h"
 #include "machine/Banc.h"
 #include "machine/MachineSimulee.h"
 #include "machine/Options.h"
-#include "platform/Essais.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/LignePosix.h"
 

@@ -1,6 +1,6 @@
 #include "Donnees.h"
+#include "Essais.h"
 #include "EssaiTransfert.h"
-#include "platform/Essais.h"
 
 #include "donnees/Lignes.h"
 #include "donnees/ParamCom.h"

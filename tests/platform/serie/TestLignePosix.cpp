@@ -1,6 +1,6 @@
-#include "AppelsSysteme.h"
 #include "Essais.h"
 #include "machine/PaireTerminaux.h"
+#include "platform/serie/AppelsSysteme.h"
 #include "platform/serie/DecodeurMarques.h"
 #include "platform/serie/ErreurPort.h"
 #include "platform/serie/LignePosix.h"

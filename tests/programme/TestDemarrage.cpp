@@ -1,6 +1,6 @@
 #include "Donnees.h"
+#include "Essais.h"
 #include "Etabli.h"
-#include "platform/Essais.h"
 
 #include "donnees/Chemins.h"
 #include "locale/Langue.h"

@@ -1,5 +1,5 @@
 #include "Donnees.h"
-#include "platform/Essais.h"
+#include "Essais.h"
 
 #include "donnees/ParamCom.h"
 #include "platform/base/PageCode1252.h"

@@ -1,4 +1,4 @@
-#include "AppelsSysteme.h"
+#include "platform/serie/AppelsSysteme.h"
 
 #include <asm/termbits.h>
 #include <cerrno>
