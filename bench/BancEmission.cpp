@@ -105,8 +105,8 @@ public:
     /// Runs one sending in a dialog on the screen, as the operator sees it.
     void Emet()
     {
-        TypeTransfert = EmissionProgramme;
-        FinTransfert = 0;
+        Transfert.TypeTransfert = EmissionProgramme;
+        Transfert.FinTransfert = false;
         Em_Rc dialogue(&fenetre);
         dialogue.show();
         dialogue.Command2->click();

@@ -21,7 +21,7 @@ double DureeProgramme(const QString &fichier)
     fenetre.show();
     QCoreApplication::processEvents();
     return SecondesDe([&] {
-        NomFichier = fichier;
+        Document.NomFichier = fichier;
         OpenFile(fichier);
         QCoreApplication::processEvents();
     });

@@ -41,9 +41,9 @@ struct Poste
         ConfigureMachine(vitesse > 0 ? vitesse : 115200);
         ParamCom.TailleTamponRecep = 9999;
         ParamCom.SeuilRecep = 256;
-        DossierRecep = dossier.path();
-        NomFicRecep = QStringLiteral("RECU.ISO");
-        TypeTransfert = 0; // the dialog shows the transfer and starts nothing by itself
+        Transfert.DossierRecep = dossier.path();
+        Transfert.NomFicRecep = QStringLiteral("RECU.ISO");
+        Transfert.TypeTransfert = 0; // the dialog shows the transfer and starts nothing by itself
         fenetre.show();
     }
 
@@ -55,7 +55,7 @@ struct Poste
         dialogue.show();
         QTimer depart;
         QObject::connect(&depart, &QTimer::timeout, [&] {
-            if (PortOuvert) {
+            if (frmPrinc->PortOuvert) {
                 depart.stop();
                 machine.Emet(envoi);
             }
@@ -115,7 +115,7 @@ double ProcesseurEnAttente(const Facon &facon)
     QTimer::singleShot(AvantAttente, &poste.fenetre, [&] { debut = TempsProcesseur(); });
     QTimer::singleShot(AvantAttente + DureeAttente, &poste.fenetre, [&] {
         fin = TempsProcesseur();
-        ForceRECEPT = 1;
+        Transfert.ForceRECEPT = true;
     });
     Envoi silence;
     silence.SansFin = true;

@@ -13,12 +13,12 @@ void DeplacePort(MSComm &controle, ErreurEnAttente &enAttente)
     const bool ouvert = controle.PortOpen();
     if (ouvert) {
         Tente(enAttente, [&] { controle.setPortOpen(false); });
-        PortOuvert = false;
+        frmPrinc->PortOuvert = false;
     }
     Tente(enAttente, [&] { controle.setCommPort(ParamCom.NumPort); });
     if (!enAttente && ouvert) {
         Tente(enAttente, [&] { controle.setPortOpen(true); });
-        PortOuvert = controle.PortOpen();
+        frmPrinc->PortOuvert = controle.PortOpen();
     }
     if (enAttente)
         Saute([&] { controle.setCommPort(ancien); });

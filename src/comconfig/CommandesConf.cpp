@@ -50,22 +50,22 @@ constexpr MessagePar MessageB{
 
 void NommeConfiguration(const QString &fichier)
 {
-    FicConf = fichier;
-    NomConf = NomSeul(fichier);
+    EtatConf.FicConf = fichier;
+    EtatConf.NomConf = NomSeul(fichier);
 }
 
 void MontreConfiguration()
 {
-    MontreDonnee(frmPrinc->Label4, NomConf);
+    MontreDonnee(frmPrinc->Label4, EtatConf.NomConf);
     MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
 }
 
 /// Reads FicConf and makes it the configuration in force, with all that follows from it on the main window.
 void MetEnService()
 {
-    LireFichierPar(FicConf);
+    LireFichierPar(EtatConf.FicConf);
     frmPrinc->ActiveReception();
-    frmPrinc->ActiveEmission(!NomFichier.isEmpty());
+    frmPrinc->ActiveEmission(!Document.NomFichier.isEmpty());
     MontreConfiguration();
     BatirChaines();
 }
@@ -73,11 +73,11 @@ void MetEnService()
 /// What MetEnService() does, but for toolbar and derived strings, which follow when the operator applies his changes.
 void PrepareModification()
 {
-    LireFichierPar(FicConf);
+    LireFichierPar(EtatConf.FicConf);
     for (QAction *entree : {frmPrinc->Mnu_RecepProg, frmPrinc->Mnu_RecepJauge, frmPrinc->Mnu_RecepBanc})
         entree->setEnabled(true);
     frmPrinc->Mnu_Transfert->setEnabled(true);
-    const bool emission = !NomFichier.isEmpty();
+    const bool emission = !Document.NomFichier.isEmpty();
     for (QAction *entree : {frmPrinc->Mnu_EmisProgCN, frmPrinc->Mnu_EmisJauge})
         entree->setEnabled(emission);
     if (emission)
@@ -113,10 +113,10 @@ void MetConfigurationNeuve()
     for (QString *const libelle : {&p.LibDebProg, &p.LibFinLig, &p.LibFinTrans})
         libelle->clear();
     p.NbCarDebProg = p.NbCarFinLig = p.NbCarFinTrans = 0;
-    EtatConf().neuve = true;
+    EtatConf.neuve = true;
     // What a reading that broke off has left stays in the fields that are not set here.
-    if (EtatConf().fiche == EtatConfiguration::Entiere)
-        EtatConf().fiche = EtatConfiguration::EnAttente;
+    if (EtatConf.fiche == EtatConfiguration::Entiere)
+        EtatConf.fiche = EtatConfiguration::EnAttente;
 }
 
 /// A cancelled choice is no failure.
@@ -138,22 +138,22 @@ QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre)
 
 void ConfDefaut(const QString &fichier)
 {
-    FicConf = fichier;
-    if (FicConf.isEmpty())
+    EtatConf.FicConf = fichier;
+    if (EtatConf.FicConf.isEmpty())
         return;
-    if (!FichierExiste(FicConf)) {
-        MsgBox(Texte(AbsentAvant) + FicConf + Texte(AbsentApres), Boite::Exclamation, Texte(AbsentTitre));
+    if (!FichierExiste(EtatConf.FicConf)) {
+        MsgBox(Texte(AbsentAvant) + EtatConf.FicConf + Texte(AbsentApres), Boite::Exclamation, Texte(AbsentTitre));
         return;
     }
-    NomConf = NomSeul(FicConf);
+    EtatConf.NomConf = NomSeul(EtatConf.FicConf);
     MetEnService();
 }
 
 void Mnu_ChargeConf()
 {
     AppliqueLangue();
-    QDir::setCurrent(DosAppli);
-    Saute([] { ChargeConf(ChoisitFichierPar(DosConf)); }); // the choice given up
+    QDir::setCurrent(Reglages.DosAppli);
+    Saute([] { ChargeConf(ChoisitFichierPar(Reglages.DosConf)); }); // the choice given up
 }
 
 void ChargeConf(const QString &fichier)
@@ -180,7 +180,7 @@ void Mnu_ModifConf()
 {
     AppliqueLangue();
     try {
-        NommeConfiguration(ChoisitFichierPar(DosConf, FiltreParModif));
+        NommeConfiguration(ChoisitFichierPar(Reglages.DosConf, FiltreParModif));
         PrepareModification();
     } catch (const Erreur &erreur) {
         MontreEchec(erreur, MessageA);
@@ -188,7 +188,7 @@ void Mnu_ModifConf()
             return;
     }
     Prop dialogue(frmPrinc);
-    dialogue.Nomme(NomConf);
+    dialogue.Nomme(EtatConf.NomConf);
     dialogue.Text1->setText(ParamCom.Commentaire);
     dialogue.exec();
 }
@@ -204,8 +204,8 @@ void Mnu_DosRecep()
 void ChargeAutreConfiguration(const std::function<void()> &montre)
 {
     try {
-        NommeConfiguration(ChoisitFichierPar(DosAppli));
-        LireFichierPar(FicConf);
+        NommeConfiguration(ChoisitFichierPar(Reglages.DosAppli));
+        LireFichierPar(EtatConf.FicConf);
         MontreConfiguration();
         BatirChaines();
         montre();
@@ -216,5 +216,5 @@ void ChargeAutreConfiguration(const std::function<void()> &montre)
 
 QString ConfigurationEnClair()
 {
-    return NomConf + QStringLiteral("  ") + SurUneLigne(ParamCom.Commentaire);
+    return EtatConf.NomConf + QStringLiteral("  ") + SurUneLigne(ParamCom.Commentaire);
 }

@@ -58,14 +58,14 @@ void DosProg::Form_Load()
         FolderTreeview1->setSelectedFolder(DepuisDossierApplication(Dossier()));
     } catch (const Erreur &) {
         DitDisparu(Dossier());
-        Dossier() = DosAppli;
-        Saute([this] { FolderTreeview1->setSelectedFolder(DosAppli); });
+        Dossier() = Reglages.DosAppli;
+        Saute([this] { FolderTreeview1->setSelectedFolder(Reglages.DosAppli); });
     }
 }
 
 QString &DosProg::Dossier() const
 {
-    return m_type == DossierProgrammes ? ParamCom.DosRecep : DosJauge;
+    return m_type == DossierProgrammes ? ParamCom.DosRecep : Reglages.DosJauge;
 }
 
 void DosProg::FolderTreeview1_SelectionChange()
@@ -82,7 +82,7 @@ void DosProg::FolderTreeview1_SelectionChange()
 void DosProg::FolderTreeview1_Disparu(const QString &dossier)
 {
     if (FolderTreeview1->SelectedFolder().isEmpty())
-        Saute([this] { FolderTreeview1->setSelectedFolder(DosAppli); });
+        Saute([this] { FolderTreeview1->setSelectedFolder(Reglages.DosAppli); });
     if (m_dit)
         return;
     m_dit = true;

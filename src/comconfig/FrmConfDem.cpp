@@ -28,14 +28,14 @@ FrmConfDem::FrmConfDem(QWidget *parent)
 
 void FrmConfDem::Form_Activate()
 {
-    LblDos->setText(DosDefaut);
-    Check1->setChecked(OptDosDefaut == 1);
-    LblNomConf->setText(FicConfDefaut);
-    Check2->setChecked(OptConfDefaut == 1);
-    Check3->setChecked(OptExplorateur == 1);
-    if (DosConf.isEmpty())
-        DosConf = DossierApplication();
-    LabelDosConf->setText(DosConf);
+    LblDos->setText(Reglages.DosDefaut);
+    Check1->setChecked(Reglages.OptDosDefaut == 1);
+    LblNomConf->setText(Reglages.FicConfDefaut);
+    Check2->setChecked(Reglages.OptConfDefaut == 1);
+    Check3->setChecked(Reglages.OptExplorateur == 1);
+    if (Reglages.DosConf.isEmpty())
+        Reglages.DosConf = DossierApplication();
+    LabelDosConf->setText(Reglages.DosConf);
 }
 
 /// ligne: how "Dorvanel.ini" holds the folder.
@@ -51,7 +51,7 @@ void FrmConfDem::ChoisitDossier(QLabel *montre, LigneNom ligne)
 void FrmConfDem::Command2_Click()
 {
     Saute([this] {
-        LblNomConf->setText(ChoisitFichierPar(DosConf));
+        LblNomConf->setText(ChoisitFichierPar(Reglages.DosConf));
         AnnonceNomPerdu(LblNomConf->text(), LigneNom::Citee, windowTitle());
     });
 }
@@ -65,12 +65,12 @@ void FrmConfDem::Command6_Click()
 
 void FrmConfDem::Command4_Click()
 {
-    OptDosDefaut = Check1->isChecked() ? 1 : 0;
-    DosDefaut = Check1->isChecked() ? LblDos->text() : DossierApplication();
-    OptConfDefaut = Check2->isChecked() ? 1 : 0;
-    FicConfDefaut = LblNomConf->text();
-    OptExplorateur = Check3->isChecked() ? 1 : 0;
-    DosConf = LabelDosConf->text();
+    Reglages.OptDosDefaut = Check1->isChecked() ? 1 : 0;
+    Reglages.DosDefaut = Check1->isChecked() ? LblDos->text() : DossierApplication();
+    Reglages.OptConfDefaut = Check2->isChecked() ? 1 : 0;
+    Reglages.FicConfDefaut = LblNomConf->text();
+    Reglages.OptExplorateur = Check3->isChecked() ? 1 : 0;
+    Reglages.DosConf = LabelDosConf->text();
     Saute(SauveIni);
 }
 

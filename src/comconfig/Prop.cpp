@@ -210,13 +210,13 @@ void Prop::cmdOK_Click()
         return;
     }
     BatirChaines();
-    if (!NomConf.isEmpty())
-        MontreDonnee(frmPrinc->Label4, NomConf);
+    if (!EtatConf.NomConf.isEmpty())
+        MontreDonnee(frmPrinc->Label4, EtatConf.NomConf);
     MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
     AppliqueResteAuPort();
     m_validee = ParamCom;
-    if (EtatConf().fiche == EtatConfiguration::EnAttente)
-        EtatConf().fiche = EtatConfiguration::Entiere;
+    if (EtatConf.fiche == EtatConfiguration::EnAttente)
+        EtatConf.fiche = EtatConfiguration::Entiere;
 }
 
 /// A number that the file cannot hold is refused before anything is taken. Giving the dialog up, and a file that cannot
@@ -230,14 +230,14 @@ void Prop::Command1_Click()
     PrendControles(*this);
     PrendTransferts(*this);
     Saute([this] {
-        QDir::setCurrent(DosAppli);
-        CommonDialog1->PrepareFichier(Texte(TitreEnregistre), Texte(FiltrePar), DosConf, Label6->text());
+        QDir::setCurrent(Reglages.DosAppli);
+        CommonDialog1->PrepareFichier(Texte(TitreEnregistre), Texte(FiltrePar), Reglages.DosConf, Label6->text());
         CommonDialog1->ShowSave();
-        FicConf = CommonDialog1->FileName;
-        NomConf = CommonDialog1->FileTitle;
-        EcrireFichierPar(FicConf);
+        EtatConf.FicConf = CommonDialog1->FileName;
+        EtatConf.NomConf = CommonDialog1->FileTitle;
+        EcrireFichierPar(EtatConf.FicConf);
         m_validee = ParamCom;
-        Nomme(NomConf);
+        Nomme(EtatConf.NomConf);
         AnnoncePertes();
     });
 }
@@ -256,8 +256,8 @@ void Prop::done(int resultat)
 {
     m_validee.DosRecep = ParamCom.DosRecep; // chosen at once, and in no way the machine's
     const bool sue = ParamCom == m_validee && ChainesAJour();
-    if (!sue && EtatConf().fiche == EtatConfiguration::Entiere)
-        EtatConf().fiche = EtatConfiguration::EnAttente;
+    if (!sue && EtatConf.fiche == EtatConfiguration::Entiere)
+        EtatConf.fiche = EtatConfiguration::EnAttente;
     QDialog::done(resultat);
 }
 
@@ -274,9 +274,9 @@ void Prop::Command5_Click()
     CommonDialog1->PrepareFichier(QString::fromUtf16(TitreEditeur), QString::fromUtf16(FiltreEditeur));
     try {
         CommonDialog1->ShowOpen();
-        EditeurCN = CommonDialog1->FileName;
-        Label12->setText(EditeurCN);
-        AnnonceNomPerdu(EditeurCN, LigneNom::Citee, QString::fromUtf16(Programme));
+        Reglages.EditeurCN = CommonDialog1->FileName;
+        Label12->setText(Reglages.EditeurCN);
+        AnnonceNomPerdu(Reglages.EditeurCN, LigneNom::Citee, QString::fromUtf16(Programme));
         AnnonceCfgPerdu(ParamCom.DosRecep, QString::fromUtf16(Programme));
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {

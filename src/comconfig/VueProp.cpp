@@ -245,8 +245,8 @@ void MontreDossiers(const Ui::Prop &dialogue)
 {
     dialogue.Label8->setText(ParamCom.DosRecep);
     dialogue.Label17->setText(ParamCom.DosRecep);
-    dialogue.Label10->setText(DosJauge);
-    dialogue.Label12->setText(EditeurCN);
+    dialogue.Label10->setText(Reglages.DosJauge);
+    dialogue.Label12->setText(Reglages.EditeurCN);
 }
 
 std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue)

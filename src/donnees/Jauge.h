@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QChar>
+#include "donnees/TableNumerotee.h"
 
-#include <array>
+#include <QChar>
 
 /// The measure of one tool.
 struct JaugeOutil
@@ -18,16 +18,13 @@ struct JaugeOutil
 
 constexpr int CapaciteJauges = 300; ///< measures that one reception can hold, and the highest corrector number
 
-/// The measures of the last bench reception, the first at 1, entry 0 unused.
-extern std::array<JaugeOutil, CapaciteJauges + 1> Jauge;
+/// The measures of the bench, and the reception that takes them.
+struct EtatJauges
+{
+    TableNumerotee<JaugeOutil> Jauge = TableNumerotee<JaugeOutil>(CapaciteJauges); ///< of the last reception
+    int NbJauges = 0;           ///< number of the tool being taken, from 1; at the end the number of measures
+    bool JaugeSuivante = false; ///< the operator asks for the next tool
+    bool FinJauges = false;     ///< the operator has ended the reception
+};
 
-// The bench reception under way.
-extern int NbJauges;      ///< number of the tool being taken, from 1; at the end the number of measures
-extern int LigneJauge;    ///< next free entry of Lignes, from 1
-extern int JaugeRecue;    ///< 1: a measure has just been stored
-extern int JaugeSuivante; ///< 1: the operator asks for the next tool
-extern int FinJauges;     ///< 1: the operator has ended the reception
-extern int JauTourFait;   ///< 1: the dial dialog is through
-
-/// Empties all entries of Jauge and sets every variable above to 0.
-void VideJauges();
+extern EtatJauges Jauges; ///< the one bench

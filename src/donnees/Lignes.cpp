@@ -6,27 +6,25 @@
 
 #include <algorithm>
 
-std::vector<QString> Lignes(CapaciteLignes + 1);
-int NbLignes = 0;
-int LigneMaxi = 0;
+TableLignes Lignes;
 
 void VideLignes()
 {
-    std::fill(Lignes.begin() + 1, Lignes.end(), QString());
+    std::fill(Lignes.begin(), Lignes.end(), QString());
 }
 
 void CalculeLigne(const QString &texte)
 {
     VideLignes();
     qsizetype debut = 0;
-    for (std::size_t i = 1; i <= CapaciteLignes; ++i) {
+    for (int i = 1; i <= CapaciteLignes; ++i) {
         const qsizetype paire = texte.indexOf(QLatin1String("\r\n"), debut);
         if (paire < 0) {
-            Lignes[i] = SansBlancs(texte.mid(debut));
-            NbLignes = static_cast<int>(i);
+            Lignes(i) = SansBlancs(texte.mid(debut));
+            Lignes.NbLignes = i;
             return;
         }
-        Lignes[i] = texte.mid(debut, paire + 1 - debut);
+        Lignes(i) = texte.mid(debut, paire + 1 - debut);
         debut = paire + 1;
     }
 }
@@ -38,16 +36,16 @@ bool EstBlanche(const QString &ligne)
 
 void CalculeMaxi()
 {
-    LigneMaxi = CapaciteLignes;
-    while (LigneMaxi > 0 && EstBlanche(Lignes[static_cast<std::size_t>(LigneMaxi)]))
-        --LigneMaxi;
+    Lignes.LigneMaxi = CapaciteLignes;
+    while (Lignes.LigneMaxi > 0 && EstBlanche(Lignes(Lignes.LigneMaxi)))
+        --Lignes.LigneMaxi;
 }
 
 QString TexteLignes()
 {
     QStringList textes;
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(LigneMaxi); ++i) {
-        QString ligne = Lignes[i];
+    for (int i = 1; i <= Lignes.LigneMaxi; ++i) {
+        QString ligne = Lignes(i);
         while (ligne.endsWith(u' '))
             ligne.chop(1);
         textes << ligne;

@@ -1,16 +1,24 @@
 #pragma once
 
-#include <QString>
+#include "donnees/TableNumerotee.h"
 
-#include <vector>
+#include <QString>
 
 constexpr int CapaciteLignes = 25000; ///< highest entry of Lignes
 
-/// The line table that transfers and gauge routines share: entries 0 to CapaciteLignes, the first line at 1, entry 0
-/// unused.
-extern std::vector<QString> Lignes;
-extern int NbLignes;  ///< last entry that CalculeLigne() filled
-extern int LigneMaxi; ///< last entry that CalculeMaxi() found in use
+/// The line table that transfers and gauge routines share: Lignes(1) to Lignes(CapaciteLignes).
+struct TableLignes : TableNumerotee<QString>
+{
+    TableLignes()
+        : TableNumerotee(CapaciteLignes)
+    {
+    }
+
+    int NbLignes = 0;  ///< last entry that CalculeLigne() filled
+    int LigneMaxi = 0; ///< last entry that CalculeMaxi() found in use
+};
+
+extern TableLignes Lignes; ///< the one table
 
 /// Empties the entries 1 to 25000.
 void VideLignes();

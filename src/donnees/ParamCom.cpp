@@ -12,8 +12,7 @@
 #include <utility>
 
 ConfigurationCom ParamCom;
-QString FicConf;
-QString NomConf;
+EtatConfiguration EtatConf;
 
 namespace {
 
@@ -79,15 +78,9 @@ QString LigneChaine(const QString &texte)
 
 } // namespace
 
-EtatConfiguration &EtatConf()
-{
-    static EtatConfiguration etat;
-    return etat;
-}
-
 void LireFichierPar(const QString &chemin)
 {
-    EtatConf().fiche = EtatConfiguration::Incomplete;
+    EtatConf.fiche = EtatConfiguration::Incomplete;
     LecteurChamps champs(LitFichierTexte(chemin));
     const auto tenus = qScopeGuard(TientNombres); // also when the reading breaks off
     for (const Champ &champ : Champs) {
@@ -100,7 +93,9 @@ void LireFichierPar(const QString &chemin)
         LisCodes(champs, chaine);
     ParamCom.FinLigRecep = champs.LigneEntier();
     ParamCom.TypeEnvoi = champs.LigneEntier();
-    EtatConf() = {.fiche = EtatConfiguration::Entiere, .lue = true};
+    EtatConf.fiche = EtatConfiguration::Entiere;
+    EtatConf.neuve = false;
+    EtatConf.lue = true;
 }
 
 void EcrireFichierPar(const QString &chemin)
@@ -115,8 +110,8 @@ void EcrireFichierPar(const QString &chemin)
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
     EcritFichierTexte(chemin, texte);
-    EtatConf().fiche = EtatConfiguration::Entiere;
-    EtatConf().neuve = false;
+    EtatConf.fiche = EtatConfiguration::Entiere;
+    EtatConf.neuve = false;
 }
 
 void BatirChaines()

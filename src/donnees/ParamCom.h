@@ -80,10 +80,9 @@ inline constexpr ChampsChaine Chaines[] = {
     {&ConfigurationCom::NbCarFinTrans, &ConfigurationCom::CarFinTrans, &ConfigurationCom::LibFinTrans}};
 
 extern ConfigurationCom ParamCom; ///< the one configuration in force
-extern QString FicConf;           ///< full path of its .par file; "" when there is none
-extern QString NomConf;           ///< that file's name without its folder
 
-/// Whether ParamCom holds one configuration, or pieces of several: a reading that breaks off takes nothing back.
+/// Where ParamCom comes from, and whether it holds one configuration or pieces of several: a reading that breaks off
+/// takes nothing back.
 struct EtatConfiguration
 {
     enum Fiche {
@@ -94,10 +93,11 @@ struct EtatConfiguration
     Fiche fiche = Incomplete;
     bool neuve = false; ///< made by the operator, and no file holds it yet
     bool lue = false;   ///< a configuration has been read whole since the program started
+    QString FicConf;    ///< full path of the .par file of ParamCom; "" when there is none
+    QString NomConf;    ///< that file's name without its folder
 };
 
-/// Kept by whatever changes ParamCom as a whole.
-EtatConfiguration &EtatConf();
+extern EtatConfiguration EtatConf; ///< kept by whatever changes ParamCom as a whole
 
 /// Reads the .par file at chemin into ParamCom. Raises what the file system, LecteurChamps and a count above 100
 /// (IndiceHorsPlage) raise; the fields ahead of the failure then hold the file's values and the others their former

@@ -10,8 +10,6 @@
 #include <cmath>
 
 ConfigurationMac ParamMac;
-QString NomCompletMac;
-QString NomMac;
 
 namespace {
 

@@ -18,13 +18,15 @@ struct ConfigurationMac
     QString NumProgJauge = QStringLiteral("%7999"); ///< program number of E-parameter files, at most 5 characters
     int RazDynamique = 0;                           ///< E-parameter files reset the dynamic correctors: 0 yes, 1 no
 
+    // The .mac file last chosen; not stored in it.
+    QString NomCompletMac; ///< full path
+    QString NomMac;        ///< that file's name without its folder
+
     bool EstTour() const { return TypeMachine == 0; }
     bool EnParametresE() const { return TypeJauge != 0; }
 };
 
 extern ConfigurationMac ParamMac; ///< the one machine configuration in force
-extern QString NomCompletMac;     ///< full path of the .mac file last chosen
-extern QString NomMac;            ///< that file's name without its folder
 
 /// nombre, held to the corrector numbers that Jauge can take: 0 to CapaciteJauges.
 int CorrecteursTenus(int nombre);

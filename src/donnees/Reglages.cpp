@@ -11,15 +11,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
-QString DosAppli;
-int OptDosDefaut = 0;
-QString DosDefaut;
-int OptConfDefaut = 0;
-QString FicConfDefaut;
-int OptExplorateur = 0;
-QString DosConf;
-QString DosJauge;
-QString EditeurCN;
+ReglagesProgramme Reglages;
 
 namespace {
 
@@ -80,19 +72,20 @@ QString CheminCfg()
 void LisIni()
 {
     LecteurChamps champs(LitFichierTexte(CheminIni(), TailleMaxReglages));
-    OptDosDefaut = champs.Entier();
-    DosDefaut = champs.Chaine();
-    OptConfDefaut = champs.Entier();
-    FicConfDefaut = champs.Chaine();
-    OptExplorateur = champs.Entier();
-    DosConf = champs.Chaine();
+    Reglages.OptDosDefaut = champs.Entier();
+    Reglages.DosDefaut = champs.Chaine();
+    Reglages.OptConfDefaut = champs.Entier();
+    Reglages.FicConfDefaut = champs.Chaine();
+    Reglages.OptExplorateur = champs.Entier();
+    Reglages.DosConf = champs.Chaine();
     LangIndex = LangueLue(champs.Chaine());
 }
 
 void SauveIni()
 {
-    const QString texte = LigneNombre(OptDosDefaut) + LigneCitee(DosDefaut) + LigneNombre(OptConfDefaut) +
-                          LigneCitee(FicConfDefaut) + LigneNombre(OptExplorateur) + DosConf + QStringLiteral("\r\n") +
+    const QString texte = LigneNombre(Reglages.OptDosDefaut) + LigneCitee(Reglages.DosDefaut) +
+                          LigneNombre(Reglages.OptConfDefaut) + LigneCitee(Reglages.FicConfDefaut) +
+                          LigneNombre(Reglages.OptExplorateur) + Reglages.DosConf + QStringLiteral("\r\n") +
                           LigneNombre(LangIndex);
     // Every start saves, and a slow disk would keep the operator waiting for what stands there already.
     if (!DejaEcrit(CheminIni(), texte))
@@ -101,29 +94,29 @@ void SauveIni()
 
 void IniParDefaut()
 {
-    OptDosDefaut = 0;
-    DosDefaut = DossierApplication();
-    OptConfDefaut = 0;
-    FicConfDefaut.clear();
-    OptExplorateur = 0;
-    DosConf = DossierApplication();
+    Reglages.OptDosDefaut = 0;
+    Reglages.DosDefaut = DossierApplication();
+    Reglages.OptConfDefaut = 0;
+    Reglages.FicConfDefaut.clear();
+    Reglages.OptExplorateur = 0;
+    Reglages.DosConf = DossierApplication();
 }
 
 void LisCfg(QString &dosRecep)
 {
     LecteurChamps champs(LitFichierTexte(CheminCfg(), TailleMaxReglages));
-    for (QString *variable : {&dosRecep, &DosJauge, &EditeurCN})
+    for (QString *variable : {&dosRecep, &Reglages.DosJauge, &Reglages.EditeurCN})
         *variable = champs.Chaine();
 }
 
 void SauveCfg(const QString &dosRecep)
 {
-    EcritReglages(CheminCfg(), LigneCitee(dosRecep) + LigneCitee(DosJauge) + LigneCitee(EditeurCN));
+    EcritReglages(CheminCfg(), LigneCitee(dosRecep) + LigneCitee(Reglages.DosJauge) + LigneCitee(Reglages.EditeurCN));
 }
 
 void CfgParDefaut(QString &dosRecep)
 {
-    dosRecep = EnMajuscules(DosAppli);
-    DosJauge = dosRecep;
-    EditeurCN = QStringLiteral("C:\\WINDOWS\\NOTEPAD.EXE");
+    dosRecep = EnMajuscules(Reglages.DosAppli);
+    Reglages.DosJauge = dosRecep;
+    Reglages.EditeurCN = QStringLiteral("C:\\WINDOWS\\NOTEPAD.EXE");
 }

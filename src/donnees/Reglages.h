@@ -7,15 +7,20 @@
 // first). That folder is a field of ParamCom, which is built on the settings and not below them: so whoever reads the
 // file hands it in.
 
-extern QString DosAppli;      ///< application folder, without final separator; set once at the start
-extern int OptDosDefaut;      ///< 1: the open dialog starts in DosDefaut; 0: in the application folder
-extern QString DosDefaut;     ///< default folder of the open dialog
-extern int OptConfDefaut;     ///< 1: the configuration FicConfDefaut is loaded at the start
-extern QString FicConfDefaut; ///< full path of that .par file
-extern int OptExplorateur;    ///< 1: the explorer pane is opened at the start
-extern QString DosConf;       ///< folder offered by the open and save dialogs of .par files
-extern QString DosJauge;      ///< reception folder of tool gauges
-extern QString EditeurCN;     ///< path of the external editor
+struct ReglagesProgramme
+{
+    QString DosAppli;       ///< application folder, without final separator; set once at the start
+    int OptDosDefaut = 0;   ///< 1: the open dialog starts in DosDefaut; 0: in the application folder
+    QString DosDefaut;      ///< default folder of the open dialog
+    int OptConfDefaut = 0;  ///< 1: the configuration FicConfDefaut is loaded at the start
+    QString FicConfDefaut;  ///< full path of that .par file
+    int OptExplorateur = 0; ///< 1: the explorer pane is opened at the start
+    QString DosConf;        ///< folder offered by the open and save dialogs of .par files
+    QString DosJauge;       ///< reception folder of tool gauges
+    QString EditeurCN;      ///< path of the external editor
+};
+
+extern ReglagesProgramme Reglages; ///< the settings in force
 
 /// Path of "Dorvanel.ini" / "Dorvanel.CFG".
 QString CheminIni();

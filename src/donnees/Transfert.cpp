@@ -3,14 +3,7 @@
 #include "donnees/Chemins.h"
 #include "donnees/ParamCom.h"
 
-int TypeTransfert = 0;
-int FinTransfert = 0;
-int AnnuleRECEPT = 0;
-int ForceRECEPT = 0;
-QString NomFicRecep;
-QString DossierRecep;
-int OptionFinLig = 0;
-QString ChaineFinLigRecep;
+EtatTransfert Transfert;
 
 namespace {
 
@@ -36,15 +29,15 @@ EnTransfert::~EnTransfert()
 void ChoisitChaineFinLigRecep()
 {
     static const QString fins[] = {QString(), QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\r\n")};
-    ChaineFinLigRecep = fins[OptionFinLig];
+    Transfert.ChaineFinLigRecep = fins[Transfert.OptionFinLig];
 }
 
 void ChoisitFinLigneRecep()
 {
-    OptionFinLig = ParamCom.FinLigRecep >= 0 && ParamCom.FinLigRecep <= 3 ? ParamCom.FinLigRecep : 0;
+    Transfert.OptionFinLig = ParamCom.FinLigRecep >= 0 && ParamCom.FinLigRecep <= 3 ? ParamCom.FinLigRecep : 0;
 }
 
 QString CheminRecep()
 {
-    return AjouteAntislash(DossierRecep) + NomFicRecep;
+    return AjouteAntislash(Transfert.DossierRecep) + Transfert.NomFicRecep;
 }

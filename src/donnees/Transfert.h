@@ -27,15 +27,19 @@ public:
     EnTransfert &operator=(const EnTransfert &) = delete;
 };
 
-extern int TypeTransfert; ///< mode of the transfer, set by the menu command
-extern int FinTransfert;  ///< 1: a reception has reached its end, and its file is written or being written
-extern int AnnuleRECEPT;  ///< 1: the operator has cancelled; stays until the next reception
-extern int ForceRECEPT;   ///< 1: the operator ends the reception with what has come
+struct EtatTransfert
+{
+    int TypeTransfert = 0;     ///< mode of the transfer, set by the menu command
+    bool FinTransfert = false; ///< a reception has reached its end, and its file is written or being written
+    bool AnnuleRECEPT = false; ///< the operator has cancelled; stays until the next reception
+    bool ForceRECEPT = false;  ///< the operator ends the reception with what has come
+    QString NomFicRecep;       ///< name of the file being received, with extension, in upper case
+    QString DossierRecep;      ///< its folder
+    int OptionFinLig = 0;      ///< line ending chosen for received lines: 0 none, 1 LF, 2 CR, 3 CR + LF
+    QString ChaineFinLigRecep; ///< that line ending, as the running reception puts it behind each line
+};
 
-extern QString NomFicRecep;       ///< name of the file being received, with extension, in upper case
-extern QString DossierRecep;      ///< its folder
-extern int OptionFinLig;          ///< line ending chosen for received lines: 0 none, 1 LF, 2 CR, 3 CR + LF
-extern QString ChaineFinLigRecep; ///< that line ending, as the running reception puts it behind each line
+extern EtatTransfert Transfert; ///< the transfer under way, or the last one
 
 /// The line ending of the configuration becomes the choice; what is none of the four counts as 0.
 void ChoisitFinLigneRecep();

@@ -24,15 +24,15 @@ constexpr Texte3 TitreEnregistrement{u"Enregistrer la configuration jauges outil
 void Demande(void (CommonDialog::*montre)(), const Texte3 &titre, const QString &chemin)
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.PrepareFichier(Texte(titre), Texte(FiltreMac), DosConf, chemin);
+    dialogue.PrepareFichier(Texte(titre), Texte(FiltreMac), Reglages.DosConf, chemin);
     dialogue.DefaultExt = QStringLiteral("mac");
     const auto remis = qScopeGuard([&dialogue] {
         dialogue.CancelError = false;
         dialogue.DefaultExt.clear();
     });
     (dialogue.*montre)();
-    NomCompletMac = dialogue.FileName;
-    NomMac = dialogue.FileTitle;
+    ParamMac.NomCompletMac = dialogue.FileName;
+    ParamMac.NomMac = dialogue.FileTitle;
 }
 
 } // namespace
@@ -40,11 +40,11 @@ void Demande(void (CommonDialog::*montre)(), const Texte3 &titre, const QString 
 void DemandeFichierMac()
 {
     Demande(&CommonDialog::ShowOpen, TitreChoix, QString());
-    LitMac(NomCompletMac);
+    LitMac(ParamMac.NomCompletMac);
 }
 
 void DemandeNomMac(const QString &chemin)
 {
-    QDir::setCurrent(DosAppli);
+    QDir::setCurrent(Reglages.DosAppli);
     Demande(&CommonDialog::ShowSave, TitreEnregistrement, chemin);
 }

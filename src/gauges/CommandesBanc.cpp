@@ -13,14 +13,14 @@ void Mnu_RecepBanc()
     if (TransfertEnCours())
         return;
     AppliqueLangue();
-    TypeTransfert = ReceptionBanc;
+    Transfert.TypeTransfert = ReceptionBanc;
     try {
         DemandeFichierMac();
     } catch (const Erreur &) {
         return;
     }
-    VideJauges();
-    FinTransfert = 0;
-    ForceRECEPT = 0;
+    Jauges = {};
+    Transfert.FinTransfert = false;
+    Transfert.ForceRECEPT = false;
     Rc_Fic(frmPrinc).exec();
 }

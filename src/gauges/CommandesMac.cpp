@@ -31,7 +31,7 @@ void Mn_ModifConfMac()
     AppliqueLangue();
     try {
         DemandeFichierMac();
-        ConfMac(frmPrinc, NomCompletMac).exec();
+        ConfMac(frmPrinc, ParamMac.NomCompletMac).exec();
     } catch (const Erreur &) {
         // Cancelled, or no machine configuration: nothing opens.
     }
@@ -39,11 +39,11 @@ void Mn_ModifConfMac()
 
 void ModifieConfMac(const QString &chemin)
 {
-    NomCompletMac = chemin;
-    NomMac = NomSeul(chemin);
+    ParamMac.NomCompletMac = chemin;
+    ParamMac.NomMac = NomSeul(chemin);
     try {
-        LitMac(NomCompletMac);
-        ConfMac(frmPrinc, NomCompletMac).exec();
+        LitMac(ParamMac.NomCompletMac);
+        ConfMac(frmPrinc, ParamMac.NomCompletMac).exec();
     } catch (const Erreur &) {
         MsgBox(Texte(RefuseTexte) + chemin, Boite::Exclamation, Texte(RefuseTitre));
     }

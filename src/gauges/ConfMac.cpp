@@ -112,7 +112,7 @@ void ConfMac::PrendTextes()
 void ConfMac::MontreNom()
 {
     if (!m_chemin.isEmpty())
-        PoseTexte(this, PrefixeTitre, NomMac);
+        PoseTexte(this, PrefixeTitre, ParamMac.NomMac);
 }
 
 void ConfMac::Command2_Click()
@@ -123,8 +123,8 @@ void ConfMac::Command2_Click()
     MontreTextes(); // the values as they are held now
     try {
         DemandeNomMac(m_chemin);
-        EcritMac(NomCompletMac);
-        m_chemin = NomCompletMac;
+        EcritMac(ParamMac.NomCompletMac);
+        m_chemin = ParamMac.NomCompletMac;
         MontreNom();
         AnnonceSaisiePerdue(ParamMac.ExtJauge + ParamMac.NumProgJauge, windowTitle());
     } catch (const Erreur &) {

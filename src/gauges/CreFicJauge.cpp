@@ -138,15 +138,15 @@ QString LigneRaz(const JaugeOutil &jauge)
 }
 
 /// The lines ahead of the measures; the entry behind them.
-std::size_t Entete()
+int Entete()
 {
     if (!ParamMac.EnParametresE()) {
-        Lignes[1] = u'%';
+        Lignes(1) = u'%';
         return 2;
     }
     const QString date = QDate::currentDate().toString(QStringLiteral("MM-dd-yyyy"));
-    Lignes[1] = ParamMac.NumProgJauge + QStringLiteral(" (JAUGES OUTILS LE:") + date + u')';
-    Lignes[2] = ParamMac.EstTour() ? QStringLiteral("(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)")
+    Lignes(1) = ParamMac.NumProgJauge + QStringLiteral(" (JAUGES OUTILS LE:") + date + u')';
+    Lignes(2) = ParamMac.EstTour() ? QStringLiteral("(JAUGE X     JAUGE Z    RAYON   LOCALISATEUR)")
                                    : QStringLiteral("(JAUGE L     JAUGE R)");
     return 3;
 }
@@ -182,16 +182,16 @@ JaugesNonEcrites::JaugesNonEcrites(const Erreur &cause, const QString &texte, bo
 void CreFicJauge()
 {
     VideLignes();
-    std::size_t k = Entete();
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(NbJauges); ++i) {
-        JaugeOutil &jauge = Jauge.at(i);
+    int k = Entete();
+    for (int i = 1; i <= Jauges.NbJauges; ++i) {
+        JaugeOutil &jauge = Jauges.Jauge(i);
         Prepare(jauge);
-        Lignes[k++] = ParamMac.EnParametresE() ? LigneE(jauge) : LigneD(jauge);
+        Lignes(k++) = ParamMac.EnParametresE() ? LigneE(jauge) : LigneD(jauge);
         if (ParamMac.EnParametresE() && ParamMac.RazDynamique == 0)
-            Lignes[k++] = LigneRaz(jauge);
+            Lignes(k++) = LigneRaz(jauge);
     }
     if (ParamMac.EnParametresE())
-        Lignes[k + 1] = QStringLiteral("M02");
+        Lignes(k + 1) = QStringLiteral("M02");
     CalculeMaxi();
     EcritJauges();
     OuvreFichierRecu();

@@ -8,8 +8,8 @@
 void Filtrage()
 {
     CalculeMaxi();
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(LigneMaxi); ++i) {
-        QString &ligne = Lignes[i];
+    for (int i = 1; i <= Lignes.LigneMaxi; ++i) {
+        QString &ligne = Lignes(i);
         std::replace_if(
             ligne.begin(), ligne.end(), [](QChar caractere) { return caractere < u' '; }, QChar(u' '));
         ligne = SansBlancs(ligne);

@@ -47,8 +47,8 @@ public:
 void ResserreLignes()
 {
     CalculeMaxi();
-    const auto fin = Lignes.begin() + LigneMaxi + 1;
-    for (auto ligne = Lignes.begin() + 1; ligne != fin; ++ligne) {
+    const auto fin = Lignes.begin() + Lignes.LigneMaxi;
+    for (auto ligne = Lignes.begin(); ligne != fin; ++ligne) {
         if (EstBlanche(*ligne))
             std::move(ligne + 1, fin, ligne)->clear();
     }
@@ -101,20 +101,20 @@ void LisMesures(qsizetype enAttente)
 {
     AvisMesures avis;
     int lues = 0;
-    for (int place = 1; place <= std::max(LigneMaxi, NbJauges) && lues < NbJauges; ++place) {
-        const QString &salve = Lignes[static_cast<std::size_t>(place)];
+    for (int place = 1; place <= std::max(Lignes.LigneMaxi, Jauges.NbJauges) && lues < Jauges.NbJauges; ++place) {
+        const QString &salve = Lignes(place);
         if (!salve.startsWith(QStringView(MarqueMesure))) {
             avis.NonLue(place, salve);
             continue;
         }
-        JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(++lues));
+        JaugeOutil &jauge = Jauges.Jauge(++lues);
         jauge = LisMesure(salve, place);
         jauge.NonLuesAvant = place - lues;
         avis.Lue(place, salve, jauge);
     }
     if (enAttente >= QStringView(MarqueMesure).size()) // less is no measure but the bell
-        avis.NonDemandee(NbJauges + 1, enAttente);
-    NbJauges = lues;
+        avis.NonDemandee(Jauges.NbJauges + 1, enAttente);
+    Jauges.NbJauges = lues;
     avis.Montre(lues);
 }
 
@@ -126,11 +126,11 @@ void FiltreJauge(qsizetype enAttente)
     Filtrage();
     LisMesures(enAttente); // while a burst still stands at its place of the session
     ResserreLignes();
-    if (LigneMaxi == 0) {
+    if (Lignes.LigneMaxi == 0) {
         CreeFichierRecu(); // nothing but blanks has come
         OuvreFichierRecu();
     }
-    if (NbJauges == 0)
+    if (Jauges.NbJauges == 0)
         return; // a text without a measure stays as it came
     EcritFichierRecu(TexteLignes());
     if (ParamMac.EstTour()) {

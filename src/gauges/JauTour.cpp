@@ -80,7 +80,7 @@ void JauTour::Form_Activate()
 /// intervalle: the blanks between the two parts of the caption.
 void JauTour::MontreMesure(const QString &intervalle)
 {
-    const JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(OutilCadran));
+    const JaugeOutil &jauge = Jauges.Jauge(OutilCadran);
     PoseTexte(Frame1, OutilTexte,
               QString::number(OutilCadran + jauge.NonLuesAvant) + intervalle + Texte(CorrecteurTexte) +
                   QString::number(jauge.NumCorr));
@@ -123,7 +123,7 @@ void JauTour::keyPressEvent(QKeyEvent *touche)
 /// The close box leaves the tools that are not validated without radius and quadrant.
 void JauTour::reject()
 {
-    if (Confirme(Texte(FermerReste) + QString::number(NbJauges - OutilCadran + 1) + Texte(FermerTexte),
+    if (Confirme(Texte(FermerReste) + QString::number(Jauges.NbJauges - OutilCadran + 1) + Texte(FermerTexte),
                  Boite::Exclamation | Boite::SecondBouton, Texte(FermerTitre)))
         QDialog::reject();
 }
@@ -132,16 +132,16 @@ void JauTour::Command1_Click()
 {
     if (RetientVirgule(this))
         return;
-    JaugeOutil &jauge = Jauge.at(static_cast<std::size_t>(OutilCadran));
+    JaugeOutil &jauge = Jauges.Jauge(OutilCadran);
     jauge.Rayon = static_cast<float>(Val(Text1->text()));
     jauge.Localisateur = EnEntier(Val(Text2->text()));
     // These quadrants lie on the other side of the spindle axis.
     if (jauge.Localisateur >= 5 && jauge.Localisateur <= 7)
         jauge.JaugeX = -jauge.JaugeX;
     ++OutilCadran;
-    if (OutilCadran > NbJauges) {
+    if (OutilCadran > Jauges.NbJauges) {
+        JauTourFait = true;
         accept();
-        JauTourFait = 1;
     } else {
         MontreMesure(QStringLiteral("  "));
         RetientTouches(this);

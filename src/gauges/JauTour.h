@@ -4,7 +4,7 @@
 #include "ui_JauTour.h"
 
 /// The dial of a lathe: for each measure, one after another, the operator gives what the bench cannot measure, the
-/// radius of the tool's nose and the quadrant in which it works. JauTourFait becomes 1 behind the last one. Closed
+/// radius of the tool's nose and the quadrant in which it works. JauTourFait becomes true behind the last one. Closed
 /// before that, which it asks about, it leaves the measures that are not validated as they were.
 ///
 /// Frame1: the current measure, whose number is its place in the session; ValeursMesure: its X and Z as the bench gave
@@ -18,6 +18,8 @@ class JauTour : public DialogueCentre, public Ui::JauTour
 
 public:
     explicit JauTour(QWidget *parent);
+
+    bool JauTourFait = false; ///< every tool has its radius and quadrant
 
     void reject() override;
 

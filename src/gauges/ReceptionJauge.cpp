@@ -76,7 +76,7 @@ public:
     void SauveAutrePart(const QString &texte, const QString &question = {}) const;
 
 private:
-    void Reception1Jauge();
+    bool Reception1Jauge();
     QString RecoitSalve();
     void MontreRecus(int outil, qsizetype recus);
     void AnnonceMesure();
@@ -90,17 +90,18 @@ private:
     bool m_dansPane = false;   ///< the program pane shows the text of the bench
     QString m_brut;            ///< all that has come, as the file holds it
     QString m_compteMontre;    ///< what MontreRecus() shows
+    int m_ligne = 1;           ///< next free entry of Lignes
     qsizetype m_enAttente = 0; ///< characters that wait for the operator to ask for their tool
 };
 
 void Seance::Prepare()
 {
-    ForceRECEPT = 0;
-    FinTransfert = 0;
-    AnnuleRECEPT = 0;
-    VideJauges();
-    NbJauges = 1;
-    LigneJauge = 1;
+    Transfert.ForceRECEPT = false;
+    Transfert.FinTransfert = false;
+    Transfert.AnnuleRECEPT = false;
+    Jauges = {};
+    Jauges.NbJauges = 1;
+    m_ligne = 1;
     VideLignes();
     PermetSuite(false);
     MontreLabelsEcho(m_dialogue);
@@ -111,40 +112,37 @@ void Seance::Prepare()
     if (!Controle().PortOpen())
         m_dialogue.Label1->setText(PourAffichage(Texte(SansPort)));
     CreeFichierRecu();
-    PoseTexte(m_dialogue.Label2, Attente, TexteNombre(NbJauges));
+    PoseTexte(m_dialogue.Label2, Attente, TexteNombre(Jauges.NbJauges));
 }
 
 void Seance::PrendOutils()
 {
-    while (NbJauges <= ParamMac.NbCorrecteurs) {
-        Reception1Jauge();
-        if (JaugeRecue != 1)
+    while (Jauges.NbJauges <= ParamMac.NbCorrecteurs) {
+        if (!Reception1Jauge())
             return;
         AnnonceMesure();
         AttendOperateur();
-        if (FinJauges == 1 || AnnuleRECEPT == 1)
+        if (Jauges.FinJauges || Transfert.AnnuleRECEPT)
             return;
         DemandeSuivante();
     }
     AnnonceLimite();
 }
 
-/// Waits for one measure and stores it: JaugeRecue is 1 then, and 0 when the operator has cancelled meanwhile.
-void Seance::Reception1Jauge()
+/// Waits for one measure and stores it. False when the operator has cancelled meanwhile.
+bool Seance::Reception1Jauge()
 {
-    JaugeRecue = 0;
     m_dialogue.Label3->clear();
-    MontreRecus(NbJauges, 0);
+    MontreRecus(Jauges.NbJauges, 0);
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     const QString recu = RecoitSalve();
-    if (AnnuleRECEPT == 1)
-        return;
-    Lignes[static_cast<std::size_t>(LigneJauge)] = recu;
+    if (Transfert.AnnuleRECEPT)
+        return false;
+    Lignes(m_ligne++) = recu;
     m_brut += recu + QStringLiteral("\r\n");
     AjouteFichierRecu(recu);
     Controle().ViderReception();
-    JaugeRecue = 1;
-    ++LigneJauge;
+    return true;
 }
 
 /// How many milliseconds the line is silent behind the last character of a burst: a few characters at its speed, and
@@ -167,7 +165,7 @@ QString Seance::RecoitSalve()
     QDeadlineTimer silence;
     while (true) {
         CedeLaMain();
-        if (AnnuleRECEPT == 1)
+        if (Transfert.AnnuleRECEPT)
             return recu;
         if (!Controle().PortOpen())
             continue;
@@ -180,7 +178,7 @@ QString Seance::RecoitSalve()
         silence.setRemainingTime(Silence());
         if (lu != cloche)
             recu += lu;
-        MontreRecus(NbJauges, recu.size());
+        MontreRecus(Jauges.NbJauges, recu.size());
         if (ParamCom.Echo == 1)
             EcritEcho(*m_dialogue.Label3, recu);
     }
@@ -188,11 +186,10 @@ QString Seance::RecoitSalve()
 
 void Seance::AnnonceMesure()
 {
-    JaugeRecue = 0;
-    JaugeSuivante = 0;
+    Jauges.JaugeSuivante = false;
     PermetSuite(true);
     frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
-    const QString recue = TexteNombre(NbJauges) + Texte(RecueFin);
+    const QString recue = TexteNombre(Jauges.NbJauges) + Texte(RecueFin);
     PoseTexte(m_dialogue.Label2, RecueDebut, recue);
     m_dialogue.Label1->setText(PourAffichage(u'\r' + Texte(RecueDebut) + recue + Texte(RecueSuite)));
 }
@@ -201,12 +198,12 @@ void Seance::AnnonceMesure()
 void Seance::AttendOperateur()
 {
     m_enAttente = 0;
-    while (JaugeSuivante != 1 && FinJauges != 1 && AnnuleRECEPT != 1) {
+    while (!Jauges.JaugeSuivante && !Jauges.FinJauges && !Transfert.AnnuleRECEPT) {
         CedeLaMain();
         if (Controle().PortOpen())
             m_enAttente = EnAttente();
         if (m_enAttente > 0)
-            MontreRecus(NbJauges + 1, m_enAttente);
+            MontreRecus(Jauges.NbJauges + 1, m_enAttente);
     }
 }
 
@@ -236,10 +233,10 @@ void Seance::MontreRecus(int outil, qsizetype recus)
 
 void Seance::DemandeSuivante()
 {
-    JaugeSuivante = 0;
-    ++NbJauges;
+    Jauges.JaugeSuivante = false;
+    ++Jauges.NbJauges;
     PermetSuite(false);
-    const QString numero = TexteNombre(NbJauges);
+    const QString numero = TexteNombre(Jauges.NbJauges);
     m_dialogue.Label1->setText(
         PourAffichage(u'\r' + Texte(OutilSuivant) + numero + QStringLiteral("\r\r") + Texte(TouchesBanc)));
     PoseTexte(m_dialogue.Label2, Attente, numero);
@@ -272,16 +269,16 @@ void Seance::Termine()
 {
     FermePortCOM(m_dialogue);
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
-    if (AnnuleRECEPT == 1) {
-        NbJauges = 0;
+    if (Transfert.AnnuleRECEPT) {
+        Jauges.NbJauges = 0;
         return;
     }
     OuvreFichierRecu();
     m_dansPane = true;
     m_dialogue.Progression->hide();
-    if (FinJauges == 1 && NbJauges >= 1) {
+    if (Jauges.FinJauges && Jauges.NbJauges >= 1) {
         FiltreJauge(m_enAttente);
-        FinTransfert = 1;
+        Transfert.FinTransfert = true;
         BoutonFermer(*m_dialogue.Command4);
     }
     frmPrinc->ActualiseFichiers();

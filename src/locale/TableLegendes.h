@@ -26,6 +26,6 @@ struct LegendesFenetre
 
 extern const LegendesFenetre LegendesFrmPrinc, LegendesApropos;                      // TableShell.cpp
 extern const LegendesFenetre LegendesEm_Rc, LegendesRc_Fic;                          // TableTransfer.cpp
-extern const LegendesFenetre LegendesProp;                                           // TableProp.cpp
-extern const LegendesFenetre LegendesFrmCaract, LegendesDosProg, LegendesFrmConfDem; // TableComconfig.cpp
+extern const LegendesFenetre LegendesFrmCaract, LegendesDosProg, LegendesFrmConfDem, // TableComconfig.cpp
+    LegendesProp;                                                                    // TableProp.cpp
 extern const LegendesFenetre LegendesConfMac, LegendesJauTour;                       // TableGauges.cpp

@@ -85,7 +85,7 @@ void LisDossiers()
 /// Nothing more is asked when the window closes: a stroke of Escape must not be what loses the text.
 bool DemandeEnregistrement(const QuestionFin &question)
 {
-    return Confirme(Texte(FichierAvant) + NomFichier + Texte(FichierApres) + QStringLiteral("\r\n") +
+    return Confirme(Texte(FichierAvant) + Document.NomFichier + Texte(FichierApres) + QStringLiteral("\r\n") +
                         Texte(question.question),
                     Boite::Exclamation | Boite::ChoixExige, Texte(question.titre));
 }
@@ -94,24 +94,25 @@ bool DemandeEnregistrement(const QuestionFin &question)
 
 void Form_Load()
 {
-    TientChemins({&ParamCom.DosRecep, &DosJauge},
-                 {&NomFichier, &FicConf, &DosDefaut, &FicConfDefaut, &DosConf, &EditeurCN});
+    TientChemins({&ParamCom.DosRecep, &Reglages.DosJauge},
+                 {&Document.NomFichier, &EtatConf.FicConf, &Reglages.DosDefaut, &Reglages.FicConfDefaut,
+                  &Reglages.DosConf, &Reglages.EditeurCN});
     try {
         LisReglages();
     } catch (const Erreur &) {
         return;
     }
     DesactiveTransferts();
-    DosAppli = DossierApplication();
+    Reglages.DosAppli = DossierApplication();
     Saute(LisDossiers);
     MontreLangue();
-    if (DosConf.isEmpty())
-        DosConf = DossierApplication();
-    if (OptDosDefaut == 0)
-        DosDefaut = DossierApplication();
-    if (OptConfDefaut == 1)
-        Saute([] { ConfDefaut(FicConfDefaut); });
-    if (OptExplorateur == 1)
+    if (Reglages.DosConf.isEmpty())
+        Reglages.DosConf = DossierApplication();
+    if (Reglages.OptDosDefaut == 0)
+        Reglages.DosDefaut = DossierApplication();
+    if (Reglages.OptConfDefaut == 1)
+        Saute([] { ConfDefaut(Reglages.FicConfDefaut); });
+    if (Reglages.OptExplorateur == 1)
         Saute(Mnu_AffichDOS);
     AppliqueLangue();
     Saute(SauveIni);
@@ -134,7 +135,7 @@ void Mnu_Quitter()
         return;
     RetientTexteFinal(nonEnregistre);
     Saute([] { frmPrinc->MSComm1->setPortOpen(false); });
-    PortOuvert = false;
+    frmPrinc->PortOuvert = false;
     QCoreApplication::exit(); // quit() would close the window first and ask about its text a second time
 }
 
@@ -145,5 +146,5 @@ void Form_Unload()
     const bool enregistre = DemandeEnregistrement(EnFermant);
     RetientTexteFinal(enregistre && !EnregistreSurPlace());
     if (!enregistre)
-        FichierModifie = 0;
+        Document.FichierModifie = false;
 }

@@ -51,11 +51,11 @@ void RenommeEtSuit(const QString &ancien, const QString &nouveau)
     // In full at once: the current folder may be the one that is renamed.
     const QList<Suite> suites = Suites(ancien, QDir::cleanPath(QFileInfo(nouveau).absoluteFilePath()));
     RenommeDossier(ancien, nouveau);
-    const bool enTitre = !NomFichier.isEmpty() && frmPrinc->windowTitle().endsWith(NomFichier);
+    const bool enTitre = !Document.NomFichier.isEmpty() && frmPrinc->windowTitle().endsWith(Document.NomFichier);
     for (const Suite &suite : suites)
         *suite.chemin = suite.nouveau;
     if (enTitre)
-        TitreFenetre(NomFichier);
+        TitreFenetre(Document.NomFichier);
 }
 
 void QuitteReceptions(const QString &dossier)

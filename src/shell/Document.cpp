@@ -19,12 +19,6 @@
 
 #include <QDir>
 
-QString NomFichier;
-QString TitreFichier;
-int FichierModifie = 0;
-QString TexteAnnuler;
-int IndexFiltre = 0;
-
 namespace {
 
 constexpr char16_t Version[] = u"Dorvanel Pro version 2.7.0 : ";
@@ -75,14 +69,14 @@ bool ListeUnFichier(const QString &chemin)
 /// selected in the explorer goes before both, where its box is ticked.
 void ChoisitDosDefaut()
 {
-    if (OptDosDefaut == 0)
-        DosDefaut = DossierApplication();
-    QDir::setCurrent(DosDefaut);
-    if (!ListeUnFichier(DosDefaut))
-        DosDefaut = DossierApplication();
+    if (Reglages.OptDosDefaut == 0)
+        Reglages.DosDefaut = DossierApplication();
+    QDir::setCurrent(Reglages.DosDefaut);
+    if (!ListeUnFichier(Reglages.DosDefaut))
+        Reglages.DosDefaut = DossierApplication();
     if (const auto applique = frmPrinc->DossierApplique()) {
-        DosDefaut = *applique;
-        AnnonceNomRepris(DosDefaut, Texte(TitreOuvrir));
+        Reglages.DosDefaut = *applique;
+        AnnonceNomRepris(Reglages.DosDefaut, Texte(TitreOuvrir));
     }
 }
 
@@ -96,10 +90,10 @@ void ProposeTraitementDeTexte(const QString &chemin)
 /// False when the operator wanted the text saved and it could not be: he has been told.
 bool ProposeEnregistrement()
 {
-    if (NomFichier.isEmpty())
-        NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
-    const QString question =
-        Texte(ModifieAvant) + NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") + Texte(ModifieQuestion);
+    if (Document.NomFichier.isEmpty())
+        Document.NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
+    const QString question = Texte(ModifieAvant) + Document.NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") +
+                             Texte(ModifieQuestion);
     // A stroke of Escape must not be what gives the text up for a dropped file.
     return !Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)) || EnregistreSurPlace();
 }
@@ -113,7 +107,7 @@ void ActiveNomme()
 
 void Text1_Change()
 {
-    FichierModifie = Vrai;
+    Document.FichierModifie = true;
     frmPrinc->Mnu_EnregistrerSous->setEnabled(true);
     frmPrinc->Bouton(2)->setEnabled(true);
 }
@@ -123,12 +117,12 @@ void Text1_Change()
 void BrancheDocument()
 {
     QObject::connect(frmPrinc->Text1, &RichTextBox::Change, frmPrinc, Text1_Change);
-    QObject::connect(frmPrinc->Text1, &RichTextBox::KeyPress, frmPrinc, [] { FichierModifie = Vrai; });
+    QObject::connect(frmPrinc->Text1, &RichTextBox::KeyPress, frmPrinc, [] { Document.FichierModifie = true; });
 }
 
 bool TexteModifie()
 {
-    return FichierModifie == Vrai && !frmPrinc->Text1->EstVide();
+    return Document.FichierModifie && !frmPrinc->Text1->EstVide();
 }
 
 void TitreFenetre(const QString &nom)
@@ -139,7 +133,7 @@ void TitreFenetre(const QString &nom)
 void Mnu_Nouveau()
 {
     AppliqueLangue();
-    if (FichierModifie == Vrai)
+    if (Document.FichierModifie)
         ProposeEnregistrement();
     if (!Confirme(Texte(NouveauTexte) + QStringLiteral("\r\n") + Texte(NouveauQuestion), Boite::Exclamation,
                   Texte(NouveauTitre)))
@@ -148,8 +142,8 @@ void Mnu_Nouveau()
     frmPrinc->Text1->show(); // a reception too large for it may have put the pane away
     frmPrinc->Mnu_Annuler->setEnabled(false);
     TitreFenetre(Texte(NomNouveau));
-    FichierModifie = 0;
-    NomFichier = Texte(NomNouveau);
+    Document.FichierModifie = false;
+    Document.NomFichier = Texte(NomNouveau);
 }
 
 void OuvreDepose(const QString &chemin)
@@ -165,15 +159,15 @@ void Mnu_Ouvrir()
     dialogue.CancelError = true;
     dialogue.FileName.clear();
     ChoisitDosDefaut();
-    dialogue.InitDir = DosDefaut;
+    dialogue.InitDir = Reglages.DosDefaut;
     try {
-        if (IndexFiltre == 0)
-            IndexFiltre = 1;
+        if (Document.IndexFiltre == 0)
+            Document.IndexFiltre = 1;
         dialogue.DialogTitle = Texte(TitreOuvrir);
         dialogue.Filter = Texte(FiltreOuvrir);
-        dialogue.FilterIndex = IndexFiltre;
+        dialogue.FilterIndex = Document.IndexFiltre;
         dialogue.ShowOpen();
-        IndexFiltre = dialogue.FilterIndex;
+        Document.IndexFiltre = dialogue.FilterIndex;
         if (!dialogue.FileName.isEmpty())
             OuvreDocument(dialogue.FileName);
     } catch (const Erreur &) {
@@ -194,26 +188,27 @@ void OpenFile(const QString &path)
 {
     const bool texteEnrichi = path.right(3).toUpper() == QLatin1String("RTF");
     frmPrinc->Text1->LoadFile(path, texteEnrichi ? RichTextBox::TexteRiche : RichTextBox::TexteSimple);
-    NomFichier = path;
-    TitreFichier = NomSeul(path);
-    TitreFenetre(NomFichier);
+    Document.NomFichier = path;
+    Document.TitreFichier = NomSeul(path);
+    TitreFenetre(Document.NomFichier);
     // FicConf names also a default configuration that is missing or cut.
-    frmPrinc->ActiveEmission(EtatConf().lue && !FicConf.isEmpty() && !NomFichier.isEmpty());
+    frmPrinc->ActiveEmission(EtatConf.lue && !EtatConf.FicConf.isEmpty() && !Document.NomFichier.isEmpty());
     frmPrinc->ActiveFichier(true);
-    MontreDonnee(frmPrinc->Label2, TitreFichier);
+    MontreDonnee(frmPrinc->Label2, Document.TitreFichier);
     frmPrinc->Text1->show();
-    FichierModifie = 0;
+    Document.FichierModifie = false;
 }
 
 void Mnu_EnregistrerSous()
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.FileName = NomFichier;
-    dialogue.InitDir = DosDefaut; // for a name without a folder; the last choice may have been a configuration's
+    dialogue.FileName = Document.NomFichier;
+    dialogue.InitDir =
+        Reglages.DosDefaut; // for a name without a folder; the last choice may have been a configuration's
     dialogue.CancelError = true;
     dialogue.DialogTitle = Texte(TitreEnregistrer);
     dialogue.Filter = Texte(FiltreEnregistrer);
-    dialogue.FilterIndex = IndexFiltre;
+    dialogue.FilterIndex = Document.IndexFiltre;
     dialogue.Flags = CommonDialog::EcrasementDemande;
     try {
         dialogue.ShowSave();
@@ -222,19 +217,19 @@ void Mnu_EnregistrerSous()
     }
     // The text bears this name even when it cannot be written, of which SaveFile has told: what the program asks or
     // offers next must not lead to the former file, which the operator wanted to keep.
-    NomFichier = dialogue.FileName;
-    TitreFichier = dialogue.FileTitle;
-    Saute([] { SaveFile(NomFichier); });
+    Document.NomFichier = dialogue.FileName;
+    Document.TitreFichier = dialogue.FileTitle;
+    Saute([] { SaveFile(Document.NomFichier); });
     ActiveNomme();
 }
 
 bool EnregistreSurPlace()
 {
-    if (NomFichier.isEmpty())
+    if (Document.NomFichier.isEmpty())
         return false;
     try {
-        GardeCopie(NomFichier);
-        SaveFile(NomFichier);
+        GardeCopie(Document.NomFichier);
+        SaveFile(Document.NomFichier);
         ActiveNomme();
         return true;
     } catch (const Erreur &) {
@@ -255,8 +250,8 @@ void SaveFile(const QString &path)
         MsgBox(Texte(ErreurEnregistrement), Boite::Critique, Texte(ErreurTitre));
         throw;
     }
-    TitreFenetre(NomFichier);
-    MontreDonnee(frmPrinc->Label2, TitreFichier);
-    FichierModifie = 0;
+    TitreFenetre(Document.NomFichier);
+    MontreDonnee(frmPrinc->Label2, Document.TitreFichier);
+    Document.FichierModifie = false;
     RetireEnCours();
 }

@@ -1,19 +1,13 @@
 #pragma once
 
+#include "donnees/EtatDocument.h"
+
 #include <QString>
 
 class Erreur;
 
 // The one CN program that the main window holds: the text stands in Text1 and nowhere else; here stand the file it came
 // from, whether it has changed, and the commands that create, open and save it.
-
-constexpr int Vrai = -1; ///< True of a flag that is an Integer
-
-extern QString NomFichier;   ///< full path of the file; a bare name after Mnu_Nouveau; "" before the first file
-extern QString TitreFichier; ///< its name without the folder
-extern int FichierModifie;   ///< Vrai when the text has changed since it was loaded or saved, else 0
-extern QString TexteAnnuler; ///< the whole text before the last edit command: the one level of undo
-extern int IndexFiltre;      ///< filter last used in the open dialog, from 1; 0 before the first opening
 
 /// Ties the pane's events to the document. Once, when the main window exists.
 void BrancheDocument();

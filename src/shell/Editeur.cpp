@@ -8,9 +8,9 @@
 void Mnu_EditProg()
 {
     AppliqueLangue();
-    const QString editeur = EditeurCN.toLower();
+    const QString editeur = Reglages.EditeurCN.toLower();
     if (editeur.endsWith(QLatin1String("wordpad.exe")) || editeur.endsWith(QLatin1String("write.exe")))
-        OuvreAvecTraitementDeTexte(NomFichier);
+        OuvreAvecTraitementDeTexte(Document.NomFichier);
     else
-        OuvreAvecEditeur(EditeurCN, NomFichier);
+        OuvreAvecEditeur(Reglages.EditeurCN, Document.NomFichier);
 }

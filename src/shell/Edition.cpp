@@ -13,7 +13,7 @@ std::function<void()> reprendAspect; // none unless the last command changed the
 
 void OublieAnnulation()
 {
-    TexteAnnuler.clear();
+    Document.TexteAnnuler.clear();
     reprendAspect = {};
     frmPrinc->Mnu_Annuler->setEnabled(false);
 }
@@ -31,7 +31,7 @@ void BrancheEdition()
 
 void RetientPourAnnuler()
 {
-    TexteAnnuler = frmPrinc->Text1->Text();
+    Document.TexteAnnuler = frmPrinc->Text1->Text();
     reprendAspect = {};
     frmPrinc->Mnu_Annuler->setEnabled(true);
 }
@@ -52,7 +52,7 @@ void Mnu_Edition()
 
 void Mnu_Annuler()
 {
-    const QString avant = TexteAnnuler;
+    const QString avant = Document.TexteAnnuler;
     const auto aspect = reprendAspect;
     if (frmPrinc->Text1->Text() != avant) // what changes nothing leaves a saved text a saved one
         frmPrinc->Text1->setText(avant);

@@ -83,12 +83,12 @@ void FolderTreeview1_Click()
 /// folder.
 void PointeDossier()
 {
-    if (DosDefaut.isEmpty())
-        DosDefaut = DossierApplication();
+    if (Reglages.DosDefaut.isEmpty())
+        Reglages.DosDefaut = DossierApplication();
     FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
     arbre.Refresh();
     try {
-        arbre.setSelectedFolder(DosDefaut);
+        arbre.setSelectedFolder(Reglages.DosDefaut);
     } catch (const Erreur &) {
         Saute([&arbre] { arbre.setSelectedFolder(DossierApplication()); });
     }

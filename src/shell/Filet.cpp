@@ -112,7 +112,7 @@ QString Filet::Retient()
         return {};
     }
     if (m_garde.isEmpty() || !FichierExiste(m_garde))
-        m_garde = GardeTexte(NomFichier, frmPrinc->Text1->Text());
+        m_garde = GardeTexte(Document.NomFichier, frmPrinc->Text1->Text());
     if (m_garde.isEmpty())
         LaisseEnCours();
     else
@@ -177,7 +177,7 @@ void Filet::Releve()
         return;
     }
     if (TexteModifie()) {
-        EcritEnCours(NomFichier, std::exchange(m_releve, {}));
+        EcritEnCours(Document.NomFichier, std::exchange(m_releve, {}));
         m_dernierEcrit.start();
     }
 }
@@ -210,9 +210,9 @@ bool VeutOuvrir(const QString &chemin)
 void OuvreRetrouve(const QString &chemin)
 {
     OuvreDocument(chemin);
-    if (NomFichier != chemin)
+    if (Document.NomFichier != chemin)
         return; // it cannot be read, of which the operator was told
-    FichierModifie = Vrai;
+    Document.FichierModifie = true;
     filet->setGarde(chemin);
 }
 

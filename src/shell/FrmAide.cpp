@@ -87,7 +87,7 @@ void PlaceACote(QWidget *fenetre, const QWidget *appelante)
 /// Where the manual lies: in the application folder, or beside the program where that is another place.
 QString CheminManuel()
 {
-    const QString voulu = AjouteAntislash(DosAppli) + Texte(Manuel);
+    const QString voulu = AjouteAntislash(Reglages.DosAppli) + Texte(Manuel);
     const QString livre = AjouteAntislash(QCoreApplication::applicationDirPath()) + Texte(Manuel);
     return !QFileInfo::exists(voulu) && QFileInfo::exists(livre) ? livre : voulu;
 }

@@ -34,7 +34,7 @@ void FrmLangue::Command1_Click()
 {
     IniParDefaut();
     LangIndex = Option3->isChecked() ? 2 : Option2->isChecked() ? 1 : 0;
-    OptExplorateur = 1;
+    Reglages.OptExplorateur = 1;
     AppliqueLangueSysteme(); // for the button of a box
     Q_EMIT LangueChoisie();
     Saute([] {

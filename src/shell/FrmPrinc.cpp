@@ -16,8 +16,6 @@
 #include <QToolButton>
 
 FrmPrinc *frmPrinc = nullptr;
-bool PortOuvert = false;
-
 namespace {
 
 using namespace std::chrono_literals;

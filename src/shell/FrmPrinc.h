@@ -11,9 +11,6 @@ class CadreExplorateur;
 class CommonDialog;
 class MSComm;
 
-/// What the lamps believe about the port: set where it is opened and closed, and by the timer.
-extern bool PortOuvert;
-
 /// The main window as a view: toolbar, program pane, explorer column, status panel with its lamps, and the two timers.
 /// Its commands are tied to it from above (Menus). Its controls are read by name from the whole program.
 ///
@@ -30,8 +27,9 @@ public:
     MSComm *const MSComm1;              ///< the one serial line
     CommonDialog *const CommonDialog1;  ///< the file dialog that all commands share
     CadreExplorateur *Frame1 = nullptr; ///< the explorer column; none before CreeExplorateur
-    QTimer UpdateTimer;                 ///< 1000 ms: the lamps follow the port
-    QTimer Timer2;                      ///< 5000 ms, once: clears Etat
+    bool PortOuvert = false; ///< what the lamps believe: set where the port opens and closes, and by the timer
+    QTimer UpdateTimer;      ///< 1000 ms: the lamps follow the port
+    QTimer Timer2;           ///< 5000 ms, once: clears Etat
 
     /// Shows a state of the port in Etat; Timer2 clears it.
     void MontreEtat(const QString &message);

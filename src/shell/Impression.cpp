@@ -37,7 +37,7 @@ public:
         , m_caracteres(caracteres)
     {
         setObjectName(QStringLiteral("Impression"));
-        setWindowTitle(TitreFichier);
+        setWindowTitle(Document.TitreFichier);
         setLabelText(Texte(EnCours));
         setWindowModality(Qt::WindowModal);
         setMinimumDuration(1500);
@@ -68,7 +68,7 @@ void Imprime(QPrinter &reglages, int copies)
     imprimante.Font = PoliceDuTexte();
     for (int copie = 0; copie < copies; ++copie) {
         imprimante.Print();
-        imprimante.Print(QStringLiteral("Programme : ") + NomFichier);
+        imprimante.Print(QStringLiteral("Programme : ") + Document.NomFichier);
         imprimante.Print(QStringLiteral("\r"));
         imprimante.Suivi = [&avancement, copie](qsizetype faits) { avancement.Montre(copie, faits); };
         imprimante.Print(texte);
@@ -85,7 +85,7 @@ void Mnu_Imprim()
     dialogue.CancelError = true;
     dialogue.Flags = frmPrinc->Text1->SelLength() > 0 ? CommonDialog::Selection : 0;
     Saute([&dialogue] {
-        dialogue.Imprimante().setDocName(TitreFichier);
+        dialogue.Imprimante().setDocName(Document.TitreFichier);
         dialogue.ShowPrinter();
         frmPrinc->Text1->setSelLength(0); // whatever was chosen, the whole text is printed
         Imprime(dialogue.Imprimante(), dialogue.Copies);

@@ -92,7 +92,7 @@ void AnnonceNomRepris(const QString &nom, const QString &titre)
 
 void AnnonceCfgPerdu(const QString &dosRecep, const QString &titre)
 {
-    for (const QString &nom : {dosRecep, DosJauge, EditeurCN})
+    for (const QString &nom : {dosRecep, Reglages.DosJauge, Reglages.EditeurCN})
         AnnonceNomRepris(nom, titre);
 }
 

@@ -109,16 +109,16 @@ const Texte3 &Defaut(const EtatConfiguration &etat)
 
 void RegardeConfiguration(Apercu &apercu)
 {
-    if (EtatConf().fiche == EtatConfiguration::Entiere)
+    if (EtatConf.fiche == EtatConfiguration::Entiere)
         return;
     const int port = Controle().PortOpen() ? Controle().CommPort() : ParamCom.NumPort;
-    apercu.alertes << Texte(Defaut(EtatConf())) + Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
+    apercu.alertes << Texte(Defaut(EtatConf)) + Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
 }
 
 Apercu Regarde(const Ui::Em_Rc &dialogue)
 {
     Apercu apercu;
-    if (TypeTransfert == EmissionProgramme || TypeTransfert == EmissionJauges)
+    if (Transfert.TypeTransfert == EmissionProgramme || Transfert.TypeTransfert == EmissionJauges)
         RegardeTexte(apercu, dialogue.Bilan->fontMetrics(), dialogue.Bilan->window()->minimumWidth() / 2);
     RegardeConfiguration(apercu);
     return apercu;

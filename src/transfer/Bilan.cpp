@@ -199,10 +199,10 @@ void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques)
     const qint64 nombre = emission ? comptes.emis : comptes.recus;
     const std::chrono::milliseconds duree =
         emission ? std::chrono::milliseconds(pertes.depuis.elapsed()) : comptes.dureeReception;
-    QString passe = Texte(!emission && ForceRECEPT == 1 ? EnTempsForce : EnTemps)
+    QString passe = Texte(!emission && Transfert.ForceRECEPT ? EnTempsForce : EnTemps)
                         .arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
     if (rompu)
-        passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(NomFicRecep));
+        passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(Transfert.NomFicRecep));
     const QStringList alertes = manques + FautesEnClair();
     EcritBilan(dialogue, (QStringList(passe) + alertes).join(u'\n'), rompu || !alertes.isEmpty());
 }

@@ -16,8 +16,8 @@ void Emet(ModeTransfert mode)
     AppliqueLangue();
     if (!ConfirmeTransfert(mode))
         return;
-    FinTransfert = 0;
-    TypeTransfert = mode;
+    Transfert.FinTransfert = false;
+    Transfert.TypeTransfert = mode;
     Em_Rc(frmPrinc).exec();
 }
 
@@ -26,9 +26,9 @@ void OuvreReception(ModeTransfert mode)
     if (TransfertEnCours())
         return;
     AppliqueLangue();
-    FinTransfert = 0;
-    ForceRECEPT = 0;
-    TypeTransfert = mode;
+    Transfert.FinTransfert = false;
+    Transfert.ForceRECEPT = false;
+    Transfert.TypeTransfert = mode;
     Rc_Fic(frmPrinc).exec();
 }
 

@@ -54,8 +54,8 @@ bool ConfirmeTransfert(int mode)
         const QString titre = Texte(question.titre);
         // The title of the bench is too long to be said twice.
         return Confirme((question.type == ReceptionBanc ? QString() : titre) + u'\r' + Texte(question.texte) +
-                            (emission ? TitreFichier : NomFicRecep) + Texte(SurLePort) + ParamCom.NomPort +
-                            QStringLiteral(" ?"),
+                            (emission ? Document.TitreFichier : Transfert.NomFicRecep) + Texte(SurLePort) +
+                            ParamCom.NomPort + QStringLiteral(" ?"),
                         Boite::Question | Boite::SecondBouton, titre);
     }
     return false;

@@ -145,7 +145,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
 
 void Em_Rc::Form_Activate()
 {
-    if (FinTransfert == 1)
+    if (Transfert.FinTransfert)
         return;
     PoseTexte(Command1, Annuler);
     PoseTexte(Command4, AnnulerBanc);
@@ -175,8 +175,8 @@ void Em_Rc::PrepareBilan()
 
 void Em_Rc::MontreMode()
 {
-    const auto *const mode =
-        std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
+    const auto *const mode = std::find_if(std::begin(Modes), std::end(Modes),
+                                          [](const Mode &m) { return m.type == Transfert.TypeTransfert; });
     if (mode == std::end(Modes))
         return;
     const bool banc = mode->type == ReceptionBanc;
@@ -202,12 +202,12 @@ void Em_Rc::CommenceReception()
 {
     const EnTransfert enTransfert;
     setFocus(); // or the button that cancels would have it when the box closes, and a second stroke would press it
-    if (!ConfirmeTransfert(TypeTransfert) || !ConfirmeApercu(*this)) {
+    if (!ConfirmeTransfert(Transfert.TypeTransfert) || !ConfirmeApercu(*this)) {
         done(Rejected);
         return;
     }
     DebuteBilan();
-    if (TypeTransfert == ReceptionBanc) {
+    if (Transfert.TypeTransfert == ReceptionBanc) {
         RoutineBanc(*this);
         return;
     }
@@ -225,7 +225,7 @@ void Em_Rc::MontreConfigurationChoisie()
 
 void Em_Rc::Command1_Click()
 {
-    if (FinTransfert == 1 && ParamCom.TypeRecep != RecepFichier)
+    if (Transfert.FinTransfert && ParamCom.TypeRecep != RecepFichier)
         OuvreFichierRecu();
     done(Rejected);
 }
@@ -260,12 +260,12 @@ void Em_Rc::Command3_Click()
 
 void Em_Rc::Command5_Click()
 {
-    JaugeSuivante = 1;
+    Jauges.JaugeSuivante = true;
 }
 
 void Em_Rc::Command6_Click()
 {
-    FinJauges = 1;
+    Jauges.FinJauges = true;
     accept();
 }
 
@@ -275,7 +275,7 @@ void Em_Rc::Command7_Click()
     const MSComm::SansEvenements sansEvenements(*frmPrinc->MSComm1);
     setFocus(); // a second stroke would ask again
     if (Confirme(Texte(ForcerTexte), Boite::Question | Boite::SecondBouton, Texte(ForcerTitre)))
-        ForceRECEPT = 1;
+        Transfert.ForceRECEPT = true;
 }
 
 /// Escape and the window's close box lie near and end what no one can bring back. The buttons say what they do.
@@ -295,10 +295,10 @@ void Em_Rc::done(int resultat)
 {
     // The end of a bench reception is the one close that does not cancel.
     if (resultat == Rejected)
-        AnnuleRECEPT = 1;
+        Transfert.AnnuleRECEPT = true;
     Form_Unload();
     QDialog::done(resultat);
-    if (FinTransfert == 1)
+    if (Transfert.FinTransfert)
         frmPrinc->ActualiseFichiers();
 }
 

@@ -209,7 +209,7 @@ void EnvoieBlocs(Emission &emission, const QString &texte)
 /// The entry as it goes out. Every entry but the first has at its head the LF that the cut before it left.
 void PrepareLigne(int numero)
 {
-    QString &ligne = Lignes[static_cast<std::size_t>(numero)];
+    QString &ligne = Lignes(numero);
     ligne = SansBlancs(ligne);
     if (numero != 1)
         ligne = ligne.mid(1);
@@ -217,9 +217,9 @@ void PrepareLigne(int numero)
 
 void EnvoieLignes(Emission &emission)
 {
-    for (int numero = 1; numero <= NbLignes; ++numero) {
+    for (int numero = 1; numero <= Lignes.NbLignes; ++numero) {
         PrepareLigne(numero);
-        const QString ligne = Lignes[static_cast<std::size_t>(numero)] + ParamCom.ChaineFinLig;
+        const QString ligne = Lignes(numero) + ParamCom.ChaineFinLig;
         if (Controle().PortOpen()) {
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
             emission.Ecrit(ligne);
@@ -234,8 +234,8 @@ void EnvoieLignes(Emission &emission)
 qint64 TailleLignes()
 {
     qint64 total = 0;
-    for (int numero = 1; numero <= NbLignes; ++numero)
-        total += Lignes[static_cast<std::size_t>(numero)].size() - (numero == 1 ? 0 : 1) + ParamCom.ChaineFinLig.size();
+    for (int numero = 1; numero <= Lignes.NbLignes; ++numero)
+        total += Lignes(numero).size() - (numero == 1 ? 0 : 1) + ParamCom.ChaineFinLig.size();
     return total;
 }
 
@@ -302,5 +302,5 @@ void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue)
 LignesEnvoyees CompteLignesEnvoyees(const QString &texte)
 {
     const qint64 total = texte.count(QLatin1String("\r\n")) + 1;
-    return {total > CapaciteLignes ? NbLignes : total, total};
+    return {total > CapaciteLignes ? Lignes.NbLignes : total, total};
 }

@@ -22,9 +22,9 @@ constexpr Texte3 Reussi{u"Transfert réalisé avec succès !", u"Transfer carrie
 
 void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre)
 {
-    ForceRECEPT = 0;
-    FinTransfert = 0;
-    AnnuleRECEPT = 0;
+    Transfert.ForceRECEPT = false;
+    Transfert.FinTransfert = false;
+    Transfert.AnnuleRECEPT = false;
     OublieFichierRecu();
     MontreLabelsEcho(dialogue);
     if (ParamCom.Echo == 1)
@@ -52,7 +52,7 @@ void AcheveReception(Ui::Em_Rc &dialogue)
 
 void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu)
 {
-    FinTransfert = 0; // the end may have come, but the file has not: the name is asked for once more
+    Transfert.FinTransfert = false; // the end may have come, but the file has not: the name is asked for once more
     MontreBilan(dialogue, Issue::ReceptionRompue);
     ErreurPortCOM(erreur, dialogue);
     SauveAilleurs(recu);

@@ -101,7 +101,7 @@ void Annonce(const TexteEvenement &ligne)
 
 void MSComm1_OnComm()
 {
-    if (TypeTransfert == ReceptionBanc)
+    if (Transfert.TypeTransfert == ReceptionBanc)
         return;
     const int code = frmPrinc->MSComm1->CommEvent();
     if (code == E::Reception) {

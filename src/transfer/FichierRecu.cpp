@@ -31,8 +31,8 @@ bool ecritEntier = false; // the file of the last reception stands whole on the 
 
 void OublieNom()
 {
-    NomFichier.clear();
-    TitreFichier.clear();
+    Document.NomFichier.clear();
+    Document.TitreFichier.clear();
     MontreDonnee(frmPrinc->Label2, QString());
 }
 
@@ -106,9 +106,9 @@ void MontreRecu(const QString &chemin)
         } else {
             MontreFichier(chemin);
         }
-        NomFichier = chemin;
-        TitreFichier = NomSeul(chemin);
-        FichierModifie = 0;
+        Document.NomFichier = chemin;
+        Document.TitreFichier = NomSeul(chemin);
+        Document.FichierModifie = false;
     });
 }
 
@@ -116,7 +116,7 @@ void PerdNomRecu()
 {
     OublieNom();
     TitreFenetre(QString());
-    FichierModifie = Vrai;
+    Document.FichierModifie = true;
     frmPrinc->ActiveEmission(false);
 }
 
@@ -126,8 +126,9 @@ QString SauveAilleurs(const QString &texte, const QString &question)
     const QString demande = question.isEmpty() ? Texte(ResteTexte) : question;
     while (!texte.isEmpty() && Confirme(demande, Boite::Exclamation, Texte(ResteTitre))) {
         try {
-            const QString dossier = QFileInfo::exists(DossierRecep) ? DossierRecep : QString(); // it may have gone
-            dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), dossier, NomFicRecep);
+            const QString dossier =
+                QFileInfo::exists(Transfert.DossierRecep) ? Transfert.DossierRecep : QString(); // it may have gone
+            dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), dossier, Transfert.NomFicRecep);
             dialogue.ShowSave();
             EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
             return dialogue.FileName;

@@ -31,7 +31,7 @@ constexpr Texte3 Fermer{u"&Fermer", u"&Close", u"&Cerrarse"};
 void FermeSansMessage()
 {
     Saute([] { Controle().setPortOpen(false); });
-    PortOuvert = false;
+    frmPrinc->PortOuvert = false;
 }
 
 void MontreErreur(const Erreur &erreur, const QString &texte)
@@ -57,7 +57,7 @@ void OuvrePortCOM()
         controle.setCommPort(ParamCom.NumPort);
         controle.setPortOpen(true);
         frmPrinc->MontrePort(true);
-        PortOuvert = true;
+        frmPrinc->PortOuvert = true;
     } catch (const Erreur &erreur) {
         // The failure names the device; here stands how to get the right to it.
         const QString conseil = erreur.Numero() == Erreur::AccesRefuse ? Texte(SansDroit) : QString();
@@ -73,7 +73,7 @@ void FermePortCOM(Ui::Em_Rc &dialogue)
             return;
         controle.setPortOpen(false);
         frmPrinc->MontrePort(false, TexteChoisi(PortFermeTexte));
-        PortOuvert = false;
+        frmPrinc->PortOuvert = false;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreur(erreur));
         BoutonFermer(*dialogue.Command1);
@@ -114,8 +114,8 @@ void CoupePortCOM(Ui::Em_Rc &dialogue)
 
 void Mnu_Com()
 {
-    PortOuvert = Controle().PortOpen();
-    frmPrinc->Mnu_FermePortCom->setEnabled(PortOuvert);
+    frmPrinc->PortOuvert = Controle().PortOpen();
+    frmPrinc->Mnu_FermePortCom->setEnabled(frmPrinc->PortOuvert);
 }
 
 void Mnu_FermePortCom()

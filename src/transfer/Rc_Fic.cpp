@@ -48,8 +48,8 @@ constexpr Mode Modes[] = {
 
 const Mode *ModeChoisi()
 {
-    const auto *const mode =
-        std::find_if(std::begin(Modes), std::end(Modes), [](const Mode &m) { return m.type == TypeTransfert; });
+    const auto *const mode = std::find_if(std::begin(Modes), std::end(Modes),
+                                          [](const Mode &m) { return m.type == Transfert.TypeTransfert; });
     return mode == std::end(Modes) ? nullptr : mode;
 }
 
@@ -79,7 +79,7 @@ Rc_Fic::Rc_Fic(QWidget *parent)
     QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};
     for (int i = 0; i < 4; ++i)
         connect(options[i], &QRadioButton::toggled, this,
-                [i](bool choisi) { OptionFinLig = choisi ? i : OptionFinLig; });
+                [i](bool choisi) { Transfert.OptionFinLig = choisi ? i : Transfert.OptionFinLig; });
     Combo1->setCompleter(nullptr); // an extension stays as it is typed
     connect(Command1, &QPushButton::clicked, this, &Rc_Fic::Command1_Click);
     connect(Command3, &QPushButton::clicked, this, &Rc_Fic::Command3_Click);
@@ -112,7 +112,7 @@ void Rc_Fic::MontreFinLigne()
 {
     ChoisitFinLigneRecep();
     QRadioButton *const options[] = {Option1_0, Option1_1, Option1_2, Option1_3};
-    options[OptionFinLig]->setChecked(true);
+    options[Transfert.OptionFinLig]->setChecked(true);
 }
 
 /// What the mode and the configuration say, whenever the dialog has come back from another one. The extension was
@@ -124,13 +124,13 @@ void Rc_Fic::Form_Activate()
     if (const Mode *const mode = ModeChoisi())
         PoseTexte(this, mode->titre);
     Picture1->setPixmap(ImageTransfert());
-    Frame5->setVisible(TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepFichier);
+    Frame5->setVisible(Transfert.TypeTransfert == ReceptionProgramme && ParamCom.TypeRecep != RecepFichier);
 }
 
 /// The reception folder that the mode uses.
 QString &Rc_Fic::Dossier()
 {
-    return TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : DosJauge;
+    return Transfert.TypeTransfert == ReceptionProgramme ? ParamCom.DosRecep : Reglages.DosJauge;
 }
 
 void Rc_Fic::Command1_Click()
@@ -142,7 +142,7 @@ void Rc_Fic::Command1_Click()
 
 void Rc_Fic::Command3_Click()
 {
-    const bool programmes = TypeTransfert == ReceptionProgramme;
+    const bool programmes = Transfert.TypeTransfert == ReceptionProgramme;
     DosProg dialogue(programmes ? DossierProgrammes : DossierJauges, this);
     MontreDossier(); // one that has gone has been replaced
     PoseTexte(&dialogue, programmes ? DossierDeProgrammes : DossierDeJauges);
@@ -155,16 +155,16 @@ void Rc_Fic::Command2_Click()
 {
     if (TransfertEnCours())
         return;
-    const bool banc = TypeTransfert == ReceptionBanc;
+    const bool banc = Transfert.TypeTransfert == ReceptionBanc;
     if (banc)
-        NbJauges = 0;
+        Jauges.NbJauges = 0;
     const QString extension = banc ? ParamMac.ExtJauge : Combo1->currentText();
-    NomFicRecep = (SansBlancs(Text1->text()) + u'.' + extension).toUpper();
-    DossierRecep = SansBlancs(Label3->text());
+    Transfert.NomFicRecep = (SansBlancs(Text1->text()) + u'.' + extension).toUpper();
+    Transfert.DossierRecep = SansBlancs(Label3->text());
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
         return;
     Em_Rc(this).exec();
-    const bool fini = FinTransfert == 1;
+    const bool fini = Transfert.FinTransfert;
     if (fini)
         accept();
     else
@@ -175,8 +175,8 @@ void Rc_Fic::Command2_Click()
 
 bool Rc_Fic::ConfirmeRemplacement() const
 {
-    return Confirme(Texte(ExisteFichier) + NomFicRecep + u'\r' + Texte(ExisteDossier) + DossierRecep + u'\r' +
-                        Texte(ExisteQuestion),
+    return Confirme(Texte(ExisteFichier) + Transfert.NomFicRecep + u'\r' + Texte(ExisteDossier) +
+                        Transfert.DossierRecep + u'\r' + Texte(ExisteQuestion),
                     Boite::Question | Boite::SecondBouton, Texte(ExisteTitre));
 }
 

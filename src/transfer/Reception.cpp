@@ -75,7 +75,7 @@ private:
 
 void Remplissage::Range(const QString &fin)
 {
-    Lignes[static_cast<std::size_t>(m_compteur)] = Ligne + fin;
+    Lignes(m_compteur) = Ligne + fin;
     Ligne.clear();
     ++m_compteur;
 }
@@ -118,18 +118,18 @@ bool Remplissage::EchoSuperflu()
 void Remplissage::Termine()
 {
     const QString reste = Controle().ViderReception();
-    if (ForceRECEPT == 1) // else it stands behind the end
+    if (Transfert.ForceRECEPT) // else it stands behind the end
         NotePerte(Perte::Jetes, reste);
     NotePerte(Perte::SansFin, Ligne);
-    FinTransfert = 1;
-    NbLignes = m_compteur;
+    Transfert.FinTransfert = true;
+    Lignes.NbLignes = m_compteur;
     RendFinTransfert(m_dialogue);
     AcheveReception(m_dialogue);
     Ligne.clear();
     EcritFichierRecu(Recu());
     MontreBilan(m_dialogue, Issue::Recu);
     OuvreFichierRecu();
-    if (FinTransfert == 1)
+    if (Transfert.FinTransfert)
         BoutonFermer(*m_dialogue.Command1);
 }
 
@@ -137,7 +137,7 @@ QString Remplissage::Recu() const
 {
     QString texte;
     for (int i = 1; i < m_compteur; ++i)
-        texte += Lignes[static_cast<std::size_t>(i)] + QStringLiteral("\r\n");
+        texte += Lignes(i) + QStringLiteral("\r\n");
     return texte + Ligne;
 }
 
@@ -181,7 +181,7 @@ QString AttendCaractere(Remplissage &table)
         if (Controle().PortOpen())
             car = Controle().Input();
         table.Guette(car);
-    } while (car.isEmpty() && AnnuleRECEPT != 1 && ForceRECEPT != 1);
+    } while (car.isEmpty() && !Transfert.AnnuleRECEPT && !Transfert.ForceRECEPT);
     return car;
 }
 
@@ -192,7 +192,7 @@ void EmplitParCaractere(Remplissage &table)
     QString dernier;
     while (true) {
         QString car = AttendCaractere(table);
-        if (AnnuleRECEPT == 1)
+        if (Transfert.AnnuleRECEPT)
             return;
         frmPrinc->shpReceive->setFillColor(Lampe::Verte);
         const EffetFinLigne effet = Effet(car, fin);
@@ -209,9 +209,9 @@ void EmplitParCaractere(Remplissage &table)
             table.Ligne += car;
             dernier = car;
         }
-        if (fini || ForceRECEPT == 1 || !table.EchoSuperflu())
+        if (fini || Transfert.ForceRECEPT || !table.EchoSuperflu())
             table.MontreEcho(table.Ligne, dernier);
-        if (fini || ForceRECEPT == 1)
+        if (fini || Transfert.ForceRECEPT)
             return table.Termine();
     }
 }
@@ -228,8 +228,8 @@ void AttendLigne(Remplissage &table)
         recu += lu;
         table.Guette(lu);
         frmPrinc->shpReceive->setFillColor(recu.isEmpty() ? Lampe::Rouge : Lampe::Verte);
-    } while (!recu.endsWith(ParamCom.ChaineFinTrans) && !recu.endsWith(ParamCom.ChaineFinLig) && AnnuleRECEPT != 1 &&
-             ForceRECEPT != 1);
+    } while (!recu.endsWith(ParamCom.ChaineFinTrans) && !recu.endsWith(ParamCom.ChaineFinLig) &&
+             !Transfert.AnnuleRECEPT && !Transfert.ForceRECEPT);
 }
 
 /// What is cut is a line end only where it was not the end of transfer behind a line that ended the wait.
@@ -248,9 +248,9 @@ void EmplitParLigne(Remplissage &table)
     QString &recu = table.Ligne; // what was read since the last line
     while (true) {
         AttendLigne(table);
-        if (AnnuleRECEPT == 1)
+        if (Transfert.AnnuleRECEPT)
             return;
-        if (ForceRECEPT == 1)
+        if (Transfert.ForceRECEPT)
             return table.Termine();
         table.MontreEcho(recu, recu);
         // The end of transfer counts only when it stands alone in the buffer.
@@ -261,7 +261,7 @@ void EmplitParLigne(Remplissage &table)
         if (recu.isEmpty())
             continue;
         RetireFinLigne(recu);
-        table.Range(ChaineFinLigRecep);
+        table.Range(Transfert.ChaineFinLigRecep);
         NotePerte(Perte::Jetes, Controle().ViderReception());
         table.ExigePlace();
         table.MontreFinLigne(FinLigneLigne);

@@ -85,7 +85,7 @@ bool FinTrouvee()
     if (!frmPrinc->Text2->FinitPar(ParamCom.ChaineFinTrans))
         return false;
     frmPrinc->Text2->RetireFin(static_cast<int>(ParamCom.ChaineFinTrans.size()));
-    FinTransfert = 1;
+    Transfert.FinTransfert = true;
     return true;
 }
 
@@ -108,9 +108,9 @@ void Recolte(Ui::Em_Rc &dialogue)
         do {
             vivante = Prend();
         } while (!FinTrouvee() && CaracteresEnAttente());
-    } while (FinTransfert != 1 && vivante && AnnuleRECEPT != 1 && ForceRECEPT != 1);
+    } while (!Transfert.FinTransfert && vivante && !Transfert.AnnuleRECEPT && !Transfert.ForceRECEPT);
     MontrePasse(dialogue, passe);
-    if (AnnuleRECEPT == 1)
+    if (Transfert.AnnuleRECEPT)
         CoupePortCOM(dialogue);
 }
 
@@ -130,14 +130,14 @@ void AttendFichier(Ui::Em_Rc &dialogue)
     const QScopedValueRollback<Ui::Em_Rc *> ecoute(enAttente, &dialogue);
     while (true) {
         CedeLaMain();
-        if (FinTransfert == 1 || AnnuleRECEPT == 1)
+        if (Transfert.FinTransfert || Transfert.AnnuleRECEPT)
             return;
-        if (ForceRECEPT == 1) {
+        if (Transfert.ForceRECEPT) {
             // What is too little to raise an event has come all the same.
             PrendReste();
             Controle().ViderReception();
             FinTrouvee();
-            FinTransfert = 1;
+            Transfert.FinTransfert = true;
             return;
         }
         if (!Controle().PortOpen())
@@ -161,7 +161,7 @@ void TermineFichier(Ui::Em_Rc &dialogue)
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
     // A file that was too large to be shown may have hidden the pane and its commands.
     frmPrinc->Text1->show();
-    if (!NomFichier.isEmpty())
+    if (!Document.NomFichier.isEmpty())
         frmPrinc->ActiveFichier(true);
     try {
         EcritFichierRecu(frmPrinc->Text1->Text());
@@ -170,14 +170,14 @@ void TermineFichier(Ui::Em_Rc &dialogue)
         return;
     }
     MontreBilan(dialogue, Issue::Recu);
-    TitreFenetre(NomFicRecep);
-    MontreDonnee(frmPrinc->Label2, NomFicRecep);
-    FichierModifie = 0;
+    TitreFenetre(Transfert.NomFicRecep);
+    MontreDonnee(frmPrinc->Label2, Transfert.NomFicRecep);
+    Document.FichierModifie = false;
 }
 
 void AnnuleFichier(Ui::Em_Rc &dialogue)
 {
-    FinTransfert = 0; // the end may have been found just before
+    Transfert.FinTransfert = false; // the end may have been found just before
     MsgBox(QStringLiteral("AnnuleRECEPT% = 1"), 0, Texte(BoiteAnnulation));
     FermePortCOM(dialogue);
     PoseTexte(dialogue.Label2, Annule2);
@@ -196,12 +196,12 @@ void ReceptionFichier(Ui::Em_Rc &dialogue)
     try {
         PrepareFichier(dialogue);
         AttendFichier(dialogue);
-        if (AnnuleRECEPT == 1)
+        if (Transfert.AnnuleRECEPT)
             AnnuleFichier(dialogue);
         else
             TermineFichier(dialogue);
     } catch (const Erreur &erreur) {
-        if (FinTransfert != 1)
+        if (!Transfert.FinTransfert)
             PrendReste();
         EchoueReception(erreur, dialogue, frmPrinc->Text2->Text());
     }
@@ -209,7 +209,7 @@ void ReceptionFichier(Ui::Em_Rc &dialogue)
 
 void RecolteFichier()
 {
-    if (ParamCom.TypeRecep != RecepFichier || enAttente == nullptr || enRecolte || FinTransfert == 1)
+    if (ParamCom.TypeRecep != RecepFichier || enAttente == nullptr || enRecolte || Transfert.FinTransfert)
         return;
     const QScopedValueRollback<bool> recolte(enRecolte, true);
     Recolte(*enAttente);

@@ -21,13 +21,13 @@ struct Atelier : Etabli
         for (const QString &dossier : {u"Prog/Tour"_s, u"Jau"_s})
             QDir(Dossier()).mkpath(dossier);
         ParamCom.DosRecep = Chemin("Prog");
-        DosJauge = Chemin("Jau");
+        Reglages.DosJauge = Chemin("Jau");
     }
 };
 
 QString &DossierDe(TypeDossier type)
 {
-    return type == DossierProgrammes ? ParamCom.DosRecep : DosJauge;
+    return type == DossierProgrammes ? ParamCom.DosRecep : Reglages.DosJauge;
 }
 
 } // namespace
@@ -49,13 +49,13 @@ private Q_SLOTS:
             QCOMPARE(arbre.SelectedFolder() + DossierDe(type), atelier.Chemin("Prog/Prog"));
             arbre.setSelectedFolder(atelier.Chemin("Prog/Tour"));
             dialogue.Command1->click();
-            arbre.setSelectedFolder(DosAppli);
+            arbre.setSelectedFolder(Reglages.DosAppli);
             dialogue.Command2->click();
             arbre.clearSelection();
-            QCOMPARE(DossierDe(type), DosAppli + u'/');
+            QCOMPARE(DossierDe(type), Reglages.DosAppli + u'/');
             const QString attendu = type == DossierProgrammes ? u"\"%1/Prog/Tour/\"\r\n\"%1/Jau\"\r\n\"%2\"\r\n"_s
                                                               : u"\"%1/Prog\"\r\n\"%1/Prog/Tour/\"\r\n\"%2\"\r\n"_s;
-            QCOMPARE(atelier.Lit(Cfg), attendu.arg(DosAppli, EditeurCN).toLatin1());
+            QCOMPARE(atelier.Lit(Cfg), attendu.arg(Reglages.DosAppli, Reglages.EditeurCN).toLatin1());
             atelier.Redemarre();
             QCOMPARE(DossierDe(type), atelier.Chemin("Prog/Tour/"));
         }
@@ -73,9 +73,9 @@ private Q_SLOTS:
         atelier.ApprendQue(u"  \"\n"_s);
         atelier.ApprendQue(u"  Ł ź\n"_s);
         dialogue.Command1->click();
-        AnnonceNomPerdu(DosJauge, LigneNom::Nue, {}); // a bare line would keep it
+        AnnonceNomPerdu(Reglages.DosJauge, LigneNom::Nue, {}); // a bare line would keep it
         atelier.Redemarre();
-        QCOMPARE(DosJauge, atelier.Chemin("a"));
+        QCOMPARE(Reglages.DosJauge, atelier.Chemin("a"));
     }
 
     // A folder that has gone gives way to the application folder, even if the operator then only closes the dialog; one
@@ -84,17 +84,17 @@ private Q_SLOTS:
     void DisparuOuNonCree()
     {
         Atelier atelier(2);
-        DosJauge = u"C:\\parti"_s;
+        Reglages.DosJauge = u"C:\\parti"_s;
         atelier.Apprend("Error", "El directorio <C:\\parti> no existe ya !");
         const DosProg dialogue(DossierJauges, frmPrinc);
-        QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), DosAppli + u'/');
+        QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), Reglages.DosAppli + u'/');
         const QString cle = atelier.Chemin("Cle/");
         QVERIFY(QDir().mkdir(cle));
         dialogue.FolderTreeview1->setSelectedFolder(cle);
-        QCOMPARE(DosJauge, cle);
+        QCOMPARE(Reglages.DosJauge, cle);
         atelier.Apprend("Error", u"El directorio <%1> no existe ya !"_s.arg(cle));
         QVERIFY(QDir().rmdir(cle));
-        QTRY_COMPARE(DosJauge, DosAppli + u'/');
+        QTRY_COMPARE(Reglages.DosJauge, Reglages.DosAppli + u'/');
         dialogue.Command3->click();
         dialogue.Text1->setText(u"Prog"_s); // in use
         atelier.Apprend("Erreur", u"El directorio <%1>  no pudo crearse !"_s.arg(atelier.Chemin("Prog")),
@@ -104,7 +104,7 @@ private Q_SLOTS:
         dialogue.Command4->click();
         QVERIFY(!dialogue.Frame1->isHidden());
         dialogue.Command2->click();
-        QCOMPARE(DosJauge, DosAppli + u'/');
+        QCOMPARE(Reglages.DosJauge, Reglages.DosAppli + u'/');
     }
 
     // The new folder is the reception folder at once, and the tree stands on it, as the explorer does where it was
@@ -158,7 +158,7 @@ private Q_SLOTS:
         atelier.Fait("DosProg", choisit(u"Label3"_s, u"/"_s));
         atelier.Presse("Rc_Fic", "Command1");
         Operateur::Menu("Mnu_RecepJauge");
-        QCOMPARE(DosJauge + ParamCom.DosRecep, u'/' + atelier.Chemin("Prog"));
+        QCOMPARE(Reglages.DosJauge + ParamCom.DosRecep, u'/' + atelier.Chemin("Prog"));
 
         atelier.Presse("Prop", "Command2");
         atelier.Fait("DosProg", choisit(u"Label8"_s, atelier.Chemin("Prog")));

@@ -77,19 +77,19 @@ private Q_SLOTS:
         atelier.Coche(u"123"_s);
         const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
         atelier.Ouvre(true, ini);
-        QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+        QVERIFY(!frmPrinc->ExplorateurMontre() && EtatConf.FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
         atelier.Redemarre();
         QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
         QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
-        QCOMPARE(FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
+        QCOMPARE(EtatConf.FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
         atelier.Ouvre(true, ini);
 
-        FicConfDefaut.clear();
+        Reglages.FicConfDefaut.clear();
         atelier.Coche(u"2"_s);
         const QString reste = u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s;
         atelier.Ouvre(true, reste);
         atelier.Redemarre();
-        QVERIFY(!frmPrinc->ExplorateurMontre() && FicConf.isEmpty());
+        QVERIFY(!frmPrinc->ExplorateurMontre() && EtatConf.FicConf.isEmpty());
     }
 
     // A name that the settings cannot keep is told as it is chosen, with its signs. Each line loses other ones.
@@ -114,7 +114,7 @@ private Q_SLOTS:
     void SansChanger()
     {
         Atelier atelier;
-        DosConf = atelier.Chemin("Conf");
+        Reglages.DosConf = atelier.Chemin("Conf");
         atelier.Coche(u"123"_s);
         for (const char *const bouton : {"Command1", "Command2", "Command5"})
             atelier.Parcourt(bouton, {});
@@ -123,7 +123,7 @@ private Q_SLOTS:
         atelier.Coche({});
         atelier.Presse("FrmConfDem", "Command3");
         Operateur::Menu("Mnu_ConfigDemar");
-        QCOMPARE(OptDosDefaut + OptConfDefaut + OptExplorateur, 3);
+        QCOMPARE(Reglages.OptDosDefaut + Reglages.OptConfDefaut + Reglages.OptExplorateur, 3);
         atelier.Presse("FrmConfDem", "Command6");
         atelier.Presse("FrmLangue", "Option3");
         atelier.Presse("FrmLangue", "Command1");
@@ -143,11 +143,11 @@ private Q_SLOTS:
                 OuvreDocument(programme);
             e.Ferme("CommonDialog");
             Operateur::Barre(8);
-            QCOMPARE(FicConf + NomConf + ParamCom.NomPort, QString());
+            QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.NomPort, QString());
             e.ChoisitAncien(courte);
             Operateur::Menu("Mnu_ChargeConf");
             QCOMPARE(EnService(), u"0000 Aucun Aucun "_s);
-            QCOMPARE(FicConf + NomConf + ParamCom.NomPort, courte + u"Courte.parCom3"_s);
+            QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.NomPort, courte + u"Courte.parCom3"_s);
 
             e.Choisit(complete);
             Operateur::Menu("Mnu_ChargeConf");
@@ -156,7 +156,7 @@ private Q_SLOTS:
             OuvreDocument(programme);
             e.ChoisitAncien(courte);
             Operateur::Menu("Mnu_ChargeConf");
-            QCOMPARE(EnService() + NomConf, u"1111"_s + suite + u"Courte.par"_s);
+            QCOMPARE(EnService() + EtatConf.NomConf, u"1111"_s + suite + u"Courte.par"_s);
         }
     }
 };

@@ -31,7 +31,7 @@ struct Banc : Etabli
     }
 
     void Prevenu(const QString &texte) { Apprend("Dorvanel Pro", texte); }
-    static void Ouvre(bool port) { frmPrinc->MSComm1->setPortOpen(PortOuvert = port); }
+    static void Ouvre(bool port) { frmPrinc->MSComm1->setPortOpen(frmPrinc->PortOuvert = port); }
 
     std::shared_ptr<Scenario> scenario = std::make_shared<Scenario>();
 };
@@ -148,7 +148,7 @@ private Q_SLOTS:
             const Banc banc;
             MSComm &controle = *frmPrinc->MSComm1;
             Banc::Ouvre(ouvert);
-            NomConf = ouvert ? u"Tour.par"_s : QString();
+            EtatConf.NomConf = ouvert ? u"Tour.par"_s : QString();
             const Prop prop(frmPrinc);
             prop.cboPort->setCurrentIndex(6);
             prop.cboParity->setCurrentText(u"Mark"_s);
@@ -169,10 +169,10 @@ private Q_SLOTS:
             QCOMPARE(controle.Settings() + controle.ParityReplace(), u"19200,m,8,23"_s);
             QCOMPARE((QList<int>{controle.CommPort(), controle.Handshaking(), controle.InputLen(),
                                  controle.InBufferSize(), controle.RThreshold(), controle.SThreshold(),
-                                 controle.DTREnable(), controle.PortOpen(), PortOuvert}),
+                                 controle.DTREnable(), controle.PortOpen(), frmPrinc->PortOuvert}),
                      (QList<int>{7, 3, 2, ouvert ? 1024 : 4, 6, 7, 1, ouvert, ouvert}));
             QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), (ouvert ? u"Tour.par1"_s : u"Aucun1"_s));
-            QVERIFY(FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+            QVERIFY(EtatConf.FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
         }
     }
 
@@ -196,7 +196,7 @@ private Q_SLOTS:
             prop.cmdOK->click();
             QCOMPARE(ParamCom.BitsDonnees + QString::number(ParamCom.NumPort), bits + QString::number(port));
             QCOMPARE(controle.CommPort() + controle.InputLen(), 1);
-            QVERIFY(controle.PortOpen() == (port == 1) && PortOuvert == controle.PortOpen());
+            QVERIFY(controle.PortOpen() == (port == 1) && frmPrinc->PortOuvert == controle.PortOpen());
             QCOMPARE(ParamCom.ChaineFinLig + frmPrinc->Label6->text(), u"Aucun"_s);
         }
     }
@@ -207,7 +207,7 @@ private Q_SLOTS:
     void Choix()
     {
         Banc banc;
-        ParamCom.DosRecep = EditeurCN = banc.Dossier();
+        ParamCom.DosRecep = Reglages.EditeurCN = banc.Dossier();
         const Prop prop(frmPrinc);
         banc.Fait("DosProg", [](QWidget &fenetre) {
             dynamic_cast<DosProg &>(fenetre).FolderTreeview1->setSelectedFolder(u"/"_s);
@@ -219,7 +219,8 @@ private Q_SLOTS:
         prop.Text8->setText(u"33"_s);
         banc.Ferme("CommonDialog");
         prop.Command1->click();
-        QCOMPARE(FicConf + NomConf + ParamCom.DosRecep + QDir::currentPath(), banc.Dossier() + banc.Dossier());
+        QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.DosRecep + QDir::currentPath(),
+                 banc.Dossier() + banc.Dossier());
         QCOMPARE(ParamCom.TailleRecep * 10 + ParamCom.TypeEnvoi, 330);
         ParamCom.ControleFlux = 1;
         prop.OptFinTrans_0->click();
@@ -260,7 +261,7 @@ private Q_SLOTS:
             Banc banc;
             ParamCom.BitsArret = u"1"_s; // which go with 8 data bits
             BatirChaines();
-            EtatConf().fiche = avant;
+            EtatConf.fiche = avant;
             const Prop prop(frmPrinc);
             if (option != nullptr)
                 Bouton(prop, QLatin1String(option))->click();
@@ -271,7 +272,7 @@ private Q_SLOTS:
                 prop.Command1->click();
             }
             prop.cmdCancel->click();
-            QCOMPARE(EtatConf().fiche, apres);
+            QCOMPARE(EtatConf.fiche, apres);
         }
     }
 
@@ -284,7 +285,7 @@ private Q_SLOTS:
         Operateur::Menu("Mnu_ModifConf");
         const QByteArray entier = LitOctets(Donnees(u"Complet.par"_s));
         const QByteArray autre = QByteArray(entier).replace("19200", "187500").replace("2048", "20480");
-        DosConf = banc.Dossier();
+        Reglages.DosConf = banc.Dossier();
         for (const QByteArray &octets : {entier, autre, autre.chopped(5)}) {
             QFile::remove(banc.Chemin("Sans suffixe")); // or the dialog asks about it
             const QString ancien = banc.Ecrit("Ancien.par", octets);

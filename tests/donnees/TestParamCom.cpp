@@ -70,7 +70,7 @@ private Q_SLOTS:
             QCOMPARE(ParamCom.Echo, ligne > 7 || numero == 0 ? 1 : 0);
             QCOMPARE(ParamCom.FinLigRecep, ligne > 36 || numero == 0 ? 3 : 7);
             QCOMPARE(ParamCom.TypeEnvoi, numero == 0 ? 1 : 7);
-            QCOMPARE(EtatConf().fiche, numero == 0 ? EtatConfiguration::Entiere : EtatConfiguration::Incomplete);
+            QCOMPARE(EtatConf.fiche, numero == 0 ? EtatConfiguration::Entiere : EtatConfiguration::Incomplete);
         }
         QCOMPARE(Lit(m_dossier.filePath(u"absent.par"_s)), Erreur::FichierIntrouvable);
     }

@@ -44,22 +44,22 @@ void Essaie(const QByteArray &octets)
     if (octets.size() < 2)
         return;
     saisie = static_cast<unsigned char>(octets[0]) >> 2;
-    VideJauges();
+    Jauges = {};
     ParamMac = {};
     ParamMac.TypeMachine = 1; // a mill asks nothing at the dial
     ParamMac.TypeJauge = octets[0] & 1;
     ParamMac.ModeX = (octets[0] >> 1) & 1;
-    NbJauges = 1 + static_cast<unsigned char>(octets[1]) % 8;
-    DossierRecep = QFileInfo(Pose("JAUGES.JAU", {})).path();
-    NomFicRecep = QStringLiteral("JAUGES.JAU");
+    Jauges.NbJauges = 1 + static_cast<unsigned char>(octets[1]) % 8;
+    Transfert.DossierRecep = QFileInfo(Pose("JAUGES.JAU", {})).path();
+    Transfert.NomFicRecep = QStringLiteral("JAUGES.JAU");
     CalculeLigne(TexteDe1252(octets.mid(2)));
     try {
         FiltreJauge();
     } catch (const Erreur &) {
     }
     Filtrage();
-    for (int ligne = 1; ligne <= LigneMaxi; ++ligne)
-        for (const QChar caractere : Lignes.at(static_cast<std::size_t>(ligne)))
+    for (int ligne = 1; ligne <= Lignes.LigneMaxi; ++ligne)
+        for (const QChar caractere : Lignes(ligne))
             EXIGE(caractere >= u' ');
     VideLignes();
 }

@@ -37,7 +37,7 @@ private Q_SLOTS:
     void Cree()
     {
         Etabli etabli(0);
-        DosConf = etabli.Dossier();
+        Reglages.DosConf = etabli.Dossier();
         ParamMac.NbCorrecteurs = 5;
         ParamMac.TypeMachine = 1;
         etabli.Fait("ConfMac", [](QWidget &fenetre) {
@@ -72,7 +72,7 @@ private Q_SLOTS:
             auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
             QCOMPARE(dialogue.windowTitle(), u"Enregistrer la configuration jauges outils"_s);
             QCOMPARE(dialogue.selectedNameFilter(), u"Fichiers paramètres (*.mac)"_s);
-            QCOMPARE(dialogue.directory(), QDir(DosConf));
+            QCOMPARE(dialogue.directory(), QDir(Reglages.DosConf));
             dialogue.reject();
             QCOMPARE(ParamMac.DiffPoches, -.5); // and yet taken
         });
@@ -80,7 +80,7 @@ private Q_SLOTS:
         Operateur::Menu("Mn_CreeConfMac");
         QCOMPARE(etabli.Lit("TOUR.mac"),
                  "1\r\n1\r\n0\r\n1\r\n1\r\n100.3\r\n-12345\r\n300\r\n\"CO1\"\r\n\"%12\"\r\n1\r\n");
-        QCOMPARE(NomCompletMac, etabli.Chemin("TOUR.mac"));
+        QCOMPARE(ParamMac.NomCompletMac, etabli.Chemin("TOUR.mac"));
         QCOMPARE(ParamMac.JaugeMaxiX, 100.3);
     }
 
@@ -128,7 +128,7 @@ private Q_SLOTS:
             Operateur::Menu(commande);
             etabli.Choisit(dix);
             Operateur::Menu(commande);
-            QCOMPARE(ParamMac.NumProgJauge + NomMac, u"Bdix.mac"_s);
+            QCOMPARE(ParamMac.NumProgJauge + ParamMac.NomMac, u"Bdix.mac"_s);
             QVERIFY(!frmPrinc->CommonDialog1->CancelError);
         }
     }

@@ -39,7 +39,7 @@ void Configure(const QStringList &ligne, const Forme &forme)
     ParamMac.JaugeMaxiZ = ligne[MaxiZ].toDouble();
     ParamMac.TypeJauge = forme.typeJauge;
     ParamMac.RazDynamique = forme.razDynamique;
-    NbJauges = 0;
+    Jauges.NbJauges = 0;
 }
 
 /// What stands ahead of the measures.
@@ -53,8 +53,8 @@ QStringList Entete()
 
 void Mesure(const QStringList &ligne)
 {
-    Jauge[std::size_t(++NbJauges)] = {ligne[Corr].toInt(),    ligne[Z].toFloat(), ligne[X].toFloat(),
-                                      ligne[Rayon].toFloat(), ligne[Loc].toInt(), ligne[Mode].front()};
+    Jauges.Jauge(++Jauges.NbJauges) = {ligne[Corr].toInt(),    ligne[Z].toFloat(), ligne[X].toFloat(),
+                                       ligne[Rayon].toFloat(), ligne[Loc].toInt(), ligne[Mode].front()};
 }
 
 } // namespace
@@ -72,8 +72,8 @@ private Q_SLOTS:
         QVERIFY(table.size() >= 60);
         for (const Forme &forme : Formes) {
             const Poste poste(forme.langue);
-            DossierRecep = poste.Dossier();
-            NomFicRecep = u"OUTILS.JAU"_s;
+            Transfert.DossierRecep = poste.Dossier();
+            Transfert.NomFicRecep = u"OUTILS.JAU"_s;
             for (qsizetype i = 0; i < table.size();) { // the rows of one machine after another: one gauge file
                 Operateur operateur;
                 const QStringList machine = table[i].first(Corr);
@@ -92,12 +92,13 @@ private Q_SLOTS:
                     }
                 }
                 attendu << (forme.typeJauge == 1 ? QStringList{QString(), u"M02"_s} : QStringList()) << QString();
-                FichierModifie = Vrai;
+                Document.FichierModifie = true;
                 CreFicJauge();
                 QCOMPARE(QString::fromLatin1(poste.Lit("OUTILS.JAU")), attendu.join(u"\r\n"_s));
                 QCOMPARE(frmPrinc->Text1->Text(), attendu.join(u"\r\n"_s));
-                QCOMPARE(NomFichier + TitreFichier, poste.Chemin("OUTILS.JAU") + NomFicRecep);
-                QCOMPARE(FichierModifie, 0);
+                QCOMPARE(Document.NomFichier + Document.TitreFichier,
+                         poste.Chemin("OUTILS.JAU") + Transfert.NomFicRecep);
+                QVERIFY(!Document.FichierModifie);
             }
         }
     }
@@ -108,12 +109,12 @@ private Q_SLOTS:
         const Poste poste(0);
         ParamMac.JaugeMaxiX = 1e300; // in the machine's file a limit may be anything
         ParamMac.TypeJauge = 1;
-        Jauge[std::size_t(NbJauges = 1)].JaugeX = 1e36F; // as micrometres more than single precision holds
-        DossierRecep = poste.Dossier();
-        NomFicRecep = u"A.JAU"_s;
+        Jauges.Jauge(Jauges.NbJauges = 1).JaugeX = 1e36F; // as micrometres more than single precision holds
+        Transfert.DossierRecep = poste.Dossier();
+        Transfert.NomFicRecep = u"A.JAU"_s;
         poste.Ecrit("A.JAU", "TN:");
         QVERIFY_EXCEPTION_THROWN(CreFicJauge(), Erreur);
-        QCOMPARE(poste.Lit("A.JAU") + NomFichier.toLatin1(), "TN:");
+        QCOMPARE(poste.Lit("A.JAU") + Document.NomFichier.toLatin1(), "TN:");
     }
 };
 

@@ -31,12 +31,12 @@ struct Atelier : Etabli
     /// Filters the bursts of a reception of as many tools; gives the gauge file.
     QByteArray Filtre(const QStringList &rafales, int outils) const
     {
-        DossierRecep = Dossier();
-        NomFicRecep = u"A.JAU"_s;
+        Transfert.DossierRecep = Dossier();
+        Transfert.NomFicRecep = u"A.JAU"_s;
         VideLignes();
-        VideJauges();
-        std::copy(rafales.begin(), rafales.end(), Lignes.begin() + 1);
-        NbJauges = outils;
+        Jauges = {};
+        std::copy(rafales.begin(), rafales.end(), Lignes.begin());
+        Jauges.NbJauges = outils;
         FiltreJauge();
         return Lit("A.JAU");
     }
@@ -89,7 +89,7 @@ private Q_SLOTS:
             });
         const QStringList rafales = u"EPB\r|\r\n|\a| TN:    3 \u20AC |\x1b|TOTAL|TN:    4"_s.split(u'|');
         QCOMPARE(atelier.Filtre(rafales, 7), "%\r\nD3 L0 R0\r\nD4 L0 R0\r\n");
-        QCOMPARE(NbJauges, 2);
+        QCOMPARE(Jauges.NbJauges, 2);
     }
 
     // Where no measure could be read the text of the bench stays as it came; blanks alone leave an empty file.
@@ -109,7 +109,7 @@ private Q_SLOTS:
             atelier.Ecrit("A.JAU", "BRUT\r\n");
             atelier.Apprend("Mesures du banc", entete + dits + fin + atelier.Chemin("A.JAU"));
             QCOMPARE(atelier.Filtre(QStringList(nombre, rafale), nombre), reste);
-            QCOMPARE(NbJauges, 0);
+            QCOMPARE(Jauges.NbJauges, 0);
         }
     }
 
@@ -143,11 +143,11 @@ private Q_SLOTS:
     {
         const QString pleine = u"N\r\n"_s.repeated(CapaciteLignes - 1) + u"FIN"_s;
         CalculeLigne(pleine);
-        QCOMPARE(NbLignes, CapaciteLignes);
+        QCOMPARE(Lignes.NbLignes, CapaciteLignes);
         CalculeLigne(u"A\r\nB"_s);
         CalculeLigne(pleine + u"\r\n"_s);
-        QCOMPARE(NbLignes, 2);
-        QCOMPARE(Lignes.back(), u"\nFIN\r"_s);
+        QCOMPARE(Lignes.NbLignes, 2);
+        QCOMPARE(Lignes(CapaciteLignes), u"\nFIN\r"_s);
     }
 
     // On a lathe the dial comes between, without the hourglass; closing it asks, and lets the file be made all the

@@ -31,7 +31,7 @@ private Q_SLOTS:
         for (const bool avant : {false, true}) {
             const Poste poste(0);
             ParamMac.TypeTourelle = avant ? 1 : 0;
-            NbJauges = 1;
+            Jauges.NbJauges = 1;
             JauTour d(frmPrinc);
             d.show();
             QCOMPARE(d.Label7->text(), avant ? u"Tourelle Avant"_s : u"Tourelle Arrière"_s);
@@ -57,7 +57,7 @@ private Q_SLOTS:
             int image = 22;
             for (const auto &valeur : {u"0.6"_s, u"0.2"_s, u"0.4"_s, u"0.8"_s, u"1.0"_s, u"1.2"_s})
                 QCOMPARE(Clique(d, u"Picture%1"_s.arg(image++)), valeur + u"/8"_s);
-            QCOMPARE(Jauge[1].Localisateur, 0); // nothing is stored before it is validated
+            QCOMPARE(Jauges.Jauge(1).Localisateur, 0); // nothing is stored before it is validated
         }
     }
 
@@ -66,9 +66,9 @@ private Q_SLOTS:
     void Mesures()
     {
         const Poste poste(1);
-        NbJauges = 6;
-        for (int i = 1; i <= NbJauges; ++i)
-            Jauge[std::size_t(i)] = {10 * i, 1, i == 2 ? -2.5F : 2.5F, 9, 9, i == 2 ? u'?' : u'R', i < 3 ? 0 : 2};
+        Jauges.NbJauges = 6;
+        for (int i = 1; i <= Jauges.NbJauges; ++i)
+            Jauges.Jauge(i) = {10 * i, 1, i == 2 ? -2.5F : 2.5F, 9, 9, i == 2 ? u'?' : u'R', i < 3 ? 0 : 2};
         JauTour d(frmPrinc);
         d.show();
         QVERIFY(QTest::qWaitForWindowActive(&d));
@@ -97,7 +97,7 @@ private Q_SLOTS:
         Clique(d, u"Picture25"_s);
         QTest::keyClick(d.Picture9, Qt::Key_Space);
         QTest::keyClick(d.focusWidget(), Qt::Key_Escape); // would leave the dial half done
-        QVERIFY(d.isVisible() && JauTourFait == 0);
+        QVERIFY(d.isVisible() && !d.JauTourFait);
         QTest::mouseClick(d.Command1, Qt::LeftButton);
         QTest::mouseDClick(d.Command1, Qt::LeftButton); // strokes too many
         QTest::mousePress(d.Command1, Qt::LeftButton);
@@ -105,11 +105,12 @@ private Q_SLOTS:
         QKeyEvent encore(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
         QCoreApplication::sendEvent(d.Text1, &encore);
         tape(u"0"_s, u"9"_s);
-        QVERIFY(!d.isVisible() && JauTourFait == 1);
+        QVERIFY(!d.isVisible() && d.JauTourFait);
 
         QString lues;
-        for (std::size_t i = 1; i <= 6; ++i)
-            lues += u"%1/%2/%3 "_s.arg(Jauge[i].Rayon).arg(Jauge[i].Localisateur).arg(Jauge[i].JaugeX);
+        for (int i = 1; i <= 6; ++i)
+            lues +=
+                u"%1/%2/%3 "_s.arg(Jauges.Jauge(i).Rayon).arg(Jauges.Jauge(i).Localisateur).arg(Jauges.Jauge(i).JaugeX);
         QCOMPARE(lues, u"0.8/3/2.5 1.23/5/2.5 0/6/-2.5 0/7/-2.5 0.8/8/2.5 0/9/2.5 "_s);
     }
 };

@@ -68,7 +68,7 @@ struct Atelier : Etabli
         ParamCom.TailleRecep = int(Banc::TailleSalve);
         ParamCom.NbCarLecture = 512;
         ParamCom.Echo = 1;
-        DosJauge = Dossier();
+        Reglages.DosJauge = Dossier();
         mac = Ecrit("M.mac", u"1\n0\n0\n0\n1\n1000\n1000\n%1\ncor\nP\n0"_s.arg(nbCorrecteurs).toLatin1());
     }
 
@@ -96,7 +96,10 @@ struct Atelier : Etabli
         Fait(
             Dialogue, [this, octets](QWidget &) { banc->Envoie(octets); }, quand ? quand : [this] { return Lus(); });
     }
-    bool Lus() const { return PortOuvert && banc->EnAttente() == 0 && frmPrinc->MSComm1->InBufferCount() == 0; }
+    bool Lus() const
+    {
+        return frmPrinc->PortOuvert && banc->EnAttente() == 0 && frmPrinc->MSComm1->InBufferCount() == 0;
+    }
 
     /// Tools 1 to nombre, up to the last one received.
     void Outils(int nombre)
@@ -113,7 +116,7 @@ struct Atelier : Etabli
     {
         Presse(Fichier, "Command1");
         Menu("Mnu_RecepBanc");
-        QVERIFY(!PortOuvert && !TransfertEnCours());
+        QVERIFY(!frmPrinc->PortOuvert && !TransfertEnCours());
     }
 
     QByteArray Disque() const { return Lit("JAUGES.COR"); }
@@ -141,7 +144,7 @@ private Q_SLOTS:
                                                       {u"\nPrérégler l'outil N°  2"_s + touches, attente + u'2'},
                                                       {u'\n' + Recue(2) + suite, Recue(2)}};
         Atelier atelier;
-        Jauge[2].Rayon = 8; // of the session before
+        Jauges.Jauge(2).Rayon = 8; // of the session before
         atelier.Nomme();
         for (int i = 0; i < 4; ++i) {
             const auto verifie = [i, consigne = etapes[i].first, &atelier](QWidget &fenetre) {
@@ -164,19 +167,20 @@ private Q_SLOTS:
                     return;
                 }
                 QTest::simulateEvent(&fenetre, true, Qt::Key_J, Qt::AltModifier, u"j"_s, true);
-                QCOMPARE(JaugeSuivante, 0);
+                QVERIFY(!Jauges.JaugeSuivante);
                 QTest::keyRelease(&fenetre, Qt::Key_J, Qt::AltModifier);
                 bouton(i == 1 ? Suivante : Fin)->click();
             };
-            atelier.Fait(Dialogue, verifie,
-                         [statut = etapes[i].second] { return PortOuvert && Operateur::Lu("Label2") == statut; });
+            atelier.Fait(Dialogue, verifie, [statut = etapes[i].second] {
+                return frmPrinc->PortOuvert && Operateur::Lu("Label2") == statut;
+            });
         }
         Operateur::Barre(13);
         QCOMPARE(atelier.Disque(), "%\r\n" + LigneD(1) + LigneD(2));
         QCOMPARE(frmPrinc->Text1->Text().toLatin1(), atelier.Disque());
-        QCOMPARE(NomFichier + u'|' + TitreFichier, atelier.Chemin("JAUGES.COR") + u"|JAUGES.COR"_s);
-        QCOMPARE(FichierModifie, 0);
-        QCOMPARE(Jauge[2].Rayon, 0.0F);
+        QCOMPARE(Document.NomFichier + u'|' + Document.TitreFichier, atelier.Chemin("JAUGES.COR") + u"|JAUGES.COR"_s);
+        QVERIFY(!Document.FichierModifie);
+        QCOMPARE(Jauges.Jauge(2).Rayon, 0.0F);
     }
 
     // What comes over the line, read by read, and the measure that is made of it.
@@ -210,7 +214,7 @@ private Q_SLOTS:
                 ParamCom.TailleRecep = c.taille;
                 frmPrinc->MSComm1->setInputLen(c.lecture);
             };
-            atelier.Fait(Dialogue, regle, [] { return PortOuvert; });
+            atelier.Fait(Dialogue, regle, [] { return frmPrinc->PortOuvert; });
             for (const QByteArray &lu : c.lus)
                 atelier.Envoie(lu);
             atelier.Presse(Dialogue, &c == std::end(cas) - 1 ? Annule : Suivante, Mesure(++k));
@@ -234,7 +238,7 @@ private Q_SLOTS:
                            Operateur::Demande, reponse);
         }
         atelier.Abandonne();
-        QCOMPARE(NbJauges + FinTransfert, 0);
+        QCOMPARE(Jauges.NbJauges + Transfert.FinTransfert, 0);
         QCOMPARE(frmPrinc->Text1->Text(), u"ANCIEN"_s);
         QCOMPARE(atelier.Disque(), Brut(1));
     }
@@ -252,7 +256,7 @@ private Q_SLOTS:
             auto *const bouton = dialogue.findChild<QPushButton *>(QLatin1String(Suivante));
             for (const auto coup : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease})
                 Frappe(*bouton, coup);
-            QCOMPARE(JaugeSuivante, 0);
+            QVERIFY(!Jauges.JaugeSuivante);
             atelier.banc->Debranche();
         };
         atelier.Fait(Dialogue, encore, Mesure(2));
@@ -270,7 +274,7 @@ private Q_SLOTS:
         const auto compte = [](const QString &montre) {
             return [montre] {
                 const auto *const barre = QApplication::activeModalWidget()->findChild<QProgressBar *>();
-                return PortOuvert && (barre->isVisible() ? barre->text() : QString()) == montre;
+                return frmPrinc->PortOuvert && (barre->isVisible() ? barre->text() : QString()) == montre;
             };
         };
         atelier.Envoie(Outil(1).left(40), compte(QString()));
@@ -327,7 +331,8 @@ private Q_SLOTS:
             atelier.Abandonne();
             QCOMPARE(atelier.Lit("SAUVE.COR"), sauve ? "%\r\nD1 X-1 Z101.5 R.8 C5\r\n" : "");
             QCOMPARE(frmPrinc->Text1->Text().toLatin1(), sauve ? atelier.Lit("SAUVE.COR") : Brut(1));
-            QCOMPARE(NomFichier + TitreFichier, sauve ? atelier.Chemin("SAUVE.COR") + u"SAUVE.COR"_s : QString());
+            QCOMPARE(Document.NomFichier + Document.TitreFichier,
+                     sauve ? atelier.Chemin("SAUVE.COR") + u"SAUVE.COR"_s : QString());
             QVERIFY(TexteModifie() != sauve && frmPrinc->Mnu_EmisProgCN->isEnabled() == sauve);
         }
     }
@@ -350,7 +355,7 @@ private Q_SLOTS:
             atelier.Abandonne();
             QCOMPARE(atelier.Disque(), Brut(nombre));
             QCOMPARE(frmPrinc->Text1->Text().toLatin1(), atelier.Disque());
-            QCOMPARE(TitreFichier, u"JAUGES.COR"_s);
+            QCOMPARE(Document.TitreFichier, u"JAUGES.COR"_s);
         }
     }
 };

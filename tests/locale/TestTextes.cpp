@@ -36,8 +36,8 @@ enum Colonne { Fenetre, Controle, Endroit, Francais };
 void OuvreTout(QWidget *parent)
 {
     frmPrinc->CreeExplorateur();
-    TypeTransfert = ModeTransfert{}; // no mode: each transfer writes its own words over the captions
-    NbJauges = 1;
+    Transfert.TypeTransfert = ModeTransfert{}; // no mode: each transfer writes its own words over the captions
+    Jauges.NbJauges = 1;
     new Apropos(parent);
     new ConfMac(parent);
     new DosProg(DossierProgrammes, parent);

@@ -104,7 +104,7 @@ private Q_SLOTS:
     }
 
     // Settings that cannot be read leave the window as it is made, say nothing and are not written over.
-    void Reglages()
+    void FichiersReglages()
     {
         QList<QStringList> cas = Table(u"reglages.tsv"_s);
         cas << QStringList{QString(2'000'000, QChar()), QString(), u"0"_s};
@@ -123,7 +123,8 @@ private Q_SLOTS:
             QVERIFY(frmPrinc->isVisible() && !frmPrinc->ExplorateurMontre() && frmPrinc->Etat->isHidden());
             QCOMPARE(Operateur::Offre("Mnu_RecepProg"), !lisible);
             QVERIFY(!frmPrinc->Mnu_EnregistrerSous->isEnabled() && !frmPrinc->Mnu_Imprim->isEnabled());
-            for (const QString *dossier : {&DosAppli, &ParamCom.DosRecep, &DosJauge, &EditeurCN})
+            for (const QString *dossier :
+                 {&Reglages.DosAppli, &ParamCom.DosRecep, &Reglages.DosJauge, &Reglages.EditeurCN})
                 QCOMPARE(dossier->isEmpty(), !lisible);
             etabli.ApprendQue(u" Dorvanel\n"_s); // in whatever language, a box has words
             Operateur::Menu("Mnu_Quitter");
@@ -142,7 +143,7 @@ private Q_SLOTS:
             if (!contenu.isEmpty())
                 etabli.Ecrit(Cfg, contenu);
             etabli.Demarre();
-            QCOMPARE(QStringList({ParamCom.DosRecep, DosJauge, EditeurCN}).join(u'|'),
+            QCOMPARE(QStringList({ParamCom.DosRecep, Reglages.DosJauge, Reglages.EditeurCN}).join(u'|'),
                      QString(dossiers).replace(u'@', etabli.Dossier()));
             QCOMPARE(etabli.Lit(Cfg), contenu);
         }
@@ -161,7 +162,7 @@ private Q_SLOTS:
                 etabli.Ecrit("Tour.par", "3\r\n\"Com3\"\r\n");
             etabli.Ecrit(Ini, " 0 \r\n\"\"\r\n 1 \r\n\"" + chemin.toLatin1() + "\"\r\n 0 \r\n\r\n 1 \r\n");
             etabli.Demarre();
-            QCOMPARE(FicConf, chemin);
+            QCOMPARE(EtatConf.FicConf, chemin);
             OuvreDocument(etabli.Ecrit("P.iso", "G0"));
             for (const int bouton : {9, 10, 11, 12, 13})
                 QVERIFY(!frmPrinc->Bouton(bouton)->isEnabled());
@@ -176,10 +177,10 @@ private Q_SLOTS:
     {
         for (const auto &[ferme, change, nomme, oui, fichier, modifie] :
              {std::tuple{false, false, true, false, "G0", 0},
-              {false, true, true, false, "G0", Vrai},
+              {false, true, true, false, "G0", true},
               {false, true, true, true, "G1\r\n", 0},
               {true, false, true, false, "G0", 0},
-              {true, true, false, true, "", Vrai},
+              {true, true, false, true, "", true},
               {true, true, true, false, "G0", 0},
               {true, true, true, true, "G1\r\n", 0}}) {
             Etabli etabli(0);
@@ -206,7 +207,7 @@ private Q_SLOTS:
                 Operateur::Barre(6);
                 QVERIFY(frmPrinc->isVisible());
             }
-            QCOMPARE(FichierModifie, modifie);
+            QCOMPARE(Document.FichierModifie, modifie);
             QCOMPARE(etabli.Lit("P.iso"), QByteArray(fichier));
         }
     }

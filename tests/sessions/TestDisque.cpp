@@ -75,8 +75,8 @@ struct Atelier : Poste, Operateur
         Menu("Mnu_AffichDOS");
         dosProg.Command3->click();
         dosProg.Text1->setText(fichier);
-        NomFicRecep = fichier;
-        Jauge[std::size_t(NbJauges = 1)] = {1, 50, 10, 0, 0, u' '};
+        Transfert.NomFicRecep = fichier;
+        Jauges.Jauge(Jauges.NbJauges = 1) = {1, 50, 10, 0, 0, u' '};
     }
 
     void Dit(const QString &dit, const QString &titre = u"Error"_s, int icone = Boite::Critique)
@@ -100,9 +100,9 @@ struct Atelier : Poste, Operateur
         if (suite || echoue) // at the very end, that the net holds nothing either
             Fait("MsgBox", Clique(suite ? QMessageBox::No : QMessageBox::Ok));
         commande();
-        QCOMPARE(FichierModifie, echoue ? Vrai : 0);
+        QCOMPARE(Document.FichierModifie, echoue);
     }
-    const QString fichier, racine = ParamCom.DosRecep = DosJauge = DossierRecep = Dossier();
+    const QString fichier, racine = ParamCom.DosRecep = Reglages.DosJauge = Transfert.DossierRecep = Dossier();
     QString texte = u"G1 X12.5 Z4"_s;
     bool echoue = true, ferme = false;
     Prop prop{nullptr};
@@ -127,8 +127,9 @@ const Ecrivain Ecrivains[] = {
          a.Dit(NonEnregistre);
          Operateur::Menu("Mnu_EnregistrerSous");
          const QString nom = a.echoue ? u"P.iso"_s : a.fichier;
-         QCOMPARE(NomFichier + TitreFichier + frmPrinc->Label2->text(), a.Chemin(a.fichier) + a.fichier + nom);
-         QVERIFY(frmPrinc->windowTitle().endsWith(a.Chemin(nom)) && FichierModifie == (a.echoue ? Vrai : 0));
+         QCOMPARE(Document.NomFichier + Document.TitreFichier + frmPrinc->Label2->text(),
+                  a.Chemin(a.fichier) + a.fichier + nom);
+         QVERIFY(frmPrinc->windowTitle().endsWith(a.Chemin(nom)) && Document.FichierModifie == a.echoue);
      }},
     {"new", "P.iso", [](Atelier &a) { a.Garde([] { Operateur::Menu("Mnu_Nouveau"); }); }},
     {"quit", "P.iso", [](Atelier &a) { a.Garde([] { Operateur::Menu("Mnu_Quitter"); }); }},
@@ -137,7 +138,7 @@ const Ecrivain Ecrivains[] = {
      [](Atelier &a) {
          a.Nomme();
          a.prop.Command17->click();
-         QCOMPARE(FicConf + NomConf, a.Chemin(a.fichier) + a.fichier);
+         QCOMPARE(EtatConf.FicConf + EtatConf.NomConf, a.Chemin(a.fichier) + a.fichier);
          QCOMPARE(a.prop.Label6->text() == a.fichier, !a.echoue);
      }},
     {"machine", "TOUR.mac",
@@ -164,7 +165,7 @@ const Ecrivain Ecrivains[] = {
          a.Choisit("/bin/sh");
          a.Dit(NonEnregistre, u"Dorvanel Pro"_s, Boite::Exclamation);
          a.prop.Command5->click();
-         QCOMPARE(a.prop.Label12->text() + EditeurCN, u"/bin/sh/bin/sh"_s);
+         QCOMPARE(a.prop.Label12->text() + Reglages.EditeurCN, u"/bin/sh/bin/sh"_s);
      }},
     {"gauges", "JAUGES.COR",
      [](Atelier &a) {
@@ -228,7 +229,7 @@ void TestDisque::Pannes()
         Ecrivains[rang].joue(atelier);
     }
     QCOMPARE(frmPrinc->Text1->Text(), atelier.texte);
-    QCOMPARE(FichierModifie, atelier.texte.isEmpty() ? 0 : Vrai);
+    QCOMPARE(Document.FichierModifie, !atelier.texte.isEmpty());
     QCOMPARE(atelier.Lit(fichier) + atelier.Lit("P.iso"), avant + "ANCIEN\r\n");
     QVERIFY(!QFileInfo(atelier.Chemin(fichier)).isDir());
     atelier.echoue = false;

@@ -99,7 +99,7 @@ void TestSessions::CommandeInconnue()
     envoi.PauseLigneMs = 150;
     bool emis = false;
     pilote.Joue(Genre::Ligne, {}, [&](const QDialog &) {
-        if (PortOuvert && !std::exchange(emis, true))
+        if (frmPrinc->PortOuvert && !std::exchange(emis, true))
             machine.Emet(envoi);
     });
     QCOMPARE(poste.Lit("PIECE.ISO"), QByteArray("O1\r\n\r\nG1 X5\r\n\r\n\r\n"));
@@ -122,7 +122,7 @@ void TestSessions::BancTour()
     ParamCom.Vitesse = QString::number(vitesse);
     ParamCom.NbCarLecture = 1; // so that a bell is always read alone
     pilote.Fait(
-        "Em_Rc", [](QWidget &) {}, [] { return PortOuvert; });
+        "Em_Rc", [](QWidget &) {}, [] { return frmPrinc->PortOuvert; });
     pilote.Repond("Error de número de corrector",
                   "Atención número de corrector 99999|   prohibición para la instrumentos Nø: 3", Boite::Critique,
                   QMessageBox::Ok);
@@ -151,7 +151,7 @@ void TestSessions::BancTour()
                                "D7 X6.125 Z87.051 R1.2 C0\r\nD12 X101.55 Z120 R0 C8\r\n";
     QCOMPARE(poste.Lit("PIECE.JAU"), attendu);
     QCOMPARE(frmPrinc->Text1->Text().toLatin1(), attendu);
-    QCOMPARE(TitreFichier, u"PIECE.JAU"_s);
+    QCOMPARE(Document.TitreFichier, u"PIECE.JAU"_s);
 }
 
 // The XOFF of a slow machine does not reach the PC: the machine is overrun, and says so itself; the PC gave each
@@ -192,7 +192,7 @@ void TestSessions::SansPause()
         pilote.Regle(genre);
         bool emis = false, force = false;
         const auto joue = pilote.Joue(genre, {}, [&](const QDialog &transfert) {
-            if (PortOuvert && !std::exchange(emis, true))
+            if (frmPrinc->PortOuvert && !std::exchange(emis, true))
                 machine.Emet({programme});
             const EtatEnvoi envoi = machine.Etat().Envoi;
             const bool tout = frmPrinc->MSComm1->Comptes().recus == programme.size() + 1;

@@ -56,17 +56,19 @@ private Q_SLOTS:
             const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
             atelier.Choisit("Mnu_Ouvrir", chemin);
             QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
-            QCOMPARE(NomFichier + TitreFichier, chemin + u"Pièce n° 1.iso"_s);
-            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + NomFichier + TitreFichier);
-            QCOMPARE(FichierModifie, 0);
+            QCOMPARE(Document.NomFichier + Document.TitreFichier, chemin + u"Pièce n° 1.iso"_s);
+            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(),
+                     Version + Document.NomFichier + Document.TitreFichier);
+            QVERIFY(!Document.FichierModifie);
             for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
                 QVERIFY(Operateur::Offre(entree));
 
             atelier.Choisit("Mnu_EnregistrerSous", atelier.Chemin("copie.iso"));
             QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
             QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
-            QCOMPARE(NomFichier + TitreFichier, atelier.Chemin("copie.iso") + u"copie.iso"_s);
-            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + NomFichier + TitreFichier);
+            QCOMPARE(Document.NomFichier + Document.TitreFichier, atelier.Chemin("copie.iso") + u"copie.iso"_s);
+            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(),
+                     Version + Document.NomFichier + Document.TitreFichier);
             QFile::remove(atelier.Chemin("copie.iso"));
         }
     }
@@ -93,7 +95,7 @@ private Q_SLOTS:
                 atelier.Operateur::Choisit(fichier);
             Operateur::Menu(entree);
         }
-        QCOMPARE(frmPrinc->Text1->Text() + TitreFichier, u"G0P.xcn"_s);
+        QCOMPARE(frmPrinc->Text1->Text() + Document.TitreFichier, u"G0P.xcn"_s);
         QVERIFY(!frmPrinc->CommonDialog1->CancelError);
     }
 
@@ -113,9 +115,9 @@ private Q_SLOTS:
                                QFileInfo(refuse).fileName()),
                            Boite::Information | Boite::OuiNon, QMessageBox::No);
             OuvreDocument(refuse);
-            QCOMPARE(frmPrinc->Text1->Text() + NomFichier + TitreFichier, u"G1"_s + chemin + Iso);
+            QCOMPARE(frmPrinc->Text1->Text() + Document.NomFichier + Document.TitreFichier, u"G1"_s + chemin + Iso);
             QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + chemin + Iso);
-            QCOMPARE(FichierModifie, Vrai);
+            QVERIFY(Document.FichierModifie);
         }
     }
 
@@ -140,15 +142,15 @@ private Q_SLOTS:
             atelier.Repond("Nuevo fichero ?", "Nuevo fichero\r\n        Confirme ? ", Operateur::DemandeSimple, va);
             Operateur::Menu("Mnu_Nouveau");
             QCOMPARE(atelier.Lit(Iso), QByteArray(fichier));
-            QCOMPARE(FichierModifie, tape == u"G1" ? Vrai : 0);
+            QCOMPARE(Document.FichierModifie, tape == u"G1");
             QCOMPARE(frmPrinc->Text1->Text(), va == QMessageBox::Yes ? QString() : tape.isEmpty() ? u"G0"_s : tape);
         }
-        QCOMPARE(NomFichier + TitreFichier + frmPrinc->Label2->text(), u"Nuevo.iso"_s + Iso + Iso);
+        QCOMPARE(Document.NomFichier + Document.TitreFichier + frmPrinc->Label2->text(), u"Nuevo.iso"_s + Iso + Iso);
         QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
         QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
         frmPrinc->CommonDialog1->InitDir = u"/"_s;
         atelier.Fait("CommonDialog", [](QWidget &fenetre) {
-            QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), DosDefaut);
+            QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), Reglages.DosDefaut);
             fenetre.close();
         });
         Operateur::Menu("Mnu_EnregistrerSous");
@@ -201,7 +203,7 @@ private Q_SLOTS:
             QCOMPARE(frmPrinc->Text1->Text(), texte);
             QCOMPARE(QGuiApplication::clipboard()->text(), pressePapiers);
             QCOMPARE(frmPrinc->Mnu_Annuler->isEnabled(), change);
-            QCOMPARE(FichierModifie, change ? Vrai : 0);
+            QCOMPARE(Document.FichierModifie, change);
             if (change)
                 Operateur::Menu("Mnu_Annuler");
             QCOMPARE(frmPrinc->Text1->Text(), avant);
@@ -226,9 +228,9 @@ private Q_SLOTS:
         QTest::keyClick(pane, Qt::Key_H, Qt::AltModifier);
         QTest::keyClick(pane, Qt::Key_H, Qt::AltModifier | Qt::ShiftModifier);
         QCOMPARE(pane->Text(), programme);
-        QCOMPARE(FichierModifie, 0);
+        QVERIFY(!Document.FichierModifie);
         QTest::keyClicks(pane, u"abc"_s);
-        QCOMPARE(TexteAnnuler, QString());
+        QCOMPARE(Document.TexteAnnuler, QString());
     }
 };
 

@@ -28,7 +28,7 @@ struct Atelier : Etabli
         Ecrit("Pieces/b.cn", "%2");
         Ecrit("Pieces/Tour/b.cn", "%3");
         Ecrit("b.cn", "%4");
-        DosDefaut = Chemin("Pieces");
+        Reglages.DosDefaut = Chemin("Pieces");
         Barre(15);
     }
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
         verifie(true, u"Fermer"_s);
         frmPrinc->Frame1->Command3->click();
         verifie(false, u"Fermer"_s); // the words are the button's own doing
-        DosDefaut = atelier.Chemin("debranche");
+        Reglages.DosDefaut = atelier.Chemin("debranche");
         Operateur::Menu("Mnu_AffichDOS");
         QVERIFY(atelier.Montre().startsWith(u".:"));
         Operateur::Barre(15);
@@ -108,9 +108,9 @@ private Q_SLOTS:
         const QPoint ici = liste.visualRect(liste.model()->index(1, 0)).center();
         QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ici);
         QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, ici);
-        QCOMPARE(NomFichier + TitreFichier, atelier.Chemin("Pieces/PIECE.ISO") + u"PIECE.ISO"_s);
+        QCOMPARE(Document.NomFichier + Document.TitreFichier, atelier.Chemin("Pieces/PIECE.ISO") + u"PIECE.ISO"_s);
         QCOMPARE(frmPrinc->Text1->Text(), u"%1\r\nG0X1"_s);
-        QCOMPARE(FichierModifie, 0);
+        QVERIFY(!Document.FichierModifie);
         QTest::keyClick(&liste, Qt::Key_Up);
         QTest::keyClick(&liste, Qt::Key_Return);
         QCOMPARE(frmPrinc->Text1->Text(), u"%2"_s);
@@ -182,9 +182,9 @@ private Q_SLOTS:
     {
         Atelier atelier;
         OuvreDocument(atelier.Chemin("Pieces/Tour/b.cn"));
-        DosDefaut = atelier.Chemin("Pieces/");
+        Reglages.DosDefaut = atelier.Chemin("Pieces/");
         ParamCom.DosRecep = u"Pieces/Tour"_s;
-        FicConf = atelier.Chemin("Pieces 2/M.par");
+        EtatConf.FicConf = atelier.Chemin("Pieces 2/M.par");
         QDir::setCurrent(atelier.Chemin("Pieces"));
         for (const auto &[ancien, nouveau] :
              {std::pair{"Pieces/Tour", u"../Pieces/Fraise"_s}, {"Pieces", atelier.Chemin("Lot/")}}) {
@@ -195,11 +195,11 @@ private Q_SLOTS:
             });
             frmPrinc->Frame1->Command4->click();
         }
-        QCOMPARE(NomFichier, atelier.Chemin("Lot/Fraise/b.cn"));
-        QVERIFY(frmPrinc->windowTitle().endsWith(NomFichier));
+        QCOMPARE(Document.NomFichier, atelier.Chemin("Lot/Fraise/b.cn"));
+        QVERIFY(frmPrinc->windowTitle().endsWith(Document.NomFichier));
         QCOMPARE(ParamCom.DosRecep, atelier.Chemin("Lot/Fraise"));
-        QCOMPARE(DosDefaut, atelier.Chemin("Lot/"));
-        QCOMPARE(FicConf, atelier.Chemin("Pieces 2/M.par"));
+        QCOMPARE(Reglages.DosDefaut, atelier.Chemin("Lot/"));
+        QCOMPARE(EtatConf.FicConf, atelier.Chemin("Pieces 2/M.par"));
     }
 
     // A folder that goes by another hand is left: it is applied no more, and that is told once the dialogs are closed.
@@ -218,13 +218,14 @@ private Q_SLOTS:
         perd();
         frmPrinc->Frame1->CheckDOS->setChecked(true);
         ParamCom.DosRecep = cle + u'/';
-        DosJauge = atelier.Chemin("Pieces/");
+        Reglages.DosJauge = atelier.Chemin("Pieces/");
         atelier.Fait("InputBox", [&](QWidget &boite) {
             perd();
             QTest::qWait(300); // nobody is told yet
             QCOMPARE(QApplication::activeModalWidget(), &boite);
             QVERIFY(!frmPrinc->Frame1->CheckDOS->isChecked());
-            QCOMPARE(ParamCom.DosRecep + u' ' + DosJauge, atelier.Dossier() + u' ' + atelier.Chemin("Pieces/"));
+            QCOMPARE(ParamCom.DosRecep + u' ' + Reglages.DosJauge,
+                     atelier.Dossier() + u' ' + atelier.Chemin("Pieces/"));
             boite.close();
         });
         QString dit;
@@ -275,9 +276,9 @@ private Q_SLOTS:
             atelier.Choisit("b.cn");
             Operateur::Menu("Mnu_Ouvrir");
             QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
-            QCOMPARE(DosDefaut, coche ? tour : atelier.Dossier());
+            QCOMPARE(Reglages.DosDefaut, coche ? tour : atelier.Dossier());
             for (const int type : {ReceptionProgramme, ReceptionJauges, ReceptionBanc}) {
-                TypeTransfert = type;
+                Transfert.TypeTransfert = type;
                 QCOMPARE(Rc_Fic(frmPrinc).Label3->text() == tour, coche);
             }
         }
@@ -285,7 +286,7 @@ private Q_SLOTS:
         atelier.ApprendQue(u"  Ł ź\n"_s);
         frmPrinc->Frame1->CheckDOS->click();
         frmPrinc->Frame1->FolderTreeview1->clearSelection();
-        TypeTransfert = ReceptionProgramme;
+        Transfert.TypeTransfert = ReceptionProgramme;
         QCOMPARE(Rc_Fic(frmPrinc).Label3->text(), tour);
     }
 };

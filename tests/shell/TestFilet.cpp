@@ -88,10 +88,10 @@ void Recoit(qsizetype taille)
 
 void Quitte(const Atelier &)
 {
-    PortOuvert = true;
+    frmPrinc->PortOuvert = true;
     QTimer::singleShot(0, frmPrinc, [] {
         Operateur::Menu("Mnu_Quitter");
-        if (PortOuvert) // the end was not confirmed
+        if (frmPrinc->PortOuvert) // the end was not confirmed
             QCoreApplication::exit();
     });
     QCOMPARE(QApplication::exec(), 0);
@@ -135,8 +135,8 @@ private Q_SLOTS:
         for (const Depart &depart : Departs) {
             Atelier atelier("X" + TousLesOctets());
             const QString texte = frmPrinc->Text1->Text();
-            NomFicRecep = u"RECU.ISO"_s;
-            DossierRecep = atelier.Dossier();
+            Transfert.NomFicRecep = u"RECU.ISO"_s;
+            Transfert.DossierRecep = atelier.Dossier();
             for (const auto reponse : depart.reponses)
                 atelier.Repond(reponse);
             depart.joue(atelier);
@@ -144,15 +144,15 @@ private Q_SLOTS:
             if (depart.garde != nullptr)
                 attendus << depart.garde + TousLesOctets();
             QVERIFY2(atelier.Gardes() == attendus, depart.nom);
-            QVERIFY2(PortOuvert == (depart.joue == Quitte && depart.garde == nullptr), depart.nom);
+            QVERIFY2(frmPrinc->PortOuvert == (depart.joue == Quitte && depart.garde == nullptr), depart.nom);
             const bool parti = frmPrinc->Text1->Text() != texte;
-            QVERIFY2(parti != (frmPrinc->Mnu_Annuler->isEnabled() && !TexteAnnuler.isEmpty()), depart.nom);
+            QVERIFY2(parti != (frmPrinc->Mnu_Annuler->isEnabled() && !Document.TexteAnnuler.isEmpty()), depart.nom);
         }
         for (const bool vide : {false, true}) { // a text without changes, and none: nothing to keep
             const Atelier atelier;
             if (vide)
                 frmPrinc->Text1->RetireFin(99);
-            FichierModifie = vide ? Vrai : 0;
+            Document.FichierModifie = vide;
             OuvreAutre(atelier);
             QVERIFY(atelier.Gardes().isEmpty());
         }
@@ -171,7 +171,7 @@ private Q_SLOTS:
                                          {u"P_2026-11-20_101010.iso"_s, u"P@@.iso"_s},
                                          {u""_s, u"Sans nom@.iso"_s}}) {
             Atelier atelier;
-            NomFichier = nom.isEmpty() ? QString() : atelier.Chemin(nom);
+            Document.NomFichier = nom.isEmpty() ? QString() : atelier.Chemin(nom);
             OuvreAutre(atelier);
             QCOMPARE(atelier.Gardes(), QByteArrayList{garde.toUtf8() + "=N10 G0\r\n"});
         }
@@ -253,8 +253,8 @@ private Q_SLOTS:
             ProposeTextesRetrouves();
             QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
             QCOMPARE(frmPrinc->Text1->Text(), ouvre ? u"N10 G0\r\n"_s : QString());
-            QCOMPARE(FichierModifie, ouvre ? Vrai : 0);
-            QCOMPARE(NomFichier.startsWith(atelier.Chemin("Sauvegardes/P_")), ouvre);
+            QCOMPARE(Document.FichierModifie, ouvre);
+            QCOMPARE(Document.NomFichier.startsWith(atelier.Chemin("Sauvegardes/P_")), ouvre);
             QVERIFY(atelier.Lit("P.iso") == "XN10 G0\r\n");
             if (ouvre)
                 atelier.Repond(Non);

@@ -61,7 +61,7 @@ private Q_SLOTS:
         for (const bool ouvre : {true, false}) {
             scenario->etats = EtatsLigne{true, false, false, false};
             frmPrinc->MSComm1->setPortOpen(ouvre);
-            PortOuvert = ouvre;
+            frmPrinc->PortOuvert = ouvre;
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
             QTRY_COMPARE(frmPrinc->lblPortOpen->text(), ouvre ? u"Open Port"_s : u"Closed Port"_s);
             for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpRTS, frmPrinc->shpCTS, frmPrinc->shpSend})
@@ -78,7 +78,7 @@ private Q_SLOTS:
         frmPrinc->MSComm1->setPortOpen(true);
         QTRY_COMPARE(frmPrinc->shpCD->FillColor(), Lampe::Verte);
         QTRY_COMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
-        QVERIFY(PortOuvert);
+        QVERIFY(frmPrinc->PortOuvert);
     }
 
     // What the operator has arranged comes back after a restart, hidden or not; a window that sticks out of the screen
@@ -120,29 +120,30 @@ private Q_SLOTS:
     {
         const Poste poste(0);
         poste.Charge("G0");
-        const QString ancien = NomFichier;
+        const QString ancien = Document.NomFichier;
         const QString autre = poste.Ecrit(u"AUTRE €.iso"_s, "G1\r\n");
         const QString mac = poste.Ecrit("Tour.mac", {});
         const QString par = poste.Chemin(u"Autre.PAR"_s);
-        QVERIFY(QFile::copy(FicConf, par));
-        FichierModifie = Vrai;
+        QVERIFY(QFile::copy(EtatConf.FicConf, par));
+        Document.FichierModifie = true;
         {
             Operateur operateur;                                          // he knows nothing of the dialog further down
             operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::No)); // whether to save
             QVERIFY(Depose({autre}));
             operateur.Repond(u"Configuration machine"_s, u"Ce fichier n'est pas une configuration machine :\r"_s + mac,
                              Boite::Exclamation, QMessageBox::Ok);
-            QVERIFY(FichierModifie == 0 && Depose({mac}));
+            QVERIFY(!Document.FichierModifie && Depose({mac}));
             operateur.Fait("MsgBox", [](QWidget &boite) {
                 QVERIFY(dynamic_cast<QMessageBox &>(boite).text().contains(u"Parti.iso."_s));
                 boite.close();
             });
             QVERIFY(Depose({poste.Ecrit("Parti.iso", "G2")}, true));
         }
-        QCOMPARE(NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(), autre + u"G1\r\nAUTRE €.iso"_s);
+        QCOMPARE(Document.NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(),
+                 autre + u"G1\r\nAUTRE €.iso"_s);
         Mnu_AffichDOS();
         QVERIFY(Depose({par}, false, frmPrinc->Frame1->Combo1));
-        QCOMPARE(FicConf + frmPrinc->Label4->text() + NomFichier, par + u"Autre.PAR"_s + autre);
+        QCOMPARE(EtatConf.FicConf + frmPrinc->Label4->text() + Document.NomFichier, par + u"Autre.PAR"_s + autre);
 
         QVERIFY(!Depose({ancien, autre}) && !Depose({poste.Dossier()}));
         QDialog dialogue;

@@ -78,7 +78,7 @@ private Q_SLOTS:
             QCOMPARE(pages.size(), 6);
             QVERIFY(pages[1].size() == pages[4].size() && pages[1].size() > 60);
             QStringList lues = std::accumulate(pages.begin(), pages.end(), QStringList());
-            QCOMPARE(lues.takeFirst(), u"Programme : "_s + NomFichier);
+            QCOMPARE(lues.takeFirst(), u"Programme : "_s + Document.NomFichier);
             QCOMPARE(lues[0].indexOf(u'A'), lues[1].indexOf(u'B')); // the tabulator has gone to the eighth column
             QVERIFY2(QRegularExpression(u"^X{80,150}$"_s).match(lues[2]).hasMatch(), qPrintable(lues[2]));
             QCOMPARE(lues.mid(3), lignes.mid(3));
@@ -95,7 +95,7 @@ private Q_SLOTS:
         atelier.Ecrit("P_2.pdf", "mine");
         atelier.Imprime(atelier.Chemin("P.pdf"), 3);
         QCOMPARE(atelier.Lit("P_2.pdf"), "mine");
-        const QList<QStringList> attendu{QStringList{u"Programme : "_s + NomFichier, u"N10"_s, u"N20"_s}};
+        const QList<QStringList> attendu{QStringList{u"Programme : "_s + Document.NomFichier, u"N10"_s, u"N20"_s}};
         for (const char *const fichier : {"P.pdf", "P_3.pdf", "P_4.pdf"}) {
             QCOMPARE(Pages(atelier.Chemin(fichier)), attendu);
             QVERIFY(atelier.Lit(fichier).contains("DejaVuSerif-Bold"));

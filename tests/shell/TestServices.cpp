@@ -35,7 +35,7 @@ private Q_SLOTS:
         etabli.Ferme("CommonDialog");
         Operateur::Menu("Mnu_Police");
         QCOMPARE(volet.SelText(), texte);
-        QVERIFY(frmPrinc->Mnu_Annuler->isEnabled() && TexteAnnuler == texte);
+        QVERIFY(frmPrinc->Mnu_Annuler->isEnabled() && Document.TexteAnnuler == texte);
 
         const Operateur::Geste accepte = [](QWidget &fenetre) { QMetaObject::invokeMethod(&fenetre, "accept"); };
         const QString police = volet.SelFontName();
@@ -57,13 +57,13 @@ private Q_SLOTS:
         });
         etabli.Fait("CommonDialog", accepte);
         Operateur::Barre(3);
-        QVERIFY(volet.Text() == texte && FichierModifie == 0 && volet.SelLength() == 0);
+        QVERIFY(volet.Text() == texte && !Document.FichierModifie && volet.SelLength() == 0);
         volet.setSelStart(int(texte.size()));
         QCOMPARE(volet.SelFontName() + QString::number(volet.SelFontSize()), u"DejaVu Serif18"_s);
         QVERIFY(!volet.SelBold() && volet.SelItalic() && volet.SelStrikeThru() && volet.SelUnderline());
         QCOMPARE(volet.SelColor(), QColor(Qt::darkGreen));
         Operateur::Menu("Mnu_Annuler");
-        QVERIFY(volet.Text() == texte && FichierModifie == 0);
+        QVERIFY(volet.Text() == texte && !Document.FichierModifie);
         QVERIFY(volet.SelFontName() == police && volet.SelBold() && !volet.SelItalic() && !volet.SelUnderline());
     }
 
@@ -76,11 +76,11 @@ private Q_SLOTS:
         const QString script = u"#!/bin/sh\nprintf '%s|' \"$@\" > %1.x; /bin/mv %1.x %1"_s.arg(trace);
         QFile::setPermissions(etabli.Ecrit("soffice", script.toUtf8()), QFile::ReadOwner | QFile::ExeOwner);
         qputenv("PATH", etabli.Dossier().toLocal8Bit());
-        EditeurCN = u"C:\\OUTILS\\OverWRITE.EXE"_s;
+        Reglages.EditeurCN = u"C:\\OUTILS\\OverWRITE.EXE"_s;
         Operateur::Barre(4);
         QTRY_VERIFY(QFile::exists(trace));
-        QCOMPARE(QString::fromUtf8(etabli.Lit("trace")), u"--writer|"_s + NomFichier + u'|');
-        EditeurCN = etabli.Dossier();
+        QCOMPARE(QString::fromUtf8(etabli.Lit("trace")), u"--writer|"_s + Document.NomFichier + u'|');
+        Reglages.EditeurCN = etabli.Dossier();
         etabli.Apprend("Error", "Error durante la apertura del fichero o\rEditor no encontrado !", Boite::Critique);
         Operateur::Menu("Mnu_EditProg");
     }

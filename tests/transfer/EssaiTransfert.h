@@ -52,13 +52,13 @@ public:
     void PreditEnsuite()
     {
         pilote.Fait(
-            "Em_Rc", [](QWidget &) {}, [] { return PortOuvert; });
+            "Em_Rc", [](QWidget &) {}, [] { return frmPrinc->PortOuvert; });
     }
 
     /// Lamps, port and pane as they have to be between two transfers, and the next transfer is whole.
     void VerifiePret()
     {
-        QVERIFY(!PortOuvert && !frmPrinc->MSComm1->PortOpen() && !ligne->ouverte && !TransfertEnCours());
+        QVERIFY(!frmPrinc->PortOuvert && !frmPrinc->MSComm1->PortOpen() && !ligne->ouverte && !TransfertEnCours());
         for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpSend, frmPrinc->shpReceive})
             QTRY_COMPARE(lampe->FillColor(), Lampe::Rouge);
         QVERIFY(frmPrinc->Text2->isHidden());
@@ -76,7 +76,8 @@ public:
     bool Pris() const
     {
         bool pris = false;
-        Saute([&] { pris = PortOuvert && ligne->EnAttente() == 0 && frmPrinc->MSComm1->InBufferCount() == 0; });
+        Saute(
+            [&] { pris = frmPrinc->PortOuvert && ligne->EnAttente() == 0 && frmPrinc->MSComm1->InBufferCount() == 0; });
         return pris;
     }
 
@@ -90,8 +91,9 @@ public:
 private:
     void Pendant(QDialog &transfert)
     {
-        const bool atteint = refus != 0 || (EstEmission(genre) ? PortOuvert && ligne->ecrits.size() == m_position
-                                                               : Pris() && m_passes >= m_position);
+        const bool atteint =
+            refus != 0 || (EstEmission(genre) ? frmPrinc->PortOuvert && ligne->ecrits.size() == m_position
+                                              : Pris() && m_passes >= m_position);
         if (m_faute && atteint && m_faute(transfert)) {
             m_faute = nullptr;
             ligne->Envoie(m_reste);

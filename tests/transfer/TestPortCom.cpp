@@ -63,7 +63,7 @@ private Q_SLOTS:
         const Atelier atelier;
         MSComm &c = atelier.controle;
         OuvrePortCOM();
-        QVERIFY(c.PortOpen() && PortOuvert && !atelier.ligne->rts && !atelier.ligne->dtr);
+        QVERIFY(c.PortOpen() && frmPrinc->PortOuvert && !atelier.ligne->rts && !atelier.ligne->dtr);
         QCOMPARE(c.Settings(), u"115200,n,8,1"_s);
         QCOMPARE(atelier.ligne->reglages.constFirst().vitesse, 115200);
         QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Abierto"_s);
         FermePortCOM(dialogue);
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Cerrado"_s);
-        QVERIFY(!PortOuvert && !atelier.ligne->ouverte);
+        QVERIFY(!frmPrinc->PortOuvert && !atelier.ligne->ouverte);
     }
 
     // The first step that fails is told once, in the language, and the steps behind it do not run. A port that was open
@@ -111,7 +111,7 @@ private Q_SLOTS:
             atelier.ligne->refusReglage = refus;
             atelier.operateur.LitErreur(numero, texte);
             OuvrePortCOM();
-            QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
+            QVERIFY(!atelier.controle.PortOpen() && !frmPrinc->PortOuvert);
             QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Fermé"_s);
         }
 
@@ -139,19 +139,19 @@ private Q_SLOTS:
                                      Boite::Critique, QMessageBox::Ok);
             ErreurPortCOM(Erreur(numero, u"/dev/x"_s, cause), dialogue);
         }
-        QVERIFY(!atelier.controle.PortOpen() && !PortOuvert);
+        QVERIFY(!atelier.controle.PortOpen() && !frmPrinc->PortOuvert);
     }
 
     // A port that stayed open can be closed from the menu; the lamp follows by itself.
     void MenuFermeture()
     {
         const Atelier atelier;
-        PortOuvert = true;
-        QVERIFY(!Operateur::Offre("Mnu_FermePortCom") && !PortOuvert);
+        frmPrinc->PortOuvert = true;
+        QVERIFY(!Operateur::Offre("Mnu_FermePortCom") && !frmPrinc->PortOuvert);
         OuvrePortCOM();
-        PortOuvert = false;
+        frmPrinc->PortOuvert = false;
         Operateur::Menu("Mnu_FermePortCom");
-        QVERIFY(!atelier.controle.PortOpen() && !PortOuvert && !atelier.ligne->ouverte);
+        QVERIFY(!atelier.controle.PortOpen() && !frmPrinc->PortOuvert && !atelier.ligne->ouverte);
     }
 
     // The machine stops the line over the last characters, which the system has already: they are waited for, until it
@@ -181,7 +181,7 @@ private Q_SLOTS:
             if (numero != 0)
                 atelier.operateur.LitErreur(numero, texte);
             EnvoiFich_FinFich(dialogue);
-            QVERIFY(coups >= 60 && !PortOuvert && !ligne.ouverte);
+            QVERIFY(coups >= 60 && !frmPrinc->PortOuvert && !ligne.ouverte);
             QCOMPARE(dialogue.Label2->text() == u"Transfert terminé avec succès !", numero == 0);
             QCOMPARE(ligne.ecrits, QByteArray("G0\x04"));
             QCOMPARE(ligne.jetsEmission, numero == 8018 ? 1 : 0);

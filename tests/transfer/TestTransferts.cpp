@@ -71,7 +71,7 @@ void TestTransferts::Annonce()
     const QString question = titre + u"\rConfirme la emisión del fichero mide PIECE.iso sobre el puerto Com2 ?"_s;
     operateur.Repond(titre, question, Operateur::Demande, QMessageBox::No);
     Operateur::Barre(11);
-    QCOMPARE(TypeTransfert, 0);
+    QCOMPARE(Transfert.TypeTransfert, 0);
 
     operateur.Repond(titre, question, Operateur::Demande, QMessageBox::Yes);
     operateur.Fait(Dialogue, [](QWidget &fenetre) {
@@ -88,7 +88,7 @@ void TestTransferts::Annonce()
     frmPrinc->UpdateTimer.stop();
     frmPrinc->shpPortOpen->setFillColor(Lampe::Verte);
     Operateur::Menu("Mnu_EmisJauge");
-    QCOMPARE(TypeTransfert, 2);
+    QCOMPARE(Transfert.TypeTransfert, 2);
     QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
 }
 
@@ -199,12 +199,12 @@ void TestTransferts::AutreConfiguration()
     poste.Charge("G0");
     const QString autre = poste.Chemin("Tour.par");
     QVERIFY(QFile::copy(Donnees(u"Complet.par"_s), autre));
-    DosConf = u"/"_s; // not where this choice begins
+    Reglages.DosConf = u"/"_s; // not where this choice begins
     Operateur operateur;
     operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
     operateur.Presse(Dialogue, "Command3");
     operateur.Fait("CommonDialog", [](QWidget &fenetre) {
-        QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory(), QDir(DosAppli));
+        QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory(), QDir(Reglages.DosAppli));
         fenetre.close();
     });
     operateur.Presse(Dialogue, "Command3");
@@ -228,7 +228,7 @@ void TestTransferts::AutreConfiguration()
     });
     operateur.Presse(Dialogue, "Command1");
     Operateur::Menu("Mnu_EmisProgCN");
-    QCOMPARE(FicConf + frmPrinc->Label4->text(), autre + u"Tour.par"_s);
+    QCOMPARE(EtatConf.FicConf + frmPrinc->Label4->text(), autre + u"Tour.par"_s);
     QCOMPARE(ParamCom.ChaineFinLig, u"\r\r\n"_s);
 }
 
@@ -410,14 +410,14 @@ void TestTransferts::Receptions()
         essai.pilote.Fait(
             Dialogue,
             [parFichier](QWidget &) { QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s); },
-            [] { return Operateur::Lu("Label2") == u"Transfert réalisé avec succès !" && !PortOuvert; });
+            [] { return Operateur::Lu("Label2") == u"Transfert réalisé avec succès !" && !frmPrinc->PortOuvert; });
         QCOMPARE(essai.Joue().avis.size(), 0);
         QCOMPARE(essai.Disque(), attendu);
         QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
         QCOMPARE(frmPrinc->Text1->Text().size(), attendu.size() - (parFichier ? 2 : 0));
-        QCOMPARE(FichierModifie, 0);
+        QVERIFY(!Document.FichierModifie);
         QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
-        QCOMPARE(TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
+        QCOMPARE(Document.TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
         QVERIFY(frmPrinc->Text2->isHidden());
     }
 }
@@ -490,7 +490,7 @@ void TestTransferts::TropDeLignes()
         EssaiTransfert essai(Genre::LigneParLigne);
         essai.charge.texte = pleine;
         for (const int avant : {3, 0}) { // by what the table held before
-            NbLignes = avant;
+            Lignes.NbLignes = avant;
             essai.ligne->ecrits.clear();
             const auto joue = essai.Joue();
             QCOMPARE(joue.avis.size(), 1);
@@ -534,7 +534,7 @@ void TestTransferts::TropGrand()
     QCOMPARE(essai.Joue().avis.size(), 0);
     QCOMPARE(essai.Disque(), programme + "\r\n");
     QVERIFY(frmPrinc->Text1->isHidden() && frmPrinc->Text1->Text().isEmpty());
-    QCOMPARE(NomFichier, essai.poste.Chemin("PIECE.ISO"));
+    QCOMPARE(Document.NomFichier, essai.poste.Chemin("PIECE.ISO"));
     essai.pilote.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
     Operateur::Menu("Mnu_Nouveau");
     QVERIFY(frmPrinc->Text1->isVisible());
@@ -545,13 +545,13 @@ void TestTransferts::AnnuleeALaFin()
 {
     EssaiTransfert essai(Genre::Fichier);
     connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [&essai] {
-        if (FinTransfert == 1 && AnnuleRECEPT != 1)
+        if (Transfert.FinTransfert && !Transfert.AnnuleRECEPT)
             Pilote::Annule(essai.genre, *QApplication::activeModalWidget());
     });
     const auto avis = essai.Joue().avis;
     QCOMPARE(avis, (QList<Pilote::Avis>{{u"Bouton Annuler cliqué"_s, u"AnnuleRECEPT% = 1"_s}}));
     QCOMPARE(essai.Disque(), QByteArray("ANCIEN"));
-    QCOMPARE(FinTransfert, 0);
+    QVERIFY(!Transfert.FinTransfert);
 }
 
 QTEST_MAIN(TestTransferts)

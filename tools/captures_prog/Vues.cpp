@@ -43,7 +43,7 @@ void ChargeConfiguration()
 
 QWidget *Principale(bool explorateur)
 {
-    DosDefaut = Exemple("Programmes");
+    Reglages.DosDefaut = Exemple("Programmes");
     if (frmPrinc->ExplorateurMontre())
         Mnu_AffichDOS();
     if (explorateur)
@@ -52,19 +52,19 @@ QWidget *Principale(bool explorateur)
     return frmPrinc;
 }
 
-QWidget *Transfert(ModeTransfert mode)
+QWidget *FenetreTransfert(ModeTransfert mode)
 {
-    TypeTransfert = mode;
-    NomFicRecep = QStringLiteral("PIECE2.ISO");
-    EtatConf().fiche = EtatConfiguration::Entiere;
+    Transfert.TypeTransfert = mode;
+    Transfert.NomFicRecep = QStringLiteral("PIECE2.ISO");
+    EtatConf.fiche = EtatConfiguration::Entiere;
     return new Em_Rc(frmPrinc);
 }
 
 /// A transfer on its way, with all that it can show.
 QWidget *TransfertEnCours(ModeTransfert mode)
 {
-    auto *const fenetre = static_cast<Em_Rc *>(Transfert(mode));
-    EtatConf().fiche = EtatConfiguration::Incomplete;
+    auto *const fenetre = static_cast<Em_Rc *>(FenetreTransfert(mode));
+    EtatConf.fiche = EtatConfiguration::Incomplete;
     for (QWidget *const passager :
          std::initializer_list<QWidget *>{fenetre->Progression, fenetre->Label3, fenetre->Label4, fenetre->Command7})
         passager->show();
@@ -74,7 +74,7 @@ QWidget *TransfertEnCours(ModeTransfert mode)
 
 QWidget *Reception(ModeTransfert mode)
 {
-    TypeTransfert = mode;
+    Transfert.TypeTransfert = mode;
     ParamCom.TypeRecep = RecepLignes; // the one with every option of the dialog
     auto *const fenetre = new Rc_Fic(frmPrinc);
     fenetre->Text1->setText(QStringLiteral("PIECE2"));
@@ -86,7 +86,7 @@ QWidget *Proprietes(int onglet)
     ChargeConfiguration();
     ParamCom.Commentaire = QStringLiteral("Machine simulée, 9600 bauds");
     auto *const fenetre = new Prop(frmPrinc);
-    fenetre->Nomme(NomConf);
+    fenetre->Nomme(EtatConf.NomConf);
     fenetre->Text1->setText(ParamCom.Commentaire);
     fenetre->SSTab1->setCurrentIndex(onglet);
     return fenetre;
@@ -104,8 +104,8 @@ QWidget *Cadran(int tourelle)
 {
     ParamMac = {};
     ParamMac.TypeTourelle = tourelle;
-    NbJauges = 3;
-    Jauge[1] = {7, 102.3604F, 51.0005F, 0, 0, u'D'};
+    Jauges.NbJauges = 3;
+    Jauges.Jauge(1) = {7, 102.3604F, 51.0005F, 0, 0, u'D'};
     return new JauTour(frmPrinc);
 }
 
@@ -128,13 +128,13 @@ constexpr Vue Toutes[] = {
     {"frmPrinc_seule", [] { return Principale(false); }},
     {"FrmLangue", []() -> QWidget * { return new FrmLangue(frmPrinc); }},
     {"Em_Rc_3_cours", [] { return TransfertEnCours(ReceptionProgramme); }},
-    {"Em_Rc_1", [] { return Transfert(EmissionProgramme); }},
-    {"Em_Rc_2", [] { return Transfert(EmissionJauges); }},
-    {"Em_Rc_3", [] { return Transfert(ReceptionProgramme); }},
-    {"Em_Rc_4", [] { return Transfert(ReceptionJauges); }},
+    {"Em_Rc_1", [] { return FenetreTransfert(EmissionProgramme); }},
+    {"Em_Rc_2", [] { return FenetreTransfert(EmissionJauges); }},
+    {"Em_Rc_3", [] { return FenetreTransfert(ReceptionProgramme); }},
+    {"Em_Rc_4", [] { return FenetreTransfert(ReceptionJauges); }},
     {"Rc_Fic_3", [] { return Reception(ReceptionProgramme); }},
     {"Rc_Fic_4", [] { return Reception(ReceptionJauges); }},
-    {"Em_Rc_5", [] { return Transfert(ReceptionBanc); }},
+    {"Em_Rc_5", [] { return FenetreTransfert(ReceptionBanc); }},
     {"Rc_Fic_5", [] { return Reception(ReceptionBanc); }},
     {"Prop_0", [] { return Proprietes(0); }},
     {"Prop_1", [] { return Proprietes(1); }},

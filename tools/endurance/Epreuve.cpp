@@ -106,7 +106,7 @@ Sort Epreuve::Joue(Genre genre, Sort voulu)
     QFile::remove(m_pilote.Chemin(genre));
 
     m_deroulement = m_pilote.Joue(genre, m_charge, [this](QDialog &transfert) { Pendant(transfert); });
-    Exige(!frmPrinc->MSComm1->PortOpen() && !PortOuvert && !TransfertEnCours(), "the port is still open");
+    Exige(!frmPrinc->MSComm1->PortOpen() && !frmPrinc->PortOuvert && !TransfertEnCours(), "the port is still open");
     Exige(m_agi || m_deroulement.avis.isEmpty(), "something was told");
     return EstEmission(genre) ? JugeEmission() : JugeReception();
 }
@@ -115,7 +115,7 @@ void Epreuve::Pendant(QDialog &transfert)
 {
     if (Hasard(30) == 0)
         QThread::msleep(m_alea.bounded(10U)); // the PC has other things to do
-    if (m_voulu != Sort::Entier && !m_agi && PortOuvert && Passes() >= m_apres)
+    if (m_voulu != Sort::Entier && !m_agi && frmPrinc->PortOuvert && Passes() >= m_apres)
         Agit(transfert);
     else if (!m_agi)
         m_pilote.Poursuit(transfert, [this](const QByteArray &piece) { Donne(piece); });

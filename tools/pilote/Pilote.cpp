@@ -90,7 +90,7 @@ void Pilote::Regle(Genre genre) const
     ParamCom.SeuilRecep = genre == Genre::Fichier ? 1 : 0;
     ParamCom.TypeFinLig = EstEmission(genre) ? 0 : 3;
     ParamCom.TailleRecep = int(Banc::TailleSalve);
-    ParamCom.DosRecep = DosJauge = m_poste.Dossier();
+    ParamCom.DosRecep = Reglages.DosJauge = m_poste.Dossier();
     BatirChaines();
 }
 
@@ -115,18 +115,18 @@ Pilote::Deroulement Pilote::Joue(Genre genre, const Charge &charge, const std::f
 }
 
 /// The program has dealt with the pieces given.
-bool Pilote::Pret() const
+bool Pilote::Pret(const QDialog &transfert) const
 {
-    if (!PortOuvert || m_donnees == 0)
-        return PortOuvert;
+    if (!frmPrinc->PortOuvert || m_donnees == 0)
+        return frmPrinc->PortOuvert;
     if (m_genre == Genre::Banc)
-        return LigneJauge > m_donnees;
-    return Pris ? Pris() : !Lignes[std::size_t(m_donnees)].isEmpty();
+        return Jauges.NbJauges == m_donnees && transfert.findChild<QWidget *>(QStringLiteral("Command5"))->isEnabled();
+    return Pris ? Pris() : !Lignes(static_cast<int>(m_donnees)).isEmpty();
 }
 
 void Pilote::Poursuit(const QDialog &transfert, const std::function<void(const QByteArray &)> &envoie)
 {
-    if (!Pret())
+    if (!Pret(transfert))
         return;
     const bool fini = m_donnees == m_charge.pieces.size();
     if (m_genre == Genre::Banc && m_donnees > 0)

@@ -72,7 +72,7 @@ private:
     void ChoisitFichier(QWidget &dialogue) const;
     void Nomme(const QWidget &dialogue);
     void Transfere(QDialog &dialogue);
-    bool Pret() const;
+    bool Pret(const QDialog &transfert) const;
 
     const Poste &m_poste;
     QElapsedTimer m_depuis;

@@ -45,19 +45,14 @@ Poste::~Poste()
 void Poste::RemetEnregistrements()
 {
     ParamCom = {};
-    EtatConf() = {};
+    EtatConf = {};
     ParamMac = {};
-    VideJauges();
-    for (QString *texte :
-         {&FicConf, &NomConf, &NomCompletMac, &NomMac, &NomFichier, &TitreFichier, &TexteAnnuler, &DosAppli, &DosDefaut,
-          &FicConfDefaut, &DosConf, &DosJauge, &EditeurCN, &NomFicRecep, &DossierRecep, &ChaineFinLigRecep})
-        texte->clear();
-    for (int *nombre :
-         {&LangIndex, &FichierModifie, &IndexFiltre, &OptDosDefaut, &OptConfDefaut, &OptExplorateur, &NbLignes,
-          &LigneMaxi, &TypeTransfert, &FinTransfert, &AnnuleRECEPT, &ForceRECEPT, &OptionFinLig})
-        *nombre = 0;
-    PortOuvert = false;
-    VideLignes();
+    Reglages = {};
+    Document = {};
+    Transfert = {};
+    Lignes = {};
+    Jauges = {};
+    LangIndex = 0;
     QGuiApplication::clipboard()->clear();
     AppliqueLangueSysteme();
 }

@@ -56,7 +56,7 @@ private Q_SLOTS:
         poste.Charge("");
         poste.Ecrit("DORVANEL.HLP", "<p>G0</p>");
         QDir(poste.Dossier()).mkdir(u"Conf"_s);
-        QFile::copy(FicConf, poste.Chemin("Conf/Machine_simulee.par"));
+        QFile::copy(EtatConf.FicConf, poste.Chemin("Conf/Machine_simulee.par"));
         const auto cas =
             u"FrmLangue/Command1 Em_Rc_1/Command2 Em_Rc_3_cours Em_Rc_5/Command5 Rc_Fic_3/Command2 "
             u"Prop_0/cmdOK Prop_1 FrmCaract/Command1 DosProg/Command1 FrmConfDem/Command4 ConfMac/Command2 "

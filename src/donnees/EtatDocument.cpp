@@ -1,0 +1,3 @@
+#include "donnees/EtatDocument.h"
+
+EtatDocument Document;

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+/// The one CN program that the main window holds: where it came from, and whether it has changed. Its text stands in
+/// the pane and nowhere else.
+struct EtatDocument
+{
+    QString NomFichier;          ///< full path of the file; a bare name after Mnu_Nouveau; "" before the first file
+    QString TitreFichier;        ///< its name without the folder
+    bool FichierModifie = false; ///< the text has changed since it was loaded or saved
+    QString TexteAnnuler;        ///< the whole text before the last edit command: the one level of undo
+    int IndexFiltre = 0;         ///< filter last used in the open dialog, from 1; 0 before the first opening
+};
+
+extern EtatDocument Document; ///< the program in the main window
