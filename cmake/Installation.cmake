@@ -7,6 +7,18 @@ set(FABRIQUE ${PROJECT_BINARY_DIR}/paquet)
 set(DOSSIER_PROGRAMME lib/dorvanel)
 set(TAILLES_ICONE 16 22 24 32 48 64 128 256)
 
+# A release is a version of the project with its heading, and so its day, in CHANGELOG.md.
+file(STRINGS ${PROJECT_SOURCE_DIR}/CHANGELOG.md TITRE REGEX "^## \\[${PROJECT_VERSION}\\] - ")
+if(NOT TITRE MATCHES "([0-9]+-[0-9]+-[0-9]+)$")
+    message(FATAL_ERROR "CHANGELOG.md has no heading \"## [${PROJECT_VERSION}] - YYYY-MM-DD\"")
+endif()
+set(DATE ${CMAKE_MATCH_1})
+execute_process(COMMAND date --utc --rfc-email --date=${DATE} OUTPUT_VARIABLE DATE_COURRIER
+                OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+foreach(DOCUMENT changelog dorvanel.1 example.dorvanel.Dorvanel.metainfo.xml)
+    configure_file(${PAQUET}/${DOCUMENT}.in ${FABRIQUE}/${DOCUMENT} @ONLY)
+endforeach()
+
 install(TARGETS dorvanel machine RUNTIME DESTINATION ${DOSSIER_PROGRAMME})
 install(DIRECTORY resources/aide/ resources/exemples/ DESTINATION ${DOSSIER_PROGRAMME})
 install(FILES tools/machine/outils_tour.txt DESTINATION ${DOSSIER_PROGRAMME})
@@ -33,17 +45,17 @@ install(FILES ${ICONE} RENAME dorvanel.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/
 install(FILES ${PAQUET}/dorvanel.desktop ${PAQUET}/zz-dorvanel-autres.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${PAQUET}/dorvanel.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
-install(FILES ${PAQUET}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${FABRIQUE}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
 # Documents
 set(DOCS ${CMAKE_INSTALL_DATADIR}/doc/dorvanel)
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md ${PAQUET}/copyright DESTINATION ${DOCS})
-install(FILES docs/fenetre.png docs/branchement.md DESTINATION ${DOCS}/docs)
+install(FILES docs/fenetre.png docs/branchement.md docs/architecture.md DESTINATION ${DOCS}/docs)
 install(FILES docs/70-dorvanel.rules DESTINATION ${DOCS}/examples)
 foreach(DOCUMENT changelog dorvanel.1)
     list(APPEND COMPRIMES ${FABRIQUE}/${DOCUMENT}.gz)
-    add_custom_command(OUTPUT ${FABRIQUE}/${DOCUMENT}.gz DEPENDS ${PAQUET}/${DOCUMENT}
-                       COMMAND gzip -9nc ${PAQUET}/${DOCUMENT} > ${FABRIQUE}/${DOCUMENT}.gz)
+    add_custom_command(OUTPUT ${FABRIQUE}/${DOCUMENT}.gz DEPENDS ${FABRIQUE}/${DOCUMENT}
+                       COMMAND gzip -9nc ${FABRIQUE}/${DOCUMENT} > ${FABRIQUE}/${DOCUMENT}.gz)
 endforeach()
 install(FILES ${FABRIQUE}/changelog.gz DESTINATION ${DOCS})
 install(FILES ${FABRIQUE}/dorvanel.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

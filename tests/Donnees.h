@@ -10,7 +10,8 @@ inline QString Donnees(const QString &nom)
 }
 
 /// The rows of a table of tests/donnees, cut at the tabulators. A line that begins with "#" says what the columns are.
-/// In a cell "\r", "\n", "\t", "\a" and "\0" stand for the characters.
+/// In a cell "\r", "\n", "\t", "\a" and "\0" stand for the characters, and
+/// "@VERSION@" for the version of the program.
 inline QList<QStringList> Table(const QString &nom)
 {
     QFile fichier(Donnees(nom));
@@ -25,6 +26,7 @@ inline QList<QStringList> Table(const QString &nom)
         for (const auto &[ecrit, signe] :
              {std::pair("\\r", '\r'), {"\\n", '\n'}, {"\\t", '\t'}, {"\\a", '\a'}, {"\\0", '\0'}})
             cases.replaceInStrings(QLatin1String(ecrit), QString(QChar::fromLatin1(signe)));
+        cases.replaceInStrings(QStringLiteral("@VERSION@"), QStringLiteral(DORVANEL_VERSION));
         rangees << cases;
     }
     return rangees;

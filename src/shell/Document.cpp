@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr char16_t Version[] = u"Dorvanel Pro version 2.7.0 : ";
+constexpr char16_t Version[] = u"Dorvanel Pro version " DORVANEL_VERSION u" : ";
 
 constexpr Texte3 TitreOuvrir{u"Ouvrir", u"Open", u"Abrir"};
 constexpr Texte3 TitreEnregistrer{u"Enregistrer Sous", u"Save As...", u"Registrar Bajo..."};

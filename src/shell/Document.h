@@ -15,7 +15,7 @@ void BrancheDocument();
 /// True when the pane holds a text that has changed and was not saved.
 bool TexteModifie();
 
-/// Puts "Dorvanel Pro version 2.7.0 : " and nom in the title of the main window.
+/// Puts the program's name, its version and nom in the title of the main window.
 void TitreFenetre(const QString &nom);
 
 /// What the operator is told of a file that could not be written, with the cause.

@@ -68,6 +68,7 @@ FrmPrinc::FrmPrinc()
 {
     PrendIcones();
     setupUi(this);
+    setWindowTitle(QStringLiteral("Dorvanel Pro version " DORVANEL_VERSION));
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is not for hiding
     NommeControles();
     PoseIcones();

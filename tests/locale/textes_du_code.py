@@ -32,7 +32,8 @@ def se_lit(texte):
 
 def textes(fichier, dossier):
     """The texts of a source file, as lines of the list."""
-    code = RESTE.sub(lambda trouve: trouve.group(1) or " ", fichier.read_text(encoding="utf-8"))
+    code = fichier.read_text(encoding="utf-8").replace(" DORVANEL_VERSION", ' u"@VERSION@"')
+    code = RESTE.sub(lambda trouve: trouve.group(1) or " ", code)
     constantes = dict(CONSTANTE.findall(code))
     if constantes:  # a text that several places share is read where they name it
         code = CONSTANTE.sub(lambda trouve: "" if code.count(trouve.group(1)) > 1 else trouve.group(0), code)

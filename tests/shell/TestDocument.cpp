@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString Iso = QStringLiteral("P.iso");
-const QString Version = QStringLiteral("Dorvanel Pro version 2.7.0 : ");
+const QString Version = QStringLiteral("Dorvanel Pro version " DORVANEL_VERSION " : ");
 
 /// An operator who opens and saves programs.
 struct Atelier : Etabli
