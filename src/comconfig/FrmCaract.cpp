@@ -133,7 +133,7 @@ int &FrmCaract::Nombre() const
 
 int &FrmCaract::Code(int position) const
 {
-    return (ParamCom.*Chaines[m_type].codes)[static_cast<std::size_t>(position)];
+    return CodeDe(Chaines[m_type], position);
 }
 
 void FrmCaract::Ajoute(int code, const QString &legende)

@@ -62,7 +62,7 @@ void LisCodes(LecteurChamps &champs, const ChampsChaine &chaine)
         const int code = champs.LigneEntier();
         if (code < 0 || code > CodeMax)
             throw Erreur(Erreur::Depassement, QString::number(code));
-        (ParamCom.*chaine.codes)[static_cast<std::size_t>(i)] = code;
+        CodeDe(chaine, i) = code;
     }
 }
 
@@ -77,6 +77,11 @@ QString LigneChaine(const QString &texte)
 }
 
 } // namespace
+
+int &CodeDe(const ChampsChaine &chaine, int place)
+{
+    return (ParamCom.*chaine.codes).at(static_cast<std::size_t>(place));
+}
 
 void LireFichierPar(const QString &chemin)
 {
@@ -105,7 +110,7 @@ void EcrireFichierPar(const QString &chemin)
         texte += champ.texte != nullptr ? LigneChaine(ParamCom.*champ.texte) : LigneNombre(ParamCom.*champ.nombre);
     for (const ChampsChaine &chaine : Chaines) {
         for (int i = 1; i <= ParamCom.*chaine.nombre; ++i)
-            texte += LigneNombre((ParamCom.*chaine.codes)[static_cast<std::size_t>(i)]);
+            texte += LigneNombre(CodeDe(chaine, i));
     }
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
@@ -167,6 +172,6 @@ QString CaracteresDe(TypeChaine type)
     const ChampsChaine &chaine = Chaines[type];
     QByteArray octets;
     for (int i = 1; i <= ParamCom.*chaine.nombre; ++i)
-        octets += static_cast<char>((ParamCom.*chaine.codes)[static_cast<std::size_t>(i)]);
+        octets += static_cast<char>(CodeDe(chaine, i));
     return TexteDe1252(octets);
 }

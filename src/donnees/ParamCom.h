@@ -79,6 +79,9 @@ inline constexpr ChampsChaine Chaines[] = {
     {&ConfigurationCom::NbCarFinLig, &ConfigurationCom::CarFinLig, &ConfigurationCom::LibFinLig},
     {&ConfigurationCom::NbCarFinTrans, &ConfigurationCom::CarFinTrans, &ConfigurationCom::LibFinTrans}};
 
+/// The code of a chain at place, 1 to CapaciteChaine, in ParamCom.
+int &CodeDe(const ChampsChaine &chaine, int place);
+
 extern ConfigurationCom ParamCom; ///< the one configuration in force
 
 /// Where ParamCom comes from, and whether it holds one configuration or pieces of several: a reading that breaks off

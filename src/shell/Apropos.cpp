@@ -12,10 +12,11 @@
 
 namespace {
 
-constexpr Texte3 Programme{u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rLogiciel de Chargement/Déchargement\r"
-                           u"de fichiers Commande Numérique",
-                           u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rSoftware of Load / dumping\rof files Digital control",
-                           u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rSoftware de Carga / descarga\rde ficheros Mando numérico"};
+constexpr Texte3 Programme{
+    u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rLogiciel de Chargement/Déchargement\r"
+    u"de fichiers Commande Numérique",
+    u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rSoftware of Load / dumping\rof files Digital control",
+    u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rSoftware de Carga / descarga\rde ficheros Mando numérico"};
 
 constexpr int CoteImage = 96; // pixels
 
