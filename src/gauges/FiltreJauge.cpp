@@ -9,7 +9,6 @@
 #include "gauges/JauTour.h"
 #include "gauges/SalveBanc.h"
 #include "locale/Langue.h"
-#include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/dialogues/FenetreAppelante.h"
@@ -55,15 +54,6 @@ void ResserreLignes()
     CalculeMaxi();
 }
 
-/// The numeric value of a field, in the single precision of a gauge. Raises Depassement.
-float ValeurSimple(const QString &champ)
-{
-    const double valeur = Val(champ);
-    if (std::fabs(valeur) > static_cast<double>(std::numeric_limits<float>::max()))
-        throw Erreur(Erreur::Depassement, champ.trimmed());
-    return static_cast<float>(valeur);
-}
-
 /// True when a whole number can be a corrector's: up to NbCorrecteurs, and not below 16 bits.
 bool EstPermis(double numero)
 {
@@ -89,28 +79,29 @@ JaugeOutil LisMesure(const QString &salve, int place)
     JaugeOutil jauge;
     const double numero = std::nearbyint(Val(Champ(salve, ColonnesCorrecteur)));
     jauge.NumCorr = EnEntier(EstPermis(numero) ? numero : DemandeCorrecteur(numero, place));
-    jauge.JaugeZ = ValeurSimple(Champ(salve, ColonnesZ));
-    jauge.JaugeX = ValeurSimple(Champ(salve, ColonnesX));
+    jauge.JaugeZ = static_cast<float>(Val(Champ(salve, ColonnesZ)));
+    jauge.JaugeX = static_cast<float>(Val(Champ(salve, ColonnesX)));
     jauge.ModeMesure = Champ(salve, ColonneMode).leftJustified(1).front();
     return jauge;
 }
 
 /// Reads the measures, one behind the other, from the bursts that hold one, and tells the operator what the others
 /// held. NbJauges is then the number of measures read: nothing stands in a gauge file that the bench has not measured.
-void LisMesures(qsizetype enAttente)
+/// recues: the bursts as they came.
+void LisMesures(const TableLignes &recues, qsizetype enAttente)
 {
     AvisMesures avis;
     int lues = 0;
     for (int place = 1; place <= std::max(Lignes.LigneMaxi, Jauges.NbJauges) && lues < Jauges.NbJauges; ++place) {
         const QString &salve = Lignes(place);
-        if (!salve.startsWith(QStringView(MarqueMesure))) {
+        if (!EstMesure(salve)) {
             avis.NonLue(place, salve);
             continue;
         }
         JaugeOutil &jauge = Jauges.Jauge(++lues);
         jauge = LisMesure(salve, place);
         jauge.NonLuesAvant = place - lues;
-        avis.Lue(place, salve, jauge);
+        avis.Lue(place, recues(place), jauge);
     }
     if (enAttente >= QStringView(MarqueMesure).size()) // less is no measure but the bell
         avis.NonDemandee(Jauges.NbJauges + 1, enAttente);
@@ -123,8 +114,9 @@ void LisMesures(qsizetype enAttente)
 void FiltreJauge(qsizetype enAttente)
 {
     std::optional<Sablier> sablier(std::in_place);
+    const TableLignes recues = Lignes;
     Filtrage();
-    LisMesures(enAttente); // while a burst still stands at its place of the session
+    LisMesures(recues, enAttente); // while a burst still stands at its place of the session
     ResserreLignes();
     if (Lignes.LigneMaxi == 0) {
         CreeFichierRecu(); // nothing but blanks has come

@@ -20,6 +20,12 @@ constexpr Colonnes ColonneMode{62, 1};
 /// What a burst with a measure begins with.
 inline constexpr char16_t MarqueMesure[] = u"TN:";
 
+/// True for a number that a gauge, or its value in the units of a gauge file, cannot hold in single precision.
+bool EstTropGrand(const QString &champ);
+
+/// True for a burst with a measure that a gauge can hold.
+bool EstMesure(const QString &salve);
+
 /// The text that stands in the columns of a burst; a burst that is too short gives what it has of them.
 inline QString Champ(const QString &salve, Colonnes colonnes)
 {

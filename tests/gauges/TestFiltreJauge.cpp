@@ -7,7 +7,6 @@
 #include "donnees/ParamMac.h"
 #include "donnees/Transfert.h"
 #include "gauges/FiltreJauge.h"
-#include "platform/base/Erreur.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -74,7 +73,8 @@ private Q_SLOTS:
     {
         Atelier atelier;
         ParamMac.JaugeMaxiZ = -1; // its box stops the work while the cleaned text stands in the file
-        const QString doutes = u"Z \"\" pris pour 0, X \"\" pris pour 0, lettre \"\" : X pris pour 0 au rayon"_s;
+        const QString doutes =
+            u"Z \"\" pris pour 0, X \"\" pris pour 0,\r          lettre \"\" : X pris pour 0 au rayon"_s;
         atelier.Apprend("Mesures du banc",
                         u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :\r    N° 1 : EPB\r"
                         "    N° 2 : (rien)\r    N° 3 : (rien)\r    N° 5 : (rien)\r    N° 6 : TOTAL\r\r"
@@ -99,10 +99,10 @@ private Q_SLOTS:
             u"\r\rAucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r"_s;
         const QString entete = u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :"_s;
         QString rangs;
-        for (int place = 1; place <= 12; ++place)
+        for (int place = 1; place <= 20; ++place)
             rangs += u"\r    N° %1 : tn: 12"_s.arg(place);
         for (const auto &[rafale, nombre, dits, reste] :
-             {std::tuple{u"tn: 12\r"_s, 14, rangs + u"\r    ... + 2"_s, "BRUT\r\n"},
+             {std::tuple{u"tn: 12\r"_s, 22, rangs + u"\r    ... + 2"_s, "BRUT\r\n"},
               {u"\a "_s, 1, u"\r    N° 1 : (rien)"_s, ""}}) {
             Atelier atelier;
             ParamMac.TypeMachine = 0; // and no dial
@@ -151,11 +151,20 @@ private Q_SLOTS:
     }
 
     // On a lathe the dial comes between, without the hourglass; closing it asks, and lets the file be made all the
-    // same. A value beyond single precision ends the work before the dial.
+    // same. A value that no gauge can hold, or no machine's form of it, is told, and the other measures go on.
     void Tour()
     {
         Atelier atelier;
         ParamMac.TypeMachine = 0;
+        QStringList rafales;
+        QString rangs;
+        for (const QString &z : {u"1E99"_s, u"1E999"_s, u"-2E35"_s}) {
+            rafales << Mesure(u"1"_s, z, u"1"_s, u"R"_s);
+            rangs += u"\r    N° %1 : TN:1 %2 1 R, Z \"%2\" est trop grand"_s.arg(rafales.size()).arg(z);
+        }
+        rafales << Mesure(u"2"_s, u"98.12"_s, u"26"_s, u"R"_s);
+        atelier.Apprend("Mesures du banc",
+                        u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :"_s + rangs);
         for (const auto reponse : {QMessageBox::No, QMessageBox::Yes}) {
             atelier.Ferme("JauTour", [] { return QApplication::overrideCursor() == nullptr; });
             atelier.Repond("Fermer le cadran",
@@ -163,8 +172,7 @@ private Q_SLOTS:
                            "Fermer quand même ?",
                            Boite::Exclamation | Boite::OuiNon | Boite::SecondBouton, reponse);
         }
-        QCOMPARE(atelier.Filtre({Mesure(u"2"_s, u"98.12"_s, u"26"_s, u"R"_s)}, 1), "%\r\nD2 X26 Z98.12 R0 C0\r\n");
-        QVERIFY_EXCEPTION_THROWN(atelier.Filtre({Mesure(u"1"_s, u"1E39"_s, u"1"_s, u"R"_s)}, 1), Erreur);
+        QCOMPARE(atelier.Filtre(rafales, 4), "%\r\nD2 X26 Z98.12 R0 C0\r\n");
         QVERIFY(QApplication::overrideCursor() == nullptr);
     }
 };
