@@ -1,7 +1,9 @@
 #include "donnees/Sauvegardes.h"
 
 #include "donnees/Chemins.h"
+#include "donnees/EtatDocument.h"
 #include "platform/base/Erreur.h"
+#include "platform/fichiers/Dossiers.h"
 #include "platform/fichiers/FichierTexte.h"
 
 #include <QDateTime>
@@ -46,7 +48,7 @@ const QRegularExpression &FormeDate()
 QString NomCourt(const QString &chemin)
 {
     QString nom = NomSeul(chemin);
-    if (chemin == AjouteAntislash(DossierSauvegardes()) + nom)
+    if (EstGarde(chemin))
         nom.replace(FormeDate(), QStringLiteral("\\1"));
     auto [racine, fin] = Coupe(nom);
     while (QFile::encodeName(racine + fin).size() > LongueurNom)
@@ -59,7 +61,7 @@ QString Reserve(const QString &nom, const QDateTime &date)
 {
     const auto &[racine, fin] = Coupe(nom);
     const QString dossier = DossierSauvegardes();
-    QDir().mkpath(dossier);
+    AssureDossier(dossier);
     for (int rang = 1;; ++rang) {
         const QString suite = rang == 1 ? QString() : QStringLiteral(" (%1)").arg(rang);
         QFile fichier(AjouteAntislash(dossier) + racine + date.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + suite +
@@ -73,8 +75,8 @@ QString Reserve(const QString &nom, const QDateTime &date)
     }
 }
 
-/// The oldest go. What was kept last stays, whatever the clock of this PC said when the others were written; so do
-/// files that the operator has laid here.
+/// The oldest go. What was kept last stays, whatever the clock of this PC said when the others were written; so do the
+/// file that is open and files that the operator has laid here.
 void Limite(const QString &derniere)
 {
     int nombre = 1;
@@ -85,7 +87,8 @@ void Limite(const QString &derniere)
         if (fichier.fileName() == NomSeul(derniere) || !FormeDate().match(fichier.fileName()).hasMatch())
             continue;
         taille += fichier.size();
-        if (++nombre > NombreMax || taille > TailleMax)
+        const bool deTrop = ++nombre > NombreMax || taille > TailleMax;
+        if (deTrop && fichier != QFileInfo(Document.NomFichier))
             QFile::remove(fichier.filePath());
     }
 }
@@ -115,6 +118,16 @@ QString Garde(const QString &nom, qint64 taille, Ecriture ecrit)
 QString DossierSauvegardes()
 {
     return AjouteAntislash(DossierApplication()) + QStringLiteral("Sauvegardes");
+}
+
+bool EstGarde(const QString &chemin)
+{
+    return QDir(QFileInfo(chemin).path()) == QDir(DossierSauvegardes());
+}
+
+QString NomDOrigine(const QString &chemin)
+{
+    return NomCourt(chemin);
 }
 
 QString NomPourTexte(const QString &nom)

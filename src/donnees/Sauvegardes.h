@@ -12,6 +12,12 @@ class Erreur;
 
 QString DossierSauvegardes();
 
+/// True for a path in this folder. What lies here goes one day: it is no place to save a program in.
+bool EstGarde(const QString &chemin);
+
+/// The name alone of what lies at chemin; without the date when that is this folder.
+QString NomDOrigine(const QString &chemin);
+
 /// The name under which a text of the program nom is kept, before its date. A text of the pane is plain: under the
 /// ending of a rich one the pane would refuse it, so that another ending follows. nom: path or name, or "".
 QString NomPourTexte(const QString &nom);

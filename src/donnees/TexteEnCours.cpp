@@ -3,6 +3,7 @@
 #include "donnees/Chemins.h"
 #include "donnees/Sauvegardes.h"
 #include "platform/base/Erreur.h"
+#include "platform/fichiers/Dossiers.h"
 #include "platform/fichiers/FichierTenu.h"
 #include "platform/fichiers/FichierTexte.h"
 
@@ -72,8 +73,8 @@ void Ecrit(const QString &debut, const QString &nom, const QString &texte)
 {
     const QString partiel = debut + QStringLiteral(".partiel");
     try {
-        QDir().mkpath(QFileInfo(partiel).path());
-        auto tenu = std::make_unique<FichierTenu>(partiel);
+        AssureDossier(QFileInfo(partiel).path());
+        auto tenu = std::make_unique<FichierTenu>(partiel, FichierTenu::Absent::EstCree);
         EcritFichierTexte(partiel, texte);
         Pose(partiel, debut + u'_' + nom, std::move(tenu));
     } catch (const Erreur &erreur) {
@@ -133,7 +134,7 @@ QStringList TextesDAutrui()
     const QFileInfoList fichiers =
         QDir(DossierSauvegardes())
             .entryInfoList({Prefixe + QString(LongueurNumero, u'?') + QStringLiteral("[._]*")}, QDir::Files,
-                           QDir::Time | QDir::Reversed);
+                           QDir::Time);
     for (const QFileInfo &fichier : fichiers) {
         const bool entier = fichier.fileName().at(Prefixe.size() + LongueurNumero) == u'_';
         if (entier)

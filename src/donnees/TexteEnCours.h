@@ -23,7 +23,7 @@ void LaisseEnCours();
 /// Same as RetireEnCours(), at the end of the program: waits until nothing writes any more.
 void FinitEnCours();
 
-/// The files that other runs have left, or hold, the oldest first. What one of them did not write to its end is
+/// The files that other runs have left, or hold, the newest first. What one of them did not write to its end is
 /// removed.
 QStringList TextesDAutrui();
 

@@ -105,6 +105,32 @@ void ActiveNomme()
         action->setEnabled(true);
 }
 
+/// Asks for the name and saves. False when the operator cancels, or when it failed, of which he was told.
+bool EnregistreSous()
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    dialogue.FileName = EstGarde(Document.NomFichier) ? NomDOrigine(Document.NomFichier) : Document.NomFichier;
+    dialogue.InitDir =
+        Reglages.DosDefaut; // for a name without a folder; the last choice may have been a configuration's
+    dialogue.CancelError = true;
+    dialogue.DialogTitle = Texte(TitreEnregistrer);
+    dialogue.Filter = Texte(FiltreEnregistrer);
+    dialogue.FilterIndex = Document.IndexFiltre;
+    dialogue.Flags = CommonDialog::EcrasementDemande;
+    try {
+        dialogue.ShowSave();
+    } catch (const Erreur &) {
+        return false; // cancelled
+    }
+    // The text bears this name even when it cannot be written, of which SaveFile has told: what the program asks or
+    // offers next must not lead to the former file, which the operator wanted to keep.
+    Document.NomFichier = dialogue.FileName;
+    Document.TitreFichier = dialogue.FileTitle;
+    ActiveNomme();
+    Saute([] { SaveFile(Document.NomFichier); });
+    return !Document.FichierModifie;
+}
+
 void Text1_Change()
 {
     Document.FichierModifie = true;
@@ -201,32 +227,15 @@ void OpenFile(const QString &path)
 
 void Mnu_EnregistrerSous()
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    dialogue.FileName = Document.NomFichier;
-    dialogue.InitDir =
-        Reglages.DosDefaut; // for a name without a folder; the last choice may have been a configuration's
-    dialogue.CancelError = true;
-    dialogue.DialogTitle = Texte(TitreEnregistrer);
-    dialogue.Filter = Texte(FiltreEnregistrer);
-    dialogue.FilterIndex = Document.IndexFiltre;
-    dialogue.Flags = CommonDialog::EcrasementDemande;
-    try {
-        dialogue.ShowSave();
-    } catch (const Erreur &) {
-        return; // cancelled
-    }
-    // The text bears this name even when it cannot be written, of which SaveFile has told: what the program asks or
-    // offers next must not lead to the former file, which the operator wanted to keep.
-    Document.NomFichier = dialogue.FileName;
-    Document.TitreFichier = dialogue.FileTitle;
-    Saute([] { SaveFile(Document.NomFichier); });
-    ActiveNomme();
+    EnregistreSous();
 }
 
 bool EnregistreSurPlace()
 {
     if (Document.NomFichier.isEmpty())
         return false;
+    if (EstGarde(Document.NomFichier))
+        return EnregistreSous();
     try {
         GardeCopie(Document.NomFichier);
         SaveFile(Document.NomFichier);

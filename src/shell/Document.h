@@ -27,8 +27,8 @@ QString TexteNonEnregistre(const Erreur &erreur);
 void SaveFile(const QString &path);
 
 /// Saves the text under the document's own name, after a question that is no dialog of names: the file that stands
-/// there is kept in "Sauvegardes" first. False when the document has no name, or when it failed, of which the operator
-/// was told.
+/// there is kept in "Sauvegardes" first. A text that came from that folder has no name of its own: the operator is
+/// asked for one. False when the document has no name or none is given, or when it failed, of which he was told.
 bool EnregistreSurPlace();
 
 /// Loads path into the pane, as rich text when it ends in "RTF", makes it the document and enables what works on a

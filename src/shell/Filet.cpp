@@ -50,6 +50,10 @@ constexpr Texte3 RetrouveTexte{
     u"The program stopped before this text was saved:\r%1, %2\rOpen it? If not, it stays in the folder:\r%3",
     u"El programa se detuvo antes de que este texto se guardara:\r%1, %2\r¿Abrirlo? Si no, queda en la carpeta:\r%3"};
 
+constexpr Texte3 AutresTextes{u"Autres textes non enregistrés, gardés dans ce dossier : %1\r%2",
+                              u"Other unsaved texts, kept in this folder: %1\r%2",
+                              u"Otros textos no guardados, conservados en esta carpeta: %1\r%2"};
+
 class Filet : public QObject
 {
 public:
@@ -207,13 +211,15 @@ bool VeutOuvrir(const QString &chemin)
                     Texte(RetrouveTitre));
 }
 
-void OuvreRetrouve(const QString &chemin)
+/// False when it cannot be read, of which the operator was told.
+bool OuvreRetrouve(const QString &chemin)
 {
     OuvreDocument(chemin);
     if (Document.NomFichier != chemin)
-        return; // it cannot be read, of which the operator was told
+        return false;
     Document.FichierModifie = true;
     filet->setGarde(chemin);
+    return true;
 }
 
 } // namespace
@@ -235,13 +241,19 @@ void RetientTexteFinal(bool nonEnregistre)
 
 void ProposeTextesRetrouves()
 {
+    bool ouvert = false;
+    int autres = 0; // there is one pane
     for (const QString &chemin : TextesDAutrui()) {
         const FichierTenu tenu(chemin); // by another copy it is held; from here on none takes it up beside this one
         if (!tenu.Tenu())
             continue;
-        const bool ouvre = VeutOuvrir(chemin);
+        autres += ouvert ? 1 : 0;
+        const bool ouvre = !ouvert && VeutOuvrir(chemin);
         const QString place = ClasseTexte(chemin);
         if (ouvre)
-            OuvreRetrouve(place);
+            ouvert = OuvreRetrouve(place);
     }
+    if (autres > 0)
+        MsgBox(Texte(AutresTextes).arg(QString::number(autres), DossierSauvegardes()), Boite::Information,
+               Texte(RetrouveTitre));
 }

@@ -18,6 +18,7 @@ QString RetientTexte();
 /// it stands, or that it stands nowhere.
 void RetientTexteFinal(bool nonEnregistre);
 
-/// The start: for each text that a dead run of the program has left, asks whether to open it. It becomes a changed
-/// document that stands in "Sauvegardes", never in the place of the file that it once came from.
+/// The start: asks of the texts that dead runs of the program have left, the newest first, whether to open them, until
+/// one is opened; of the others it tells how many there are and where. The one becomes a changed document that stands
+/// in "Sauvegardes", never in the place of the file that it once came from.
 void ProposeTextesRetrouves();

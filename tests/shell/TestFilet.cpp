@@ -196,6 +196,9 @@ private Q_SLOTS:
             const int restent = std::min(gros, 99);
             QVERIFY(noms.size() == restent + 2 && noms.at(0).startsWith(u"P_") && noms.last() == u"V1119 a moi.iso");
             QVERIFY(noms.at(restent).startsWith(u"V%1_"_s.arg(999 + restent)));
+            Document.NomFichier = atelier.Chemin(u"Sauvegardes/"_s + noms.at(restent)); // open, and the oldest
+            GardeTexte(u"Z.iso"_s, gros == 70 ? QString(999'999, u'N') : u"N"_s);
+            QVERIFY(QFile::exists(Document.NomFichier));
         }
     }
 
@@ -260,6 +263,40 @@ private Q_SLOTS:
                 atelier.Repond(Non);
             frmPrinc->close(); // it stands in the folder already
             QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+        }
+    }
+
+    // Several dead texts: one is opened, of the others he is told. It has no name of its own: saving it asks for one,
+    // and does not put it back among what goes one day.
+    void Retrouves()
+    {
+        for (const bool nomme : {false, true}) {
+            Atelier atelier;
+            QDir(atelier.Dossier()).mkdir(u"Sauvegardes"_s);
+            for (int i = 1; i < 4; ++i) {
+                QFile fichier(
+                    atelier.Ecrit(u"Sauvegardes/En cours_0000000%1_R%1.iso"_s.arg(i), "G%" + QByteArray::number(i)));
+                QVERIFY(fichier.open(QIODevice::ReadWrite));
+                fichier.setFileTime(QDateTime::currentDateTime().addDays(i), QFile::FileModificationTime);
+            }
+            atelier.Redemarre();
+            atelier.Repond(Non, u"R3.iso, 20"_s);
+            atelier.Repond(Oui, u"R2.iso, 20"_s);
+            atelier.Repond(QMessageBox::Ok, u": 1\n"_s + atelier.Chemin("Sauvegardes"));
+            ProposeTextesRetrouves();
+            const QByteArrayList gardes{"R1@.iso=G%1", "R2@.iso=G%2", "R3@.iso=G%3"};
+            QCOMPARE(atelier.Gardes(), gardes);
+            QCOMPARE(frmPrinc->Text1->Text(), u"G%2"_s);
+            atelier.Repond(Oui);
+            if (nomme) {
+                atelier.Choisit(atelier.Chemin("Q.iso"));
+            } else {
+                atelier.Ferme("CommonDialog");
+                atelier.Repond(QMessageBox::Ok, u"Sauvegardes/R2_"_s);
+            }
+            frmPrinc->close();
+            QCOMPARE(atelier.Gardes(), gardes);
+            QCOMPARE(atelier.Lit("Q.iso"), nomme ? "G%2\r\n" : "");
         }
     }
 

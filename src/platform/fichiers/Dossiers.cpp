@@ -113,6 +113,13 @@ void CreeDossier(const QString &chemin)
     Exige(EnChemin(chemin), cause);
 }
 
+void AssureDossier(const QString &chemin)
+{
+    std::error_code cause;
+    fs::create_directories(EnChemin(chemin), cause);
+    Exige(EnChemin(chemin), cause);
+}
+
 void RenommeDossier(const QString &ancien, const QString &nouveau)
 {
     const fs::path de = EnChemin(ancien);

@@ -29,6 +29,9 @@ std::optional<QString> ResteDerriere(const QString &dossier, const QString &chem
 /// Creates one folder; the folder that is to hold it exists. A name in use is a failure.
 void CreeDossier(const QString &chemin);
 
+/// Makes the folder chemin, and those above it, where they are missing. Raises the system's cause.
+void AssureDossier(const QString &chemin);
+
 /// Gives the folder (or link) ancien the path nouveau, which may lie elsewhere on the same volume. What already stands
 /// under that path is never overwritten: that is a failure.
 void RenommeDossier(const QString &ancien, const QString &nouveau);

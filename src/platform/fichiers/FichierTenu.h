@@ -7,9 +7,12 @@
 class FichierTenu
 {
 public:
-    /// Holds the file at chemin, which is made, empty, where there is none. One that is held elsewhere, or cannot be
-    /// opened, is not held; neither is any file where the file system has no such thing.
-    explicit FichierTenu(const QString &chemin);
+    enum class Absent { Reste, EstCree };
+
+    /// Holds the file at chemin; absent: whether one that is missing is made, empty. One that is held elsewhere, or
+    /// cannot be opened, is not held, nor is one that was taken away from chemin meanwhile; neither is any file where
+    /// the file system has no such thing.
+    explicit FichierTenu(const QString &chemin, Absent absent = Absent::Reste);
 
     bool Tenu() const { return m_tenu; }
 
