@@ -10,6 +10,7 @@ QString ChoixDossier(QWidget *fenetre, const QString &depart)
     QFileDialog dialogue(fenetre, QStringLiteral("Choix du dossier"), depart);
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
     DansLaLangue(dialogue);
+    NeFaitQueChoisir(dialogue, true);
     dialogue.setOption(QFileDialog::ShowDirsOnly);
     dialogue.setFileMode(QFileDialog::Directory);
     if (dialogue.exec() != QDialog::Accepted)

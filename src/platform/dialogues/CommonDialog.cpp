@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -50,6 +51,28 @@ void ProposeFichier(QPrintDialog &dialogue, const QString &document)
         return;
     const QString nom = QFileInfo(document).completeBaseName() + QLatin1String(".pdf");
     fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
+}
+
+/// The file dialog behind the printing dialog's button is to be ours too.
+void DemandeFichierPdf(QLineEdit &fichier)
+{
+    CommonDialog choix;
+    choix.PrepareFichier(QPrintDialog::tr("Print To File ..."), QStringLiteral("PDF|*.pdf"), {}, fichier.text());
+    choix.CancelError = false;
+    choix.Flags = 0; // the printing dialog asks itself before it overwrites
+    choix.DefaultExt = QStringLiteral("pdf");
+    choix.ShowSave();
+    fichier.setText(choix.FileName);
+}
+
+void PrendBoutonFichier(const QPrintDialog &dialogue)
+{
+    auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
+    auto *const bouton = dialogue.findChild<QToolButton *>(QStringLiteral("fileBrowser"));
+    if (fichier == nullptr || bouton == nullptr)
+        return;
+    QObject::disconnect(bouton, &QToolButton::clicked, nullptr, nullptr);
+    QObject::connect(bouton, &QToolButton::clicked, fichier, [fichier] { DemandeFichierPdf(*fichier); });
 }
 
 /// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted,
@@ -105,6 +128,7 @@ void CommonDialog::DemandeFichier(bool enregistrement)
     // Without a folder this toolkit's dialog would open where it was last used.
     QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir.isEmpty() ? QDir::currentPath() : InitDir);
     DansLaLangue(dialogue);
+    NeFaitQueChoisir(dialogue, enregistrement);
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, (Flags & EcrasementDemande) == 0);
     dialogue.setAcceptMode(enregistrement ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -144,6 +168,7 @@ void CommonDialog::DemandeCopies()
     QPrintDialog dialogue(&imprimante, FenetreAppelante());
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
     ProposeFichier(dialogue, imprimante.docName());
+    PrendBoutonFichier(dialogue);
     CacheEtendues(dialogue);
     const bool selection = (Flags & Selection) != 0;
     dialogue.setOption(QAbstractPrintDialog::PrintSelection, selection);

@@ -1,14 +1,61 @@
 #include "platform/dialogues/DialogueFichier.h"
 
+#include "platform/dialogues/Boites.h"
+
+#include <QDir>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QHeaderView>
+#include <QLayout>
 #include <QListView>
+#include <QStyledItemDelegate>
+#include <QToolButton>
 #include <QTreeView>
+
+namespace {
+
+constexpr int ColonneNom = 0;
+constexpr int ColonneTaille = 1;
+constexpr int ColonneType = 2;
+constexpr int ColonneDate = 3;
+
+/// Writes sizes and dates in the operator's language, where the toolkit writes them in the system's.
+class EcritColonne : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &place) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, place);
+        const auto *const modele = qobject_cast<const QFileSystemModel *>(place.model());
+        if (modele == nullptr)
+            return;
+        if (place.column() == ColonneDate)
+            option->text = QLocale().toString(modele->lastModified(place), QLocale::ShortFormat);
+        else if (!modele->isDir(place))
+            option->text = QLocale().formattedDataSize(modele->size(place));
+    }
+};
+
+void DemandeNouveauDossier(QFileDialog &dialogue)
+{
+    const QString titre = QFileDialog::tr("Create New Folder");
+    const QString nom = InputBox(titre, titre, QFileDialog::tr("New Folder"));
+    if (nom.isEmpty())
+        return;
+    QDir dossier = dialogue.directory();
+    if (dossier.mkdir(nom) && dossier.cd(nom))
+        dialogue.setDirectory(dossier);
+    else
+        MsgBox(dossier.filePath(nom), Boite::Exclamation, QFileSystemModel::tr("Invalid filename"));
+}
+
+} // namespace
 
 void DansLaLangue(QFileDialog &dialogue)
 {
-    constexpr int colonneNom = 0;
-    constexpr int colonneType = 2;
     constexpr int largeur = 70; // characters of name, size and date together
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
     if (auto *const lieux = dialogue.findChild<QListView *>(QStringLiteral("sidebar")))
@@ -16,10 +63,36 @@ void DansLaLangue(QFileDialog &dialogue)
     auto *const liste = dialogue.findChild<QTreeView *>(QStringLiteral("treeView"));
     if (liste == nullptr)
         return;
-    liste->hideColumn(colonneType);
+    liste->hideColumn(ColonneType);
+    for (const int colonne : {ColonneTaille, ColonneDate})
+        liste->setItemDelegateForColumn(colonne, new EcritColonne(liste));
     // The toolkit leaves sizes and dates cut, with room beside them. Here a name gives way, whose end stays seen.
     liste->header()->setStretchLastSection(false);
     liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    liste->header()->setSectionResizeMode(colonneNom, QHeaderView::Stretch);
+    liste->header()->setSectionResizeMode(ColonneNom, QHeaderView::Stretch);
     liste->setMinimumWidth(largeur * liste->fontMetrics().averageCharWidth());
+}
+
+void NeFaitQueChoisir(QFileDialog &dialogue, bool nouveauDossier)
+{
+    dialogue.setOption(QFileDialog::ReadOnly);
+    for (const char *const nom : {"listView", "treeView"}) {
+        if (auto *const liste = dialogue.findChild<QAbstractItemView *>(QLatin1String(nom)))
+            liste->setDragDropMode(QAbstractItemView::NoDragDrop);
+    }
+    // The toolkit's button makes a folder first and lets its name be changed then.
+    auto *const bouton = dialogue.findChild<QToolButton *>(QStringLiteral("newFolderButton"));
+    if (bouton == nullptr)
+        return;
+    bouton->hide();
+    if (!nouveauDossier)
+        return;
+    auto *const notre = new QToolButton(&dialogue);
+    notre->setObjectName(QStringLiteral("NouveauDossier"));
+    notre->setIcon(bouton->icon());
+    notre->setToolTip(bouton->toolTip());
+    notre->setAutoRaise(bouton->autoRaise());
+    notre->setAccessibleName(bouton->toolTip());
+    delete bouton->parentWidget()->layout()->replaceWidget(bouton, notre);
+    QObject::connect(notre, &QToolButton::clicked, &dialogue, [&dialogue] { DemandeNouveauDossier(dialogue); });
 }
