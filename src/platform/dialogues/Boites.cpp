@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSpacerItem>
 #include <QTimer>
 
@@ -35,17 +36,33 @@ QMessageBox::Icon Icone(int drapeaux)
     }
 }
 
+constexpr int LargeurMax = 760;    // pixels of a box; a longer line, with a long path in it, is broken
+constexpr int IconeEtMarges = 110; // pixels
+
+/// texte, in which a word that no line has room for, as a long file name, may be broken anywhere.
+QString AvecCesures(const QString &texte, const QFontMetrics &metrique, int largeur)
+{
+    static const QRegularExpression motOuBlancs(QStringLiteral("\\S+|\\s+"));
+    static const QRegularExpression signe(QStringLiteral("(\\X)"));
+    QString coupe;
+    for (auto piece = motOuBlancs.globalMatch(texte); piece.hasNext();) {
+        QString mot = piece.next().captured();
+        if (metrique.horizontalAdvance(mot) > largeur)
+            mot.replace(signe, QStringLiteral("\\1\u200B")); // which has no width, and is not seen
+        coupe += mot;
+    }
+    return coupe;
+}
+
 /// A box of its own accord cuts its title and breaks lines that the screen has room for.
 void Elargit(QMessageBox &boite)
 {
     constexpr int boutonsDuCadre = 140;
-    constexpr int iconeEtMarges = 110;
-    constexpr int largeurMax = 760; // pixels; a longer line, with a long path in it, is broken
     const QFontMetrics metrique = boite.fontMetrics();
     int largeur = metrique.horizontalAdvance(boite.windowTitle()) + boutonsDuCadre;
     const QStringList lignes = boite.text().split(u'\n');
     for (const QString &ligne : lignes)
-        largeur = std::max(largeur, std::min(metrique.horizontalAdvance(ligne) + iconeEtMarges, largeurMax));
+        largeur = std::max(largeur, std::min(metrique.horizontalAdvance(ligne) + IconeEtMarges, LargeurMax));
     auto *const grille = qobject_cast<QGridLayout *>(boite.layout());
     grille->addItem(new QSpacerItem(largeur, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), grille->rowCount(), 0, 1,
                     grille->columnCount());
@@ -77,7 +94,7 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
     boite.setWindowTitle(titre);
     boite.setIcon(Icone(drapeaux));
     boite.setTextFormat(Qt::PlainText);
-    boite.setText(PourAffichage(texte));
+    boite.setText(AvecCesures(PourAffichage(texte), boite.fontMetrics(), LargeurMax - IconeEtMarges));
     boite.setStandardButtons(ouiNon ? QMessageBox::Yes | QMessageBox::No
                                     : QMessageBox::StandardButtons(QMessageBox::Ok));
     if (ouiNon) {
@@ -103,7 +120,8 @@ QString InputBox(const QString &invite, const QString &titre, const QString &val
     boite.setObjectName(QStringLiteral("InputBox"));
     boite.setWindowTitle(titre);
     // An ampersand in the name of a folder is no shortcut.
-    boite.setLabelText(PourAffichage(invite).replace(u'&', QLatin1String("&&")));
+    const QString lignes = AvecCesures(PourAffichage(invite), boite.fontMetrics(), largeur);
+    boite.setLabelText(QString(lignes).replace(u'&', QLatin1String("&&")));
     boite.setTextValue(valeur);
     auto *const texte = boite.findChild<QLabel *>();
     texte->setTextFormat(Qt::PlainText);
