@@ -15,6 +15,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -65,13 +66,15 @@ int Dans(int debutEcran, int longueurEcran, int voulu, int longueur)
 }
 
 /// Puts a window beside the one that it explains, on the side with more room, and narrower where that lets both be
-/// seen. It stands within the screen with its frame, which is the other one's: its own is not there yet.
+/// seen. It stands within the screen with its frame. As long as it is not shown, the frame is taken to be the other
+/// one's.
 void PlaceACote(QWidget *fenetre, const QWidget *appelante)
 {
-    constexpr int largeurMin = 640; // pixels; narrower than that it covers the other one instead
+    constexpr int largeurMin = 890; // pixels; narrower it would cut the pictures: it covers the other one instead
     const QRect ecran = appelante->screen()->availableGeometry();
     const QRect occupe = appelante->frameGeometry();
-    const QSize cadre = occupe.size() - appelante->size();
+    const QWidget *const encadree = fenetre->isVisible() ? fenetre : appelante;
+    const QSize cadre = encadree->frameSize() - encadree->size();
     const int gauche = occupe.left() - ecran.left();
     const int droite = ecran.right() - occupe.right();
     const int place = std::min(std::max({gauche, droite, largeurMin}), ecran.width());
@@ -90,6 +93,34 @@ QString CheminManuel()
     const QString voulu = AjouteAntislash(Reglages.DosAppli) + Texte(Manuel);
     const QString livre = AjouteAntislash(QCoreApplication::applicationDirPath()) + Texte(Manuel);
     return !QFileInfo::exists(voulu) && QFileInfo::exists(livre) ? livre : voulu;
+}
+
+/// The page of the manual on dialogs that share a name.
+constexpr struct
+{
+    const char *classe;
+    const char16_t *page;
+} PagesDesClasses[] = {
+    {"QAbstractPrintDialog", u"impression"}, {"DialogueImprimante", u"impression"}, {"QFontDialog", u"impression"}};
+
+/// The page on a window: that of the tab which it shows, its own, or else that of the window which asks through it.
+QString PageDe(const QWidget *fenetre)
+{
+    const auto enfants = fenetre->findChildren<QWidget *>();
+    for (const QWidget *enfant : enfants) {
+        const QString page = enfant->property("pageAide").toString();
+        if (enfant->isVisible() && !page.isEmpty())
+            return page;
+    }
+    for (const auto &[classe, page] : PagesDesClasses)
+        if (fenetre->inherits(classe))
+            return QString::fromUtf16(page);
+    const QWidget *const parent = fenetre->parentWidget();
+    const bool nom = fenetre->inherits("QInputDialog");
+    if (nom && parent == frmPrinc)
+        return QStringLiteral("explorateur");
+    const bool demande = nom || fenetre->inherits("QFileDialog") || fenetre->inherits("QColorDialog");
+    return demande && parent != nullptr ? PageDe(parent) : fenetre->objectName();
 }
 
 class ToucheF1 : public QObject
@@ -128,7 +159,7 @@ void Mnu_Aide()
         ouverte->close();
     if (ouverte == nullptr || ouverte->parent() != appelante || !ouverte->isVisible())
         ouverte = new FrmAide(appelante);
-    ouverte->Montre(manuel, modale == nullptr ? QString() : modale->objectName());
+    ouverte->Montre(manuel, modale == nullptr ? QString() : PageDe(modale));
 }
 
 void BrancheAide()
@@ -144,6 +175,7 @@ FrmAide::FrmAide(QWidget *parent)
     Command1->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     Command2->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     disposition_aide->setStretchFactor(1, 1);
+    disposition_aide->setSizes({TreeView1->minimumWidth(), width()}); // the page has what the contents do not need
     PoseRaccourcis();
     connect(Command1, &QPushButton::clicked, TextBrowser1, &QTextBrowser::backward);
     connect(Command2, &QPushButton::clicked, TextBrowser1, &QTextBrowser::forward);
@@ -187,11 +219,15 @@ void FrmAide::Montre(const QString &manuel, const QString &section)
     }
     if (!section.isEmpty())
         Va(section);
-    if (!isVisible()) { // once it is shown, a place no longer means that of the frame
+    const bool premiere = !isVisible();
+    if (premiere) {
+        TextBrowser1->clearHistory(); // the page that it opens at is the first
         PlaceACote(this, parentWidget());
         TreeView1->setFocus();
     }
     show();
+    if (premiere)
+        windowHandle()->installEventFilter(this);
     raise();
     activateWindow();
 }
@@ -239,9 +275,15 @@ void FrmAide::SuitLecture()
     Designe(TextBrowser1->cursorForPosition({0, unTitre}).position());
 }
 
-/// Another width breaks the lines elsewhere, and what the reader has before him would move away.
+/// Another width breaks the lines elsewhere, and what the reader has before him would move away. On the screen the
+/// window has its frame, which may be larger than the one that it was placed for.
 bool FrmAide::eventFilter(QObject *objet, QEvent *evenement)
 {
+    if (objet == windowHandle() && evenement->type() == QEvent::Expose) {
+        objet->removeEventFilter(this);
+        QMetaObject::invokeMethod(
+            this, [this] { PlaceACote(this, parentWidget()); }, Qt::QueuedConnection);
+    }
     if (objet == TextBrowser1->viewport() && evenement->type() == QEvent::Resize && !m_retaille) {
         m_retaille = true;
         QMetaObject::invokeMethod(this, &FrmAide::RemetLecture, Qt::QueuedConnection); // once the lines are broken
