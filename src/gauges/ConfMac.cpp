@@ -55,6 +55,8 @@ ConfMac::ConfMac(QWidget *parent, const QString &chemin)
     for (const Longueur &longueur : Longueurs)
         LimiteNombre(this->*longueur.saisie, QStringLiteral("[-.0-9]*"), Texte(VirguleRefusee));
     LimiteTouches(Text3, QStringLiteral("[0-9]*"));
+    for (QLineEdit *const saisie : {Text1, Text2, Text3, Text4})
+        SelectionneAuClic(saisie);
     Form_Load();
     BrancheOptions();
     connect(Command1, &QPushButton::clicked, this, &ConfMac::reject);
@@ -122,11 +124,14 @@ void ConfMac::Command2_Click()
     PrendTextes();
     MontreTextes(); // the values as they are held now
     try {
+        const QString saisie = ParamMac.ExtJauge + ParamMac.NumProgJauge;
         DemandeNomMac(m_chemin);
         EcritMac(ParamMac.NomCompletMac);
+        LitMac(ParamMac.NomCompletMac); // a quote, which the file cannot hold, has become an apostrophe
+        MontreTextes();
         m_chemin = ParamMac.NomCompletMac;
         MontreNom();
-        AnnonceSaisiePerdue(ParamMac.ExtJauge + ParamMac.NumProgJauge, windowTitle());
+        AnnonceSaisiePerdue(saisie, windowTitle());
     } catch (const Erreur &) {
         // Cancelled or not written: the dialog stays open and keeps the name of its former file.
     }

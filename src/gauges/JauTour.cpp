@@ -47,6 +47,9 @@ JauTour::JauTour(QWidget *parent)
     LimiteTouches(Text2, QStringLiteral("[0-9]*"));
     SelectionneAuClic(Text1);
     SelectionneAuClic(Text2);
+    // The box holds one digit: the next one takes its place.
+    connect(Text2, &QLineEdit::textEdited, Text2, &QLineEdit::selectAll);
+    connect(Text2, &QLineEdit::inputRejected, Text2, &QLineEdit::selectAll, Qt::QueuedConnection);
     BrancheTuiles();
     UnClic(Command1);
     connect(Command1, &QPushButton::clicked, this, &JauTour::Command1_Click);

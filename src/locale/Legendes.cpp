@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QDialog>
 
+#include <algorithm>
+
 namespace {
 
 // What the entries of the language menu read.
@@ -67,6 +69,23 @@ QObject *Controle(QWidget *fenetre, QLatin1String nom)
     return nullptr;
 }
 
+/// Of two buttons of a window with one letter the toolkit presses the one that is enabled: Alt would throw the work
+/// away where the operator has asked for something else. A button that cancels gives its letter up to the other one.
+void LibereLettres(const QWidget *fenetre)
+{
+    const auto boutons = fenetre->findChildren<QAbstractButton *>();
+    const auto annule = [](const QAbstractButton *bouton) {
+        return bouton->text().startsWith(QLatin1String("&Cancel"));
+    };
+    for (QAbstractButton *const bouton : boutons) {
+        const auto partage = [&](const QAbstractButton *autre) {
+            return !annule(autre) && autre->shortcut() == bouton->shortcut();
+        };
+        if (annule(bouton) && std::any_of(boutons.begin(), boutons.end(), partage))
+            bouton->setShortcut({});
+    }
+}
+
 } // namespace
 
 void AppliqueLangue()
@@ -104,6 +123,7 @@ void AppliqueLegendes(QWidget *fenetre)
                 EcritLegende(controle, legende.endroit, texte);
         }
     }
+    LibereLettres(fenetre);
     QEvent changement(QEvent::LanguageChange);
     QCoreApplication::sendEvent(fenetre, &changement);
 }
@@ -129,6 +149,9 @@ void MontreDonnee(QWidget *controle, const QString &donnee)
 void PoseTexte(QWidget *controle, const Texte3 &texte, const QString &suite)
 {
     const QString choisi = TexteChoisi(texte);
-    if (!choisi.isNull())
-        EcritTitre(controle, choisi + suite);
+    if (choisi.isNull())
+        return;
+    EcritTitre(controle, choisi + suite);
+    if (qobject_cast<QAbstractButton *>(controle) != nullptr)
+        LibereLettres(controle->window());
 }

@@ -48,7 +48,7 @@ private Q_SLOTS:
             for (auto *const option : {d.OptMac_1, d.OptJauge_1, d.OptTour_1, d.OptionX_1, d.OptionRAZ_1})
                 option->click();
             QCOMPARE(Montres(d), QList<bool>({false, true, true, true}));
-            QStringList touches = u"a1+0e0,|-12345.678|-99.9||co1x| %12 "_s.split(u'|');
+            QStringList touches = u"a1+0e0,|-12345.678|-99.9||co1x| %\"2 "_s.split(u'|');
             for (QLineEdit *const saisie : Saisies(d)) {
                 saisie->selectAll();
                 QTest::keyClicks(saisie, touches.takeFirst());
@@ -65,7 +65,10 @@ private Q_SLOTS:
             d.Text4->clear();
             d.Command2->click();
             QCOMPARE(d.windowTitle(), u"Configuration machine : TOUR.mac"_s);
-            d.Text1->setText(u"7"_s);
+            QCOMPARE(d.Text6->text(), u"%'2"_s); // as it is stored
+            QTest::mouseClick(d.Text1, Qt::LeftButton);
+            QTest::keyClicks(d.Text1, u"7"_s); // in the place of the other
+            QCOMPARE(d.Text1->text(), u"7"_s);
             d.Command1->click();
         });
         etabli.Fait("CommonDialog", [](QWidget &fenetre) {
@@ -79,7 +82,7 @@ private Q_SLOTS:
         etabli.Choisit(etabli.Chemin("TOUR")); // which the dialog completes
         Operateur::Menu("Mn_CreeConfMac");
         QCOMPARE(etabli.Lit("TOUR.mac"),
-                 "1\r\n1\r\n0\r\n1\r\n1\r\n100.3\r\n-12345\r\n300\r\n\"CO1\"\r\n\"%12\"\r\n1\r\n");
+                 "1\r\n1\r\n0\r\n1\r\n1\r\n100.3\r\n-12345\r\n300\r\n\"CO1\"\r\n\"%'2\"\r\n1\r\n");
         QCOMPARE(ParamMac.NomCompletMac, etabli.Chemin("TOUR.mac"));
         QCOMPARE(ParamMac.JaugeMaxiX, 100.3);
     }

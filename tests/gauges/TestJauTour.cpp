@@ -111,7 +111,7 @@ private Q_SLOTS:
         for (int i = 1; i <= 6; ++i)
             lues +=
                 u"%1/%2/%3 "_s.arg(Jauges.Jauge(i).Rayon).arg(Jauges.Jauge(i).Localisateur).arg(Jauges.Jauge(i).JaugeX);
-        QCOMPARE(lues, u"0.8/3/2.5 1.23/5/2.5 0/6/-2.5 0/7/-2.5 0.8/8/2.5 0/9/2.5 "_s);
+        QCOMPARE(lues, u"0.8/3/2.5 1.23/5/2.5 0/7/-2.5 0/7/-2.5 0.8/8/2.5 0/9/2.5 "_s);
     }
 };
 

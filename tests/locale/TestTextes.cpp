@@ -135,6 +135,12 @@ private Q_SLOTS:
         for (const QWidget *const fenetre : parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
             fenetres[fenetre->objectName()] = fenetre;
 
+        for (const auto &[nom, fait] : {std::pair(u"Em_Rc"_s, u"Command5"_s), {u"Rc_Fic"_s, u"Command4"_s}}) {
+            const auto *const voulu = fenetres[nom]->findChild<QPushButton *>(fait);
+            for (const auto *const bouton : fenetres[nom]->findChildren<QPushButton *>()) // and it cancels nothing
+                QVERIFY(!bouton->text().startsWith(u"&Cancel") || bouton->shortcut().isEmpty() ||
+                        bouton->shortcut() != voulu->shortcut());
+        }
         const QList<QStringList> liste = Table(u"legendes.tsv"_s);
         QStringList ecarts;
         for (const QWidget *const fenetre : std::as_const(fenetres))
