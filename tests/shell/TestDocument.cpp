@@ -6,7 +6,10 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QListView>
 #include <QMimeData>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -71,6 +74,41 @@ private Q_SLOTS:
                      Version + Document.NomFichier + Document.TitreFichier);
             QFile::remove(atelier.Chemin("copie.iso"));
         }
+    }
+
+    // No file dialog moves, renames or deletes anything; one that saves makes a folder under the name that it asks.
+    void DialoguesSansDegats()
+    {
+        Atelier atelier(0);
+        const QString programme = atelier.Ecrit("P.iso", "G0");
+        OuvreDocument(programme);
+        for (const char *const entree : {"Mnu_Ouvrir", "Mnu_EnregistrerSous"}) {
+            atelier.Fait("CommonDialog", [&](QWidget &fenetre) {
+                auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
+                dialogue.setDirectory(atelier.Dossier());
+                dialogue.selectFile(programme);
+                for (const QString &nom : {u"treeView"_s, u"listView"_s}) {
+                    auto *const liste = dialogue.findChild<QAbstractItemView *>(nom);
+                    QVERIFY(liste->dragDropMode() == QAbstractItemView::NoDragDrop);
+                    for (const auto touche : {Qt::Key_Delete, Qt::Key_F2})
+                        QTest::keyClick(liste, touche);
+                    QVERIFY(!(liste->currentIndex().flags() & (Qt::ItemIsEditable | Qt::ItemIsDropEnabled)));
+                }
+                for (const QString &nom : {u"qt_delete_action"_s, u"qt_rename_action"_s})
+                    dialogue.findChild<QAction *>(nom)->trigger();
+                for (auto *const nouveau : dialogue.findChildren<QToolButton *>(u"NouveauDossier"_s))
+                    nouveau->click();
+                dialogue.reject();
+            });
+            if (QLatin1String(entree) == "Mnu_EnregistrerSous"_L1)
+                atelier.Fait("InputBox", [](QWidget &boite) {
+                    dynamic_cast<QInputDialog &>(boite).setTextValue(u"Série 2"_s);
+                    dynamic_cast<QInputDialog &>(boite).accept();
+                });
+            Operateur::Menu(entree);
+            QVERIFY(QFile::exists(programme));
+        }
+        QVERIFY(QDir(atelier.Chemin("Série 2")).exists());
     }
 
     // The filter last used comes back, also into the saving dialog with its other list; cancelling changes nothing.

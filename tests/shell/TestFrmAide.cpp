@@ -133,6 +133,27 @@ private Q_SLOTS:
             fenetre.close();
         });
         FrmLangue(frmPrinc).exec();
+        const QList<std::pair<const char *, QString>> pages{
+            {"Mnu_Ouvrir", u"frmPrinc"_s}, {"Mnu_Police", u"impression"_s}, {"Mnu_ConfigIMP", u"impression"_s}};
+        for (const auto &[entree, page] : pages) {
+            poste.Fait(u"CommonDialog", [page = page](QWidget &fenetre) {
+                Mnu_Aide();
+                QCOMPARE(Ouverte(&fenetre)->TextBrowser1->source().fragment(), page);
+                fenetre.close();
+            });
+            Operateur::Menu(QLatin1String(entree));
+        }
+        poste.Fait(u"Prop", [](QWidget &fenetre) {
+            auto *const onglets = fenetre.findChild<QTabWidget *>();
+            for (const auto &[onglet, page] :
+                 {std::pair{1, u"Prop_divers"_s}, {2, u"Prop_dossiers"_s}, {0, u"Prop"_s}}) {
+                onglets->setCurrentIndex(onglet);
+                Mnu_Aide();
+                QCOMPARE(Ouverte(&fenetre)->TextBrowser1->source().fragment(), page);
+            }
+            fenetre.close();
+        });
+        Operateur::Menu(u"Mnu_CreConf");
         QTRY_COMPARE(Ouverte(frmPrinc), nullptr); // the help of the main window made room
     }
 };
