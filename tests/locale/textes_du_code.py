@@ -17,8 +17,9 @@ LANGUE = rf"\s*(u{SUITE[2:]})\s*"
 TROIS = re.compile(rf"\{{{LANGUE},{LANGUE},{LANGUE}\}}")
 CONSTANTE = re.compile(rf"\bchar16_t (\w+)\[\] =\s*({SUITE});")
 CARACTERE = r"'(?:[^'\\]|\\.)+'"
-# What is no text: includes, comments, single characters, and the words that the toolkit has in its own translation.
-RESTE = re.compile(rf'^\s*#include.*$|//[^\n]*|\b(?:Mot\("\w+", |\btr\(){TEXTE}\)|{CARACTERE}|({TEXTE})', re.MULTILINE)
+# What is no text: includes, comments, the journal, single characters, and the words that the toolkit has in its own
+# translation.
+RESTE = re.compile(rf'^\s*#include.*$|//[^\n]*|\bqCInfo\([^;]*;|\b(?:Mot\("\w+", |\btr\(){TEXTE}\)|{CARACTERE}|({TEXTE})', re.MULTILINE)
 
 
 def valeur(suite):
@@ -49,7 +50,7 @@ def sans_texte(sources):
     """Numbers of failures for which the operator would read a developer's words."""
     lu = lambda chemin: (pathlib.Path(sources) / chemin).read_text(encoding="utf-8")
     nombres = r"constexpr int (\w+) = (\d+);"
-    textes = set(re.findall(r"\{(?:Erreur::)?(\w+),\s*(?:true|false|\{)", lu("locale/TextesErreur.cpp")))
+    textes = set(re.findall(r"\{(?:Erreur(?:Port)?::)?(\w+),\s*(?:true|false|\{)", lu("locale/TextesErreur.cpp")))
     for nom, nombre in re.findall(nombres, lu("platform/base/Erreur.h") + lu("platform/serie/ErreurPort.h")):
         if textes.isdisjoint({nom, nombre}):
             yield "", nom

@@ -1,5 +1,7 @@
 #include "platform/base/Erreur.h"
 
+#include "platform/base/Journal.h"
+
 #include <cerrno>
 
 namespace {
@@ -27,5 +29,7 @@ Erreur ErreurDeFichier(int cause, const QString &objet)
                        : cause == ENOENT || cause == ENOTDIR                 ? Erreur::FichierIntrouvable
                        : cause == EACCES || cause == EPERM || cause == EROFS ? Erreur::AccesRefuse
                                                                              : Erreur::ErreurFichier;
-    return {numero, objet, cause};
+    Erreur erreur(numero, objet, cause);
+    qCInfo(JournalFichiers) << "failure" << numero << erreur.Description();
+    return erreur;
 }

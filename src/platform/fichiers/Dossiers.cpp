@@ -1,6 +1,7 @@
 #include "platform/fichiers/Dossiers.h"
 
 #include "platform/base/Erreur.h"
+#include "platform/base/Journal.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -106,6 +107,7 @@ std::optional<QString> ResteDerriere(const QString &dossier, const QString &chem
 
 void CreeDossier(const QString &chemin)
 {
+    qCInfo(JournalFichiers) << "makes the folder" << chemin;
     std::error_code cause;
     const bool cree = fs::create_directory(EnChemin(chemin), cause);
     if (!cree && !cause)
@@ -122,6 +124,7 @@ void AssureDossier(const QString &chemin)
 
 void RenommeDossier(const QString &ancien, const QString &nouveau)
 {
+    qCInfo(JournalFichiers) << "renames" << ancien << "as" << nouveau;
     const fs::path de = EnChemin(ancien);
     const fs::path vers = EnChemin(nouveau);
     std::error_code cause;
@@ -136,5 +139,6 @@ void RenommeDossier(const QString &ancien, const QString &nouveau)
 
 void EffaceDossier(const QString &chemin, const std::function<bool()> &suivi)
 {
+    qCInfo(JournalFichiers) << "deletes" << chemin;
     EffaceEntree(EnChemin(chemin), suivi);
 }

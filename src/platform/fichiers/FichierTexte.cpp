@@ -1,6 +1,7 @@
 #include "platform/fichiers/FichierTexte.h"
 
 #include "platform/base/Erreur.h"
+#include "platform/base/Journal.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/base/Reprise.h"
 
@@ -61,6 +62,7 @@ void Ecrit(QFile &fichier, const QByteArray &octets)
 
 QByteArray LitOctets(const QString &chemin, qint64 tailleMax)
 try {
+    qCInfo(JournalFichiers) << "reads" << chemin;
     QFile fichier(chemin);
     // A device or a pipe under the name of a file would never end.
     if (QFileInfo::exists(chemin) && !QFileInfo(chemin).isFile())
@@ -72,6 +74,7 @@ try {
     QByteArray octets = fichier.readAll();
     if (fichier.error() != QFileDevice::NoError)
         throw ErreurDeFichier(errno);
+    qCInfo(JournalFichiers) << octets.size() << "bytes read";
     return octets;
 } catch (const std::bad_alloc &) {
     throw Erreur(Erreur::MemoireInsuffisante, chemin);
@@ -87,6 +90,7 @@ try {
 void EcritFichierTexte(const QString &chemin, const QString &texte, FichierCoupe coupe)
 {
     const QByteArray octets = OctetsEn1252(texte);
+    qCInfo(JournalFichiers) << "writes" << octets.size() << "bytes to" << chemin;
     ExigePlace(chemin, octets.size());
     QFile fichier(chemin);
     Ouvre(fichier, QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
@@ -101,6 +105,7 @@ void EcritFichierTexte(const QString &chemin, const QString &texte, FichierCoupe
 
 void AjouteFichierTexte(const QString &chemin, const QString &texte)
 {
+    qCInfo(JournalFichiers) << "adds" << texte.size() << "bytes to" << chemin;
     QFile fichier(chemin);
     Ouvre(fichier, QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered);
     const qint64 presente = fichier.size();
