@@ -26,7 +26,8 @@ struct TexteEvenement
 
 namespace E = EvenementPort;
 
-// Those without a name are not raised by the control.
+// The control does not raise all of them, see EvenementPort. The texts of the others stay, since the operators' papers
+// list them by number; a code without a text would be told as unknown.
 constexpr TexteEvenement Textes[] = {
     {E::Reception,
      Evenement,
@@ -48,19 +49,19 @@ constexpr TexteEvenement Textes[] = {
      Evenement,
      {u"Le téléphone sonne - Détection d'anneau.", u"The telephone sounds - Detection of ring.",
       u"El teléfono suena - Detección de anillo."}},
-    {7, Evenement, {u"Fin de fichier détecté", u"End of detected file", u"Final de fichero detectado"}},
+    {E::FinDeFichier, Evenement, {u"Fin de fichier détecté", u"End of detected file", u"Final de fichero detectado"}},
     {E::Pause, Faute, {u"Pause reçue", u"Pauses received", u"Pausa recibida"}},
-    {1002,
+    {E::DelaiCts,
      Faute,
      {u"Délai d'attente de Prêt à émettre (CTS) expiré", u"Withdrawal period of Loan to emit (CTS) expired ",
       u"Plazo de espera de Préstamo que debe emitirse (CTS) expirado"}},
-    {1003,
+    {E::DelaiDsr,
      Faute,
      {u"Délai d'attente de Modem prêt (DSR) expiré", u"Withdrawal period of ready Modem (DSR) expired",
       u"Plazo de espera de Módem listo (DSR) expirado"}},
     {E::Cadrage, Faute, {u"Erreur de cadrage", u"Misregistration", u"Error de encuadre"}},
     {E::Cadence, Faute, {u"Erreur de cadence", u"Error of rate", u"Error de ritmo"}},
-    {1007,
+    {E::DelaiCd,
      Faute,
      {u"Délai d'attente de Détection de porteuse (CD) expiré",
       u"Withdrawal period of Detection of carrying (CD) expired",
@@ -70,8 +71,10 @@ constexpr TexteEvenement Textes[] = {
      {u"Dépassement du tampon de réception", u"Going beyond of the plug of receiving",
       u"Rebasamiento del tampón de recepción"}},
     {E::Parite, Faute, {u"Erreur de parité", u"Error of parity", u"Error de paridad"}},
-    {1010, Faute, {u"Tampon de transmission plein", u"Full plug of transmission", u"Tampón de transmisión lleno"}},
-    {1011,
+    {E::EmissionPleine,
+     Faute,
+     {u"Tampon de transmission plein", u"Full plug of transmission", u"Tampón de transmisión lleno"}},
+    {E::BlocControle,
      Faute,
      {u"Erreur d'extraction de Bloc de contrôle de périphérique (DCB)",
       u"Error of extraction of Block of control of peripheral (DCB)",

@@ -1,7 +1,7 @@
 #pragma once
 
 /// Numbers of the events of the serial control, as the operator's texts know them. From PremiereFaute on they are
-/// errors. The control raises no other ones; there are texts for some more.
+/// errors.
 namespace EvenementPort {
 constexpr int Emission = 1;  ///< the queue has fallen below SThreshold
 constexpr int Reception = 2; ///< RThreshold characters wait, and new ones have come
@@ -16,4 +16,12 @@ constexpr int Cadrage = 1004; ///< framing
 constexpr int Cadence = 1006; ///< overrun between chip and driver
 constexpr int Perte = 1008;   ///< lost by the system
 constexpr int Parite = 1009;
+
+// The control raises none of the following. They complete the list that the operators know.
+constexpr int FinDeFichier = 7;      ///< an end-of-file character has come
+constexpr int DelaiCts = 1002;       ///< the line of that name stayed low too long
+constexpr int DelaiDsr = 1003;       ///< same
+constexpr int DelaiCd = 1007;        ///< same
+constexpr int EmissionPleine = 1010; ///< the transmit queue is full: that of the control takes everything
+constexpr int BlocControle = 1011;   ///< the driver does not tell its settings: opening says so by ErreurPort
 } // namespace EvenementPort
