@@ -41,7 +41,7 @@ void FrmConfDem::Form_Activate()
 /// ligne: how "Dorvanel.ini" holds the folder.
 void FrmConfDem::ChoisitDossier(QLabel *montre, LigneNom ligne)
 {
-    const QString choisi = ChoixDossier(this, montre->text());
+    const QString choisi = ChoixDossier(this, QStringLiteral("Choix du dossier"), montre->text());
     if (choisi.isEmpty())
         return;
     montre->setText(choisi);

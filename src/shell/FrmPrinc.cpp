@@ -78,6 +78,8 @@ FrmPrinc::FrmPrinc()
     UpdateTimer.start(1000ms);
     Timer2.start(5000ms);
     DitLampes();
+    for (RichTextBox *const volet : {Text1, Text2})
+        volet->setFormatCopie(QStringLiteral("application/x-dorvanel-programme"));
     Text1->setFocus(); // or the keys would first go to the explorer's buttons, and the space bar to the first of them
     frmPrinc = this;
 }

@@ -165,7 +165,7 @@ constexpr VueModale ToutesModales[] = {
     {"CommonDialog_police", Mnu_Police},
     {"CommonDialog_imprimer", Mnu_Imprim},
     {"CommonDialog_imprimante", Mnu_ConfigIMP},
-    {"CommonDialog_dossier", [] { ChoixDossier(frmPrinc, DossierApplication()); }},
+    {"CommonDialog_dossier", [] { ChoixDossier(frmPrinc, QStringLiteral("Choix du dossier"), DossierApplication()); }},
     {"MsgBox_question", Mnu_Nouveau},
     {"MsgBox_transfert", [] { ConfirmeTransfert(EmissionProgramme); }},
     {"MsgBox_aide", [] { Prop(frmPrinc).Command19->click(); }},

@@ -5,9 +5,9 @@
 #include <QDir>
 #include <QFileDialog>
 
-QString ChoixDossier(QWidget *fenetre, const QString &depart)
+QString ChoixDossier(QWidget *fenetre, const QString &titre, const QString &depart)
 {
-    QFileDialog dialogue(fenetre, QStringLiteral("Choix du dossier"), depart);
+    QFileDialog dialogue(fenetre, titre, depart);
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
     DansLaLangue(dialogue);
     NeFaitQueChoisir(dialogue, true);

@@ -197,7 +197,7 @@ bool EstChiffre(char c)
 QList<MorceauRtf> Lecteur::Lit()
 {
     if (!m_octets.startsWith("{\\rtf"))
-        throw Erreur(Erreur::FormatRefuse, QStringLiteral("Format non reconnu"));
+        throw Erreur(Erreur::FormatRefuse, QStringLiteral("No rich text."));
     do {
         const char c = m_octets[m_place++];
         if (c == '{')

@@ -23,9 +23,6 @@ namespace {
 /// Property of a separator's character format: its kind of line end. On typed text, which may inherit it, it is void.
 constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
 
-/// Copies of a program carry its bytes, so that they come back exactly in this pane and in that of another window.
-const QString FormatCopie = QStringLiteral("application/x-dorvanel-programme");
-
 } // namespace
 
 RichTextBox::RichTextBox(QWidget *parent)
@@ -292,22 +289,23 @@ QMimeData *RichTextBox::createMimeDataFromSelection() const
     const QString texte = SelText();
     auto *copie = new QMimeData;
     copie->setText(texte);
-    copie->setData(FormatCopie, OctetsEn1252(texte));
+    if (!m_formatCopie.isEmpty())
+        copie->setData(m_formatCopie, OctetsEn1252(texte));
     return copie;
 }
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
 {
     // A file that is dropped is for the window around the pane; its path is no text of the program.
-    return !source->hasUrls() && (source->hasText() || source->hasFormat(FormatCopie));
+    return !source->hasUrls() && (source->hasText() || source->hasFormat(m_formatCopie));
 }
 
 void RichTextBox::insertFromMimeData(const QMimeData *source)
 {
     if (isReadOnly())
         return;
-    const bool deLaMaison = source->hasFormat(FormatCopie);
-    setSelText(deLaMaison ? TexteDe1252(source->data(FormatCopie)) : NormaliseEtranger(source->text()));
+    const bool deLaMaison = source->hasFormat(m_formatCopie);
+    setSelText(deLaMaison ? TexteDe1252(source->data(m_formatCopie)) : NormaliseEtranger(source->text()));
     ensureCursorVisible();
 }
 

@@ -37,6 +37,10 @@ public:
     /// pane shows its text in a look of its own, which the text then takes.
     void PrendTexte(RichTextBox &autre);
 
+    /// MIME type of a copy's bytes in code page 1252, with which the copy comes back exactly in this pane and in those
+    /// of the same type. Without it, as at first, a copy is text alone.
+    void setFormatCopie(const QString &format) { m_formatCopie = format; }
+
     bool EstVide() const;
 
     /// The line end in front of a line of the document, which is not its first.
@@ -131,6 +135,7 @@ private:
     QFont Police() const;
     void Habille(QTextFormat::Property propriete, const QVariant &valeur);
 
+    QString m_formatCopie;
     bool m_finsDiverses = false; ///< the text may hold line ends other than CR LF
     bool m_muet = false;         ///< what changes now is not for Change
     int m_lignesAllegees = 0;    ///< lines that the text had when AllegeMiseEnPage last ran

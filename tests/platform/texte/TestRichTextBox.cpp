@@ -142,6 +142,7 @@ private Q_SLOTS:
     void copieEtColle()
     {
         RichTextBox volet;
+        volet.setFormatCopie(QStringLiteral("application/x-essai"));
         const QString texte = T("a\nb\xA0\t\x80\nc");
         volet.setText(texte);
         volet.selectAll();
