@@ -4,10 +4,11 @@
 #include "platform/serie/LigneSerie.h"
 #include "platform/serie/MSComm.h"
 
+#include <QTimer>
+
 #include <algorithm>
+#include <functional>
 #include <memory>
-#include <sys/eventfd.h>
-#include <unistd.h>
 
 /// The machine, the cable and the driver behind a LigneScenario. A test sets what they do and reads what the control
 /// did.
@@ -36,17 +37,13 @@ public:
     int jetsEmission = 0;
     bool ouverte = false;
 
-    Scenario() = default;
-    ~Scenario() { close(m_reveil); }
-    Q_DISABLE_COPY_MOVE(Scenario)
-
     /// The machine sends octets; the positions in fausses come with a parity error.
     void Envoie(const QByteArray &octets, const QList<qsizetype> &fausses = {})
     {
         for (const qsizetype fausse : fausses)
             m_fausses.append(m_enRoute.size() + fausse);
         m_enRoute += octets;
-        eventfd_write(m_reveil, 1);
+        m_reveille();
     }
     /// Characters sent that the control has not taken.
     qsizetype EnAttente() const { return m_enRoute.size(); }
@@ -54,13 +51,13 @@ public:
     void Debranche()
     {
         m_disparue = true;
-        eventfd_write(m_reveil, 1);
+        m_reveille();
     }
 
 private:
     friend class LigneScenario;
 
-    int m_reveil = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC); // readable as long as something has come
+    std::function<void()> m_reveille = [] {}; // something has come for the line that is open
     bool m_disparue = false;
     QByteArray m_enRoute;
     QList<qsizetype> m_fausses; // positions in m_enRoute; below 0: gone
@@ -74,8 +71,15 @@ public:
         : m_scenario(std::move(scenario))
     {
         m_scenario->ouverte = true;
+        m_scenario->m_reveille = [this] { AnnonceLisible(m_annonce); };
+        connect(&m_lisible, &QTimer::timeout, this, &LigneSerie::Lisible);
+        connect(&m_inscriptible, &QTimer::timeout, this, &LigneSerie::Inscriptible);
     }
-    ~LigneScenario() override { m_scenario->ouverte = false; }
+    ~LigneScenario() override
+    {
+        m_scenario->ouverte = false;
+        m_scenario->m_reveille = [] {};
+    }
 
     /// Gives each port that a control opens this scenario.
     static MSComm::Fabrique Fabrique(const std::shared_ptr<Scenario> &scenario)
@@ -92,7 +96,13 @@ public:
     void PoseRTS(bool actif) override { m_scenario->rts = actif; }
     void PoseDTR(bool actif) override { m_scenario->dtr = actif; }
     bool ObeitXoff(ControleFlux /*flux*/) const override { return m_scenario->obeitXoff; }
-    int Descripteur() const override { return m_scenario->m_reveil; }
+    void AnnonceLisible(bool annonce) override
+    {
+        m_annonce = annonce;
+        Bat(m_lisible, annonce && (m_scenario->m_disparue || m_scenario->EnAttente() > 0));
+    }
+    /// A driver that always says that it takes characters, whether it does or not.
+    void AnnonceInscriptible(bool annonce) override { Bat(m_inscriptible, annonce); }
     LectureLigne Lit(int tailleMax) override
     {
         ExigePresente();
@@ -105,9 +115,7 @@ public:
             fausse -= lecture.octets.size();
         }
         lecture.erreur = !lecture.fausses.isEmpty();
-        eventfd_t compte = 0;
-        if (m_scenario->m_enRoute.isEmpty())
-            eventfd_read(m_scenario->m_reveil, &compte);
+        AnnonceLisible(m_annonce);
         return lecture;
     }
     int Ecrit(const char *octets, int nombre) override
@@ -127,6 +135,7 @@ public:
     {
         m_scenario->m_enRoute.clear();
         m_scenario->m_fausses.clear();
+        AnnonceLisible(m_annonce);
     }
     void JetteEmission() override { ++m_scenario->jetsEmission; }
     std::optional<EtatsLigne> Etats() override { return m_scenario->etats; }
@@ -138,6 +147,11 @@ private:
         if (m_scenario->m_disparue)
             throw Erreur(ErreurPort::Lecture, QStringLiteral("unplugged"));
     }
+    /// A timer of 0 ms says so at each turn of the event loop.
+    static void Bat(QTimer &annonce, bool vrai) { vrai ? annonce.start(0) : annonce.stop(); }
 
     std::shared_ptr<Scenario> m_scenario;
+    bool m_annonce = false;
+    QTimer m_lisible;
+    QTimer m_inscriptible;
 };

@@ -44,7 +44,7 @@ void RendFinTransfert(Ui::Em_Rc &dialogue)
 
 void AcheveReception(Ui::Em_Rc &dialogue)
 {
-    Controle().ViderEmission();
+    Controle().ViderEmission(ConfigurationCom::CapaciteChaine);
     FermePortCOM(dialogue);
     frmPrinc->EteintTransfert();
     PoseTexte(dialogue.Label2, Reussi);

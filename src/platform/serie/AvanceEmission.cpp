@@ -18,14 +18,14 @@ struct Longueur
 // Up to 19200 baud 7 characters come behind an XOFF. At 115200 it is about 40: a window that is drawn anew keeps the PC
 // for some 3 ms.
 constexpr Longueur Courte{6, 3500us};
-// One more is under way when XOFF comes, and the tenth is the last that every machine has room for. Nor do 115200 baud
-// bring more than 60.
+// One more is under way when XOFF comes, and the tenth is the last that every machine has room for. At 115200 baud this
+// lead brings at most 60.
 constexpr Longueur Longue{9, 5ms};
 constexpr int PasMax = 3; // from the one to the other
 
 constexpr Duree DetteMax = 10ms;
-constexpr Duree UnRetard =
-    5ms;                    // most that one standstill adds: a longer one no lead bridges, or nothing was to be sent
+// Most that one standstill adds. A longer one is bridged by no lead, or there was nothing to send.
+constexpr Duree UnRetard = 5ms;
 constexpr int Remise = 200; // part of the time that is paid off
 constexpr Duree Essai = 5s; // before a shorter lead is tried
 

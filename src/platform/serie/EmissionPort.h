@@ -4,10 +4,10 @@
 #include "platform/serie/CadenceEmission.h"
 #include "platform/serie/LigneSerie.h"
 #include "platform/serie/MinuteurPrecis.h"
+#include "platform/serie/RetenueLigne.h"
 
 #include <QByteArray>
 #include <QObject>
-#include <QSocketNotifier>
 
 #include <memory>
 
@@ -16,7 +16,11 @@ class EmissionPort : public QObject
 {
     Q_OBJECT
 public:
-    explicit EmissionPort(QObject *parent = nullptr);
+    /// retenue: what holds the line, opened by the caller; it must stay.
+    explicit EmissionPort(RetenueLigne &retenue)
+        : m_retenue(retenue)
+    {
+    }
 
     /// Sends on ligne from now on, which must stay until Ferme(). The queue is empty.
     /// Raises ErreurPort::Indisponible when the system lacks the means.
@@ -35,19 +39,15 @@ public:
     /// Throws away the queue and what the system still holds.
     void Jette();
 
-    /// The machine holds the line, by CTS under the handshake or by an XOFF that the control obeys itself: nothing is
-    /// handed over. Behind a low CTS the characters would only gather in the adapter, out of reach.
-    void Retient(bool retient);
-    /// Whether the machine holds the line: the system goes on refusing characters, Retient says so, or what the system
-    /// holds has stood still for clearly longer than its line time.
-    bool Retenue();
+    /// Stops or starts the line's clock with the machine's hold. To be called when that may have changed. While the
+    /// machine holds the line nothing is handed over: behind a low CTS the characters would only gather in the adapter,
+    /// out of reach.
+    void SuitRetenue();
     const CadenceEmission &Cadence() const { return m_cadence; }
 
 Q_SIGNALS:
     /// The queue has fallen below the threshold since characters were last added.
     void SousSeuil();
-    /// Retient holds the line and characters wait: it is time to look at CTS again.
-    void AttendMachine();
     /// The device has gone.
     void Panne(const Erreur &erreur);
 
@@ -55,18 +55,13 @@ private:
     void Pompe();
     int Remet(CadenceEmission::Instant maintenant);
     void Programme(int remis, CadenceEmission::Instant maintenant);
-    void ObserveSysteme(CadenceEmission::Instant maintenant);
 
+    RetenueLigne &m_retenue;
     LigneSerie *m_ligne = nullptr;
-    std::unique_ptr<QSocketNotifier> m_reveil;
     std::unique_ptr<MinuteurPrecis> m_minuteur;
     QByteArray m_file;
     CadenceEmission m_cadence;
     int m_seuil = 0;
     bool m_seuilArme = false;
-    bool m_refus = false;               // the system takes nothing
-    CadenceEmission::Instant m_refuse;  // since then
-    bool m_reveilVain = false;          // it said that it would, and did not
-    int m_systeme = 0;                  // characters that it held when last looked at
-    CadenceEmission::Instant m_progres; // when that number last fell
+    bool m_reveilVain = false; // the line said that it would take characters, and did not
 };

@@ -4,8 +4,11 @@
 
 #include <optional>
 
-/// XON/XOFF dealt with by the control, behind a driver that would go on sending. It only listens and says what is to be
-/// told; nothing is sent here.
+/// XON/XOFF dealt with by the control, behind a driver that would go on sending. It takes 17 and 19 out of what is read
+/// and says what the machine is to be told; nothing is sent here. Reading goes on while the machine is held back, past
+/// the size of the receive buffer, so that an XON is always heard. What the lead and the adapter hold still leaves
+/// behind an XOFF, and an adapter that gathers what it receives makes it later: 16 ms and more, some tens of characters
+/// at 9600 baud.
 class FluxXonXoff
 {
 public:

@@ -68,8 +68,7 @@ bool EstPseudoTerminal(dev_t numero)
     return major(numero) >= PseudoPremier && major(numero) <= PseudoDernier;
 }
 
-/// The system has no means to stop a USB driver at XOFF. These set the chip to do it; the others take the setting, take
-/// the XOFF out of what is read and go on sending.
+/// These drivers set the chip to stop at XOFF; no other USB driver is relied on.
 PiloteUsb PiloteDe(dev_t numero)
 {
     const QString appareil = QStringLiteral("/sys/dev/char/%1:%2/device").arg(major(numero)).arg(minor(numero));
@@ -102,12 +101,24 @@ LignePosix::LignePosix(const QString &chemin)
     m_pseudoTerminal = EstPseudoTerminal(numero);
     m_usb = PiloteDe(numero);
     CompteursPilote(m_comptesMarques);
+    m_lecture = Guette(QSocketNotifier::Read, &LignePosix::Lisible);
+    m_ecriture = Guette(QSocketNotifier::Write, &LignePosix::Inscriptible);
 }
 
 LignePosix::~LignePosix()
 {
+    m_lecture.reset(); // before their descriptor is gone
+    m_ecriture.reset();
     Libere();
     close(m_fd);
+}
+
+std::unique_ptr<QSocketNotifier> LignePosix::Guette(QSocketNotifier::Type evenement, void (LignePosix::*annonce)())
+{
+    auto guetteur = std::make_unique<QSocketNotifier>(m_fd, evenement);
+    guetteur->setEnabled(false);
+    connect(guetteur.get(), &QSocketNotifier::activated, this, annonce);
+    return guetteur;
 }
 
 /// The lock comes first: exclusive use alone does not stop a program that runs with all rights.
@@ -166,8 +177,7 @@ LectureLigne LignePosix::Lit(int tailleMax)
     return QualifieMarques(resultat, resultat.marques.isEmpty() ? SensMarques() : Sens(), m_compteurs);
 }
 
-/// A mark says that a character is wrong, not how. The driver's counters tell; without them a marked NUL is taken for a
-/// break, since that is by far the commoner, and any other for the error that the settings allow.
+/// What the driver's counters say of the marks just read.
 SensMarques LignePosix::Sens()
 {
     const CompteursLigne avant = m_comptesMarques;

@@ -3,13 +3,51 @@
 #include "platform/serie/DecodeurMarques.h"
 #include "platform/serie/LigneSerie.h"
 
+#include <QSocketNotifier>
+
+#include <memory>
+
 /// What stands between the system and the line: no USB, an adapter whose chip obeys XOFF, or one that leaves it to us.
 enum class PiloteUsb { Aucun, Obeissant, Sourd };
 
 /// The serial line of a POSIX system with Linux's terminal driver.
 ///
-/// The driver drops what a pseudo-terminal does not have (framing, speed) without a word; there that is no failure.
-/// Its surprises are told where they are dealt with, in LignePosix.cpp.
+/// Errors of characters. The driver marks a character that came with an error inside what is read (DecodeurMarques) and
+/// counts it apart, by kind (TIOCGICOUNT). The mark says where, the counter what; a driver may give both, one, or none.
+/// Without counters a marked NUL is taken for a break, since that is by far the commoner. Any other mark is then taken
+/// for a parity error when there is parity, and for a framing error when there is none.
+///
+/// Unplugging. The system ends every reading of a device that is gone with an end of file or an error, and says without
+/// end that it is readable.
+///
+/// Pseudo-terminals. They have no speed, framing or modem lines. The driver drops such settings without a word, which
+/// is no failure there.
+///
+/// What common adapters do:
+///
+///   The PC's own port (8250 family) has 16 characters of FIFO each way and counts every kind of error. The driver
+///   deals with XOFF and CTS between two fillings of the FIFO. What is in the FIFO still leaves.
+///
+///   FTDI (ftdi_sio) has 128 characters towards the line and 256 from it. It deals with XOFF and CTS in the chip,
+///   within a character or two. When both are asked for, the chip does RTS/CTS alone. Received characters cross the USB
+///   when 62 have gathered or when the latency timer runs out, 16 ms as delivered. So they come in bursts, and a wait
+///   for one character is up to 16 ms too long; whoever takes a silence for an end has to wait longer than that. The
+///   timer is the file latency_timer of the device under /sys/bus/usb-serial/devices; "setserial DEVICE low_latency"
+///   makes it 1 ms. Both are left as the owner of the PC has set them.
+///
+///   PL2303 (pl2303) has 256 characters each way. Only newer chips deal with XON/XOFF, and the driver does not tell
+///   which, so none is relied on. It has no counters. Its error status belongs to a whole USB packet: a parity error
+///   marks all the characters that crossed with the bad one.
+///
+///   CH340 (ch341) sends packets of 32 characters and tells neither parity nor framing errors. It deals with RTS/CTS in
+///   the chip with recent kernels only.
+///
+///   XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, pl2303, or any with RTS/CTS besides): these
+///   drivers have no way to be stopped. Linux would take the XOFF out of what is read and go on sending, and would not
+///   say XOFF to the machine. ObeitXoff is false there.
+///
+///   Overrun between chip and driver (1006) is what a hub, a long cable or a sleeping PC costs. In software only a
+///   lower speed cures it.
 class LignePosix : public LigneSerie
 {
 public:
@@ -23,7 +61,8 @@ public:
     void PoseRTS(bool actif) override;
     void PoseDTR(bool actif) override;
     bool ObeitXoff(ControleFlux flux) const override;
-    int Descripteur() const override { return m_fd; }
+    void AnnonceLisible(bool annonce) override { m_lecture->setEnabled(annonce); }
+    void AnnonceInscriptible(bool annonce) override { m_ecriture->setEnabled(annonce); }
     LectureLigne Lit(int tailleMax) override;
     int Ecrit(const char *octets, int nombre) override;
     int NonEmis() override;
@@ -39,7 +78,11 @@ private:
     SensMarques Sens();
     bool CompteursPilote(CompteursLigne &compteurs) const;
 
+    std::unique_ptr<QSocketNotifier> Guette(QSocketNotifier::Type evenement, void (LignePosix::*annonce)());
+
     int m_fd = -1;
+    std::unique_ptr<QSocketNotifier> m_lecture;
+    std::unique_ptr<QSocketNotifier> m_ecriture;
     bool m_pseudoTerminal = false;
     PiloteUsb m_usb = PiloteUsb::Aucun;
     bool m_avecParite = false;

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QObject>
 
 #include <optional>
 
@@ -39,14 +40,11 @@ struct LectureLigne
 };
 
 /// An open serial line, closed by its destruction. No operation waits. Those that say what they raise may fail; the
-/// others do nothing, or give nothing, once the device has gone.
-class LigneSerie
+/// others do nothing, or give nothing, once the device has gone. Each system has a class of its own for its lines.
+class LigneSerie : public QObject
 {
+    Q_OBJECT
 public:
-    LigneSerie() = default;
-    virtual ~LigneSerie() = default;
-    Q_DISABLE_COPY_MOVE(LigneSerie)
-
     /// Raises ErreurPort::Vitesse, BitsDonnees or Reglage for what the device cannot do; the line then keeps what it
     /// had.
     virtual void Regle(const ReglagePort &reglage) = 0;
@@ -56,9 +54,9 @@ public:
     /// the line is not to be set to XON/XOFF: the characters would vanish without effect.
     virtual bool ObeitXoff(ControleFlux flux) const = 0;
 
-    /// Descriptor that is readable when characters have come or the device has gone, and writable when Ecrit takes
-    /// some.
-    virtual int Descripteur() const = 0;
+    /// Whether Lisible and Inscriptible are emitted from now on; neither is to begin with.
+    virtual void AnnonceLisible(bool annonce) = 0;
+    virtual void AnnonceInscriptible(bool annonce) = 0;
     /// At most tailleMax characters, above 0; none when nothing has come. Raises ErreurPort::Lecture.
     virtual LectureLigne Lit(int tailleMax) = 0;
     /// Hands the first characters over and gives their number; 0 when the line takes none for now.
@@ -73,4 +71,11 @@ public:
     /// Nothing where the device has no such lines.
     virtual std::optional<EtatsLigne> Etats() = 0;
     virtual CompteursLigne Compteurs() = 0;
+
+    // Both come from the event loop, again and again for as long as they are true.
+Q_SIGNALS:
+    /// Characters have come, or the device has gone.
+    void Lisible();
+    /// Ecrit takes characters, or the device has gone. Some drivers say so without being able to.
+    void Inscriptible();
 };

@@ -1,14 +1,12 @@
 #include "platform/serie/MSComm.h"
 
 #include "platform/base/CedeLaMain.h"
+#include "platform/base/Journal.h"
 #include "platform/base/PageCode1252.h"
-#include "platform/serie/LignePosix.h"
+#include "platform/serie/OuvreLigne.h"
 
 #include <QAbstractEventDispatcher>
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QFileInfo>
-#include <QStringList>
 
 #include <algorithm>
 #include <utility>
@@ -21,7 +19,6 @@ using Horloge = std::chrono::steady_clock;
 
 constexpr int PortMax = 16;
 constexpr int TailleTamponUsuelle = 1024;
-constexpr int ChaineMax = 100; // longest end-of-transfer chain
 constexpr auto PeriodeSurveillance = 50ms;
 constexpr Duree Transit = 2ms; // what an adapter adds to a line time
 constexpr Duree Jeu = 20ms;    // after that a line is taken to stand still
@@ -34,7 +31,6 @@ MSComm::MSComm(QObject *parent)
     : QObject(parent)
 {
     connect(&m_emission, &EmissionPort::SousSeuil, this, [this] { m_evenements.Annonce(EvenementPort::Emission); });
-    connect(&m_emission, &EmissionPort::AttendMachine, this, &MSComm::Surveille);
     connect(&m_emission, &EmissionPort::Panne, this, &MSComm::Panne);
     m_surveillance.setInterval(PeriodeSurveillance);
     connect(&m_surveillance, &QTimer::timeout, this, &MSComm::Surveille);
@@ -49,17 +45,6 @@ MSComm::~MSComm()
 }
 
 // ---- Opening and closing
-
-QString MSComm::CheminPort(int numPort) const
-{
-    QStringList chemins;
-    if (!m_dossierPorts.isEmpty())
-        chemins << QDir(m_dossierPorts).filePath(QStringLiteral("Com%1").arg(numPort));
-    chemins << QStringLiteral("/dev/com%1").arg(numPort) << QStringLiteral("/dev/ttyS%1").arg(numPort - 1);
-    const auto trouve =
-        std::find_if(chemins.cbegin(), chemins.cend(), [](const QString &c) { return QFileInfo::exists(c); });
-    return trouve == chemins.cend() ? QString() : *trouve;
-}
 
 void MSComm::setCommPort(int numPort)
 {
@@ -79,53 +64,52 @@ void MSComm::setPortOpen(bool ouvert)
     }
     if (m_ligne)
         throw Erreur(ErreurPort::Occupe, QStringLiteral("PortOpen"));
-    Ouvre();
-}
-
-std::unique_ptr<LigneSerie> MSComm::OuvreLigne() const
-{
-    if (m_fabrique)
-        return m_fabrique(m_commPort);
-    const QString chemin = CheminPort(m_commPort);
-    if (chemin.isEmpty())
-        throw Erreur(ErreurPort::Inconnu, QStringLiteral("Com%1").arg(m_commPort));
-    return std::make_unique<LignePosix>(chemin);
+    try {
+        Ouvre();
+    } catch (const Erreur &erreur) {
+        qCInfo(JournalLigne) << "port" << m_commPort << "does not open:" << erreur.Numero() << erreur.Description();
+        throw;
+    }
 }
 
 void MSComm::Ouvre()
 {
-    std::unique_ptr<LigneSerie> ligne = OuvreLigne();
+    std::unique_ptr<LigneSerie> ligne = m_fabrique ? m_fabrique(m_commPort) : OuvreLigne(m_commPort, m_dossierPorts);
     // Linux raises both lines as it opens the device; a machine that must not see them gets them lowered at once.
     ligne->PoseDTR(m_dtr);
     ligne->PoseRTS(m_rts || m_reglage.ARtsCts());
-    m_xonXoff = FluxXonXoff(); // what the last machine was told is nothing to this one
+    m_xonXoff = FluxXonXoff(); // the last session's XOFF state does not apply
     RegleLigne(*ligne, m_reglage);
     ligne->JetteReception(); // a closed port receives nothing
 
     m_emission.Ouvre(*ligne, m_reglage);
     m_ligne = std::move(ligne);
     m_veille.Ouvre(*m_ligne);
-    SuitMachine();
-    m_lecture = std::make_unique<QSocketNotifier>(m_ligne->Descripteur(), QSocketNotifier::Read);
-    connect(m_lecture.get(), &QSocketNotifier::activated, this, &MSComm::Recolte);
+    m_retenue.Ouvre(*m_ligne, m_reglage);
+    m_emission.SuitRetenue();
+    connect(m_ligne.get(), &LigneSerie::Lisible, this, &MSComm::Recolte);
+    m_ligne->AnnonceLisible(true);
     m_surveillance.start();
+    qCInfo(JournalLigne) << "port" << m_commPort << "is open, RTS" << m_rts << "DTR" << m_dtr;
 }
 
 /// What has left the queue gets its line time. Characters still in the queue say that the sending was cancelled: then,
 /// and on a line that is held, nothing is waited for.
 void MSComm::Ferme()
 {
+    const bool retenue = Retenue(); // as long as an XOFF of the machine is known
     m_xonXoff.Pose(false);
     FreineMachine(); // it would wait for its XON until the next transfer
     const bool vivante = !m_panne;
-    const bool abandon = vivante && (m_emission.Nombre() > 0 || m_emission.Retenue());
+    const bool abandon = vivante && (m_emission.Nombre() > 0 || retenue);
     const CadenceEmission cadence = m_emission.Cadence();
-    m_veille.Regarde(*m_ligne);       // the last errors are counted
+    m_veille.Regarde(*m_ligne); // the last errors are counted
+    NoteFermeture(retenue);
     m_ajoutes -= m_emission.Nombre(); // these never went
     // From here on the port is closed for everyone who runs while the line empties.
     const std::unique_ptr<LigneSerie> ligne = std::move(m_ligne);
     m_emission.Ferme();
-    m_lecture.reset();
+    ligne->AnnonceLisible(false);
     m_surveillance.stop();
     m_evenements.Oublie();
     m_panne.reset();
@@ -143,6 +127,16 @@ void MSComm::Ferme()
     // A system that still holds characters would make the closing wait for a machine that may never take them.
     if (abandon || ligne->NonEmis() > 0)
         ligne->JetteEmission();
+}
+
+void MSComm::NoteFermeture(bool retenue) const
+{
+    const ComptesPort comptes = Comptes();
+    const CompteursLigne &fautes = comptes.fautes;
+    qCInfo(JournalLigne) << "port" << m_commPort << "closes," << (retenue ? "held," : "free,") << m_emission.Nombre()
+                         << "characters thrown away," << comptes.emis << "sent," << comptes.recus << "received; breaks"
+                         << fautes.pauses << "framing" << fautes.trame << "parity" << fautes.parite << "overrun"
+                         << fautes.cadence << "lost" << fautes.debordements;
 }
 
 /// Keeps the event loop turning until fini holds, no longer than limite. The operator's input and OnComm wait.
@@ -173,11 +167,12 @@ void MSComm::ExigeVivant() const
         throw Erreur(*m_panne);
 }
 
-/// The device has gone. Its descriptor would wake the notifiers without end.
+/// The device has gone. Its line would announce that without end.
 void MSComm::Panne(const Erreur &erreur)
 {
+    qCInfo(JournalLigne) << "the device has gone:" << erreur.Numero() << erreur.Description();
     m_panne = erreur;
-    m_lecture->setEnabled(false);
+    m_ligne->AnnonceLisible(false);
     m_ajoutes -= m_emission.Nombre();
     m_emission.Arrete();
     m_surveillance.stop();
@@ -196,6 +191,9 @@ void MSComm::RegleLigne(LigneSerie &ligne, const ReglagePort &reglage)
         pourLigne.flux = reglage.ARtsCts() ? ControleFlux::RtsCts : ControleFlux::Aucun;
     ligne.Regle(pourLigne);
     m_xonXoff.Pose(soiMeme);
+    qCInfo(JournalLigne) << "settings" << reglage.vitesse << "baud, parity" << static_cast<int>(reglage.parite)
+                         << "data" << reglage.bitsDonnees << "stop" << reglage.demiBitsArret / 2.0 << "flow"
+                         << static_cast<int>(reglage.flux) << (soiMeme ? "XOFF obeyed by the program" : "");
 }
 
 void MSComm::PoseReglage(const ReglagePort &reglage)
@@ -207,9 +205,10 @@ void MSComm::PoseReglage(const ReglagePort &reglage)
         if (!reglage.ARtsCts() || !m_reglage.ARtsCts())
             m_ligne->PoseRTS(m_rts || reglage.ARtsCts());
         m_emission.Regle(reglage);
+        m_retenue.Regle(reglage);
+        m_emission.SuitRetenue();
     }
     m_reglage = reglage;
-    SuitMachine();
 }
 
 void MSComm::setSettings(const QString &settings)
@@ -282,7 +281,7 @@ int MSComm::PlaceReception() const
 void MSComm::Recolte()
 {
     if (PlaceReception() <= 0) {
-        m_lecture->setEnabled(false);
+        m_ligne->AnnonceLisible(false);
         return;
     }
     const LectureLigne lecture = Releve(PlaceReception());
@@ -297,7 +296,7 @@ LectureLigne MSComm::Releve(int place)
     try {
         LectureLigne lecture = m_xonXoff.Entend(m_ligne->Lit(place));
         if (m_xonXoff.Actif())
-            SuitMachine();
+            m_emission.SuitRetenue();
         return lecture;
     } catch (const Erreur &erreur) {
         Panne(erreur);
@@ -351,7 +350,7 @@ void MSComm::ReprendRecolte()
 {
     if (m_panne)
         return;
-    m_lecture->setEnabled(true);
+    m_ligne->AnnonceLisible(true);
     FreineMachine();
 }
 
@@ -433,12 +432,18 @@ int MSComm::EnRoute() const
     return m_ligne->NonEmis();
 }
 
-void MSComm::ViderEmission()
+/// Whether something else than this PC keeps the line from carrying what it was given.
+bool MSComm::Retenue()
+{
+    return m_retenue.ParMachine() || m_retenue.ParAppareil(Horloge::now());
+}
+
+void MSComm::ViderEmission(int chaine)
 {
     ExigeVivant();
-    const auto termine = [this] { return !m_ligne || m_panne || m_emission.Nombre() == 0 || m_emission.Retenue(); };
+    const auto termine = [this] { return !m_ligne || m_panne || m_emission.Nombre() == 0 || Retenue(); };
     const CadenceEmission &cadence = m_emission.Cadence();
-    const int nombre = std::min(m_emission.Nombre(), ChaineMax) + cadence.Avance();
+    const int nombre = std::min(m_emission.Nombre(), chaine) + cadence.Avance();
     Attend(cadence.Temps(nombre) + Jeu, termine);
     if (!m_ligne || m_panne || m_emission.Nombre() == 0)
         return;
@@ -464,15 +469,12 @@ ComptesPort MSComm::Comptes() const
 void MSComm::Surveille()
 {
     const QList<int> codes = m_veille.Regarde(*m_ligne);
-    for (const int code : codes)
+    for (const int code : codes) {
+        qCInfo(JournalLigne) << "event" << code;
         m_evenements.Annonce(code);
-    SuitMachine();
+    }
+    m_emission.SuitRetenue();
     FreineMachine();
-}
-
-void MSComm::SuitMachine()
-{
-    m_emission.Retient(m_xonXoff.Retenue() || (m_reglage.ARtsCts() && Etats() && !Etats()->cts));
 }
 
 void MSComm::Delivre()

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QObject>
-#include <QSocketNotifier>
 
 #include <chrono>
+#include <memory>
 
 /// Wakes the event loop once, after a time given to the nanosecond. Qt's timers round up to whole milliseconds, in two
-/// places: 1 to 2 ms late, which is several characters of a fast line.
+/// places: 1 to 2 ms late, which is several characters of a fast line. Each system has a timer of its own for this.
 class MinuteurPrecis : public QObject
 {
     Q_OBJECT
@@ -23,8 +23,6 @@ Q_SIGNALS:
     void Echu();
 
 private:
-    void Lit();
-
-    const int m_fd;
-    QSocketNotifier m_reveil;
+    struct Systeme;
+    const std::unique_ptr<Systeme> m_systeme;
 };

@@ -19,6 +19,8 @@ struct ReglagePort
     bool ARtsCts() const { return flux == ControleFlux::RtsCts || flux == ControleFlux::RtsXonXoff; }
     /// Bits that one character takes on the line: start, data, parity and stop.
     double BitsParCaractere() const;
+    /// What the line carries.
+    double CaracteresParSeconde() const { return vitesse / BitsParCaractere(); }
 };
 
 /// Reads speed, parity, data bits and stop bits, as in "9600,e,7,1". Parity is one of n, o, e, m, s; stop bits are 1,

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <termios.h>
@@ -260,7 +261,7 @@ private Q_SLOTS:
     void reglageRefuse()
     {
         const Com2 com2;
-        const LignePosix ligne(com2.chemin);
+        const int ligne = open(qPrintable(com2.chemin), O_RDWR | O_NOCTTY);
         Puce puce;
         systeme.puce = &puce;
         for (const auto &[vitesse, texte, numero] : {std::tuple{0, "9600,n,7,1", ErreurPort::BitsDonnees},
@@ -268,16 +269,16 @@ private Q_SLOTS:
                                                      {9312, "9600,n,8,1", 0},
                                                      {9311, "9600,n,8,1", ErreurPort::Vitesse}}) {
             puce.vitesse = 0;
-            RegleTerminal(ligne.Descripteur(), LitReglagePort(QStringLiteral("9600,n,8,2")), true);
+            RegleTerminal(ligne, LitReglagePort(QStringLiteral("9600,n,8,2")), true);
             puce.vitesse = unsigned(vitesse);
-            QCOMPARE(NumeroErreur([&, texte = texte] {
-                         RegleTerminal(ligne.Descripteur(), LitReglagePort(QLatin1String(texte)), true);
-                     }),
-                     numero);
+            QCOMPARE(
+                NumeroErreur([&, texte = texte] { RegleTerminal(ligne, LitReglagePort(QLatin1String(texte)), true); }),
+                numero);
             termios terminal{};
-            QCOMPARE(tcgetattr(ligne.Descripteur(), &terminal), 0);
+            QCOMPARE(tcgetattr(ligne, &terminal), 0);
             QCOMPARE((terminal.c_cflag & CSTOPB) != 0, numero != 0);
         }
+        close(ligne);
     }
 };
 

@@ -55,7 +55,7 @@ class TestMSComm : public QObject
                 NumeroErreur([&] { m_port->InBufferCount(); }),
                 NumeroErreur([&] { m_port->OutBufferCount(); }),
                 NumeroErreur([&] { m_port->ViderReception(); }),
-                NumeroErreur([&] { m_port->ViderEmission(); })};
+                NumeroErreur([&] { m_port->ViderEmission(100); })};
     }
 
 private Q_SLOTS:
@@ -297,7 +297,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_scenario->regards > regards + 10);
         QCOMPARE(m_scenario->ecrits.size(), AvanceA9600);
         QCOMPARE(m_port->OutBufferCount(), 500 - AvanceA9600);
-        m_port->ViderEmission(); // it is held: nothing gets any time
+        m_port->ViderEmission(100); // it is held: nothing gets any time
         QCOMPARE(m_scenario->ecrits.size(), AvanceA9600);
         QCOMPARE(m_port->Comptes().emis, AvanceA9600);
         QCOMPARE(m_scenario->jetsEmission, 1);
@@ -331,13 +331,13 @@ private Q_SLOTS:
         m_port->setPortOpen(false);
         m_port->setPortOpen(true);
         m_port->Output(Programme(100));
-        m_port->ViderEmission();
+        m_port->ViderEmission(100);
         QCOMPARE(m_scenario->ecrits, '%' + OctetsEn1252(Programme(100)));
         QCOMPARE(m_scenario->jetsEmission, 0);
 
         m_scenario->ecrits.clear();
         m_port->Output(Programme(5000)); // no chain is as long as that
-        m_port->ViderEmission();
+        m_port->ViderEmission(100);
         QCOMPARE(m_port->OutBufferCount(), 0);
         QCOMPARE(m_scenario->jetsEmission, 1);
         QVERIFY(m_scenario->ecrits.size() >= 100 && m_scenario->ecrits.size() < 1000);

@@ -1,0 +1,66 @@
+#include "platform/serie/MinuteurPrecis.h"
+
+#include "platform/base/Erreur.h"
+#include "platform/base/Reprise.h"
+#include "platform/serie/ErreurPort.h"
+
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+namespace {
+
+int OuvreMinuteur()
+{
+    const int fd = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
+    if (fd < 0)
+        throw Erreur(ErreurPort::Indisponible, QString(), errno);
+    return fd;
+}
+
+} // namespace
+
+struct MinuteurPrecis::Systeme
+{
+    Systeme() = default;
+    ~Systeme()
+    {
+        reveil.setEnabled(false); // before its descriptor is gone
+        close(fd);
+    }
+    Q_DISABLE_COPY_MOVE(Systeme)
+
+    const int fd = OuvreMinuteur();
+    QSocketNotifier reveil{fd, QSocketNotifier::Read};
+};
+
+MinuteurPrecis::MinuteurPrecis()
+    : m_systeme(std::make_unique<Systeme>())
+{
+    connect(&m_systeme->reveil, &QSocketNotifier::activated, this, [this] {
+        std::uint64_t fois = 0;
+        // What was armed anew meanwhile has not come yet.
+        if (Reprise([&] { return read(m_systeme->fd, &fois, sizeof fois); }) == sizeof fois)
+            Q_EMIT Echu();
+    });
+}
+
+MinuteurPrecis::~MinuteurPrecis() = default;
+
+void MinuteurPrecis::Arme(std::chrono::nanoseconds delai)
+{
+    delai = std::max(delai, std::chrono::nanoseconds(1)); // 0 would stop it
+    const auto s = std::chrono::floor<std::chrono::seconds>(delai);
+    const itimerspec echeance{{}, {s.count(), (delai - s).count()}};
+    timerfd_settime(m_systeme->fd, 0, &echeance, nullptr);
+}
+
+void MinuteurPrecis::Arrete()
+{
+    const itimerspec jamais{};
+    timerfd_settime(m_systeme->fd, 0, &jamais, nullptr);
+}
