@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int SommeilMax = 5; // ms
-// An event that always begets the next must not keep the caller from its turn.
+// Events that keep raising new events must not hold the caller back for longer than this.
 constexpr int ToursMax = 16;
 
 bool mouvement = false;

@@ -10,7 +10,7 @@
 class Erreur : public std::exception
 {
 public:
-    /// numero: the number by which the program knows the failure (see the constants below and MSComm.h).
+    /// numero: the number by which the program knows the failure (see the constants below and ErreurPort.h).
     /// objet: what failed: the file, the device, the value.
     /// cause: the system's own number for it (errno), 0 where it has none.
     Erreur(int numero, const QString &objet, int cause = 0);
@@ -22,7 +22,7 @@ public:
     const QString &Description() const { return m_description; }
     const char *what() const noexcept override { return m_octets.constData(); }
 
-    // Numbers of the operations on numbers, files and dialogs; those of the serial control are in MSComm.h.
+    // Numbers of the operations on numbers, files and dialogs; those of the serial control are in ErreurPort.h.
     static constexpr int Depassement = 6;         ///< a number that does not fit its field
     static constexpr int MemoireInsuffisante = 7; ///< a text too large to hold
     static constexpr int IndiceHorsPlage = 9;     ///< a position beyond the end of a table
