@@ -5,6 +5,7 @@
 #include "platform/serie/MSComm.h"
 
 #include <QAbstractEventDispatcher>
+#include <QLoggingCategory>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -351,6 +352,31 @@ private Q_SLOTS:
         QCOMPARE(m_scenario->jetsEmission, 2);
         m_port->setPortOpen(true);
         QCOMPARE(m_port->OutBufferCount() + m_port->InBufferCount(), 0);
+    }
+
+    // What a helper reads at the telephone: holds and counts, and nothing of the program.
+    void journal()
+    {
+        static QStringList dits;
+        dits.clear();
+        QLoggingCategory::setFilterRules(QStringLiteral("dorvanel.ligne=true"));
+        const auto avant =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &dit) { dits << dit; });
+        m_port->setHandshaking(2);
+        Ouvre();
+        m_port->Output(Programme(500));
+        m_scenario->etats->cts = false;
+        const bool retenu = QTest::qWaitFor([&] { return !m_port->CTSHolding(); });
+        const QString partis = QString::number(m_scenario->ecrits.size());
+        m_port->setPortOpen(false);
+        qInstallMessageHandler(avant);
+        QLoggingCategory::setFilterRules(QString());
+        QVERIFY(retenu && dits.contains(QStringLiteral("the machine holds the line")));
+        QVERIFY2(
+            dits.last().contains(QStringLiteral("held, ")) &&
+                dits.last().contains(QStringLiteral("thrown away, ") + partis + QStringLiteral(" sent, 0 received")),
+            qPrintable(dits.last()));
+        QVERIFY(!dits.join(u' ').contains(QStringLiteral("G1")));
     }
 
     void debranche()
