@@ -111,7 +111,7 @@ constexpr Texte3 ArreterTexte{u"Le transfert n'est pas terminé !\rConfirmez l'a
 
 } // namespace
 
-void (*Em_Rc::RoutineBanc)(Ui::Em_Rc &) = nullptr;
+Em_Rc::Reception Em_Rc::RoutineBanc = nullptr;
 
 Em_Rc::Em_Rc(QWidget *parent)
     : QDialog(parent)
@@ -198,6 +198,15 @@ void Em_Rc::MontreMode()
         QMetaObject::invokeMethod(this, &Em_Rc::CommenceReception, Qt::QueuedConnection);
 }
 
+Em_Rc::Reception Em_Rc::Routine()
+{
+    constexpr Reception receptions[] = {ReceptionLigne, ReceptionCar, ReceptionFichier};
+    if (Transfert.TypeTransfert == ReceptionBanc)
+        return RoutineBanc;
+    const int type = ParamCom.TypeRecep;
+    return type >= 0 && type < static_cast<int>(std::size(receptions)) ? receptions[type] : nullptr;
+}
+
 void Em_Rc::CommenceReception()
 {
     const EnTransfert enTransfert;
@@ -207,14 +216,13 @@ void Em_Rc::CommenceReception()
         return;
     }
     DebuteBilan();
-    if (Transfert.TypeTransfert == ReceptionBanc) {
-        RoutineBanc(*this);
+    if (const auto routine = Routine())
+        routine(*this);
+    RetireDemande();
+    if (Transfert.TypeTransfert == ReceptionBanc)
         return;
-    }
-    constexpr void (*receptions[])(Ui::Em_Rc &) = {ReceptionLigne, ReceptionCar, ReceptionFichier};
-    if (ParamCom.TypeRecep >= 0 && ParamCom.TypeRecep < static_cast<int>(std::size(receptions)))
-        receptions[ParamCom.TypeRecep](*this);
     Command1->setFocus();
+    Command7->setEnabled(false); // there is no end left to be forced
     RetientTouches(this);
 }
 
@@ -244,6 +252,7 @@ void Em_Rc::Command2_Click()
         EnvoiFich_Lig_Lig(*this);
     else
         EnvoiFich_FinFich(*this);
+    RetireDemande();
     Command2->setEnabled(true);
     Command2->setFocus();
     RetientTouches(this); // a short program would go many times over while a hand leans on Enter
@@ -278,17 +287,15 @@ void Em_Rc::Command7_Click()
         Transfert.ForceRECEPT = true;
 }
 
-/// Escape and the window's close box lie near and end what no one can bring back. The buttons say what they do.
+/// Escape and the window's close box lie near and end what no one can bring back. The buttons say what they do. The
+/// machine sends on while the question stands, and the routine goes on taking what comes.
 void Em_Rc::reject()
 {
-    if (!TransfertEnCours() || ConfirmeArret())
+    if (TransfertEnCours())
+        DemandeSansAttendre(*this, Texte(ArreterTexte), Boite::Question | Boite::SecondBouton, Texte(ArreterTitre),
+                            [this] { done(Rejected); });
+    else
         done(Rejected);
-}
-
-bool Em_Rc::ConfirmeArret()
-{
-    const MSComm::SansEvenements sansEvenements(*frmPrinc->MSComm1);
-    return Confirme(Texte(ArreterTexte), Boite::Question | Boite::SecondBouton, Texte(ArreterTitre));
 }
 
 void Em_Rc::done(int resultat)
@@ -296,6 +303,7 @@ void Em_Rc::done(int resultat)
     // The end of a bench reception is the one close that does not cancel.
     if (resultat == Rejected)
         Transfert.AnnuleRECEPT = true;
+    RetireDemande();
     Form_Unload();
     QDialog::done(resultat);
     if (Transfert.FinTransfert)

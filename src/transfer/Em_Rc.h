@@ -18,9 +18,10 @@ class Em_Rc : public QDialog, public Ui::Em_Rc
 public:
     explicit Em_Rc(QWidget *parent);
 
-    /// The reception from the bench, which stands on a floor above and is tied here at the start. It may return long
-    /// after the dialog has been closed.
-    static void (*RoutineBanc)(Ui::Em_Rc &dialogue);
+    /// A routine that receives. It may return long after the dialog has been closed.
+    using Reception = void (*)(Ui::Em_Rc &dialogue);
+    /// The one from the bench, which stands on a floor above and is tied here at the start.
+    static Reception RoutineBanc;
 
     /// Closing, by whatever way: never on an open port. A routine of the dialog that still runs meets the closed port;
     /// the dialog lives, unseen, until that routine has returned.
@@ -44,10 +45,10 @@ private:
 
     void PrepareBilan();
     void MontreMode();
+    /// By the mode and the configuration; nullptr where the configuration names none.
+    static Reception Routine();
     /// Asks for confirmation and runs the reception; returns when the routine returns, perhaps long after the dialog
     /// has been closed.
     void CommenceReception();
     void MontreConfigurationChoisie();
-    /// Asks whether the transfer under way may end here. It stands still meanwhile.
-    static bool ConfirmeArret();
 };

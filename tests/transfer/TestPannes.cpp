@@ -51,6 +51,7 @@ Pilote::Deroulement Coupe(EssaiTransfert &essai, bool debranche, qsizetype posit
     if (debranche && essai.ligne->accepte <= position)
         return essai.Joue();
     return essai.Joue(position, [&](QDialog &transfert) {
+        const bool fait = debranche || position % 2 == 0; // a close box asks first
         if (debranche && position % 2 == 1 && essai.genre != Genre::Banc) {
             // while he is asked whether to force the end
             essai.pilote.Fait("MsgBox", [&essai, position](QWidget &boite) {
@@ -64,7 +65,7 @@ Pilote::Deroulement Coupe(EssaiTransfert &essai, bool debranche, qsizetype posit
             Pilote::Annule(essai.genre, transfert);
         else
             transfert.close();
-        return true;
+        return fait;
     });
 }
 

@@ -53,6 +53,8 @@ private Q_SLOTS:
     void Receptions();
     void ReceptionForcee_data() { RangsGenres(2, 4); }
     void ReceptionForcee();
+    void ArretDemande_data() { RangsGenres(2, 4); }
+    void ArretDemande();
     void ReceptionTenue_data() { RangsGenres(2, 4); }
     void ReceptionTenue();
     void TropDeLignes();
@@ -340,18 +342,17 @@ void TestTransferts::EmissionMontree()
             Dialogue,
             [&](QWidget &fenetre) {
                 const auto controle = [&](const QString &nom) { return fenetre.findChild<QWidget *>(nom); };
-                if (echo)
-                    fenetre.close();
-                else
-                    QTest::keyClick(&fenetre, Qt::Key_Escape);
-                QVERIFY(fenetre.isVisible());
                 QCOMPARE(essai.ligne->accepte, 0);
                 QCOMPARE(controle(u"Label3"_s)->isVisible(), echo);
                 QVERIFY(Operateur::Lu("Label3").endsWith(echoLu));
                 QVERIFY(!controle(u"Label4"_s)->isVisible() && !controle(u"Frame2"_s)->isVisible());
                 QVERIFY(!controle(u"Command2"_s)->isEnabled());
                 QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Verte);
-                essai.ligne->accepte = 1'000'000;
+                if (echo)
+                    fenetre.close();
+                else
+                    QTest::keyClick(&fenetre, Qt::Key_Escape);
+                QVERIFY(fenetre.isVisible());
             },
             [echo = echo, statut = statut] {
                 return Operateur::Lu("Label2") == statut &&
@@ -359,6 +360,7 @@ void TestTransferts::EmissionMontree()
             });
         essai.pilote.Repond("Transfert en cours", "Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
                             Operateur::Demande, QMessageBox::No);
+        essai.pilote.Fait(Dialogue, [&](QWidget &) { essai.ligne->accepte = 1'000'000; });
         essai.pilote.Fait(
             Dialogue,
             [&](QWidget &) {
@@ -457,6 +459,45 @@ void TestTransferts::ReceptionForcee()
             QCOMPARE(essai.Disque(), venu + "\r\n");
             QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
         }
+    }
+}
+
+// The close box asks, and no more than that: what comes meanwhile is received as it comes, whether he says No at last
+// or the end of the transfer takes the question away.
+void TestTransferts::ArretDemande()
+{
+    QFETCH(int, rang);
+    EssaiTransfert essai(Genres[rang]);
+    const QByteArray programme = essai.Envoye().chopped(1);
+    const auto pris = [&essai] { return essai.Pris(); };
+    for (const auto &[position, non] : {std::pair{0, true}, {5, true}, {5, false}}) {
+        essai.ligne = std::make_shared<Scenario>();
+        essai.PreditEnsuite();
+        for (const QByteArray piece : {"Z", "\r\n"})
+            essai.pilote.Fait(
+                "MsgBox", [&essai, piece](QWidget &) { essai.ligne->Envoie(piece); }, pris);
+        essai.pilote.Fait(
+            "MsgBox",
+            [&essai, non = non](QWidget &boite) {
+                if (non)
+                    return Operateur::Clique(QMessageBox::No)(boite);
+                essai.pilote.Habitude("MsgBox", [](QWidget &) {}); // he thinks about it until it is gone
+                essai.ligne->Envoie(FinTrans);
+            },
+            pris);
+        bool presse = false;
+        const auto deroulement = essai.Joue(position, [&](QDialog &transfert) {
+            if (std::exchange(presse, true))
+                return true;
+            for (int fois = 1; fois <= 2; ++fois) // he is asked once
+                transfert.close();
+            return false;
+        });
+        QCOMPARE(deroulement.statut, u"Transfert réalisé avec succès !"_s);
+        const QByteArray venu =
+            non ? QByteArray(programme).insert(position, "Z\r\n") : programme.left(position) + "Z\r\n";
+        QCOMPARE(essai.Disque(), venu + "\r\n");
+        QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
     }
 }
 

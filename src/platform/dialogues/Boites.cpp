@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QSpacerItem>
 #include <QTimer>
@@ -84,33 +85,64 @@ public:
     }
 };
 
-} // namespace
-
-Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
+void Prepare(QMessageBox &boite, const QString &texte, int drapeaux, const QString &titre)
 {
-    const bool ouiNon = (drapeaux & Boite::OuiNon) != 0;
-    QMessageBox boite(FenetreAppelante());
     boite.setObjectName(QStringLiteral("MsgBox"));
     boite.setWindowTitle(titre);
     boite.setIcon(Icone(drapeaux));
     boite.setTextFormat(Qt::PlainText);
     boite.setText(AvecCesures(PourAffichage(texte), boite.fontMetrics(), LargeurMax - IconeEtMarges));
-    boite.setStandardButtons(ouiNon ? QMessageBox::Yes | QMessageBox::No
-                                    : QMessageBox::StandardButtons(QMessageBox::Ok));
-    if (ouiNon) {
+    boite.setStandardButtons(QMessageBox::Ok);
+    if ((drapeaux & Boite::OuiNon) != 0) {
+        boite.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         boite.setDefaultButton((drapeaux & Boite::SecondBouton) != 0 ? QMessageBox::No : QMessageBox::Yes);
         boite.setEscapeButton(QMessageBox::No);
     }
     if ((drapeaux & Boite::ChoixExige) != 0)
         boite.installEventFilter(new SansEchappatoire(&boite));
     Elargit(boite);
+}
+
+QPointer<QMessageBox> demande; // the question that stands without waiting
+
+} // namespace
+
+Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
+{
+    RetireDemande();
+    QMessageBox boite(FenetreAppelante());
+    Prepare(boite, texte, drapeaux, titre);
     const int choix = boite.exec();
-    return !ouiNon ? Reponse::Ok : choix == QMessageBox::Yes ? Reponse::Oui : Reponse::Non;
+    if ((drapeaux & Boite::OuiNon) == 0)
+        return Reponse::Ok;
+    return choix == QMessageBox::Yes ? Reponse::Oui : Reponse::Non;
 }
 
 bool Confirme(const QString &texte, int drapeaux, const QString &titre)
 {
     return MsgBox(texte, drapeaux | Boite::OuiNon, titre) == Reponse::Oui;
+}
+
+void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, const QString &titre,
+                         const std::function<void()> &siOui)
+{
+    if (demande != nullptr)
+        return;
+    demande = new QMessageBox(&fenetre);
+    demande->setAttribute(Qt::WA_DeleteOnClose);
+    Prepare(*demande, texte, drapeaux | Boite::OuiNon, titre);
+    QObject::connect(demande, &QDialog::finished, &fenetre, [siOui](int choix) {
+        demande.clear();
+        if (choix == QMessageBox::Yes)
+            siOui();
+    });
+    demande->open();
+}
+
+void RetireDemande()
+{
+    if (demande != nullptr)
+        demande->reject();
 }
 
 QString InputBox(const QString &invite, const QString &titre, const QString &valeur)

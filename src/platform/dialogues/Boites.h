@@ -2,8 +2,13 @@
 
 #include <QString>
 
-// Message and input boxes. A box is modal; while it is open the event loop runs. Its standard buttons stand in the
-// language of the translator that the program has installed.
+#include <functional>
+
+class QWidget;
+
+// Message and input boxes. A box is modal; while it is open the event loop runs, and the routine that shows it stands
+// still, but for DemandeSansAttendre(). Its standard buttons stand in the language of the translator that the program
+// has installed.
 
 /// What a message box bears: buttons, icon and default button are added up.
 namespace Boite {
@@ -24,6 +29,13 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre);
 
 /// True when the operator answers Yes to a box with Yes and No. drapeaux: icon and default button.
 bool Confirme(const QString &texte, int drapeaux, const QString &titre);
+
+/// Asks what Confirme() asks, over fenetre, and returns at once: what runs goes on while the operator reads. siOui is
+/// called when he answers Yes. One such question stands at a time; a further one is not asked. It goes unanswered with
+/// fenetre, by RetireDemande(), and when a box of the other kind comes: what it asked about has moved on.
+void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, const QString &titre,
+                         const std::function<void()> &siOui);
+void RetireDemande();
 
 /// Asks for a text in a box named "InputBox". invite: the prompt, with line ends as in MsgBox; valeur: the text first
 /// offered. Typing replaces it, or of a path only the last name. Cancelling gives "".
