@@ -8,6 +8,7 @@
 #include "platform/controles/Clavier.h"
 #include "platform/controles/Molette.h"
 #include "platform/controles/UneLigne.h"
+#include "platform/dialogues/FenetreAppelante.h"
 #include "platform/serie/MSComm.h"
 #include "programme/Arrivee.h"
 #include "programme/Demarrage.h"
@@ -84,6 +85,7 @@ void Branche()
     BrancheAide();
     TientUneLigne(frmPrinc);
     BrancheClavier(frmPrinc);
+    RendLeClavier(frmPrinc);
     BrancheMolette(frmPrinc);
     Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {

@@ -164,13 +164,10 @@ void Rc_Fic::Command2_Click()
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
         return;
     Em_Rc(this).exec();
-    const bool fini = Transfert.FinTransfert;
-    if (fini)
+    if (Transfert.FinTransfert)
         accept();
     else
         Form_Activate();
-    // Two windows go at once here, and where nobody takes the keyboard it goes with them.
-    (fini ? frmPrinc : window())->activateWindow();
 }
 
 bool Rc_Fic::ConfirmeRemplacement() const

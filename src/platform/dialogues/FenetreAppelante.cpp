@@ -1,9 +1,41 @@
 #include "platform/dialogues/FenetreAppelante.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
+
+namespace {
+
+class Retour : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *objet, QEvent *evenement) override
+    {
+        if (evenement->type() != QEvent::Hide || evenement->spontaneous() ||
+            QGuiApplication::applicationState() != Qt::ApplicationActive)
+            return false;
+        const auto *const dialogue = qobject_cast<QWidget *>(objet);
+        if (dialogue == nullptr || !dialogue->isModal() || dialogue->parentWidget() == nullptr)
+            return false;
+        // Not before the dialog below has gone too.
+        const QPointer<QWidget> appelante = dialogue->parentWidget()->window();
+        QTimer::singleShot(0, qApp, [appelante] {
+            QWidget *const modale = QApplication::activeModalWidget();
+            QWidget *const suivante = modale != nullptr ? modale : appelante.data();
+            if (suivante != nullptr && suivante->isVisible())
+                suivante->activateWindow();
+        });
+        return false;
+    }
+};
+
+} // namespace
 
 QWidget *FenetreAppelante()
 {
@@ -17,4 +49,9 @@ QWidget *FenetreAppelante()
         return ordinaire && fenetre->isVisible();
     });
     return montree == fenetres.end() ? nullptr : *montree;
+}
+
+void RendLeClavier(QObject *proprietaire)
+{
+    qApp->installEventFilter(new Retour(proprietaire));
 }
