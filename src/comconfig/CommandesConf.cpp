@@ -114,6 +114,7 @@ void MetConfigurationNeuve()
         libelle->clear();
     p.NbCarDebProg = p.NbCarFinLig = p.NbCarFinTrans = 0;
     EtatConf.neuve = true;
+    EtatConf.malEcrite = false;
     // What a reading that broke off has left stays in the fields that are not set here.
     if (EtatConf.fiche == EtatConfiguration::Entiere)
         EtatConf.fiche = EtatConfiguration::EnAttente;

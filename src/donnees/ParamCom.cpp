@@ -99,7 +99,7 @@ void LireFichierPar(const QString &chemin)
     ParamCom.FinLigRecep = champs.LigneEntier();
     ParamCom.TypeEnvoi = champs.LigneEntier();
     EtatConf.fiche = EtatConfiguration::Entiere;
-    EtatConf.neuve = false;
+    EtatConf.neuve = EtatConf.malEcrite = false;
     EtatConf.lue = true;
 }
 
@@ -114,9 +114,10 @@ void EcrireFichierPar(const QString &chemin)
     }
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
+    EtatConf.malEcrite = true;
     EcritFichierTexte(chemin, texte);
     EtatConf.fiche = EtatConfiguration::Entiere;
-    EtatConf.neuve = false;
+    EtatConf.neuve = EtatConf.malEcrite = false;
 }
 
 void BatirChaines()

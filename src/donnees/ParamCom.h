@@ -94,10 +94,11 @@ struct EtatConfiguration
         Entiere     ///< read or saved whole, or applied
     };
     Fiche fiche = Incomplete;
-    bool neuve = false; ///< made by the operator, and no file holds it yet
-    bool lue = false;   ///< a configuration has been read whole since the program started
-    QString FicConf;    ///< full path of the .par file of ParamCom; "" when there is none
-    QString NomConf;    ///< that file's name without its folder
+    bool neuve = false;     ///< made by the operator, and no file holds it yet
+    bool malEcrite = false; ///< its last saving broke off: the file that bears its name is not whole
+    bool lue = false;       ///< a configuration has been read whole since the program started
+    QString FicConf;        ///< full path of the .par file of ParamCom; "" when there is none
+    QString NomConf;        ///< that file's name without its folder
 };
 
 extern EtatConfiguration EtatConf; ///< kept by whatever changes ParamCom as a whole

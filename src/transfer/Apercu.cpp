@@ -43,6 +43,13 @@ constexpr Texte3 NonAppliquee{u"Configuration modifiée sans être appliquée : 
 constexpr Texte3 Neuve{u"Nouvelle configuration, jamais enregistrée : en charger une, ou la refaire. ",
                        u"New configuration, never saved: load one, or make it again. ",
                        u"Configuración nueva, nunca registrada: cargar una, o hacerla de nuevo. "};
+constexpr Texte3 SansFichier{u"Nouvelle configuration, qui n'est dans aucun fichier. ",
+                             u"New configuration, which is in no file. ",
+                             u"Configuración nueva, que no está en ningún fichero. "};
+constexpr Texte3 MalEcrite{u"Le fichier de cette configuration n'a pas pu être écrit en entier : l'enregistrer de "
+                           u"nouveau. ",
+                           u"The file of this configuration could not be written whole: save it again. ",
+                           u"El fichero de esta configuración no pudo escribirse entero: registrarla de nuevo. "};
 constexpr Texte3 PortUtilise{u"Port utilisé : Com%1, vitesse : %2.", u"Port used: Com%1, speed: %2.",
                              u"Puerto utilizado: Com%1, velocidad: %2."};
 constexpr Texte3 QuandMeme{u"Continuer quand même ?", u"Go on all the same ?", u"¿Continuar de todos modos?"};
@@ -50,7 +57,8 @@ constexpr Texte3 QuandMeme{u"Continuer quand même ?", u"Go on all the same ?", 
 struct Apercu
 {
     QString contenu;
-    QStringList alertes;
+    QStringList alertes; ///< what the operator is asked about
+    QString avis;        ///< a warning that needs no answer
 };
 
 bool EstFin(QChar c)
@@ -107,12 +115,25 @@ const Texte3 &Defaut(const EtatConfiguration &etat)
     return etat.fiche == EtatConfiguration::Incomplete ? Incomplete : etat.neuve ? Neuve : NonAppliquee;
 }
 
+/// What is in force is one configuration, applied, which the file that is shown does not hold, also where the labels
+/// go on naming a former one.
+QString SansFichierEntier(const EtatConfiguration &etat)
+{
+    return etat.malEcrite ? Texte(MalEcrite) : etat.neuve ? Texte(SansFichier) : QString();
+}
+
 void RegardeConfiguration(Apercu &apercu)
 {
-    if (EtatConf.fiche == EtatConfiguration::Entiere)
+    const bool entiere = EtatConf.fiche == EtatConfiguration::Entiere;
+    const QString defaut = entiere ? SansFichierEntier(EtatConf) : Texte(Defaut(EtatConf));
+    if (defaut.isEmpty())
         return;
     const int port = Controle().PortOpen() ? Controle().CommPort() : ParamCom.NumPort;
-    apercu.alertes << Texte(Defaut(EtatConf)) + Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
+    const QString phrase = defaut + Texte(PortUtilise).arg(QString::number(port), ParamCom.Vitesse);
+    if (entiere)
+        apercu.avis = phrase;
+    else
+        apercu.alertes << phrase;
 }
 
 Apercu Regarde(const Ui::Em_Rc &dialogue)
@@ -126,10 +147,9 @@ Apercu Regarde(const Ui::Em_Rc &dialogue)
 
 void Montre(Ui::Em_Rc &dialogue, const Apercu &apercu)
 {
-    QStringList lignes = apercu.alertes;
-    if (!apercu.contenu.isEmpty())
-        lignes.prepend(apercu.contenu);
-    EcritBilan(dialogue, lignes.join(u'\n'), !apercu.alertes.isEmpty());
+    QStringList lignes = QStringList(apercu.contenu) + apercu.alertes + QStringList(apercu.avis);
+    lignes.removeAll(QString());
+    EcritBilan(dialogue, lignes.join(u'\n'), !apercu.alertes.isEmpty() || !apercu.avis.isEmpty());
 }
 
 } // namespace

@@ -140,6 +140,7 @@ const Ecrivain Ecrivains[] = {
          a.prop.Command17->click();
          QCOMPARE(EtatConf.FicConf + EtatConf.NomConf, a.Chemin(a.fichier) + a.fichier);
          QCOMPARE(a.prop.Label6->text() == a.fichier, !a.echoue);
+         QCOMPARE(EtatConf.malEcrite, a.echoue);
      }},
     {"machine", "TOUR.mac",
      [](Atelier &a) {

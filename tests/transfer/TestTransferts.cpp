@@ -232,6 +232,15 @@ void TestTransferts::AutreConfiguration()
     Operateur::Menu("Mnu_EmisProgCN");
     QCOMPARE(EtatConf.FicConf + frmPrinc->Label4->text(), autre + u"Tour.par"_s);
     QCOMPARE(ParamCom.ChaineFinLig, u"\r\r\n"_s);
+
+    EtatConf.neuve = true; // applied, and in no file: told, whatever name stands beside it
+    operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
+    operateur.Fait(Dialogue, [](QWidget &) {
+        QCOMPARE(Operateur::Lu("Bilan"), u"G0: 1 line, 2 characters\nNew configuration, which is in no file. "
+                                         "Port used: Com%1, speed: 19200."_s.arg(ParamCom.NumPort));
+    });
+    operateur.Presse(Dialogue, "Command1");
+    Operateur::Menu("Mnu_EmisProgCN");
 }
 
 // The name takes only what a file name may hold, and an existing file is replaced only when the operator says so.
