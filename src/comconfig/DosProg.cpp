@@ -135,6 +135,7 @@ void DosProg::Command4_Click()
         Montre(*FolderTreeview1, nouveau);
         if (frmPrinc->Frame1 != nullptr)
             Montre(*frmPrinc->Frame1->FolderTreeview1, nouveau);
+        FolderTreeview1->setFocus(); // or the button that asks for a folder would have it, and Enter make another
         MontreNouveau(false);
     } catch (const Erreur &) {
         MsgBox(Texte(NonCreeAvant) + nouveau + Texte(NonCreeApres), Boite::Critique, Texte(NonCreeTitre));

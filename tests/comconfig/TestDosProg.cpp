@@ -133,6 +133,7 @@ private Q_SLOTS:
             if (const CadreExplorateur *const colonne = frmPrinc->Frame1)
                 QCOMPARE(colonne->FolderTreeview1->SelectedFolder() + colonne->File1->Path(), cree + cree);
             QVERIFY(QFileInfo(cree).isDir() && dialogue.Frame1->isHidden() && dialogue.isVisible());
+            QCOMPARE(dialogue.focusWidget(), dialogue.FolderTreeview1); // where Enter makes no second one
             QVERIFY(!QFile::exists(atelier.Chemin(Cfg)));
         }
     }

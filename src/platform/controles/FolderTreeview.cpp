@@ -294,6 +294,13 @@ QTreeWidgetItem *FolderTreeview::SousDossier(QTreeWidgetItem *noeud, const QStri
     return ajoute;
 }
 
+/// The bar of the selection goes to the edge, however short the names are.
+void FolderTreeview::resizeEvent(QResizeEvent *evenement)
+{
+    QTreeWidget::resizeEvent(evenement);
+    header()->setMinimumSectionSize(viewport()->width());
+}
+
 /// "*" alone would open every folder of the machine, at any depth.
 void FolderTreeview::keyPressEvent(QKeyEvent *evenement)
 {

@@ -47,6 +47,7 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent *evenement) override;
     void keyPressEvent(QKeyEvent *evenement) override;
+    void resizeEvent(QResizeEvent *evenement) override;
 
 private:
     void SuitLeDisque();
