@@ -55,20 +55,6 @@ QString AvecCesures(const QString &texte, const QFontMetrics &metrique, int larg
     return coupe;
 }
 
-/// A box of its own accord cuts its title and breaks lines that the screen has room for.
-void Elargit(QMessageBox &boite)
-{
-    constexpr int boutonsDuCadre = 140;
-    const QFontMetrics metrique = boite.fontMetrics();
-    int largeur = metrique.horizontalAdvance(boite.windowTitle()) + boutonsDuCadre;
-    const QStringList lignes = boite.text().split(u'\n');
-    for (const QString &ligne : lignes)
-        largeur = std::max(largeur, std::min(metrique.horizontalAdvance(ligne) + IconeEtMarges, LargeurMax));
-    auto *const grille = qobject_cast<QGridLayout *>(boite.layout());
-    grille->addItem(new QSpacerItem(largeur, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), grille->rowCount(), 0, 1,
-                    grille->columnCount());
-}
-
 /// Keeps Escape and the close button from a box.
 class SansEchappatoire : public QObject
 {
@@ -106,6 +92,19 @@ void Prepare(QMessageBox &boite, const QString &texte, int drapeaux, const QStri
 QPointer<QMessageBox> demande; // the question that stands without waiting
 
 } // namespace
+
+void Elargit(QMessageBox &boite)
+{
+    constexpr int boutonsDuCadre = 140;
+    const QFontMetrics metrique = boite.fontMetrics();
+    int largeur = metrique.horizontalAdvance(boite.windowTitle()) + boutonsDuCadre;
+    const QStringList lignes = boite.text().split(u'\n');
+    for (const QString &ligne : lignes)
+        largeur = std::max(largeur, std::min(metrique.horizontalAdvance(ligne) + IconeEtMarges, LargeurMax));
+    auto *const grille = qobject_cast<QGridLayout *>(boite.layout());
+    grille->addItem(new QSpacerItem(largeur, 0, QSizePolicy::Minimum, QSizePolicy::Minimum), grille->rowCount(), 0, 1,
+                    grille->columnCount());
+}
 
 Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {

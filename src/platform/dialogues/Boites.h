@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class QMessageBox;
 class QWidget;
 
 // Message and input boxes. A box is modal; while it is open the event loop runs, and the routine that shows it stands
@@ -36,6 +37,10 @@ bool Confirme(const QString &texte, int drapeaux, const QString &titre);
 void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, const QString &titre,
                          const std::function<void()> &siOui);
 void RetireDemande();
+
+/// Gives a box, before it is shown, the width of its title and of its lines, as far as the screen has it: the toolkit
+/// cuts the one and breaks the others.
+void Elargit(QMessageBox &boite);
 
 /// Asks for a text in a box named "InputBox". invite: the prompt, with line ends as in MsgBox; valeur: the text first
 /// offered. Typing replaces it, or of a path only the last name. Cancelling gives "".

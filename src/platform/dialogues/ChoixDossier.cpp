@@ -7,7 +7,7 @@
 
 QString ChoixDossier(QWidget *fenetre, const QString &titre, const QString &depart)
 {
-    QFileDialog dialogue(fenetre, titre, depart);
+    QFileDialog dialogue(fenetre, titre, DossierDeDepart(depart));
     dialogue.setObjectName(QStringLiteral("CommonDialog"));
     DansLaLangue(dialogue);
     NeFaitQueChoisir(dialogue, true);

@@ -125,8 +125,7 @@ void CommonDialog::ShowSave()
 
 void CommonDialog::DemandeFichier(bool enregistrement)
 {
-    // Without a folder this toolkit's dialog would open where it was last used.
-    QFileDialog dialogue(FenetreAppelante(), DialogTitle, InitDir.isEmpty() ? QDir::currentPath() : InitDir);
+    QFileDialog dialogue(FenetreAppelante(), DialogTitle, DossierDeDepart(InitDir));
     DansLaLangue(dialogue);
     NeFaitQueChoisir(dialogue, enregistrement);
     dialogue.setOption(QFileDialog::HideNameFilterDetails);

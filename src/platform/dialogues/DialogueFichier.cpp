@@ -2,12 +2,15 @@
 
 #include "platform/dialogues/Boites.h"
 
+#include <QChildEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLayout>
 #include <QListView>
+#include <QMessageBox>
 #include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QTreeView>
@@ -52,12 +55,37 @@ void DemandeNouveauDossier(QFileDialog &dialogue)
         MsgBox(dossier.filePath(nom), Boite::Exclamation, QFileSystemModel::tr("Invalid filename"));
 }
 
+/// Its own boxes, such as the question before a file is written over, bear the dialog's title.
+class PlaceAuxBoites : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *, QEvent *evenement) override
+    {
+        if (evenement->type() != QEvent::ChildPolished)
+            return false;
+        if (auto *const boite = qobject_cast<QMessageBox *>(static_cast<QChildEvent *>(evenement)->child()))
+            Elargit(*boite);
+        return false;
+    }
+};
+
 } // namespace
+
+QString DossierDeDepart(const QString &dossier)
+{
+    QDir depart(QDir::cleanPath(QDir::current().absoluteFilePath(dossier)));
+    while (!depart.exists() && !depart.isRoot())
+        depart = QDir(QFileInfo(depart.path()).path());
+    return depart.path();
+}
 
 void DansLaLangue(QFileDialog &dialogue)
 {
     constexpr int largeur = 70; // characters of name, size and date together
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
+    dialogue.installEventFilter(new PlaceAuxBoites(&dialogue));
     if (auto *const lieux = dialogue.findChild<QListView *>(QStringLiteral("sidebar")))
         lieux->setMinimumWidth(lieux->sizeHintForColumn(0) + 2 * lieux->frameWidth());
     auto *const liste = dialogue.findChild<QTreeView *>(QStringLiteral("treeView"));
