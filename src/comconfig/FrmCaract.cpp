@@ -3,7 +3,10 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/PageCode1252.h"
+#include "platform/controles/FiltreTouches.h"
 #include "platform/dialogues/Boites.h"
+
+#include <QKeyEvent>
 
 namespace {
 
@@ -37,6 +40,10 @@ constexpr Texte3 AideTexte{u"Ajout d'un caractère personnalisé.\r\n\r\n"
                            u"Un único carácter puede insertarse a la vez.\r\n\r\n"
                            u"2 - Presione el botón <Aplicarse...>"};
 
+constexpr Texte3 HorsPage{u"Ce caractère n'existe pas sur la ligne série (page de codes 1252).",
+                          u"This character does not exist on the serial line (code page 1252).",
+                          u"Este carácter no existe en la línea serie (página de códigos 1252)."};
+
 /// What the button of a code bears, and what it adds to the label. A "&" is doubled so that a caption shows it.
 QString Legende(int code)
 {
@@ -51,6 +58,29 @@ QString Bulle(int code)
     constexpr int base = 16;
     const QString hexa = QStringLiteral("%1").arg(code, 2, base, QLatin1Char('0')).toUpper();
     return QStringLiteral("%1 = %2h  %3").arg(code).arg(hexa, NomCaractere(code)).trimmed();
+}
+
+/// Where a key leads from a character of the table; outside of it beyond its edges, and the same where the key is none
+/// of these.
+int Voisin(int code, int touche)
+{
+    const int debut = code - code % ParRangee;
+    switch (touche) {
+    case Qt::Key_Left:
+        return code - 1;
+    case Qt::Key_Right:
+        return code + 1;
+    case Qt::Key_Up:
+        return code - ParRangee;
+    case Qt::Key_Down:
+        return code + ParRangee;
+    case Qt::Key_Home:
+        return debut;
+    case Qt::Key_End:
+        return debut + ParRangee - 1;
+    default:
+        return code;
+    }
 }
 
 } // namespace
@@ -72,7 +102,11 @@ void FrmCaract::Form_Load()
     Label1->ReserveLignes(lignes);
     Text1->setAccessibleName(Frame3->title());
     PoseCaracteres();
-    connect(Text1, &QLineEdit::textChanged, this, &FrmCaract::SuitChaine);
+    connect(Text1, &QLineEdit::textChanged, this, [this](const QString &saisi) {
+        SuitChaine();
+        if (!saisi.isEmpty() && !EstEn1252(saisi.at(0)))
+            RefuseCaractere();
+    });
     connect(Command6, &QPushButton::clicked, this, &FrmCaract::Command6_Click);
     connect(Command7, &QPushButton::clicked, this, &FrmCaract::Command7_Click);
     connect(Command2, &QPushButton::clicked, this, &FrmCaract::Command2_Click);
@@ -104,8 +138,20 @@ QPushButton *FrmCaract::CreeBouton(int code)
     bouton->setObjectName(QStringLiteral("Car_%1").arg(code));
     // As wide as the longest caption asks, not as wide as a style makes its buttons: there are sixteen in a row.
     bouton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    bouton->installEventFilter(this);
     ChoisitBouton(bouton, code, Legende(code));
     return bouton;
+}
+
+bool FrmCaract::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const auto code = m_caracteres.indexOf(qobject_cast<QPushButton *>(objet));
+    if (evenement->type() != QEvent::KeyPress || code < 0 || code >= NombreCaracteres)
+        return QDialog::eventFilter(objet, evenement);
+    const int vers = Voisin(static_cast<int>(code), static_cast<QKeyEvent *>(evenement)->key());
+    if (vers >= 0 && vers < NombreCaracteres)
+        m_caracteres[vers]->setFocus(Qt::TabFocusReason);
+    return vers != code;
 }
 
 /// A click on bouton adds that character. One that shows nothing is shown by its name.
@@ -150,18 +196,25 @@ void FrmCaract::Ajoute(int code, const QString &legende)
 void FrmCaract::Command6_Click()
 {
     const QString caractere = Text1->text();
+    if (!EstEn1252(caractere.at(0)))
+        return RefuseCaractere();
     Ajoute(static_cast<unsigned char>(OctetsEn1252(caractere).at(0)), caractere);
     Text1->clear();
 }
 
-/// A full chain takes no more. A free character can be added when the line can carry it; Enter then adds it, and
-/// otherwise closes.
+void FrmCaract::RefuseCaractere()
+{
+    MontreAvis(Text1, Texte(HorsPage));
+    Text1->selectAll();
+}
+
+/// A full chain takes no more. Enter adds the free character, where there is one, and otherwise closes.
 void FrmCaract::SuitChaine()
 {
     const bool place = Nombre() < ConfigurationCom::CapaciteChaine;
     for (QPushButton *const bouton : std::as_const(m_caracteres))
         bouton->setEnabled(place);
-    Command6->setEnabled(place && !Text1->text().isEmpty() && EstEn1252(Text1->text().at(0)));
+    Command6->setEnabled(place && !Text1->text().isEmpty());
     (Command6->isEnabled() ? Command6 : Command1)->setDefault(true);
 }
 

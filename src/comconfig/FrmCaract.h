@@ -20,6 +20,10 @@ public:
     /// type: the chain to compose; libelle: its label as it stands. New characters come behind the old ones.
     FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent);
 
+protected:
+    /// The arrows go through the table of characters as they are seen, Home and End to the ends of a row.
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+
 private:
     void Form_Load();
     void PoseCaracteres();
@@ -27,6 +31,7 @@ private:
     void Command3_Click();
     void Command6_Click();
     void Command7_Click();
+    void RefuseCaractere();
 
     QPushButton *CreeBouton(int code);
     void ChoisitBouton(QPushButton *bouton, int code, const QString &legende);

@@ -84,12 +84,6 @@ public:
 /// Set at a box of which a comma was dropped that nobody has made good: why it was.
 constexpr const char *VirguleJetee = "virguleJetee";
 
-void MontreAvis(QLineEdit *saisie, const QString &avis)
-{
-    QApplication::beep();
-    QToolTip::showText(saisie->mapToGlobal(QPoint(0, saisie->height() / 2)), avis, saisie);
-}
-
 /// Drops a comma that is typed, and says so: "0,4" would become 4 unseen. The keypad's is its point, whatever character
 /// the system gives it.
 class RefusVirgule : public QObject
@@ -200,6 +194,12 @@ bool RetientVirgule(QWidget *fenetre)
         return true;
     }
     return false;
+}
+
+void MontreAvis(QLineEdit *saisie, const QString &avis)
+{
+    QApplication::beep();
+    QToolTip::showText(saisie->mapToGlobal(QPoint(0, saisie->height() / 2)), avis, saisie);
 }
 
 void SelectionneAuClic(QLineEdit *saisie)

@@ -28,6 +28,9 @@ void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis);
 /// taken.
 bool RetientVirgule(QWidget *fenetre);
 
+/// Tells avis beside a box, with a beep: what was typed there is not taken.
+void MontreAvis(QLineEdit *saisie, const QString &avis);
+
 /// Has a click in a box select all of it, as the tabulator does: what is typed then takes its place. A box that is full
 /// would take no key.
 void SelectionneAuClic(QLineEdit *saisie);
