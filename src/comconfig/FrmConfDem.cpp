@@ -1,6 +1,7 @@
 #include "comconfig/FrmConfDem.h"
 
 #include "comconfig/CommandesConf.h"
+#include "comconfig/DossierMontre.h"
 #include "donnees/Chemins.h"
 #include "donnees/Reglages.h"
 #include "locale/Legendes.h"
@@ -28,23 +29,23 @@ FrmConfDem::FrmConfDem(QWidget *parent)
 
 void FrmConfDem::Form_Activate()
 {
-    LblDos->setText(Reglages.DosDefaut);
+    MontreDossier(LblDos, Reglages.DosDefaut);
     Check1->setChecked(Reglages.OptDosDefaut == 1);
     LblNomConf->setText(Reglages.FicConfDefaut);
     Check2->setChecked(Reglages.OptConfDefaut == 1);
     Check3->setChecked(Reglages.OptExplorateur == 1);
     if (Reglages.DosConf.isEmpty())
         Reglages.DosConf = DossierApplication();
-    LabelDosConf->setText(Reglages.DosConf);
+    MontreDossier(LabelDosConf, Reglages.DosConf);
 }
 
 /// ligne: how "Dorvanel.ini" holds the folder.
-void FrmConfDem::ChoisitDossier(QLabel *montre, LigneNom ligne)
+void FrmConfDem::ChoisitDossier(LabelElide *montre, LigneNom ligne)
 {
     const QString choisi = ChoixDossier(this, QStringLiteral("Choix du dossier"), montre->text());
     if (choisi.isEmpty())
         return;
-    montre->setText(choisi);
+    MontreDossier(montre, choisi);
     AnnonceNomPerdu(choisi, ligne, windowTitle());
 }
 

@@ -24,7 +24,7 @@ private:
     void Command4_Click();
     void Command6_Click();
 
-    void ChoisitDossier(QLabel *montre, LigneNom ligne);
+    void ChoisitDossier(LabelElide *montre, LigneNom ligne);
 };
 
 /// Opens the start-up options.

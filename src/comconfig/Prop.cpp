@@ -19,7 +19,9 @@
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
 
+#include <QAbstractItemView>
 #include <QDir>
+#include <QEvent>
 
 namespace {
 
@@ -126,8 +128,12 @@ void Prop::BrancheCommandes()
 {
     for (QLineEdit *const boite : {Text2, Text4, Text5, Text6, Text7, Text8})
         FiltreChiffres(boite);
-    connect(cboPort, &QComboBox::currentIndexChanged, cboPort,
-            [this](int place) { cboPort->setToolTip(cboPort->itemData(place, Qt::ToolTipRole).toString()); });
+    for (QObject *const regarde : std::initializer_list<QObject *>{cboPort, cboPort->view()})
+        regarde->installEventFilter(this);
+    connect(SSTab1, &QTabWidget::currentChanged, this, [this] {
+        if (auto *const boite = qobject_cast<QLineEdit *>(focusWidget()))
+            boite->selectAll(); // the tab has given it the focus, and the caret the middle of its value
+    });
     connect(cmdOK, &QPushButton::clicked, this, &Prop::cmdOK_Click);
     for (QPushButton *const enregistre : {Command1, Command17})
         connect(enregistre, &QPushButton::clicked, this, &Prop::Command1_Click);
@@ -201,12 +207,23 @@ void Prop::changeEvent(QEvent *evenement)
     QDialog::changeEvent(evenement);
 }
 
+bool Prop::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const bool ouverte = evenement->type() == QEvent::Show && objet != cboPort;
+    if (ouverte || evenement->type() == QEvent::ToolTip)
+        DecritPorts(*this);
+    return QDialog::eventFilter(objet, evenement);
+}
+
 void Prop::cmdOK_Click()
 {
+    const auto refus = NombreTropGrand(*this, false);
     ErreurEnAttente erreur = PrendControles(*this);
     AppliqueAuPort(erreur);
     if (erreur) {
         MontreErreur(*erreur);
+        if (refus)
+            VaA(refus->boite);
         return;
     }
     BatirChaines();
@@ -223,8 +240,9 @@ void Prop::cmdOK_Click()
 /// be written, end the command without a word.
 void Prop::Command1_Click()
 {
-    if (const auto refus = NombreTropGrand(*this)) {
-        MontreSaisieRefusee(refus->boite, refus->raison);
+    if (const auto refus = NombreTropGrand(*this, true)) {
+        MsgBox(refus->raison, Boite::Exclamation, QString::fromUtf16(Programme));
+        VaA(refus->boite);
         return;
     }
     PrendControles(*this);
@@ -261,11 +279,12 @@ void Prop::done(int resultat)
     QDialog::done(resultat);
 }
 
-void Prop::MontreSaisieRefusee(QWidget *boite, const QString &raison)
+/// To a number that was refused.
+void Prop::VaA(QLineEdit *boite)
 {
-    MsgBox(raison, Boite::Exclamation, QString::fromUtf16(Programme));
     SSTab1->setCurrentWidget(divers);
     boite->setFocus();
+    boite->selectAll();
 }
 
 /// A "Dorvanel.CFG" that cannot be written is told; the editor is in force for this run all the same.

@@ -35,6 +35,8 @@ public:
 
 protected:
     void changeEvent(QEvent *evenement) override;
+    /// What the list of ports says of this PC is looked up as it is looked at: adapters come and go.
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
     void Form_Load();
@@ -47,7 +49,7 @@ private:
     void BrancheChaines();
     void BrancheDossiers();
     static void AnnoncePertes();
-    void MontreSaisieRefusee(QWidget *boite, const QString &raison);
+    void VaA(QLineEdit *boite);
 
     CommonDialog *const CommonDialog1; ///< file dialog of Save As and of the editor
     ConfigurationCom m_validee;        // the record when the dialog opened, or was last applied or saved

@@ -1,5 +1,6 @@
 #include "comconfig/VueProp.h"
 
+#include "comconfig/DossierMontre.h"
 #include "comconfig/PortsPC.h"
 #include "donnees/ParamCom.h"
 #include "donnees/Reglages.h"
@@ -180,15 +181,20 @@ void PrendNombre(const Ui::Prop &dialogue, const CaseNombre &champ)
 
 void RemplitListes(const Ui::Prop &dialogue)
 {
-    for (int port = 1; port <= NombrePorts; ++port) {
+    for (int port = 1; port <= NombrePorts; ++port)
         dialogue.cboPort->addItem(QStringLiteral("Com%1").arg(port));
-        dialogue.cboPort->setItemData(port - 1, DecritPort(port), Qt::ToolTipRole);
-    }
     dialogue.cboPort->setCurrentIndex(-1);
     Remplit(dialogue.cboSpeed, Vitesses);
     Remplit(dialogue.cboDataBits, BitsDonnees);
     Remplit(dialogue.cboParity, Parites);
     Remplit(dialogue.cboStopBits, BitsArret);
+}
+
+void DecritPorts(const Ui::Prop &dialogue)
+{
+    for (int i = 0; i < dialogue.cboPort->count(); ++i)
+        dialogue.cboPort->setItemData(i, DecritPort(i + 1), Qt::ToolTipRole);
+    dialogue.cboPort->setToolTip(dialogue.cboPort->currentData(Qt::ToolTipRole).toString());
 }
 
 void BrancheOptions(const Ui::Prop &dialogue)
@@ -243,16 +249,17 @@ void ParamDefaut(const Ui::Prop &dialogue)
 
 void MontreDossiers(const Ui::Prop &dialogue)
 {
-    dialogue.Label8->setText(ParamCom.DosRecep);
-    dialogue.Label17->setText(ParamCom.DosRecep);
-    dialogue.Label10->setText(Reglages.DosJauge);
+    MontreDossier(dialogue.Label8, ParamCom.DosRecep);
+    MontreDossier(dialogue.Label17, ParamCom.DosRecep);
+    MontreDossier(dialogue.Label10, Reglages.DosJauge);
     dialogue.Label12->setText(Reglages.EditeurCN);
 }
 
-std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue)
+std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue, bool aSauver)
 {
     QList<CaseNombre> cases(std::begin(CasesNombre), std::end(CasesNombre));
-    cases << CaseTaille;
+    if (aSauver)
+        cases << CaseTaille;
     for (const CaseNombre &champ : std::as_const(cases)) {
         ErreurEnAttente refus;
         Tente(refus, [&] { NombreSaisi(dialogue, champ); });

@@ -12,8 +12,11 @@ class Prop;
 
 // The road between ParamCom and the controls of the properties dialog, in both directions.
 
-/// Fills the lists, in their order; each port says which device of this PC it stands for.
+/// Fills the lists, in their order.
 void RemplitListes(const Ui::Prop &dialogue);
+
+/// Has each port of the list, and the one chosen, say which device of this PC it stands for in this moment.
+void DecritPorts(const Ui::Prop &dialogue);
 
 /// From now on a click on an option writes its number to its field; the group's other controls follow, and do so at
 /// once for the option that stands there.
@@ -36,8 +39,8 @@ struct SaisieRefusee
     QString raison;
 };
 
-/// The first one, if there is one.
-std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue);
+/// The first one, if there is one, of those that an Apply takes; of the others too where aSauver is true.
+std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue, bool aSauver);
 
 /// Takes lists and boxes into the record. A number that does not fit leaves its field as it was and is the failure that
 /// stays pending. A list in which nothing is chosen leaves its field as it was too.

@@ -3,6 +3,7 @@
 #include "donnees/ParamCom.h"
 #include "donnees/Transfert.h"
 #include "locale/Comptes.h"
+#include "platform/controles/CouleurAlerte.h"
 #include "platform/serie/MSComm.h"
 #include "transfer/PortCom.h"
 #include "ui_Em_Rc.h"
@@ -131,12 +132,9 @@ QStringList FautesEnClair()
 
 void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte)
 {
-    constexpr QRgb surClair = 0x9a3000;
-    constexpr QRgb surSombre = 0xffb870;
     QPalette palette;
-    const bool sombre = palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
     if (alerte)
-        palette.setColor(QPalette::WindowText, QColor(sombre ? surSombre : surClair));
+        palette.setColor(QPalette::WindowText, CouleurAlerte());
     dialogue.Bilan->setPalette(palette);
     dialogue.Bilan->setText(texte);
     dialogue.BilanSigne->setVisible(alerte);

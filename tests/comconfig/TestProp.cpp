@@ -122,6 +122,7 @@ private Q_SLOTS:
             banc.Ferme("CommonDialog");
             prop.Command1->click();
             QCOMPARE(ParamCom.SeuilRecep, valeur);
+            QCOMPARE(prop.Text6->text(), QString::number(valeur));
         }
         for (const auto &[boite, legende] :
              {std::pair{prop.Text5, prop.Label14}, {prop.Text7, prop.Label16}, {prop.Text8, prop.Label18}}) {
@@ -138,6 +139,7 @@ private Q_SLOTS:
                      u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
         prop.cmdOK->click();
         QCOMPARE(ParamCom.Commentaire + QString::number(ParamCom.SeuilEmis), u"12"_s);
+        QVERIFY(prop.SSTab1->currentWidget() == prop.divers && prop.focusWidget() == prop.Text7);
     }
 
     // Apply: record, control and main window follow; an open port moves, and what it refuses does not keep it from the
@@ -328,14 +330,19 @@ private Q_SLOTS:
                                "Marque : \nNone : None (Default value)\nOdd : \nSpace : "_s));
     }
 
-    // Each port says what it stands for.
+    // Each port says what it stands for as it is looked at.
     void Ports()
     {
         const Banc banc(0);
         const QString adaptateur = banc.Ecrit("adaptateur", {});
-        banc.Relie(5, adaptateur);
-        const Prop prop(frmPrinc);
+        Prop prop(frmPrinc);
+        prop.show();
+        prop.cboPort->showPopup();
         const auto bulle = [&](int port) { return prop.cboPort->itemData(port - 1, Qt::ToolTipRole).toString(); };
+        QCOMPARE(bulle(5), u"Com5 : aucun périphérique sur ce PC"_s);
+        banc.Relie(5, adaptateur); // plugged in meanwhile
+        prop.cboPort->hidePopup();
+        prop.cboPort->showPopup();
         QVERIFY2(bulle(5).contains(QFileInfo(adaptateur).canonicalFilePath()), qPrintable(bulle(5)));
         QVERIFY(bulle(16).startsWith(u"Com16 : "_s) && bulle(16).section(u':', 1) != bulle(5).section(u':', 1));
     }
@@ -368,6 +375,29 @@ private Q_SLOTS:
             QCOMPARE(dialogue.Label1->text(), libelle);
             QCOMPARE(dialogue.Command3->isEnabled(), annulable);
         }
+    }
+
+    // The arrows go through the table as it is seen. Enter on a character that the line cannot carry keeps it in sight.
+    void Touches()
+    {
+        const Poste poste(0);
+        FrmCaract dialogue(ChaineLigne, {}, frmPrinc);
+        dialogue.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+        dialogue.findChild<QPushButton *>(u"Car_3"_s)->setFocus();
+        for (const auto &[touche, vers] : {std::pair{Qt::Key_Up, 3},
+                                           {Qt::Key_Down, 19},
+                                           {Qt::Key_End, 31},
+                                           {Qt::Key_Right, 32},
+                                           {Qt::Key_Home, 32},
+                                           {Qt::Key_Left, 31}}) {
+            QTest::keyClick(dialogue.focusWidget(), touche);
+            QCOMPARE(dialogue.focusWidget()->objectName(), u"Car_%1"_s.arg(vers));
+        }
+        dialogue.Text1->setFocus();
+        dialogue.Text1->setText(u"Ł"_s);
+        QTest::keyClick(dialogue.Text1, Qt::Key_Return);
+        QVERIFY(dialogue.isVisible() && dialogue.Text1->selectedText() == u"Ł" && ParamCom.NbCarFinLig == 0);
     }
 
     // The 101st character finds every way shut; an undo opens them again.

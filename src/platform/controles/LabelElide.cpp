@@ -1,5 +1,6 @@
 #include "platform/controles/LabelElide.h"
 
+#include "platform/controles/CouleurAlerte.h"
 #include "platform/controles/UneLigne.h"
 
 #include <QHelpEvent>
@@ -18,6 +19,16 @@ LabelElide::LabelElide(QWidget *parent)
     : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
+}
+
+void LabelElide::Avertit(const QString &raison)
+{
+    m_raison = raison;
+    setAccessibleDescription(raison);
+    QPalette couleurs;
+    if (!raison.isEmpty())
+        couleurs.setColor(QPalette::WindowText, CouleurAlerte());
+    setPalette(couleurs);
 }
 
 QSize LabelElide::sizeHint() const
@@ -51,9 +62,14 @@ bool LabelElide::event(QEvent *evenement)
     if (evenement->type() != QEvent::ToolTip)
         return QLabel::event(evenement);
     // As rich text the tip has lines of its own; as plain text it would be one, longer than the screen is wide.
-    const QString tout = text().size() > Place ? text().left(Place) + u'\u2026' : text();
-    const QString entier = Montre() == Ligne() ? QString() : Qt::convertFromPlainText(tout, Qt::WhiteSpaceNormal);
-    QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), entier, this);
+    QStringList bulle;
+    if (Montre() != Ligne())
+        bulle << (text().size() > Place ? text().left(Place) + u'\u2026' : text());
+    if (!m_raison.isEmpty())
+        bulle << m_raison;
+    const QString lignes =
+        bulle.isEmpty() ? QString() : Qt::convertFromPlainText(bulle.join(u'\n'), Qt::WhiteSpaceNormal);
+    QToolTip::showText(static_cast<QHelpEvent *>(evenement)->globalPos(), lignes, this);
     return true;
 }
 

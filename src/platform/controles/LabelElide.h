@@ -11,6 +11,9 @@ class LabelElide : public QLabel
 public:
     explicit LabelElide(QWidget *parent = nullptr);
 
+    /// From now on the text stands in the colour of a warning, and the tool tip tells raison behind it; "" ends that.
+    void Avertit(const QString &raison);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -22,4 +25,6 @@ private:
     QSize UneLigneDe(int largeur) const;
     QString Ligne() const;
     QString Montre() const;
+
+    QString m_raison; // of the warning
 };
