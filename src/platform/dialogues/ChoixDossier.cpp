@@ -1,6 +1,6 @@
 #include "platform/dialogues/ChoixDossier.h"
 
-#include "platform/dialogues/DialogueFichier.h"
+#include "platform/dialogues/PrepareDialogueFichier.h"
 
 #include <QDir>
 #include <QFileDialog>

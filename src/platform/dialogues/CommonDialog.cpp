@@ -1,10 +1,10 @@
 #include "platform/dialogues/CommonDialog.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/dialogues/DialogueFichier.h"
 #include "platform/dialogues/DialogueImprimante.h"
 #include "platform/dialogues/DialoguePolice.h"
 #include "platform/dialogues/FenetreAppelante.h"
+#include "platform/dialogues/PrepareDialogueFichier.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,4 +1,4 @@
-#include "gauges/Cadran.h"
+#include "gauges/DessinsCadran.h"
 
 #include <QPainter>
 #include <QPainterPath>

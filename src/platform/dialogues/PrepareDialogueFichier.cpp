@@ -1,4 +1,4 @@
-#include "platform/dialogues/DialogueFichier.h"
+#include "platform/dialogues/PrepareDialogueFichier.h"
 
 #include "platform/dialogues/Boites.h"
 

@@ -2,8 +2,8 @@
 
 #include <QAbstractButton>
 
-// The pictures of the dial dialog, drawn for any size and any theme. A tile is clicked or, with the keyboard, stepped
-// to and pressed with the space bar; a click leaves the keyboard where it is.
+// The pictures of the dial dialog (JauTour), drawn for any size and any theme. A tile is clicked or, with the keyboard,
+// stepped to and pressed with the space bar; a click leaves the keyboard where it is.
 
 /// A tile that gives a value to a box. It is checked while its value stands there.
 class Tuile : public QAbstractButton
