@@ -10,11 +10,30 @@
 #include "platform/controles/EntreeOptions.h"
 #include "platform/controles/FiltreTouches.h"
 #include "platform/controles/GardePlaces.h"
+#include "platform/dialogues/Boites.h"
 #include "shell/NomsPerdus.h"
 
 namespace {
 
 constexpr Texte3 PrefixeTitre{u"Configuration machine : ", u"Configuration machine : ", u"Configuración máquina : "};
+
+constexpr Texte3 Extension{
+    u"L'extension contient des signes interdits dans un nom de fichier :  %1\r"
+    u"La changer avant de recevoir des mesures : le fichier de jauges risque de ne pas se créer.",
+    u"The extension holds signs that a file name must not have:  %1\r"
+    u"Change it before measures are received: the gauge file may not come about.",
+    u"La extensión contiene signos prohibidos en un nombre de fichero:  %1\r"
+    u"Cambiarla antes de recibir medidas: el fichero de correctores puede no crearse."};
+
+/// The characters of nom that a file name cannot have on every system, each once.
+QStringList SignesInterdits(const QString &nom)
+{
+    QStringList signes;
+    for (const QChar signe : nom)
+        if (QStringView(u"/\\:*?\"<>|").contains(signe) && !signes.contains(signe))
+            signes << signe;
+    return signes;
+}
 
 /// A pair of option buttons and the field that holds the one chosen.
 struct Options
@@ -117,6 +136,13 @@ void ConfMac::MontreNom()
         PoseTexte(this, PrefixeTitre, ParamMac.NomMac);
 }
 
+/// Any key may be typed as the extension; what is wrong with it would be seen only when the gauges are to be written.
+void ConfMac::AnnonceExtension()
+{
+    if (const QStringList signes = SignesInterdits(ParamMac.ExtJauge); !signes.isEmpty())
+        MsgBox(Texte(Extension).arg(signes.join(u' ')), Boite::Exclamation, windowTitle());
+}
+
 void ConfMac::Command2_Click()
 {
     if (RetientVirgule(this))
@@ -132,6 +158,7 @@ void ConfMac::Command2_Click()
         m_chemin = ParamMac.NomCompletMac;
         MontreNom();
         AnnonceSaisiePerdue(saisie, windowTitle());
+        AnnonceExtension();
     } catch (const Erreur &) {
         // Cancelled or not written: the dialog stays open and keeps the name of its former file.
     }

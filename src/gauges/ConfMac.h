@@ -26,6 +26,7 @@ private:
     void MontreTextes();
     void PrendTextes();
     void MontreNom();
+    void AnnonceExtension();
 
     QString m_chemin;
 };

@@ -45,6 +45,10 @@ constexpr Texte3 LimiteTitre{u"Avertissement", u"Warning", u"Advertencia"};
 constexpr Texte3 SansPort{u"\rLe port n'est pas ouvert, aucune mesure ne peut arriver.\rAnnulez, puis recommencez.",
                           u"\rThe port is not open, no measure can arrive.\rCancel, then start again.",
                           u"\rEl puerto no está abierto, no puede llegar ninguna medida.\rCancele y vuelva a empezar."};
+constexpr Texte3 JaugesTitre{u"Enregistrer les jauges", u"Save the gauges", u"Guardar los correctores"};
+constexpr Texte3 FiltreJauges{u"Fichiers jauges (*.%1)|*.%1|Tous les fichiers (*.*)|*.*",
+                              u"Gauge files (*.%1)|*.%1|All files (*.*)|*.*",
+                              u"Ficheros de correctores (*.%1)|*.%1|Todos los ficheros (*.*)|*.*"};
 constexpr Texte3 NonEcrites{u"Les jauges ne sont pas enregistrées.\r", u"The gauges are not saved.\r",
                             u"Los correctores no están guardados.\r"};
 constexpr Texte3 BancIntact{u"Ce fichier contient encore le texte du banc, sans rayons ni localisateurs :\r",
@@ -73,7 +77,7 @@ public:
     /// Then what the disk does not hold may be saved elsewhere.
     void SauveReste() const;
     /// The same for texte. The pane then shows what was saved, and never bears the name of a file that is not there.
-    void SauveAutrePart(const QString &texte, const QString &question = {}) const;
+    void SauveAutrePart(const QString &texte, const OffreSauvegarde &offre = OffreLignesRecues()) const;
 
 private:
     bool Reception1Jauge();
@@ -299,9 +303,9 @@ void Seance::SauveReste() const
         SauveAutrePart(m_brut);
 }
 
-void Seance::SauveAutrePart(const QString &texte, const QString &question) const
+void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const
 {
-    const QString chemin = SauveAilleurs(texte, question);
+    const QString chemin = SauveAilleurs(texte, offre);
     if (!m_dansPane)
         return;
     if (!chemin.isEmpty())
@@ -311,9 +315,11 @@ void Seance::SauveAutrePart(const QString &texte, const QString &question) const
 }
 
 /// What the operator is asked when the gauges, with all that he typed at the dial, stand on no disk.
-QString QuestionJauges(const JaugesNonEcrites &erreur)
+OffreSauvegarde OffreJauges(const JaugesNonEcrites &erreur)
 {
-    return Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : BancPerdu) + CheminRecep() + Texte(Ailleurs);
+    return {Texte(JaugesTitre),
+            Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : BancPerdu) + CheminRecep() + Texte(Ailleurs),
+            Texte(FiltreJauges).replace(QLatin1String("%1"), ParamMac.ExtJauge)};
 }
 
 } // namespace
@@ -327,7 +333,7 @@ void ReceptionJauge(Ui::Em_Rc &dialogue)
         seance.Termine();
     } catch (const JaugesNonEcrites &erreur) {
         ErreurPortCOM(erreur, dialogue);
-        seance.SauveAutrePart(erreur.TexteJauges(), QuestionJauges(erreur)); // the dialog is closed by then
+        seance.SauveAutrePart(erreur.TexteJauges(), OffreJauges(erreur)); // the dialog is closed by then
     } catch (const Erreur &erreur) {
         ErreurPortCOM(erreur, dialogue);
         seance.MontreEchec(erreur);

@@ -120,21 +120,25 @@ void PerdNomRecu()
     frmPrinc->ActiveEmission(false);
 }
 
-QString SauveAilleurs(const QString &texte, const QString &question)
+OffreSauvegarde OffreLignesRecues()
+{
+    return {Texte(ResteTitre), Texte(ResteTexte), Texte(FiltreEnregistrer)};
+}
+
+QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre)
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    const QString demande = question.isEmpty() ? Texte(ResteTexte) : question;
-    while (!texte.isEmpty() && Confirme(demande, Boite::Exclamation, Texte(ResteTitre))) {
+    while (!texte.isEmpty() && Confirme(offre.question, Boite::Exclamation, offre.titre)) {
         try {
             const QString dossier =
                 QFileInfo::exists(Transfert.DossierRecep) ? Transfert.DossierRecep : QString(); // it may have gone
-            dialogue.PrepareFichier(Texte(ResteTitre), Texte(FiltreEnregistrer), dossier, Transfert.NomFicRecep);
+            dialogue.PrepareFichier(offre.titre, offre.filtre, dossier, Transfert.NomFicRecep);
             dialogue.ShowSave();
             EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
             return dialogue.FileName;
         } catch (const Erreur &erreur) {
             if (erreur.Numero() != Erreur::DialogueAnnule)
-                MsgBox(TexteNonEnregistre(erreur), Boite::Critique, Texte(ResteTitre));
+                MsgBox(TexteNonEnregistre(erreur), Boite::Critique, offre.titre);
         }
     }
     return {};

@@ -27,7 +27,17 @@ void MontreRecu(const QString &chemin);
 /// and not to be sent.
 void PerdNomRecu();
 
-/// A reception has failed: offers to save what had come, again and again until it is written or given up. An empty
-/// texte asks nothing. question: what is asked, where it is not the received lines that are lost. Gives the full path
-/// of the file written, "" for none.
-QString SauveAilleurs(const QString &texte, const QString &question = {});
+/// How a text that stands on no disk is offered for saving.
+struct OffreSauvegarde
+{
+    QString titre; ///< of the question and of the file dialog
+    QString question;
+    QString filtre; ///< of the file dialog, as in CommonDialog::Filter
+};
+
+/// The offer of a reception that has failed.
+OffreSauvegarde OffreLignesRecues();
+
+/// Offers to save texte, again and again until it is written or given up. An empty texte asks nothing. Gives the full
+/// path of the file written, "" for none.
+QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre = OffreLignesRecues());

@@ -48,7 +48,7 @@ private Q_SLOTS:
             for (auto *const option : {d.OptMac_1, d.OptJauge_1, d.OptTour_1, d.OptionX_1, d.OptionRAZ_1})
                 option->click();
             QCOMPARE(Montres(d), QList<bool>({false, true, true, true}));
-            QStringList touches = u"a1+0e0,|-12345.678|-99.9||co1x| %\"2 "_s.split(u'|');
+            QStringList touches = u"a1+0e0,|-12345.678|-99.9||/:/x| %\"2 "_s.split(u'|');
             for (QLineEdit *const saisie : Saisies(d)) {
                 saisie->selectAll();
                 QTest::keyClicks(saisie, touches.takeFirst());
@@ -80,9 +80,12 @@ private Q_SLOTS:
             QCOMPARE(ParamMac.DiffPoches, -.5); // and yet taken
         });
         etabli.Choisit(etabli.Chemin("TOUR")); // which the dialog completes
+        etabli.Apprend("Configuration machine : TOUR.mac",
+                       "L'extension contient des signes interdits dans un nom de fichier :  / :\rLa changer avant de "
+                       "recevoir des mesures : le fichier de jauges risque de ne pas se créer.");
         Operateur::Menu("Mn_CreeConfMac");
         QCOMPARE(etabli.Lit("TOUR.mac"),
-                 "1\r\n1\r\n0\r\n1\r\n1\r\n100.3\r\n-12345\r\n300\r\n\"CO1\"\r\n\"%'2\"\r\n1\r\n");
+                 "1\r\n1\r\n0\r\n1\r\n1\r\n100.3\r\n-12345\r\n300\r\n\"/:/\"\r\n\"%'2\"\r\n1\r\n");
         QCOMPARE(ParamMac.NomCompletMac, etabli.Chemin("TOUR.mac"));
         QCOMPARE(ParamMac.JaugeMaxiX, 100.3);
     }

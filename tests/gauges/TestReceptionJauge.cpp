@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QProgressBar>
@@ -320,12 +321,17 @@ private Q_SLOTS:
             });
             atelier.LitErreur(61, u"Le disque est plein."_s);
             atelier.Fait("MsgBox", [&](QWidget &boite) {
+                QCOMPARE(boite.windowTitle(), u"Enregistrer les jauges"_s);
                 QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(),
                          u"Les jauges ne sont pas enregistrées.\nCe fichier est incomplet ou introuvable :\n%1\n"
                          "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin));
                 QVERIFY(QFile::remove(chemin));
                 Operateur::Clique(sauve ? QMessageBox::Yes : QMessageBox::No)(boite);
             });
+            if (sauve)
+                atelier.Fait("CommonDialog", [](QWidget &fenetre) {
+                    QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).selectedNameFilter(), u"Fichiers jauges (*.cor)"_s);
+                });
             if (sauve)
                 atelier.Choisit(atelier.Chemin("SAUVE.COR"));
             atelier.Abandonne();
