@@ -95,17 +95,20 @@ QString SansToutesLesLignes(const LignesEnvoyees &lignes)
     return Texte(TropDeLignes) + Texte(PartieSeule).arg(Compte(lignes.nombre, NomLignes), NombreEnClair(lignes.total));
 }
 
+/// largeur: pixels for the first line and the counts behind it.
 void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
 {
     const QString texte = frmPrinc->Text1->Text();
     const QString lignes = Compte(NombreLignes(texte), NomLignes);
     const QString caracteres = Compte(texte.size(), NomCaracteres);
     const QString premiere = PremiereLigne(texte);
-    if (premiere.isEmpty())
+    if (premiere.isEmpty()) {
         apercu.alertes << Texte(Vide).arg(lignes, caracteres);
-    else
-        apercu.contenu = Texte(Contenu).arg(police.elidedText(ControlesVisibles(premiere), Qt::ElideRight, largeur),
+    } else {
+        const int place = largeur - police.horizontalAdvance(Texte(Contenu).arg(QString(), lignes, caracteres));
+        apercu.contenu = Texte(Contenu).arg(police.elidedText(ControlesVisibles(premiere), Qt::ElideRight, place),
                                             lignes, caracteres);
+    }
     if (const LignesEnvoyees envoi = CompteLignesEnvoyees(texte); ParamCom.TypeEnvoi == 0 && !envoi.Toutes())
         apercu.alertes << SansToutesLesLignes(envoi);
 }
@@ -140,7 +143,7 @@ Apercu Regarde(const Ui::Em_Rc &dialogue)
 {
     Apercu apercu;
     if (Transfert.TypeTransfert == EmissionProgramme || Transfert.TypeTransfert == EmissionJauges)
-        RegardeTexte(apercu, dialogue.Bilan->fontMetrics(), dialogue.Bilan->window()->minimumWidth() / 2);
+        RegardeTexte(apercu, dialogue.Bilan->fontMetrics(), dialogue.Bilan->contentsRect().width());
     RegardeConfiguration(apercu);
     return apercu;
 }

@@ -10,15 +10,20 @@ class Avancement
 public:
     /// Shows the bar at 0. total: characters of the transfer; 0 hides the bar.
     Avancement(QProgressBar &barre, qint64 total);
+    /// The bar goes on saying how far it went; no time is left.
+    ~Avancement();
+    Q_DISABLE_COPY_MOVE(Avancement)
 
     /// faits: characters that have gone. Nothing of total but 0 to total counts.
     void Montre(qint64 faits);
 
 private:
-    QString TempsRestant(qint64 faits) const;
+    QString EnPourCent() const;
+    QString TempsRestant() const;
 
     QProgressBar &m_barre;
     qint64 m_total;
+    qint64 m_faits = 0;
     qint64 m_dernierAffichage = -1;
     QElapsedTimer m_depuis;
 };

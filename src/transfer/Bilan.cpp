@@ -23,6 +23,8 @@ struct Pertes
     QElapsedTimer depuis;
     std::array<qint64, 3> caracteres{}; ///< by Perte
     bool finCollee = false;             ///< see NoteFinCollee()
+    bool finJetee = false;              ///< the end of transfer was dropped, and no line has come behind it
+    bool sansPort = false;              ///< see NotePort()
     bool nouvelles = false;             ///< since they were shown
 
     qint64 &operator[](Perte perte) { return caracteres[static_cast<std::size_t>(perte)]; }
@@ -97,10 +99,25 @@ constexpr Texte3 EnTemps{u"%1 en %2.", u"%1 in %2.", u"%1 en %2."};
 constexpr Texte3 EnTempsForce{u"%1 en %2, fin forcée.", u"%1 in %2, end forced.", u"%1 en %2, final forzado."};
 constexpr Texte3 EmissionInterrompue{u"Emission interrompue ! ", u"Sending broken off ! ", u"Emisión interrumpida ! "};
 constexpr Texte3 FichierNonEcrit{u"%1 n'est pas enregistré ! ", u"%1 is not saved ! ", u"%1 no está guardado ! "};
+constexpr Texte3 Sauve{u"Lignes reçues enregistrées : ", u"Received lines saved: ", u"Líneas recibidas guardadas: "};
 constexpr Texte3 FinCollee{u"La fin de transfert est arrivée collée à une ligne : forcer la fin de réception.",
                            u"The end of transfer has come stuck to a line: force the end of receiving.",
                            u"El final de transferencia ha llegado pegado a una línea: forzar el final de recepción."};
+constexpr Texte3 FinJetee{u"Caractères jetés, la fin de transfert parmi eux : forcer la fin de réception.",
+                          u"Characters thrown away, the end of transfer among them: force the end of receiving.",
+                          u"Caracteres descartados, el final de transferencia entre ellos: forzar el final de "
+                          u"recepción."};
+constexpr Texte3 SansPort{u"Le port Com%1 n'est pas ouvert !", u"Port Com%1 is not open !",
+                          u"¡El puerto Com%1 no está abierto!"};
 constexpr Texte3 DeuxPoints{u" : ", u": ", u": "};
+
+/// Each line drops what stands behind it, be it nothing: what the last one dropped counts.
+void NoteFinJetee(const QString &caracteres)
+{
+    const bool jetee = !ParamCom.ChaineFinTrans.isEmpty() && caracteres.contains(ParamCom.ChaineFinTrans);
+    pertes.nouvelles = pertes.nouvelles || jetee != pertes.finJetee;
+    pertes.finJetee = jetee;
+}
 
 /// The faults of a remedy that have occurred, counted, and the remedy; nothing when there are none.
 QString EnClair(const Remede &remede, const Lignes &comptes)
@@ -128,6 +145,24 @@ QStringList FautesEnClair()
     return textes;
 }
 
+QString PortFerme()
+{
+    return Texte(SansPort).arg(ParamCom.NumPort);
+}
+
+/// How much has passed, in what time.
+QString Passe(bool emission)
+{
+    if (pertes.sansPort)
+        return PortFerme();
+    const ComptesPort comptes = Controle().Comptes();
+    const qint64 nombre = emission ? comptes.emis : comptes.recus;
+    const std::chrono::milliseconds duree =
+        emission ? std::chrono::milliseconds(pertes.depuis.elapsed()) : comptes.dureeReception;
+    return Texte(!emission && Transfert.ForceRECEPT ? EnTempsForce : EnTemps)
+        .arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
+}
+
 } // namespace
 
 void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte)
@@ -138,9 +173,6 @@ void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte)
     dialogue.Bilan->setPalette(palette);
     dialogue.Bilan->setText(texte);
     dialogue.BilanSigne->setVisible(alerte);
-    if (dialogue.Bilan->isVisible()) // more than the room that was reserved takes what it needs
-        dialogue.Bilan->setMinimumHeight(
-            std::max(dialogue.Bilan->minimumHeight(), dialogue.Bilan->heightForWidth(dialogue.Bilan->width())));
 }
 
 bool EstMuet(QStringView texte)
@@ -157,8 +189,17 @@ void DebuteBilan()
     Controle().RemetComptes();
 }
 
+void NotePort(Ui::Em_Rc &dialogue)
+{
+    pertes.sansPort = !Controle().PortOpen();
+    if (pertes.sansPort)
+        EcritBilan(dialogue, PortFerme(), true);
+}
+
 void NotePerte(Perte perte, const QString &caracteres)
 {
+    if (perte != Perte::SansFin)
+        NoteFinJetee(caracteres);
     QStringView programme = caracteres;
     if (programme.endsWith(ParamCom.ChaineFinTrans))
         programme.chop(ParamCom.ChaineFinTrans.size());
@@ -179,8 +220,9 @@ void MontreFautes(Ui::Em_Rc &dialogue)
     QStringList fautes = FautesEnClair();
     if (pertes.finCollee)
         fautes.prepend(Texte(FinCollee));
-    if (!fautes.isEmpty())
-        EcritBilan(dialogue, fautes.join(u'\n'), true);
+    if (pertes.finJetee)
+        fautes.prepend(Texte(FinJetee));
+    EcritBilan(dialogue, fautes.join(u'\n'), !fautes.isEmpty());
 }
 
 void MontreNouvellesPertes(Ui::Em_Rc &dialogue)
@@ -192,15 +234,18 @@ void MontreNouvellesPertes(Ui::Em_Rc &dialogue)
 void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques)
 {
     const bool emission = issue == Issue::Emis || issue == Issue::EmissionRompue;
-    const ComptesPort comptes = Controle().Comptes();
     const bool rompu = issue == Issue::EmissionRompue || issue == Issue::ReceptionRompue;
-    const qint64 nombre = emission ? comptes.emis : comptes.recus;
-    const std::chrono::milliseconds duree =
-        emission ? std::chrono::milliseconds(pertes.depuis.elapsed()) : comptes.dureeReception;
-    QString passe = Texte(!emission && Transfert.ForceRECEPT ? EnTempsForce : EnTemps)
-                        .arg(Compte(nombre, emission ? CaracteresEmis : CaracteresRecus), DureeEnClair(duree));
-    if (rompu)
+    QString passe = Passe(emission);
+    if (rompu && !(emission && pertes.sansPort))
         passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(Transfert.NomFicRecep));
     const QStringList alertes = manques + FautesEnClair();
-    EcritBilan(dialogue, (QStringList(passe) + alertes).join(u'\n'), rompu || !alertes.isEmpty());
+    EcritBilan(dialogue, (QStringList(passe) + alertes).join(u'\n'), rompu || pertes.sansPort || !alertes.isEmpty());
+}
+
+void MontreSauve(Ui::Em_Rc &dialogue, const QString &chemin)
+{
+    const QFontMetrics police = dialogue.Bilan->fontMetrics();
+    const int place = dialogue.Bilan->contentsRect().width() - police.horizontalAdvance(Texte(Sauve));
+    const QString lieu = Texte(Sauve) + police.elidedText(chemin, Qt::ElideMiddle, place);
+    EcritBilan(dialogue, (QStringList{lieu, Passe(false)} + FautesEnClair()).join(u'\n'), true);
 }

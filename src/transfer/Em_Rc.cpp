@@ -24,6 +24,7 @@
 #include "transfer/ReceptionFichier.h"
 #include "transfer/TextesReception.h"
 
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QStyle>
 
@@ -119,6 +120,7 @@ Em_Rc::Em_Rc(QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     GardePlaces({Progression, Label3, Label4, Frame2, BilanSigne}); // lines above the buttons
+    Label2->setMinimumHeight(Label2->fontMetrics().lineSpacing()); // empty, it would let the others move up
     PrepareBilan();
     UnClic(Command2); // a short program has gone between the two strokes of a double click
     UnClic(Command5); // and so has a measure that was waiting; behind the last tool only a further one could end it
@@ -141,6 +143,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     Form_Activate();
     adjustSize(); // the mode has hidden some of its parts
     CentreFeuille(this);
+    MontreApercu(*this); // cut to the width that it has now
 }
 
 void Em_Rc::Form_Activate()
@@ -155,16 +158,17 @@ void Em_Rc::Form_Activate()
     Label1->clear();
     Label2->clear();
     MontreConfigurationChoisie();
-    MontreApercu(*this);
     MontreMode();
 }
 
-/// Room for what most transfers have to say, so that nothing moves; and the errors of the line as they come, which the
-/// main window shows only for a moment.
+/// Room for what most transfers have to say, so that nothing moves: what is more can be scrolled, with the keys too.
+/// And the errors of the line as they come, which the main window shows only for a moment.
 void Em_Rc::PrepareBilan()
 {
-    constexpr int lignes = 3;
-    Bilan->setMinimumHeight(lignes * Bilan->fontMetrics().lineSpacing());
+    constexpr int lignes = 4;
+    BilanPlace->setFixedHeight(lignes * Bilan->fontMetrics().lineSpacing());
+    connect(BilanPlace->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this](int, int plusBas) { BilanPlace->setFocusPolicy(plusBas > 0 ? Qt::TabFocus : Qt::NoFocus); });
     const int cote = 3 * Bilan->fontMetrics().height() / 2;
     BilanSigne->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(cote, cote));
     connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [this] {

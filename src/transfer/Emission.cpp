@@ -48,6 +48,7 @@ public:
     ~Emission();
     Q_DISABLE_COPY_MOVE(Emission)
 
+    /// Opens the port and sends the beginning of program.
     void Debut();
     void Ecrit(const QString &texte);
     void Attend();
@@ -75,6 +76,8 @@ Emission::Emission(Ui::Em_Rc &dialogue, qint64 total)
     , m_avancement(*dialogue.Progression, total)
 {
     m_dialogue.Frame2->hide();
+    for (QLabel *const label : {m_dialogue.Label2, m_dialogue.Label3})
+        label->clear(); // they may tell of a sending before this one
     m_dialogue.Label3->setVisible(ParamCom.Echo == 1);
     m_dialogue.Label4->hide();
 }
@@ -88,6 +91,8 @@ Emission::~Emission()
 
 void Emission::Debut()
 {
+    OuvrePortCOM();
+    NotePort(m_dialogue);
     if (ParamCom.NbCarDebProg < 1)
         return;
     const QString debut = CaracteresDe(ChaineDebut) + ParamCom.ChaineFinLig;
@@ -271,7 +276,6 @@ void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
     try {
         const QString texte = frmPrinc->Text1->Text();
         Emission emission(dialogue, texte.size());
-        OuvrePortCOM();
         emission.Debut();
         if (Controle().PortOpen())
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
@@ -289,7 +293,6 @@ void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue)
         const QString texte = frmPrinc->Text1->Text();
         CalculeLigne(texte);
         Emission emission(dialogue, TailleLignes());
-        OuvrePortCOM();
         emission.Debut();
         EnvoieLignes(emission);
         emission.Fin();

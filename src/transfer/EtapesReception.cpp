@@ -30,6 +30,7 @@ void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre)
     if (ParamCom.Echo == 1)
         PoseTexte(dialogue.Label4, genre);
     OuvrePortCOM();
+    NotePort(dialogue);
     PoseTexte(dialogue.Label2, EnAttente);
 }
 
@@ -55,5 +56,6 @@ void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &r
     Transfert.FinTransfert = false; // the end may have come, but the file has not: the name is asked for once more
     MontreBilan(dialogue, Issue::ReceptionRompue);
     ErreurPortCOM(erreur, dialogue);
-    SauveAilleurs(recu);
+    if (const QString chemin = SauveAilleurs(recu); !chemin.isEmpty())
+        MontreSauve(dialogue, chemin);
 }

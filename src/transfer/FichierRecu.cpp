@@ -29,6 +29,20 @@ constexpr qint64 TailleTropGrande = 65536;
 
 bool ecritEntier = false; // the file of the last reception stands whole on the disk
 
+/// Has ecriture write the file of the reception. What fails names that file.
+template <typename Ecriture>
+void EcritRecu(Ecriture ecriture)
+{
+    ecritEntier = false;
+    const QString chemin = CheminRecep();
+    try {
+        ecriture(chemin);
+    } catch (const Erreur &erreur) {
+        throw Erreur(erreur.Numero(), chemin, erreur.Cause());
+    }
+    ecritEntier = true;
+}
+
 void OublieNom()
 {
     Document.NomFichier.clear();
@@ -67,9 +81,8 @@ void MontreFichier(const QString &chemin)
 
 void EcritFichierRecu(const QString &texte)
 {
-    ecritEntier = false;
-    EcritFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"), FichierCoupe::Part);
-    ecritEntier = true;
+    EcritRecu(
+        [&](const QString &chemin) { EcritFichierTexte(chemin, texte + QStringLiteral("\r\n"), FichierCoupe::Part); });
 }
 
 void OublieFichierRecu()
@@ -79,16 +92,12 @@ void OublieFichierRecu()
 
 void CreeFichierRecu()
 {
-    ecritEntier = false;
-    EcritFichierTexte(CheminRecep(), QString());
-    ecritEntier = true;
+    EcritRecu([](const QString &chemin) { EcritFichierTexte(chemin, QString()); });
 }
 
 void AjouteFichierRecu(const QString &texte)
 {
-    ecritEntier = false;
-    AjouteFichierTexte(CheminRecep(), texte + QStringLiteral("\r\n"));
-    ecritEntier = true;
+    EcritRecu([&](const QString &chemin) { AjouteFichierTexte(chemin, texte + QStringLiteral("\r\n")); });
 }
 
 void OuvreFichierRecu()

@@ -5,7 +5,7 @@
 // The file that a reception leaves, and its way into the program pane.
 
 /// Writes texte and one CR LF to CheminRecep(), replacing what was there; a file that the disk cuts does not stay.
-/// Raises what EcritFichierTexte raises.
+/// Raises what EcritFichierTexte raises, with the path.
 void EcritFichierRecu(const QString &texte);
 
 /// A reception begins: what an earlier one has left on the disk is not its file.

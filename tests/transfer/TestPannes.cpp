@@ -332,7 +332,9 @@ void TestPannes::Disque()
             QVERIFY(!deroulement.avis.isEmpty() && deroulement.avis[0].titre.startsWith(u"Erreur N°: "_s));
             if (genre != Genre::Banc || cible) { // a bench knows before the first tool
                 QCOMPARE(deroulement.avis.size(), 2);
-                QVERIFY(genre == Genre::Banc || deroulement.bilan.startsWith(u"PIECE.ISO n'est pas enregistré !"_s));
+                QVERIFY(genre == Genre::Banc ||
+                        deroulement.bilan.startsWith(u"Lignes reçues enregistrées : "_s + essai.pilote.Sauvegarde));
+                QVERIFY(deroulement.avis[0].texte.contains(CheminRecep()));
                 QCOMPARE(essai.poste.Lit("sauve.txt"),
                          genre == Genre::Banc ? essai.charge.pieces[0] + "\r\n" : Venu(essai, essai.Envoye().size()));
             }

@@ -179,6 +179,9 @@ void Pilote::Transfere(QDialog &dialogue)
     } else if (m_commence) {
         m_deroulement.statut = Lu("Label2");
         m_deroulement.bilan = Lu("Bilan");
+        const auto *const force = dialogue.findChild<QWidget *>(QStringLiteral("Command7"));
+        if (force->isVisible() && force->isEnabled())
+            temoin.echec(QStringLiteral("an end can be forced that has come"), Lieu::Ici());
         Annule(m_genre, dialogue);
     } else if (EstEmission(m_genre)) {
         m_commence = true;
