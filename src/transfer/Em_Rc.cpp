@@ -120,7 +120,7 @@ Em_Rc::Em_Rc(QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     GardePlaces({Progression, Label3, Label4, Frame2, BilanSigne}); // lines above the buttons
-    Label2->setMinimumHeight(Label2->fontMetrics().lineSpacing()); // empty, it would let the others move up
+    Label2->setMinimumHeight(Label2->fontMetrics().lineSpacing());  // empty, it would let the others move up
     PrepareBilan();
     UnClic(Command2); // a short program has gone between the two strokes of a double click
     UnClic(Command5); // and so has a measure that was waiting; behind the last tool only a further one could end it

@@ -233,8 +233,7 @@ private Q_SLOTS:
         atelier.Recoit(QMessageBox::Yes);
         atelier.Outils(1);
         for (const auto reponse : {QMessageBox::No, QMessageBox::Yes}) {
-            atelier.Fait(
-                Dialogue, [](QWidget &dialogue) { QTest::keyClick(&dialogue, Qt::Key_Escape); }, Mesure(1));
+            atelier.Ferme(Dialogue, Mesure(1)); // Escape again so soon behind the answer would not be heard
             atelier.Repond("Transfert en cours", "Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
                            Operateur::Demande, reponse);
         }
