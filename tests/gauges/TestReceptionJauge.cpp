@@ -318,7 +318,7 @@ private Q_SLOTS:
                 cadran.findChild<QLineEdit *>(u"Text2"_s)->setText(u"5"_s);
                 Operateur::Presse(cadran, "Command1");
             });
-            atelier.LitErreur(61, u"Le disque est plein."_s);
+            atelier.LitErreur(61, u"Le disque est plein.\r"_s + chemin);
             atelier.Fait("MsgBox", [&](QWidget &boite) {
                 QCOMPARE(boite.windowTitle(), u"Enregistrer les jauges"_s);
                 QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(),
