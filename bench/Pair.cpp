@@ -14,7 +14,7 @@ struct Commandes
     const char *recoit;
 };
 
-constexpr Commandes Programmes[] = {
+constexpr Commandes Logiciels[] = {
     {"cat", R"(exec cat "$3" >"$1")", R"(exec cat <"$1" >"$3")"},
     {"ascii-xfr", R"(exec ascii-xfr -s -n "$3" >"$1")", R"(exec ascii-xfr -r -n -d "$3" <"$1")"},
     {"python3-serial",
@@ -32,17 +32,17 @@ constexpr Commandes Programmes[] = {
 
 } // namespace
 
-ReglageMachine ReglageBanc(int vitesse)
+ReglageMachine MachineDeMesure(int vitesse)
 {
     ReglageMachine reglage;
     reglage.Ligne = {vitesse, DemiBits};
     return reglage;
 }
 
-Pair::Pair(Programme programme, int vitesse)
-    : m_programme(programme)
+Pair::Pair(Logiciel logiciel, int vitesse)
+    : m_logiciel(logiciel)
     , m_vitesse(vitesse)
-    , m_machine(ReglageBanc(vitesse))
+    , m_machine(MachineDeMesure(vitesse))
 {
 }
 
@@ -52,19 +52,19 @@ Pair::~Pair()
     m_processus.waitForFinished(-1);
 }
 
-const char *Pair::NomDe(Programme programme)
+const char *Pair::NomDe(Logiciel logiciel)
 {
-    return Programmes[programme].nom;
+    return Logiciels[logiciel].nom;
 }
 
 void Pair::Emet(const QString &fichier)
 {
-    Lance(QString::fromLatin1(Programmes[m_programme].emet), fichier);
+    Lance(QString::fromLatin1(Logiciels[m_logiciel].emet), fichier);
 }
 
 void Pair::Recoit(const QString &fichier)
 {
-    Lance(QString::fromLatin1(Programmes[m_programme].recoit), fichier);
+    Lance(QString::fromLatin1(Logiciels[m_logiciel].recoit), fichier);
 }
 
 void Pair::Lance(const QString &commande, const QString &fichier)

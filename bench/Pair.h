@@ -9,10 +9,10 @@
 class Pair
 {
 public:
-    enum Programme { Cat, AsciiXfr, PythonSerie };
+    enum Logiciel { Cat, AsciiXfr, PythonSerie };
 
     /// vitesse: of the machine's line, bits per second.
-    explicit Pair(Programme programme, int vitesse);
+    explicit Pair(Logiciel logiciel, int vitesse);
     ~Pair();
     Q_DISABLE_COPY_MOVE(Pair)
 
@@ -24,18 +24,18 @@ public:
     void Attend() { m_processus.waitForFinished(-1); }
 
     MachineSimulee &Machine() { return m_machine; }
-    static const char *NomDe(Programme programme);
+    static const char *NomDe(Logiciel logiciel);
     /// Seconds of processor that it has used so far, 0 once it has ended.
     double Processeur() const;
 
 private:
     void Lance(const QString &commande, const QString &fichier);
 
-    const Programme m_programme;
+    const Logiciel m_logiciel;
     const int m_vitesse;
     MachineSimulee m_machine;
     QProcess m_processus;
 };
 
 /// What the benchmarks' machines have in common.
-ReglageMachine ReglageBanc(int vitesse);
+ReglageMachine MachineDeMesure(int vitesse);

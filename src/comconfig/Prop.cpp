@@ -37,7 +37,7 @@ constexpr Texte3 Nouveau{u"Nouveau", u"New", u"Nuevo"};
 constexpr Texte3 TitreEnregistre{u"Enregistrer la configuration de communication",
                                  u"Save a configuration of communication",
                                  u"Registrar la configuración de comunicación"};
-constexpr char16_t Programme[] = u"Dorvanel Pro";
+constexpr char16_t TitreBoites[] = u"Dorvanel Pro";
 constexpr Texte3 FinPerdue{
     u"Le fichier est enregistré, mais cette fin de transfert contient le caractère 17 ou 19 (XON, XOFF),\r"
     u"que le contrôle de flux XOn/XOff prend pour lui : elle n'arrive jamais, et une réception ne finirait pas.\r"
@@ -100,7 +100,7 @@ constexpr ChoixReception Receptions[] = {{&U::Command16,
 
 void MontreErreur(const Erreur &erreur)
 {
-    MsgBox(TexteErreurDetaille(erreur), Boite::Exclamation, QString::fromUtf16(Programme));
+    MsgBox(TexteErreurDetaille(erreur), Boite::Exclamation, QString::fromUtf16(TitreBoites));
 }
 
 } // namespace
@@ -241,7 +241,7 @@ void Prop::cmdOK_Click()
 void Prop::Command1_Click()
 {
     if (const auto refus = NombreTropGrand(*this, true)) {
-        MsgBox(refus->raison, Boite::Exclamation, QString::fromUtf16(Programme));
+        MsgBox(refus->raison, Boite::Exclamation, QString::fromUtf16(TitreBoites));
         VaA(refus->boite);
         return;
     }
@@ -263,7 +263,7 @@ void Prop::Command1_Click()
 /// What the file does not keep, and what the line will not bring.
 void Prop::AnnoncePertes()
 {
-    const QString titre = QString::fromUtf16(Programme);
+    const QString titre = QString::fromUtf16(TitreBoites);
     AnnonceNomRepris(ParamCom.DosRecep, titre);
     AnnonceSaisiePerdue(ParamCom.Commentaire + ParamCom.LibDebProg + ParamCom.LibFinLig + ParamCom.LibFinTrans, titre);
     if (FinTransfertPerdue())
@@ -295,11 +295,11 @@ void Prop::Command5_Click()
         CommonDialog1->ShowOpen();
         Reglages.EditeurCN = CommonDialog1->FileName;
         Label12->setText(Reglages.EditeurCN);
-        AnnonceNomPerdu(Reglages.EditeurCN, LigneNom::Citee, QString::fromUtf16(Programme));
-        AnnonceCfgPerdu(ParamCom.DosRecep, QString::fromUtf16(Programme));
+        AnnonceNomPerdu(Reglages.EditeurCN, LigneNom::Citee, QString::fromUtf16(TitreBoites));
+        AnnonceCfgPerdu(ParamCom.DosRecep, QString::fromUtf16(TitreBoites));
         SauveCfg(ParamCom.DosRecep);
     } catch (const Erreur &erreur) {
         if (erreur.Numero() != Erreur::DialogueAnnule)
-            MsgBox(TexteNonEnregistre(erreur), Boite::Exclamation, QString::fromUtf16(Programme));
+            MsgBox(TexteNonEnregistre(erreur), Boite::Exclamation, QString::fromUtf16(TitreBoites));
     }
 }

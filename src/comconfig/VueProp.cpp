@@ -92,14 +92,14 @@ void MontreTaille(const Ui::Prop &dialogue, int index)
 }
 
 /// A group of options: the field that takes the number of the one clicked (none: nothing is kept), and what follows.
-struct Groupe
+struct GroupeOptions
 {
     Boutons boutons;
     int C::*champ;
     void (*suite)(const Ui::Prop &dialogue, int index);
 };
 
-constexpr Groupe Groupes[] = {
+constexpr GroupeOptions Groupes[] = {
     {{&U::optFlow_0, &U::optFlow_1, &U::optFlow_2, &U::optFlow_3}, &C::ControleFlux, nullptr},
     {{&U::optEcho_0, &U::optEcho_1}, &C::Echo, nullptr},
     {{&U::OptFinTrans_0, &U::OptFinTrans_1, &U::OptFinTrans_2}, &C::TypeFinTrans, MontreFinTrans},
@@ -199,7 +199,7 @@ void DecritPorts(const Ui::Prop &dialogue)
 
 void BrancheOptions(const Ui::Prop &dialogue)
 {
-    for (const Groupe &groupe : Groupes) {
+    for (const GroupeOptions &groupe : Groupes) {
         for (int i = 0; QRadioButton *const bouton = Bouton(dialogue, groupe.boutons, i); ++i) {
             const auto choisit = [&dialogue, &groupe, i](bool choisi) {
                 if (choisi && groupe.champ != nullptr)
@@ -234,7 +234,7 @@ void ParamDefaut(const Ui::Prop &dialogue)
     for (const CaseNombre &champ : CasesNombre)
         MontreEnEntier(dialogue.*champ.boite, QString::number(ParamCom.*champ.champ));
     dialogue.Text3->setText(ParamCom.CarRemplace);
-    for (const Groupe &groupe : Groupes) {
+    for (const GroupeOptions &groupe : Groupes) {
         if (groupe.champ != nullptr)
             Selectionne(dialogue, groupe.boutons, ParamCom.*groupe.champ);
     }

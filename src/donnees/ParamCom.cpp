@@ -54,7 +54,7 @@ void TientNombres()
         ParamCom.*chaine.nombre = std::clamp(ParamCom.*chaine.nombre, 0, C::CapaciteChaine);
 }
 
-void LisCodes(LecteurChamps &champs, const ChampsChaine &chaine)
+void LitCodesChaine(LecteurChamps &champs, const ChampsChaine &chaine)
 {
     for (int i = 1; i <= ParamCom.*chaine.nombre; ++i) {
         if (i > C::CapaciteChaine)
@@ -95,7 +95,7 @@ void LireFichierPar(const QString &chemin)
             ParamCom.*champ.nombre = champ.nombre == &C::Echo ? champs.LigneOuiNon() : champs.LigneEntier();
     }
     for (const ChampsChaine &chaine : Chaines)
-        LisCodes(champs, chaine);
+        LitCodesChaine(champs, chaine);
     ParamCom.FinLigRecep = champs.LigneEntier();
     ParamCom.TypeEnvoi = champs.LigneEntier();
     EtatConf.fiche = EtatConfiguration::Entiere;

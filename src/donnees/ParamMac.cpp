@@ -17,7 +17,7 @@ namespace {
 constexpr qint64 TailleMaxMac = qint64{64} * 1024;
 
 /// The next value, which must be a number and nothing else.
-double LisReel(LecteurChamps &champs)
+double LitReel(LecteurChamps &champs)
 {
     const QString valeur = champs.Chaine();
     bool estNombre = false;
@@ -27,9 +27,9 @@ double LisReel(LecteurChamps &champs)
     return nombre;
 }
 
-int LisEntier(LecteurChamps &champs)
+int LitEntier(LecteurChamps &champs)
 {
-    return EnEntier(LisReel(champs));
+    return EnEntier(LitReel(champs));
 }
 
 QString Ligne(const QString &valeur)
@@ -52,17 +52,17 @@ int CorrecteursTenus(int nombre)
 void LitMac(const QString &chemin)
 {
     LecteurChamps champs(LitFichierTexte(chemin, TailleMaxMac));
-    ParamMac.TypeMachine = LisEntier(champs);
-    ParamMac.TypeTourelle = LisEntier(champs);
-    ParamMac.DiffPoches = LisReel(champs);
-    ParamMac.TypeJauge = LisEntier(champs);
-    ParamMac.ModeX = LisEntier(champs);
-    ParamMac.JaugeMaxiX = LisReel(champs);
-    ParamMac.JaugeMaxiZ = LisReel(champs);
-    ParamMac.NbCorrecteurs = CorrecteursTenus(LisEntier(champs));
+    ParamMac.TypeMachine = LitEntier(champs);
+    ParamMac.TypeTourelle = LitEntier(champs);
+    ParamMac.DiffPoches = LitReel(champs);
+    ParamMac.TypeJauge = LitEntier(champs);
+    ParamMac.ModeX = LitEntier(champs);
+    ParamMac.JaugeMaxiX = LitReel(champs);
+    ParamMac.JaugeMaxiZ = LitReel(champs);
+    ParamMac.NbCorrecteurs = CorrecteursTenus(LitEntier(champs));
     ParamMac.ExtJauge = champs.Chaine();
     ParamMac.NumProgJauge = champs.Chaine();
-    ParamMac.RazDynamique = LisEntier(champs);
+    ParamMac.RazDynamique = LitEntier(champs);
 }
 
 void EcritMac(const QString &chemin)

@@ -69,7 +69,7 @@ QString CheminCfg()
     return AjouteAntislash(DossierApplication()) + QStringLiteral("Dorvanel.CFG");
 }
 
-void LisIni()
+void LitIni()
 {
     LecteurChamps champs(LitFichierTexte(CheminIni(), TailleMaxReglages));
     Reglages.OptDosDefaut = champs.Entier();
@@ -102,7 +102,7 @@ void IniParDefaut()
     Reglages.DosConf = DossierApplication();
 }
 
-void LisCfg(QString &dosRecep)
+void LitCfg(QString &dosRecep)
 {
     LecteurChamps champs(LitFichierTexte(CheminCfg(), TailleMaxReglages));
     for (QString *variable : {&dosRecep, &Reglages.DosJauge, &Reglages.EditeurCN})

@@ -28,7 +28,7 @@ QString CheminCfg();
 
 /// Reads "Dorvanel.ini" field by field into its variables. Raises what LitFichierTexte and LecteurChamps raise; the
 /// fields ahead of the failure are then already in their variables.
-void LisIni();
+void LitIni();
 
 /// Writes "Dorvanel.ini" whole, unless it stands so already. Raises what EcritFichierTexte raises.
 void SauveIni();
@@ -36,8 +36,8 @@ void SauveIni();
 /// The values of a first run, which has no "Dorvanel.ini" yet. LangIndex stays: the operator is asked for it.
 void IniParDefaut();
 
-/// Reads "Dorvanel.CFG" into dosRecep (the reception folder of programs), DosJauge and EditeurCN. Raises as LisIni().
-void LisCfg(QString &dosRecep);
+/// Reads "Dorvanel.CFG" into dosRecep (the reception folder of programs), DosJauge and EditeurCN. Raises as LitIni().
+void LitCfg(QString &dosRecep);
 
 /// Writes "Dorvanel.CFG" whole. dosRecep: the reception folder of programs. Raises as SauveIni().
 void SauveCfg(const QString &dosRecep);

@@ -145,7 +145,7 @@ bool Seance::Reception1Jauge()
     Lignes(m_ligne++) = recu;
     m_brut += recu + QStringLiteral("\r\n");
     AjouteFichierRecu(recu);
-    Controle().ViderReception();
+    Controle().VideReception();
     return true;
 }
 

@@ -52,7 +52,7 @@ void EcritLegende(QObject *controle, Endroit endroit, const QString &texte)
 /// The control of that name in a window, "" for the window itself. A toolbar button bears the name of its action, which
 /// is what holds its texts. An open dialog is a child of the main window and has names of the same kind; its controls
 /// are its own.
-QObject *Controle(QWidget *fenetre, QLatin1String nom)
+QObject *ObjetNomme(QWidget *fenetre, QLatin1String nom)
 {
     if (nom.isEmpty())
         return fenetre;
@@ -118,7 +118,7 @@ void AppliqueLegendes(QWidget *fenetre)
             continue;
         for (const Legende &legende : table->legendes) {
             const QString texte = TexteChoisi({nullptr, legende.anglais, legende.espagnol});
-            QObject *const controle = texte.isNull() ? nullptr : Controle(fenetre, QLatin1String(legende.controle));
+            QObject *const controle = texte.isNull() ? nullptr : ObjetNomme(fenetre, QLatin1String(legende.controle));
             if (controle != nullptr && !controle->property(Donnee).toBool())
                 EcritLegende(controle, legende.endroit, texte);
         }

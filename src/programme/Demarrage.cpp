@@ -50,10 +50,10 @@ constexpr Texte3 DossierFermeTexte{u"Rien ne peut être écrit dans le dossier :
                                    u"Nothing can be written in the folder:\r%1\rYour settings will not be kept.",
                                    u"No se puede escribir nada en la carpeta:\r%1\rSus ajustes no se guardarán."};
 
-void LisReglages()
+void LitReglages()
 {
     if (FichierExiste(CheminIni())) {
-        LisIni();
+        LitIni();
         AppliqueLangueSysteme(); // for the buttons of a box that the start itself may show
         return;
     }
@@ -74,10 +74,10 @@ void DesactiveTransferts()
         action->setEnabled(false);
 }
 
-void LisDossiers()
+void LitDossiers()
 {
     if (FichierExiste(CheminCfg()))
-        LisCfg(ParamCom.DosRecep);
+        LitCfg(ParamCom.DosRecep);
     else
         CfgParDefaut(ParamCom.DosRecep);
 }
@@ -98,13 +98,13 @@ void Form_Load()
                  {&Document.NomFichier, &EtatConf.FicConf, &Reglages.DosDefaut, &Reglages.FicConfDefaut,
                   &Reglages.DosConf, &Reglages.EditeurCN});
     try {
-        LisReglages();
+        LitReglages();
     } catch (const Erreur &) {
         return;
     }
     DesactiveTransferts();
     Reglages.DosAppli = DossierApplication();
-    Saute(LisDossiers);
+    Saute(LitDossiers);
     MontreLangue();
     if (Reglages.DosConf.isEmpty())
         Reglages.DosConf = DossierApplication();

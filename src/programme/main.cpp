@@ -58,7 +58,7 @@ int main(int nombre, char *arguments[])
         const QCoreApplication application(nombre, arguments);
         FichiersDemandes();
     }
-    const std::future<void> polices = LisPolices();
+    const std::future<void> polices = LitPolices();
     QApplication application(nombre, arguments);
     QApplication::setStyle(new StyleContraste);         // not earlier: the desktop says its style to the application
     QApplication::setApplicationDisplayName(QString()); // or each title would end in the program's name

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr Texte3 Programme{
+constexpr Texte3 NomEtVersion{
     u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rLogiciel de Chargement/Déchargement\r"
     u"de fichiers Commande Numérique",
     u"Dorvanel Pro Version " DORVANEL_VERSION u"\r\rSoftware of Load / dumping\rof files Digital control",
@@ -27,7 +27,7 @@ Apropos::Apropos(QWidget *parent)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    const QString programme = TexteChoisi(Programme);
+    const QString programme = TexteChoisi(NomEtVersion);
     if (!programme.isNull())
         Label1->setText(PourAffichage(programme));
     Label4->setText(QString::fromUtf16(AdresseCourrier));

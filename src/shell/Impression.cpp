@@ -29,10 +29,10 @@ QFont PoliceDuTexte()
 }
 
 /// Where a printing has got to, for the operator, once it lasts. While it is on the screen the main window waits.
-class Avancement : public QProgressDialog
+class AvancementImpression : public QProgressDialog
 {
 public:
-    Avancement(int copies, qsizetype caracteres)
+    AvancementImpression(int copies, qsizetype caracteres)
         : QProgressDialog(frmPrinc)
         , m_caracteres(caracteres)
     {
@@ -62,7 +62,7 @@ private:
 void Imprime(QPrinter &reglages, int copies)
 {
     const QString texte = frmPrinc->Text1->Text();
-    Avancement avancement(copies, texte.size());
+    AvancementImpression avancement(copies, texte.size());
     Printer imprimante(reglages);
     imprimante.Print();
     imprimante.Font = PoliceDuTexte();

@@ -45,7 +45,7 @@ void RendFinTransfert(Ui::Em_Rc &dialogue)
 
 void AcheveReception(Ui::Em_Rc &dialogue)
 {
-    Controle().ViderEmission(ConfigurationCom::CapaciteChaine);
+    Controle().VideEmission(ConfigurationCom::CapaciteChaine);
     FermePortCOM(dialogue);
     frmPrinc->EteintTransfert();
     PoseTexte(dialogue.Label2, Reussi);

@@ -112,6 +112,6 @@ void MSComm1_OnComm()
         RecolteFichier();
     }
     if (code == E::Perte)
-        Saute([] { NotePerte(Perte::Debordement, frmPrinc->MSComm1->ViderReception()); });
+        Saute([] { NotePerte(Perte::Debordement, frmPrinc->MSComm1->VideReception()); });
     Annonce(LigneDe(code));
 }

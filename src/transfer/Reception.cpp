@@ -117,7 +117,7 @@ bool Remplissage::EchoSuperflu()
 
 void Remplissage::Termine()
 {
-    const QString reste = Controle().ViderReception();
+    const QString reste = Controle().VideReception();
     if (Transfert.ForceRECEPT) // else it stands behind the end
         NotePerte(Perte::Jetes, reste);
     NotePerte(Perte::SansFin, Ligne);
@@ -202,7 +202,7 @@ void EmplitParCaractere(Remplissage &table)
             table.Range();
             table.MontreFinLigne(FinLigneCar);
             table.ExigePlace();
-            NotePerte(Perte::Jetes, Controle().ViderReception());
+            NotePerte(Perte::Jetes, Controle().VideReception());
         }
         const bool fini = car == ParamCom.ChaineFinTrans;
         if (!fini) {
@@ -262,7 +262,7 @@ void EmplitParLigne(Remplissage &table)
             continue;
         RetireFinLigne(recu);
         table.Range(Transfert.ChaineFinLigRecep);
-        NotePerte(Perte::Jetes, Controle().ViderReception());
+        NotePerte(Perte::Jetes, Controle().VideReception());
         table.ExigePlace();
         table.MontreFinLigne(FinLigneLigne);
     }

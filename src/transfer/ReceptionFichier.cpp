@@ -135,7 +135,7 @@ void AttendFichier(Ui::Em_Rc &dialogue)
         if (Transfert.ForceRECEPT) {
             // What is too little to raise an event has come all the same.
             PrendReste();
-            Controle().ViderReception();
+            Controle().VideReception();
             FinTrouvee();
             Transfert.FinTransfert = true;
             return;

@@ -21,9 +21,9 @@ using C = ConfigurationCom;
 namespace {
 
 /// A workstation whose record holds every value of a full file, with a scripted line behind every port.
-struct Banc : Etabli
+struct EtabliProp : Etabli
 {
-    explicit Banc(int langue = 0)
+    explicit EtabliProp(int langue = 0)
         : Etabli(langue)
     {
         LireFichierPar(Donnees(u"Complet.par"_s));
@@ -57,7 +57,7 @@ private Q_SLOTS:
             {u"OptionNul_%1"_s, &C::FiltreNul, 2, true},      {u"OptionRTS_%1"_s, &C::LigneRTS, 2, true},
             {u"OptionDRT_%1"_s, &C::LigneDTR, 2, true},       {u"OptionRCP_%1"_s, &C::TypeRecep, 3, true},
             {u"Option1_%1"_s, &C::FinLigRecep, 4, false},     {u"OptionEnvoi_%1"_s, &C::TypeEnvoi, 2, false}};
-        const Banc banc;
+        const EtabliProp etabli;
         for (const auto &[nom, champ, nombre, auClic] : groupes) {
             for (int i = -1; i <= nombre; ++i) { // the values at both ends belong to no option
                 ParamCom.*champ = i;
@@ -76,14 +76,14 @@ private Q_SLOTS:
     // What goes with a way of receiving. What was typed is overwritten when a child dialog closes.
     void Lecture()
     {
-        Banc banc;
+        EtabliProp etabli;
         for (const auto &[type, nombre, montre] :
              {std::tuple{0, 1, u"512"_s}, {1, 1, u"1"_s}, {2, 1, u"512"_s}, {1, 512, u"512"_s}, {2, 100, u"100"_s}}) {
             ParamCom.TypeRecep = type;
             ParamCom.NbCarLecture = nombre;
             const Prop prop(frmPrinc);
             prop.Text2->setText(u"77"_s);
-            banc.Ferme("FrmCaract");
+            etabli.Ferme("FrmCaract");
             prop.Command22->click();
             QCOMPARE(prop.Text2->text(), montre);
         }
@@ -104,7 +104,7 @@ private Q_SLOTS:
     // the record sound: a saving takes nothing, Apply takes the rest.
     void Nombres()
     {
-        Banc banc;
+        EtabliProp etabli;
         const Prop prop(frmPrinc);
         for (QLineEdit *const boite : {prop.Text2, prop.Text4, prop.Text5, prop.Text6, prop.Text7, prop.Text8}) {
             QTest::keyClick(boite, Qt::Key_A, Qt::ControlModifier); // what stood there gives way
@@ -119,7 +119,7 @@ private Q_SLOTS:
         for (const auto &[colle, valeur] :
              {std::pair{"12a4", 12}, {" 7", 7}, {"abc", 0}, {"-5", 0}, {"1e3", 1}, {"", 0}}) {
             prop.Text6->setText(QLatin1String(colle));
-            banc.Ferme("CommonDialog");
+            etabli.Ferme("CommonDialog");
             prop.Command1->click();
             QCOMPARE(ParamCom.SeuilRecep, valeur);
             QCOMPARE(prop.Text6->text(), QString::number(valeur));
@@ -128,15 +128,15 @@ private Q_SLOTS:
              {std::pair{prop.Text5, prop.Label14}, {prop.Text7, prop.Label16}, {prop.Text8, prop.Label18}}) {
             boite->setText(u"32768"_s);
             ParamCom.Commentaire = u"ancien"_s;
-            banc.Prevenu(legende->text() + u"\r32768 ne convient pas (32767 au plus)."_s);
+            etabli.Prevenu(legende->text() + u"\r32768 ne convient pas (32767 au plus)."_s);
             prop.Command1->click();
             QCOMPARE(ParamCom.Commentaire, u"ancien"_s);
             boite->setText(u"1"_s);
         }
         const QString trop(400, u'9');
         prop.Text7->setText(trop);
-        banc.Prevenu(u"Un nombre est trop grand pour le champ qui doit le recevoir.\r"_s + prop.Label16->text() +
-                     u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
+        etabli.Prevenu(u"Un nombre est trop grand pour le champ qui doit le recevoir.\r"_s + prop.Label16->text() +
+                       u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
         prop.cmdOK->click();
         QCOMPARE(ParamCom.Commentaire + QString::number(ParamCom.SeuilEmis), u"12"_s);
         QVERIFY(prop.SSTab1->currentWidget() == prop.divers && prop.focusWidget() == prop.Text7);
@@ -147,9 +147,9 @@ private Q_SLOTS:
     void Applique()
     {
         for (const bool ouvert : {false, true}) {
-            const Banc banc;
+            const EtabliProp etabli;
             MSComm &controle = *frmPrinc->MSComm1;
-            Banc::Ouvre(ouvert);
+            EtabliProp::Ouvre(ouvert);
             EtatConf.NomConf = ouvert ? u"Tour.par"_s : QString();
             const Prop prop(frmPrinc);
             prop.cboPort->setCurrentIndex(6);
@@ -186,15 +186,15 @@ private Q_SLOTS:
              {std::tuple{1, u"4"_s, 0, u"La taille d'octet spécifiée n'est pas valide\r\"4\""_s},
               {3, u"8"_s, 8002, u"Numéro de port non valide\rrefused"_s},
               {1, u"8"_s, 8015, u"Impossible de définir l'état de communication\rrefused"_s}}) {
-            Banc banc;
+            EtabliProp etabli;
             const MSComm &controle = *frmPrinc->MSComm1;
-            Banc::Ouvre(true);
-            banc.scenario->refusReglage = refus;
+            EtabliProp::Ouvre(true);
+            etabli.scenario->refusReglage = refus;
             const Prop prop(frmPrinc);
             prop.cboPort->setCurrentIndex(port - 1);
             prop.cboDataBits->setCurrentText(bits);
             prop.cboStopBits->setCurrentText(u"1"_s);
-            banc.Prevenu(texte);
+            etabli.Prevenu(texte);
             prop.cmdOK->click();
             QCOMPARE(ParamCom.BitsDonnees + QString::number(ParamCom.NumPort), bits + QString::number(port));
             QCOMPARE(controle.CommPort() + controle.InputLen(), 1);
@@ -208,10 +208,10 @@ private Q_SLOTS:
     // is shown is put back. The editor goes to the settings at once.
     void Choix()
     {
-        Banc banc;
-        ParamCom.DosRecep = Reglages.EditeurCN = banc.Dossier();
+        EtabliProp etabli;
+        ParamCom.DosRecep = Reglages.EditeurCN = etabli.Dossier();
         const Prop prop(frmPrinc);
-        banc.Fait("DosProg", [](QWidget &fenetre) {
+        etabli.Fait("DosProg", [](QWidget &fenetre) {
             dynamic_cast<DosProg &>(fenetre).FolderTreeview1->setSelectedFolder(u"/"_s);
             fenetre.close();
         });
@@ -219,28 +219,28 @@ private Q_SLOTS:
         QCOMPARE(ParamCom.DosRecep, u"/"_s);
         prop.OptionEnvoi_0->click();
         prop.Text8->setText(u"33"_s);
-        banc.Ferme("CommonDialog");
+        etabli.Ferme("CommonDialog");
         prop.Command1->click();
         QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.DosRecep + QDir::currentPath(),
-                 banc.Dossier() + banc.Dossier());
+                 etabli.Dossier() + etabli.Dossier());
         QCOMPARE(ParamCom.TailleRecep * 10 + ParamCom.TypeEnvoi, 330);
         ParamCom.ControleFlux = 1;
         prop.OptFinTrans_0->click();
-        banc.Choisit(banc.Chemin("Fin.par"));
+        etabli.Choisit(etabli.Chemin("Fin.par"));
         prop.Text1->setText(u"Tour é Łódź"_s);
-        banc.ApprendQue(u"  Ł ź\n"_s);
-        banc.ApprendQue(u"17 ou 19"_s);
+        etabli.ApprendQue(u"  Ł ź\n"_s);
+        etabli.ApprendQue(u"17 ou 19"_s);
         prop.Command1->click();
-        QVERIFY(QFile::exists(banc.Chemin("Fin.par")));
+        QVERIFY(QFile::exists(etabli.Chemin("Fin.par")));
 
-        const QString editeur = banc.Ecrit("Mon editeur.exe", {});
-        banc.Ferme("CommonDialog");
+        const QString editeur = etabli.Ecrit("Mon editeur.exe", {});
+        etabli.Ferme("CommonDialog");
         prop.Command5->click();
-        QCOMPARE(prop.Label12->text(), banc.Dossier());
-        banc.Choisit(editeur);
+        QCOMPARE(prop.Label12->text(), etabli.Dossier());
+        etabli.Choisit(editeur);
         prop.Command5->click();
         QCOMPARE(prop.Label12->text(), editeur);
-        QVERIFY(banc.Lit("Dorvanel.CFG").endsWith("\r\n\"" + editeur.toUtf8() + "\"\r\n"));
+        QVERIFY(etabli.Lit("Dorvanel.CFG").endsWith("\r\n\"" + editeur.toUtf8() + "\"\r\n"));
     }
 
     // What the transfers are told of the record that a closed dialog leaves: a choice that was neither applied nor
@@ -260,7 +260,7 @@ private Q_SLOTS:
               {E::EnAttente, rien, true, false, E::Entiere},
               {E::Incomplete, flux, true, false, E::Incomplete},
               {E::Incomplete, rien, false, true, E::Entiere}}) {
-            Banc banc;
+            EtabliProp etabli;
             ParamCom.BitsArret = u"1"_s; // which go with 8 data bits
             BatirChaines();
             EtatConf.fiche = avant;
@@ -270,7 +270,7 @@ private Q_SLOTS:
             if (applique)
                 prop.cmdOK->click();
             if (enregistre) {
-                banc.Choisit(banc.Chemin("Tour.par"));
+                etabli.Choisit(etabli.Chemin("Tour.par"));
                 prop.Command1->click();
             }
             prop.cmdCancel->click();
@@ -282,28 +282,28 @@ private Q_SLOTS:
     // value, or no box takes as many digits. One that breaks off is told, opened, saved again and whole.
     void Modifie()
     {
-        Banc banc;
-        banc.Ferme("CommonDialog"); // and nothing opens
+        EtabliProp etabli;
+        etabli.Ferme("CommonDialog"); // and nothing opens
         Operateur::Menu("Mnu_ModifConf");
         const QByteArray entier = LitOctets(Donnees(u"Complet.par"_s));
         const QByteArray autre = QByteArray(entier).replace("19200", "187500").replace("2048", "20480");
-        Reglages.DosConf = banc.Dossier();
+        Reglages.DosConf = etabli.Dossier();
         for (const QByteArray &octets : {entier, autre, autre.chopped(5)}) {
-            QFile::remove(banc.Chemin("Sans suffixe")); // or the dialog asks about it
-            const QString ancien = banc.Ecrit("Ancien.par", octets);
+            QFile::remove(etabli.Chemin("Sans suffixe")); // or the dialog asks about it
+            const QString ancien = etabli.Ecrit("Ancien.par", octets);
             if (octets.size() < entier.size())
-                banc.ChoisitAncien(ancien);
+                etabli.ChoisitAncien(ancien);
             else
-                banc.Choisit(ancien);
-            banc.Presse("Prop", "Command1");
-            banc.Choisit(banc.Chemin("Sans suffixe"));
-            banc.Fait("Prop", [](QWidget &fenetre) {
+                etabli.Choisit(ancien);
+            etabli.Presse("Prop", "Command1");
+            etabli.Choisit(etabli.Chemin("Sans suffixe"));
+            etabli.Fait("Prop", [](QWidget &fenetre) {
                 QCOMPARE(fenetre.windowTitle(),
                          u"Propriétés et configuration de la communication - Fichier : Sans suffixe"_s);
                 fenetre.close();
             });
             Operateur::Menu("Mnu_ModifConf");
-            QCOMPARE(banc.Lit("Sans suffixe"), octets == entier ? entier : autre);
+            QCOMPARE(etabli.Lit("Sans suffixe"), octets == entier ? entier : autre);
             QVERIFY(Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Bouton(10)->isEnabled());
             QCOMPARE(frmPrinc->Label4->text() + ParamCom.ChaineFinLig, u"Ancien.par"_s); // until Apply
         }
@@ -315,10 +315,10 @@ private Q_SLOTS:
     {
         QSet<QString> aides;
         for (int langue = 0; langue < 3; ++langue) {
-            Banc banc(langue);
+            EtabliProp etabli(langue);
             const Prop prop(frmPrinc);
             for (const int bouton : {6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 23, 24, 25}) {
-                banc.Fait("MsgBox", [&aides](QWidget &fenetre) {
+                etabli.Fait("MsgBox", [&aides](QWidget &fenetre) {
                     aides << fenetre.windowTitle() + u'|' + dynamic_cast<QMessageBox &>(fenetre).text();
                     fenetre.close();
                 });
@@ -333,14 +333,14 @@ private Q_SLOTS:
     // Each port says what it stands for as it is looked at.
     void Ports()
     {
-        const Banc banc(0);
-        const QString adaptateur = banc.Ecrit("adaptateur", {});
+        const EtabliProp etabli(0);
+        const QString adaptateur = etabli.Ecrit("adaptateur", {});
         Prop prop(frmPrinc);
         prop.show();
         prop.cboPort->showPopup();
         const auto bulle = [&](int port) { return prop.cboPort->itemData(port - 1, Qt::ToolTipRole).toString(); };
         QCOMPARE(bulle(5), u"Com5 : aucun périphérique sur ce PC"_s);
-        banc.Relie(5, adaptateur); // plugged in meanwhile
+        etabli.Relie(5, adaptateur); // plugged in meanwhile
         prop.cboPort->hidePopup();
         prop.cboPort->showPopup();
         QVERIFY2(bulle(5).contains(QFileInfo(adaptateur).canonicalFilePath()), qPrintable(bulle(5)));
@@ -437,7 +437,7 @@ private Q_SLOTS:
     // a rule, in a list's, and in one that the system makes. What an old file holds makes no label grow.
     void UneLigne()
     {
-        const Banc banc;
+        const EtabliProp etabli;
         Prop prop(frmPrinc);
         FrmCaract chaine(ChaineLigne, {}, &prop);
         JauTour cadran(frmPrinc);

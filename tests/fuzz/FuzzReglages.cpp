@@ -11,8 +11,8 @@ void Essaie(const QByteArray &octets)
     const QString cfg = Pose("Dorvanel.CFG", octets.mid(octets.size() / 2));
     QString dosRecep;
     try {
-        LisIni();
-        LisCfg(dosRecep);
+        LitIni();
+        LitCfg(dosRecep);
         SauveIni();
         SauveCfg(dosRecep);
     } catch (const Erreur &) {
@@ -20,8 +20,8 @@ void Essaie(const QByteArray &octets)
     }
     const QByteArray enregistres = Relit(ini) + Relit(cfg);
     try {
-        LisIni();
-        LisCfg(dosRecep);
+        LitIni();
+        LitCfg(dosRecep);
     } catch (const Erreur &) {
         return; // a comma or a quote in a folder's name breaks its line in two
     }

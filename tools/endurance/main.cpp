@@ -33,7 +33,7 @@ QTextStream &Sortie()
 }
 
 template <typename... Colonnes>
-void Ecris(const char *nom, Colonnes... colonnes)
+void Ecrit(const char *nom, Colonnes... colonnes)
 {
     Sortie() << QString::fromLatin1(nom).leftJustified(28);
     for (const QString &colonne : {QString(colonnes)...})
@@ -41,21 +41,21 @@ void Ecris(const char *nom, Colonnes... colonnes)
     Sortie() << Qt::endl;
 }
 
-void EcrisBilan(const Bilan &bilan)
+void EcritBilan(const Bilan &bilan)
 {
     const auto texte = [](int nombre) { return QString::number(nombre); };
     const auto titre = [](const char *mot) { return QString::fromLatin1(mot); };
-    Ecris("", titre("transfers"), titre("completed"), titre("cancelled"), titre("unplugged"));
+    Ecrit("", titre("transfers"), titre("completed"), titre("cancelled"), titre("unplugged"));
     for (std::size_t i = 0; i < bilan.size(); ++i) {
         const auto &[entiers, annules, debranches] = bilan[i];
-        Ecris(Noms[i], texte(entiers + annules + debranches), texte(entiers), texte(annules), texte(debranches));
+        Ecrit(Noms[i], texte(entiers + annules + debranches), texte(entiers), texte(annules), texte(debranches));
     }
 }
 
 /// One line of the table of what the process holds; false when it is not as it has to be.
-bool EcrisCompte(const char *nom, qint64 avant, qint64 apres, bool juste)
+bool EcritCompte(const char *nom, qint64 avant, qint64 apres, bool juste)
 {
-    Ecris(nom, QString::number(avant), QString::number(apres), QString::fromLatin1(juste ? "" : "WRONG"));
+    Ecrit(nom, QString::number(avant), QString::number(apres), QString::fromLatin1(juste ? "" : "WRONG"));
     return juste;
 }
 
@@ -65,25 +65,25 @@ qint64 Moyenne(const qint64 *debut, qsizetype nombre)
 }
 
 /// serie: the memory behind each transfer, in kB.
-bool EcrisMemoire(const char *nom, const QList<qint64> &serie)
+bool EcritMemoire(const char *nom, const QList<qint64> &serie)
 {
     const qsizetype nombre = std::min(Fenetre, serie.size());
     const qint64 premiers = Moyenne(serie.constData(), nombre);
     const qint64 derniers = Moyenne(serie.constData() + serie.size() - nombre, nombre);
-    return EcrisCompte(nom, premiers, derniers, !JugeMemoire || double(derniers) <= double(premiers) * CroissanceMax);
+    return EcritCompte(nom, premiers, derniers, !JugeMemoire || double(derniers) <= double(premiers) * CroissanceMax);
 }
 
-bool EcrisComptes(const Comptes &avant, const Comptes &apres, const QList<qint64> &tas, const QList<qint64> &pages)
+bool EcritComptes(const Comptes &avant, const Comptes &apres, const QList<qint64> &tas, const QList<qint64> &pages)
 {
-    Ecris("", QStringLiteral("before"), QStringLiteral("after"));
-    bool juste = EcrisMemoire("heap in use of 100, kB", tas);
-    juste = EcrisMemoire("resident of 100, kB", pages) && juste;
-    juste = EcrisCompte("open descriptors", avant.descripteurs, apres.descripteurs,
+    Ecrit("", QStringLiteral("before"), QStringLiteral("after"));
+    bool juste = EcritMemoire("heap in use of 100, kB", tas);
+    juste = EcritMemoire("resident of 100, kB", pages) && juste;
+    juste = EcritCompte("open descriptors", avant.descripteurs, apres.descripteurs,
                         apres.descripteurs == avant.descripteurs) &&
             juste;
-    juste = EcrisCompte("living objects", avant.objets, apres.objets, apres.objets <= avant.objets + ObjetsUniques) &&
+    juste = EcritCompte("living objects", avant.objets, apres.objets, apres.objets <= avant.objets + ObjetsUniques) &&
             juste;
-    return EcrisCompte("top-level windows", avant.fenetres, apres.fenetres, apres.fenetres == avant.fenetres) && juste;
+    return EcritCompte("top-level windows", avant.fenetres, apres.fenetres, apres.fenetres == avant.fenetres) && juste;
 }
 
 /// nombre transfers of each kind, in turns, so that the first and the last hundred are of all kinds.
@@ -111,15 +111,15 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
         }
     }
     const Comptes apres = Compte();
-    EcrisBilan(bilan);
-    const bool juste = EcrisComptes(avant, apres, tas, pages);
+    EcritBilan(bilan);
+    const bool juste = EcritComptes(avant, apres, tas, pages);
     for (const QString &ecart : epreuve.Ecarts())
         Sortie() << "WRONG: " << ecart << Qt::endl;
     return juste && epreuve.Ecarts().isEmpty();
 }
 
 /// The platform without a display says it of each window.
-void Dis(QtMsgType genre, const QMessageLogContext &contexte, const QString &message)
+void Dit(QtMsgType genre, const QMessageLogContext &contexte, const QString &message)
 {
     if (!message.contains(QLatin1String("propagateSizeHints")))
         QTextStream(stderr) << qFormatLogMessage(genre, contexte, message) << Qt::endl;
@@ -131,7 +131,7 @@ int main(int nombre, char *arguments[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // nobody watches
-    qInstallMessageHandler(Dis);
+    qInstallMessageHandler(Dit);
     CompteObjets();
     const QApplication application(nombre, arguments);
     QCommandLineParser lecteur;

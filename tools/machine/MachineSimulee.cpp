@@ -42,7 +42,7 @@ void MachineSimulee::Reprend()
     m_reveil.Sonne();
 }
 
-void MachineSimulee::RemiseAZero()
+void MachineSimulee::RemetAZero()
 {
     const std::lock_guard verrou(m_verrou);
     Recoit(Horloge::now()); // the machine's thread may be late: what the line has brought came before the reset

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "machine/Decoupe.h"
-#include "machine/Emission.h"
+#include "machine/EmissionMachine.h"
 #include "machine/PaireTerminaux.h"
 #include "machine/Reveil.h"
 #include "machine/TamponRecep.h"
@@ -104,7 +104,7 @@ public:
     /// The operator lets it go on; XON follows once the buffer has emptied to its low mark.
     void Reprend();
     /// The operator's reset: what the line has brought of an unfinished program is dropped, a sending ends.
-    void RemiseAZero();
+    void RemetAZero();
     /// Sends, from now on; a sending under way ends. What the PC answers to a program is compared with the
     /// end-of-transfer chain.
     void Emet(const Envoi &envoi);
@@ -148,7 +148,7 @@ private:
     Decoupe m_decoupe;
     ProgrammeRecu m_enCours;
     std::vector<ProgrammeRecu> m_programmes;
-    std::optional<Emission> m_emission;
+    std::optional<EmissionMachine> m_emission;
     EtatEnvoi m_envoi;
     bool m_bloquee = false; // the system takes no more for the PC
     bool m_deborde = false; // the last character was lost

@@ -28,11 +28,11 @@ void PrendSignaux(Reveil &reveil)
 }
 
 /// The person at the control: one letter and Enter.
-class Operateur
+class Pupitre
 {
 public:
     /// Raises ListeFausse.
-    Operateur(MachineSimulee &machine, const Options &options);
+    Pupitre(MachineSimulee &machine, const Options &options);
 
     /// Follows the keyboard until the key q or a signal. Without a keyboard only the signal ends it.
     void Travaille(const Reveil &reveil);
@@ -55,7 +55,7 @@ QByteArray Contenu(const QString &chemin)
     return fichier.readAll();
 }
 
-Operateur::Operateur(MachineSimulee &machine, const Options &options)
+Pupitre::Pupitre(MachineSimulee &machine, const Options &options)
     : m_machine(machine)
     , m_options(options)
 {
@@ -63,7 +63,7 @@ Operateur::Operateur(MachineSimulee &machine, const Options &options)
         m_banc.emplace(Contenu(options.Banc));
 }
 
-void Operateur::Travaille(const Reveil &reveil)
+void Pupitre::Travaille(const Reveil &reveil)
 {
     Chronique::Dit(
         QStringLiteral("Keys, each with Enter: h hold (XOFF), r resume (XON), z reset, e send, b next tool of "
@@ -89,7 +89,7 @@ void Operateur::Travaille(const Reveil &reveil)
     }
 }
 
-bool Operateur::Execute(const QByteArray &ordre)
+bool Pupitre::Execute(const QByteArray &ordre)
 {
     if (ordre == "q")
         return false;
@@ -98,7 +98,7 @@ bool Operateur::Execute(const QByteArray &ordre)
     else if (ordre == "r")
         m_machine.Reprend();
     else if (ordre == "z")
-        m_machine.RemiseAZero();
+        m_machine.RemetAZero();
     else if (ordre == "e")
         Envoie();
     else if (ordre == "b")
@@ -108,7 +108,7 @@ bool Operateur::Execute(const QByteArray &ordre)
     return true;
 }
 
-void Operateur::Envoie()
+void Pupitre::Envoie()
 {
     QFile fichier(m_options.AEnvoyer);
     if (!fichier.open(QIODevice::ReadOnly)) {
@@ -120,7 +120,7 @@ void Operateur::Envoie()
     m_machine.Emet(envoi);
 }
 
-void Operateur::Mesure()
+void Pupitre::Mesure()
 {
     if (!m_banc) {
         Chronique::Dit(QStringLiteral("No tool to measure (--banc)"));
@@ -147,7 +147,7 @@ void Sert(const Options &options, const Reveil &fin)
     if (!options.Lien.isEmpty())
         lien.emplace(options.Lien, machine.Chemin());
     Chronique::Dit(QStringLiteral("Machine on %1").arg(options.Lien.isEmpty() ? machine.Chemin() : options.Lien));
-    Operateur(machine, options).Travaille(fin);
+    Pupitre(machine, options).Travaille(fin);
 }
 } // namespace
 

@@ -63,7 +63,7 @@ Operateur::Operateur()
 
 Operateur::~Operateur()
 {
-    for (const Attente &attente : temoin.enEchec() ? std::deque<Attente>() : m_attentes)
+    for (const BoiteAttendue &attente : temoin.enEchec() ? std::deque<BoiteAttendue>() : m_attentes)
         temoin.echec(QStringLiteral("never came: ") + attente.fenetre, attente.ou);
 }
 
@@ -244,7 +244,7 @@ bool Operateur::Annoncee(const QWidget &fenetre) const
 {
     return !fenetre.inherits("QMessageBox") &&
            std::any_of(m_attentes.begin(), m_attentes.end(),
-                       [&fenetre](const Attente &attente) { return attente.fenetre == fenetre.objectName(); });
+                       [&fenetre](const BoiteAttendue &attente) { return attente.fenetre == fenetre.objectName(); });
 }
 
 void Operateur::Etonne(QWidget &fenetre)

@@ -84,7 +84,7 @@ public:
     static QString Lu(QAnyStringView controle);
 
 private:
-    struct Attente
+    struct BoiteAttendue
     {
         QString fenetre;
         Condition quand;
@@ -99,7 +99,7 @@ private:
     void Etonne(QWidget &fenetre);
 
     QTimer m_yeux;
-    std::deque<Attente> m_attentes;
+    std::deque<BoiteAttendue> m_attentes;
     std::map<QString, Geste> m_habitudes;
     QList<QPointer<QWidget>> m_connues; // windows that were foretold and may stand open
     QElapsedTimer m_dernierGeste;

@@ -59,23 +59,24 @@ const Noeud *EnNoeud(const QTreeWidgetItem *noeud)
 }
 
 /// A folder at the top of the tree.
-struct Lieu
+struct LieuRacine
 {
     QString chemin;
     QString nom;
     QStyle::StandardPixmap icone;
 };
 
-QList<Lieu> Lieux()
+QList<LieuRacine> Lieux()
 {
-    QList<Lieu> lieux = {{QDir::homePath(), QDir::home().dirName(), QStyle::SP_DirHomeIcon}};
+    QList<LieuRacine> lieux = {{QDir::homePath(), QDir::home().dirName(), QStyle::SP_DirHomeIcon}};
     const QStringList volumes = Volumes();
     for (const QString &volume : volumes)
-        lieux << Lieu{volume, QFileInfo(volume).fileName(), QStyle::SP_DriveHDIcon};
+        lieux << LieuRacine{volume, QFileInfo(volume).fileName(), QStyle::SP_DriveHDIcon};
     const auto disques = QDir::drives();
     for (const QFileInfo &disque : disques) {
         if (disque.filePath() != QDir::homePath())
-            lieux << Lieu{disque.filePath(), QDir::toNativeSeparators(disque.filePath()), QStyle::SP_ComputerIcon};
+            lieux << LieuRacine{disque.filePath(), QDir::toNativeSeparators(disque.filePath()),
+                                QStyle::SP_ComputerIcon};
     }
     return lieux;
 }
@@ -102,22 +103,22 @@ FolderTreeview::FolderTreeview(QWidget *parent)
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(&m_guetteur, &GuetteurDossiers::Change, this, &FolderTreeview::SuitLeDisque);
-    connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lis);
+    connect(this, &QTreeWidget::itemExpanded, this, &FolderTreeview::Lit);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &FolderTreeview::Annonce);
     connect(this, &QTreeWidget::itemClicked, this, &FolderTreeview::Click);
 }
 
 void FolderTreeview::showEvent(QShowEvent *evenement)
 {
-    LisPremierement();
+    LitPremierement();
     QTreeWidget::showEvent(evenement);
 }
 
 /// A tree that is never shown reads nothing: the start of the program does not wait for the disk.
-void FolderTreeview::LisPremierement()
+void FolderTreeview::LitPremierement()
 {
     if (topLevelItemCount() == 0)
-        LisSommets();
+        LitSommets();
 }
 
 QString FolderTreeview::SelectedFolder() const
@@ -131,7 +132,7 @@ void FolderTreeview::setSelectedFolder(const QString &chemin)
     const QString cible = QDir::cleanPath(QFileInfo(chemin).absoluteFilePath());
     if (chemin.isEmpty() || !QFileInfo(cible).isDir())
         throw Erreur(Erreur::FichierIntrouvable, chemin);
-    LisPremierement();
+    LitPremierement();
     QTreeWidgetItem *noeud = Sommet(cible);
     if (noeud == nullptr)
         throw Erreur(Erreur::FichierIntrouvable, chemin);
@@ -154,9 +155,9 @@ QString FolderTreeview::Parent() const
 
 void FolderTreeview::Refresh()
 {
-    LisSommets();
+    LitSommets();
     for (int i = 0; i < topLevelItemCount(); ++i)
-        Relis(topLevelItem(i));
+        Relit(topLevelItem(i));
 }
 
 /// Follows a change of the disk. The rows in sight stay where they are, whatever comes or goes further up: the operator
@@ -185,16 +186,17 @@ void FolderTreeview::Pendant(const std::function<void()> &travail)
 }
 
 /// Reads the top of the tree, where volumes come and go while the program runs.
-void FolderTreeview::LisSommets()
+void FolderTreeview::LitSommets()
 {
-    const QList<Lieu> lieux = Lieux();
+    const QList<LieuRacine> lieux = Lieux();
     for (int i = topLevelItemCount() - 1; i >= 0; --i) {
         const QString &chemin = EnNoeud(topLevelItem(i))->Chemin();
-        if (std::none_of(lieux.begin(), lieux.end(), [&chemin](const Lieu &lieu) { return lieu.chemin == chemin; }))
+        if (std::none_of(lieux.begin(), lieux.end(),
+                         [&chemin](const LieuRacine &lieu) { return lieu.chemin == chemin; }))
             Retire(topLevelItem(i));
     }
     for (int i = 0; i < lieux.size(); ++i) {
-        const Lieu &lieu = lieux[i];
+        const LieuRacine &lieu = lieux[i];
         if (topLevelItem(i) == nullptr || EnNoeud(topLevelItem(i))->Chemin() != lieu.chemin)
             insertTopLevelItem(i, new Noeud(lieu.chemin, lieu.nom, style()->standardIcon(lieu.icone)));
     }
@@ -202,7 +204,7 @@ void FolderTreeview::LisSommets()
 
 /// Reads the folders directly below a node. New ones get a node, those that have gone lose theirs; the others keep it,
 /// with all that is open below.
-void FolderTreeview::Lis(QTreeWidgetItem *noeud)
+void FolderTreeview::Lit(QTreeWidgetItem *noeud)
 {
     Noeud *const dossier = EnNoeud(noeud);
     const QStringList noms =
@@ -228,13 +230,13 @@ void FolderTreeview::Lis(QTreeWidgetItem *noeud)
     m_guetteur.addPath(dossier->Chemin());
 }
 
-void FolderTreeview::Relis(QTreeWidgetItem *noeud)
+void FolderTreeview::Relit(QTreeWidgetItem *noeud)
 {
     if (!EnNoeud(noeud)->Lu())
         return;
-    Lis(noeud);
+    Lit(noeud);
     for (int i = 0; i < noeud->childCount(); ++i)
-        Relis(noeud->child(i));
+        Relit(noeud->child(i));
 }
 
 /// Qt reports a change of the selection also when only the row of the selected folder has changed.

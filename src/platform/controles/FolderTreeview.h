@@ -53,10 +53,10 @@ private:
     void SuitLeDisque();
     void Annonce();
     QTreeWidgetItem *Choisi() const;
-    void LisPremierement();
-    void LisSommets();
-    void Lis(QTreeWidgetItem *noeud);
-    void Relis(QTreeWidgetItem *noeud);
+    void LitPremierement();
+    void LitSommets();
+    void Lit(QTreeWidgetItem *noeud);
+    void Relit(QTreeWidgetItem *noeud);
     void Retire(QTreeWidgetItem *noeud);
     QTreeWidgetItem *Sommet(const QString &chemin) const;
     QTreeWidgetItem *SousDossier(QTreeWidgetItem *noeud, const QString &nom);

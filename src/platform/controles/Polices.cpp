@@ -4,7 +4,7 @@
 #include <fontconfig/fontconfig.h>
 #endif
 
-std::future<void> LisPolices()
+std::future<void> LitPolices()
 {
 #ifdef AVEC_FONTCONFIG
     return std::async(std::launch::async, [] { FcInit(); });

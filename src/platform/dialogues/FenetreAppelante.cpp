@@ -10,7 +10,7 @@
 
 namespace {
 
-class Retour : public QObject
+class RetourFenetre : public QObject
 {
 public:
     using QObject::QObject;
@@ -53,5 +53,5 @@ QWidget *FenetreAppelante()
 
 void RendLeClavier(QObject *proprietaire)
 {
-    qApp->installEventFilter(new Retour(proprietaire));
+    qApp->installEventFilter(new RetourFenetre(proprietaire));
 }

@@ -8,7 +8,7 @@ using namespace std::chrono_literals;
 using Duree = AvanceEmission::Duree;
 
 /// A lead is a number of characters, or a line time where a fast line carries more in it.
-struct Longueur
+struct LongueurAvance
 {
     int nombre;
     Duree temps;
@@ -17,10 +17,10 @@ struct Longueur
 };
 // Up to 19200 baud 7 characters come behind an XOFF. At 115200 it is about 40: a window that is drawn anew keeps the PC
 // for some 3 ms.
-constexpr Longueur Courte{6, 3500us};
+constexpr LongueurAvance Courte{6, 3500us};
 // One more is under way when XOFF comes, and the tenth is the last that every machine has room for. At 115200 baud this
 // lead brings at most 60.
-constexpr Longueur Longue{9, 5ms};
+constexpr LongueurAvance Longue{9, 5ms};
 constexpr int PasMax = 3; // from the one to the other
 
 constexpr Duree DetteMax = 10ms;

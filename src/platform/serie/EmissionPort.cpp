@@ -78,7 +78,7 @@ void EmissionPort::Pompe()
     SuitRetenue();
     try {
         const auto maintenant = Horloge::now();
-        Programme(Remet(maintenant), maintenant);
+        ArmeRemise(Remet(maintenant), maintenant);
     } catch (const Erreur &erreur) {
         Q_EMIT Panne(erreur);
         return;
@@ -115,7 +115,7 @@ int EmissionPort::Remet(CadenceEmission::Instant maintenant)
 
 /// A line that has refused says itself when it takes characters again. If it says so and still takes nothing, it is
 /// polled by timer instead of spinning.
-void EmissionPort::Programme(int remis, CadenceEmission::Instant maintenant)
+void EmissionPort::ArmeRemise(int remis, CadenceEmission::Instant maintenant)
 {
     const bool reste = !m_file.isEmpty();
     const bool parReveil = reste && m_retenue.Refus() && !m_reveilVain;

@@ -54,7 +54,7 @@ Q_SIGNALS:
 private:
     void Pompe();
     int Remet(CadenceEmission::Instant maintenant);
-    void Programme(int remis, CadenceEmission::Instant maintenant);
+    void ArmeRemise(int remis, CadenceEmission::Instant maintenant);
 
     RetenueLigne &m_retenue;
     LigneSerie *m_ligne = nullptr;

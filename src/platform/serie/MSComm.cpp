@@ -34,7 +34,7 @@ MSComm::MSComm(QObject *parent)
     connect(&m_emission, &EmissionPort::Panne, this, &MSComm::Panne);
     m_surveillance.setInterval(PeriodeSurveillance);
     connect(&m_surveillance, &QTimer::timeout, this, &MSComm::Surveille);
-    connect(&m_evenements, &EvenementsPort::Evenement, this, &MSComm::Delivre);
+    connect(&m_evenements, &FileEvenements::Evenement, this, &MSComm::Delivre);
 }
 
 MSComm::~MSComm()
@@ -261,7 +261,7 @@ void MSComm::setRThreshold(int seuil)
     if (seuil == m_rThreshold)
         return;
     m_rThreshold = seuil;
-    ControleSeuilReception();
+    VerifieSeuilReception();
 }
 
 // ---- Receiving
@@ -342,7 +342,7 @@ void MSComm::Range(const LectureLigne &lecture)
     m_recus += octets;
     FreineMachine();
     SignaleMouvement();
-    ControleSeuilReception();
+    VerifieSeuilReception();
 }
 
 /// Room was made in the receive buffer.
@@ -359,7 +359,7 @@ bool MSComm::SeuilReceptionAtteint() const
     return m_rThreshold > 0 && m_recus.size() >= std::min(m_rThreshold, TailleReception());
 }
 
-void MSComm::ControleSeuilReception()
+void MSComm::VerifieSeuilReception()
 {
     if (SeuilReceptionAtteint())
         m_evenements.Annonce(EvenementPort::Reception);
@@ -391,7 +391,7 @@ int MSComm::InBufferCount() const
 }
 
 /// What the system holds is read, so that it is known what goes, and an XON among it is heard.
-QString MSComm::ViderReception()
+QString MSComm::VideReception()
 {
     ExigeVivant();
     const LectureLigne lecture = Releve(FileSysteme);
@@ -438,7 +438,7 @@ bool MSComm::Retenue()
     return m_retenue.ParMachine() || m_retenue.ParAppareil(Horloge::now());
 }
 
-void MSComm::ViderEmission(int chaine)
+void MSComm::VideEmission(int chaine)
 {
     ExigeVivant();
     const auto termine = [this] { return !m_ligne || m_panne || m_emission.Nombre() == 0 || Retenue(); };

@@ -3,7 +3,7 @@
 #include "platform/serie/EmissionPort.h"
 #include "platform/serie/ErreurPort.h"
 #include "platform/serie/EvenementPort.h"
-#include "platform/serie/EvenementsPort.h"
+#include "platform/serie/FileEvenements.h"
 #include "platform/serie/FluxXonXoff.h"
 #include "platform/serie/LigneSerie.h"
 #include "platform/serie/RetenueLigne.h"
@@ -42,7 +42,7 @@
 /// few characters before the line falls idle, in time for the next line of text. A sending is over only when EnRoute is
 /// 0 too: a machine that stops the line over those last ones would never get them.
 ///
-/// Ends of a sending. ViderEmission first gives what was just written, up to a chain, its line time, unless the line is
+/// Ends of a sending. VideEmission first gives what was just written, up to a chain, its line time, unless the line is
 /// held. Closing the port gives its line time to what has left the queue; what still waits there is thrown away, since
 /// then the sending was cancelled. Both keep the event loop turning meanwhile. The operator's keys and clicks and this
 /// control's event are held back until they return.
@@ -58,7 +58,7 @@
 /// the sending also behind a driver that takes the setting and does nothing about it.
 ///
 /// Events. OnComm comes only from the event loop or a yield, with its code of EvenementPort in CommEvent. A handler may
-/// yield; the event that it is handling is not delivered again before it returns (EvenementsPort). Line changes are
+/// yield; the event that it is handling is not delivered again before it returns (FileEvenements). Line changes are
 /// seen within 50 ms. Those that came and went in between are seen where the driver counts them.
 ///
 /// Errors of characters. A character with an error stays in the text, as it came or as ParityReplace; a break adds
@@ -154,7 +154,7 @@ public:
     QString Input();
     int InBufferCount() const;
     /// Throws away what the control and the system have received, and gives it back to whoever wants to know.
-    QString ViderReception();
+    QString VideReception();
     /// Queues texte for sending, whatever its length.
     void Output(const QString &texte);
     /// Characters that have not gone to the line yet.
@@ -164,7 +164,7 @@ public:
     int EnRoute() const;
     /// Throws away what waits for sending, after its line time: see Sending above.
     /// chaine: largest number of waiting characters that still get their line time, from 0 on.
-    void ViderEmission(int chaine);
+    void VideEmission(int chaine);
 
     /// Holds OnComm back as long as it lives, for a modal box that the handler must not run on top of.
     class SansEvenements
@@ -179,7 +179,7 @@ public:
         Q_DISABLE_COPY_MOVE(SansEvenements)
 
     private:
-        EvenementsPort &m_evenements;
+        FileEvenements &m_evenements;
     };
 
     /// Code of the event that is being delivered.
@@ -207,7 +207,7 @@ private:
     void FreineMachine();
     void Range(const LectureLigne &lecture);
     void ReprendRecolte();
-    void ControleSeuilReception();
+    void VerifieSeuilReception();
 
     bool Retenue();
     void Surveille();
@@ -235,7 +235,7 @@ private:
     FluxXonXoff m_xonXoff;
     RetenueLigne m_retenue{m_xonXoff, m_veille};
     EmissionPort m_emission{m_retenue};
-    EvenementsPort m_evenements;
+    FileEvenements m_evenements;
     QByteArray m_recus;
     qint64 m_ajoutes = 0; // characters given to Output and not thrown away, since the counts began
 };

@@ -23,6 +23,6 @@ Q_SIGNALS:
     void Echu();
 
 private:
-    struct Systeme;
-    const std::unique_ptr<Systeme> m_systeme;
+    struct Interne;
+    const std::unique_ptr<Interne> m_interne;
 };

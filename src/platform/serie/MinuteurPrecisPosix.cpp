@@ -24,27 +24,27 @@ int OuvreMinuteur()
 
 } // namespace
 
-struct MinuteurPrecis::Systeme
+struct MinuteurPrecis::Interne
 {
-    Systeme() = default;
-    ~Systeme()
+    Interne() = default;
+    ~Interne()
     {
         reveil.setEnabled(false); // before its descriptor is gone
         close(fd);
     }
-    Q_DISABLE_COPY_MOVE(Systeme)
+    Q_DISABLE_COPY_MOVE(Interne)
 
     const int fd = OuvreMinuteur();
     QSocketNotifier reveil{fd, QSocketNotifier::Read};
 };
 
 MinuteurPrecis::MinuteurPrecis()
-    : m_systeme(std::make_unique<Systeme>())
+    : m_interne(std::make_unique<Interne>())
 {
-    connect(&m_systeme->reveil, &QSocketNotifier::activated, this, [this] {
+    connect(&m_interne->reveil, &QSocketNotifier::activated, this, [this] {
         std::uint64_t fois = 0;
         // What was armed anew meanwhile has not come yet.
-        if (Reprise([&] { return read(m_systeme->fd, &fois, sizeof fois); }) == sizeof fois)
+        if (Reprise([&] { return read(m_interne->fd, &fois, sizeof fois); }) == sizeof fois)
             Q_EMIT Echu();
     });
 }
@@ -56,11 +56,11 @@ void MinuteurPrecis::Arme(std::chrono::nanoseconds delai)
     delai = std::max(delai, std::chrono::nanoseconds(1)); // 0 would stop it
     const auto s = std::chrono::floor<std::chrono::seconds>(delai);
     const itimerspec echeance{{}, {s.count(), (delai - s).count()}};
-    timerfd_settime(m_systeme->fd, 0, &echeance, nullptr);
+    timerfd_settime(m_interne->fd, 0, &echeance, nullptr);
 }
 
 void MinuteurPrecis::Arrete()
 {
     const itimerspec jamais{};
-    timerfd_settime(m_systeme->fd, 0, &jamais, nullptr);
+    timerfd_settime(m_interne->fd, 0, &jamais, nullptr);
 }

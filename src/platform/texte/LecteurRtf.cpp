@@ -37,7 +37,7 @@ struct Style
 };
 
 /// What a closing brace brings back.
-struct Groupe
+struct GroupeRtf
 {
     Style style;
     Destination destination = Destination::Corps;
@@ -96,8 +96,8 @@ private:
 
     QByteArray m_octets;
     qsizetype m_place = 0;
-    Groupe m_groupe;
-    std::vector<Groupe> m_pile;
+    GroupeRtf m_groupe;
+    std::vector<GroupeRtf> m_pile;
     bool m_facultatif = false;    ///< a \* has just been read: an unknown word begins a group to skip
     int m_remplacements = 0;      ///< stand-ins of the last \u that are still to come
     QByteArray m_octetsEnAttente; ///< bytes of the body, not decoded yet since several can make one character

@@ -55,8 +55,8 @@ class TestMSComm : public QObject
                 NumeroErreur([&] { m_port->Input(); }),
                 NumeroErreur([&] { m_port->InBufferCount(); }),
                 NumeroErreur([&] { m_port->OutBufferCount(); }),
-                NumeroErreur([&] { m_port->ViderReception(); }),
-                NumeroErreur([&] { m_port->ViderEmission(100); })};
+                NumeroErreur([&] { m_port->VideReception(); }),
+                NumeroErreur([&] { m_port->VideEmission(100); })};
     }
 
 private Q_SLOTS:
@@ -106,7 +106,7 @@ private Q_SLOTS:
         m_scenario->Envoie("N10 G0");
         QTRY_COMPARE(m_port->InBufferCount(), 6);
         m_scenario->Envoie("N20");
-        QCOMPARE(m_port->ViderReception(), QStringLiteral("N10 G0N20"));
+        QCOMPARE(m_port->VideReception(), QStringLiteral("N10 G0N20"));
         QCOMPARE(m_port->InBufferCount() + m_scenario->EnAttente(), 0);
         QCOMPARE(m_port->Comptes().recus, 9);
         m_port->RemetComptes();
@@ -167,7 +167,7 @@ private Q_SLOTS:
             if (lu)
                 QCOMPARE(LitTout(274).size(), 274);
             else
-                m_port->ViderReception();
+                m_port->VideReception();
             m_port->Output(QStringLiteral("d"));
             QTRY_COMPARE(m_scenario->ecrits, QByteArray("\x13\x11"
                                                         "d"));
@@ -298,7 +298,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_scenario->regards > regards + 10);
         QCOMPARE(m_scenario->ecrits.size(), AvanceA9600);
         QCOMPARE(m_port->OutBufferCount(), 500 - AvanceA9600);
-        m_port->ViderEmission(100); // it is held: nothing gets any time
+        m_port->VideEmission(100); // it is held: nothing gets any time
         QCOMPARE(m_scenario->ecrits.size(), AvanceA9600);
         QCOMPARE(m_port->Comptes().emis, AvanceA9600);
         QCOMPARE(m_scenario->jetsEmission, 1);
@@ -332,13 +332,13 @@ private Q_SLOTS:
         m_port->setPortOpen(false);
         m_port->setPortOpen(true);
         m_port->Output(Programme(100));
-        m_port->ViderEmission(100);
+        m_port->VideEmission(100);
         QCOMPARE(m_scenario->ecrits, '%' + OctetsEn1252(Programme(100)));
         QCOMPARE(m_scenario->jetsEmission, 0);
 
         m_scenario->ecrits.clear();
         m_port->Output(Programme(5000)); // no chain is as long as that
-        m_port->ViderEmission(100);
+        m_port->VideEmission(100);
         QCOMPARE(m_port->OutBufferCount(), 0);
         QCOMPARE(m_scenario->jetsEmission, 1);
         QVERIFY(m_scenario->ecrits.size() >= 100 && m_scenario->ecrits.size() < 1000);

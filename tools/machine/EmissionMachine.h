@@ -19,10 +19,11 @@ struct Envoi
 };
 
 /// A sending under way: which characters are due when. Knows no clock and no line: times come from outside.
-class Emission
+class EmissionMachine
 {
 public:
-    Emission(const Envoi &envoi, const QByteArray &debut, const QByteArray &fin, const ReglageLigne &ligne, Instant t);
+    EmissionMachine(const Envoi &envoi, const QByteArray &debut, const QByteArray &fin, const ReglageLigne &ligne,
+                    Instant t);
 
     /// The characters that the line has carried by t and that have not gone yet.
     QByteArray Echu(Instant t) const;

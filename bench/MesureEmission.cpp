@@ -42,7 +42,7 @@ struct Envoi20k
 {
     int typeEnvoi;
     const char *nom;
-    Pair::Programme pair;
+    Pair::Logiciel pair;
 };
 constexpr Envoi20k Envois[] = {{1, "whole file", Pair::Cat}, {0, "line by line", Pair::AsciiXfr}};
 
@@ -90,7 +90,7 @@ class PosteEmission
 {
 public:
     PosteEmission(int vitesse, int typeEnvoi, int lignes)
-        : machine(ReglageBanc(vitesse))
+        : machine(MachineDeMesure(vitesse))
     {
         fenetre.MSComm1->setDossierPorts(m_dossier.path());
         fenetre.Text1->setText(ProgrammeCN(lignes));

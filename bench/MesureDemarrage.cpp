@@ -41,7 +41,7 @@ int Ouvre(QWidget &fenetre)
 
 int OuvreProgramme(int nombre, char *arguments[])
 {
-    const std::future<void> polices = LisPolices();
+    const std::future<void> polices = LitPolices();
     const QApplication application(nombre, arguments);
     FixeDossierApplication(QString::fromLocal8Bit(arguments[2]));
     AppliqueLangueSysteme();

@@ -30,10 +30,10 @@ namespace {
 constexpr int Lignes8Mo = 330000; // of ProgrammeCN()
 
 /// A workstation with the simulated machine on Com2.
-struct Poste
+struct PosteReception
 {
-    explicit Poste(int vitesse)
-        : machine(ReglageBanc(vitesse))
+    explicit PosteReception(int vitesse)
+        : machine(MachineDeMesure(vitesse))
     {
         fenetre.MSComm1->setDossierPorts(dossier.path());
         Branche();
@@ -71,7 +71,7 @@ struct Poste
 
 double DureeFichier(int lignes)
 {
-    Poste poste(0);
+    PosteReception poste(0);
     Envoi envoi;
     envoi.Texte = OctetsEn1252(ProgrammeCN(lignes));
     return SecondesDe([&] { poste.Recoit(ReceptionFichier, RecepFichier, envoi); });
@@ -101,7 +101,7 @@ struct Facon
     const char *nom;
     int typeRecep;
     void (*reception)(Ui::Em_Rc &);
-    Pair::Programme pair;
+    Pair::Logiciel pair;
 };
 constexpr Facon Facons[] = {{"by line", RecepLignes, ReceptionLigne, Pair::AsciiXfr},
                             {"by character", RecepCaracteres, ReceptionCar, Pair::PythonSerie},
@@ -109,7 +109,7 @@ constexpr Facon Facons[] = {{"by line", RecepLignes, ReceptionLigne, Pair::Ascii
 
 double ProcesseurEnAttente(const Facon &facon)
 {
-    Poste poste(9600);
+    PosteReception poste(9600);
     double debut = 0;
     double fin = 0;
     QTimer::singleShot(AvantAttente, &poste.fenetre, [&] { debut = TempsProcesseur(); });
@@ -127,7 +127,7 @@ double ProcesseurEnAttente(const Facon &facon)
 /// that the event loop was held, in milliseconds.
 QList<double> LigneSansFin(int caracteres)
 {
-    Poste poste(0);
+    PosteReception poste(0);
     ParamCom.Echo = 1;
     Envoi envoi;
     envoi.Texte = QByteArray(caracteres, 'X');
@@ -250,7 +250,7 @@ bool MesurePertes(const QTemporaryDir &dossier)
     envoi.PauseLigneMs = 20;
     Pair pair(Pair::PythonSerie, 115200);
     pair.Recoit(recuPair);
-    Poste poste(115200);
+    PosteReception poste(115200);
     std::this_thread::sleep_for(AvantAttente); // it throws away what came before it was ready
     pair.Machine().Emet(envoi);
     ParamCom.NbCarLecture = 1;

@@ -9,7 +9,7 @@
 /// at most once: what counts is that something new happened. While the handler of a code runs, and may yield, other
 /// codes are delivered inside its yield but the same code waits until it has returned. So the stack holds each handler
 /// at most once, whatever comes in on the line.
-class EvenementsPort : public QObject
+class FileEvenements : public QObject
 {
     Q_OBJECT
 public:
@@ -29,12 +29,12 @@ Q_SIGNALS:
     void Evenement();
 
 private:
-    void Programme();
+    void ArmeDistribution();
     void Distribue();
     qsizetype Prochain() const;
 
     QList<int> m_attente;
     QList<int> m_enCours; // innermost last
     int m_retenues = 0;
-    bool m_programme = false;
+    bool m_distributionArmee = false;
 };

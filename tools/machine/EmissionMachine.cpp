@@ -1,9 +1,9 @@
-#include "machine/Emission.h"
+#include "machine/EmissionMachine.h"
 
 #include <algorithm>
 
-Emission::Emission(const Envoi &envoi, const QByteArray &debut, const QByteArray &fin, const ReglageLigne &ligne,
-                   Instant t)
+EmissionMachine::EmissionMachine(const Envoi &envoi, const QByteArray &debut, const QByteArray &fin,
+                                 const ReglageLigne &ligne, Instant t)
     : m_flot(envoi.Salve ? envoi.Texte : debut + envoi.Texte + (envoi.SansFin ? QByteArray() : fin))
     , m_finLigne(envoi.FinLigne)
     , m_morceau(envoi.Morceau)
@@ -16,14 +16,14 @@ Emission::Emission(const Envoi &envoi, const QByteArray &debut, const QByteArray
     m_finTroncon = FinTroncon();
 }
 
-QByteArray Emission::Echu(Instant t) const
+QByteArray EmissionMachine::Echu(Instant t) const
 {
     if (m_retenu)
         return {};
     return m_flot.mid(m_position, std::min<qint64>(m_cadence.Echus(t), m_finTroncon - m_position));
 }
 
-void Emission::Parti(qint64 nombre)
+void EmissionMachine::Parti(qint64 nombre)
 {
     m_position += nombre;
     m_cadence.Passe(nombre);
@@ -33,21 +33,21 @@ void Emission::Parti(qint64 nombre)
     m_finTroncon = FinTroncon();
 }
 
-void Emission::Retient(bool retenu, Instant t)
+void EmissionMachine::Retient(bool retenu, Instant t)
 {
     if (m_retenu && !retenu)
         m_cadence.Debute(t);
     m_retenu = retenu;
 }
 
-std::optional<Instant> Emission::Echeance() const
+std::optional<Instant> EmissionMachine::Echeance() const
 {
     if (m_retenu || Finie())
         return std::nullopt;
     return m_cadence.Fin(std::min<qint64>(m_cadence.Lot(), m_finTroncon - m_position));
 }
 
-qsizetype Emission::FinTroncon() const
+qsizetype EmissionMachine::FinTroncon() const
 {
     if (m_pause.count() > 0 && m_morceau > 0)
         return std::min(m_position + m_morceau, m_flot.size());
