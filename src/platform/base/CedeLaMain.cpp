@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int SommeilMax = 5; // ms
-// Events that keep raising new events must not hold the caller back for longer than this.
+// Turns of the event loop in one call at most: events that keep raising new events must not hold the caller for ever.
 constexpr int ToursMax = 16;
 
 bool mouvement = false;

@@ -7,6 +7,6 @@
 /// themselves.
 void CedeLaMain();
 
-/// Says that something has moved which a polling loop wants to see: the next CedeLaMain() does not sleep.
-/// Called by whatever moves characters.
+/// Makes the next CedeLaMain() return without sleeping. Whatever moves characters calls it, so that a polling loop sees
+/// them at once.
 void SignaleMouvement();

@@ -26,7 +26,7 @@ public:
     static constexpr int Depassement = 6;         ///< a number that does not fit its field
     static constexpr int MemoireInsuffisante = 7; ///< a text too large to hold
     static constexpr int IndiceHorsPlage = 9;     ///< a position beyond the end of a table
-    static constexpr int TypeIncompatible = 13;   ///< a line that is not of its field's form
+    static constexpr int TypeIncompatible = 13;   ///< a line that does not have the form of its field
     static constexpr int FichierIntrouvable = 53; ///< no such file or program
     static constexpr int ErreurFichier = 57;      ///< reading or writing failed
     static constexpr int DisqueSature = 61;       ///< no room left on the disk
@@ -55,14 +55,14 @@ void Saute(Etape etape)
     try {
         etape();
     } catch (const Erreur &) {
-        // The routine's rule is that a failed step is passed over.
+        // ignored: the next step of the routine runs all the same
     }
 }
 
-/// A failure that waits to be told.
+/// A failure that is reported later, if there was one.
 using ErreurEnAttente = std::optional<Erreur>;
 
-/// Runs one step of a routine; its failure waits, in the place of an earlier one, and the routine goes on.
+/// Runs one step of a routine and keeps its failure in enAttente, in place of an earlier one. The routine goes on.
 template <typename Etape>
 void Tente(ErreurEnAttente &enAttente, Etape etape)
 {

@@ -10,9 +10,9 @@ namespace {
 
 constexpr int Signaux[] = {SIGTERM, SIGHUP, SIGINT};
 
-int tube[2] = {-1, -1}; // what the handler writes at its second end is read at the first
+int tube[2] = {-1, -1}; // a pipe: the signal handler writes to [1], the event loop reads from [0]
 
-/// Between any two instructions of the program: nothing but a write is safe here.
+/// The signal handler. It may interrupt the program anywhere, so it does nothing but write to the pipe.
 void Note(int numero)
 {
     const int cause = errno;
@@ -27,7 +27,7 @@ FinDemandee::FinDemandee(std::function<void()> avant)
     : m_avant(std::move(avant))
 {
     if (pipe2(tube, O_CLOEXEC | O_NONBLOCK) < 0)
-        return; // the process ends as the system has it
+        return; // without the pipe a signal ends the process at once, as usual
     m_guetteur = std::make_unique<QSocketNotifier>(tube[0], QSocketNotifier::Read);
     QObject::connect(m_guetteur.get(), &QSocketNotifier::activated, m_guetteur.get(), [this] { Finit(); });
     struct sigaction action = {};
@@ -35,7 +35,7 @@ FinDemandee::FinDemandee(std::function<void()> avant)
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     for (const int numero : Signaux) {
         struct sigaction ancienne = {};
-        // Started so as to outlive its terminal, the program does.
+        // A signal that the program was started to ignore (nohup) stays ignored.
         if (sigaction(numero, nullptr, &ancienne) == 0 && ancienne.sa_handler != SIG_IGN)
             sigaction(numero, &action, nullptr);
     }

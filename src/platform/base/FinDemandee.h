@@ -5,12 +5,13 @@
 #include <functional>
 #include <memory>
 
-/// Hears when the system asks the process to end (a terminal that is closed, Ctrl+C in it, the end of a session): the
-/// last things are done from the event loop, then the process ends by that same signal. One at a time.
+/// Catches the signals by which the system asks the process to end: a closed terminal, Ctrl+C in it, the end of a
+/// session. It runs a last function from the event loop, then ends the process by the same signal. Only one instance
+/// may exist at a time.
 class FinDemandee
 {
 public:
-    /// avant: what is done before the process ends. A second demand does not wait for it.
+    /// avant: the function to run before the process ends. A second signal ends the process without waiting for it.
     explicit FinDemandee(std::function<void()> avant);
     ~FinDemandee();
     Q_DISABLE_COPY_MOVE(FinDemandee)

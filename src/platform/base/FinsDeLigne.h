@@ -2,14 +2,15 @@
 
 #include <QString>
 
-// What the text pane asks of a text: the kinds of its line ends, and a form that it can hold.
+// Line ends for the text pane: their kinds, where they change in a text, and texts of other programs brought into a
+// form that the pane can hold.
 
-/// The kinds of line end. CR LF is the ordinary one, and the value of what tells nothing. Aucune is no line end of the
-/// text: a line too long for one row of the pane goes on in the next row.
+/// The kinds of line end. CrLf is the ordinary one and the default. Aucune stands where a line is too long for one row
+/// of the pane and goes on in the next row: the text has no line end there.
 enum class FinDeLigne { CrLf, Cr, Lf, Aucune };
 
-/// Most characters that a row of the pane is given. A row is laid out whole, however little of it is seen, and that
-/// takes its time: some 30 rows of this length stay unnoticed.
+/// Longest row of the pane, in characters. Qt lays out a row whole even when little of it is visible. At this length a
+/// screen of some 30 rows still appears without a delay that the operator notices.
 constexpr qsizetype LongueurRang = 2048;
 
 /// The characters of a line end.
@@ -22,15 +23,15 @@ struct Troncon
     qsizetype suite = 0;               ///< where the next stretch begins
 };
 
-/// The longest stretch of texte from debut on, which must not lie between CR and LF. A stretch of Aucune is what a row
-/// still takes of a line that is too long for it.
-/// colonne: characters that the row holds already.
+/// The longest stretch of texte that begins at debut. A stretch of Aucune is the part of a too long line that still
+/// fits into the row.
+/// debut: a position in texte, never between CR and LF. colonne: number of characters that the row already holds.
 Troncon PremierTroncon(const QString &texte, qsizetype debut, qsizetype colonne);
 
-/// texte in code page 1252: the separators of line and paragraph that other programs use as CR LF, and one "?" for each
-/// character that the code page lacks.
+/// Returns texte with characters of code page 1252 only: the line and paragraph separators of Unicode become CR LF,
+/// every other character that the code page lacks becomes "?".
 QString Normalise(const QString &texte);
 
-/// Same for a text that comes from another program. Many clipboards make each line end a LF, so a text without any CR
-/// means CR LF by it; one that has a CR has its ends as they were written.
+/// Same for a text that comes from another program. Many clipboards turn each line end into LF, so in a text without
+/// any CR each LF becomes CR LF. In a text with a CR the line ends stay as they are.
 QString NormaliseEtranger(QString texte);

@@ -1,5 +1,5 @@
 #include "platform/base/Journal.h"
 
-// A category is on from its level upwards: these are off.
+// Only fatal messages pass at this level: both categories are off unless a rule switches them on.
 Q_LOGGING_CATEGORY(JournalLigne, "dorvanel.ligne", QtFatalMsg)
 Q_LOGGING_CATEGORY(JournalFichiers, "dorvanel.fichiers", QtFatalMsg)

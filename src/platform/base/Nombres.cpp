@@ -34,7 +34,7 @@ QString TexteReel(float valeur)
     if (!std::isfinite(valeur))
         throw Erreur(Erreur::Depassement, QString::number(valeur));
     constexpr int chiffres = 7;
-    // Rounded to 7 significant digits first, so that the shortest text of what is left shows no digit beyond them.
+    // The value is rounded to 7 significant digits first, so that its shortest text has no more than these.
     return TexteDouble(QString::number(static_cast<double>(valeur), 'e', chiffres - 1).toDouble());
 }
 
@@ -43,7 +43,7 @@ QString TexteDouble(double valeur)
     if (!std::isfinite(valeur))
         throw Erreur(Erreur::Depassement, QString::number(valeur));
     if (valeur == 0)
-        return QStringLiteral("0"); // also for the zero with a minus sign
+        return QStringLiteral("0"); // negative zero too
     QString texte = QString::number(valeur, 'f', QLocale::FloatingPointShortest);
     if (texte.startsWith(QLatin1String("0.")))
         texte.remove(0, 1);

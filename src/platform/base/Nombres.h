@@ -2,11 +2,10 @@
 
 #include <QString>
 
-// The number forms of the program, and the blanks around them. They depend on no locale: the decimal separator is a
-// point.
+// Conversions between numbers and texts. They do not depend on the locale: the decimal separator is always a point.
 
-/// Numeric value of texte: blanks are skipped and the number is read up to the first character that cannot belong to
-/// it; 0 when none stands there. Never raises.
+/// Numeric value of texte. Blanks are skipped, and the number ends before the first character that cannot belong to it.
+/// Without a number the value is 0. Never raises.
 double Val(const QString &texte);
 
 /// Text of a whole number with a leading blank (a minus sign instead when it is negative).

@@ -8,13 +8,13 @@ namespace {
 
 constexpr int DebutHauts = 0x80;
 
-// Characters of the bytes 0x80 to 0x9F, after the code page's published table; the rest of the page is Latin 1.
+// Characters of the bytes 0x80 to 0x9F, from the published table of the code page. All other bytes are as in Latin 1.
 constexpr std::array<char16_t, 32> Hauts{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                          0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                          0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                          0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-// As manuals of controls name them, by their code.
+// Names in manuals of controls, by code.
 constexpr const char *Noms[] = {"NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT",  "LF",
                                 "VT",  "FF",  "CR",  "SO",  "SI",  "DLE", "DC1", "DC2", "DC3", "DC4", "NAK",
                                 "SYN", "ETB", "CAN", "EM",  "SUB", "ESC", "FS",  "GS",  "RS",  "US",  "SP"};

@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-/// Makes a system call again for as long as a signal interrupts it.
+/// Makes a system call, and repeats it as long as a signal interrupts it. Returns what the call returns.
 template <typename Appel>
 auto Reprise(Appel appel)
 {

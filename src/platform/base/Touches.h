@@ -4,11 +4,12 @@
 
 // What a key means, whichever window it goes to.
 
-/// Ctrl or Alt alone. AltGr, which types characters, comes as both on some systems.
+/// True when the key is pressed with the modifier seul (Ctrl or Alt) and not with the other one. Some systems report
+/// AltGr, which types characters, as Ctrl and Alt together.
 bool EstAvec(const QKeyEvent &touche, Qt::KeyboardModifier seul);
 
-/// Enter, of whichever half of the keyboard, with or without Shift.
+/// True for Enter, of the main keyboard or the keypad, with or without Shift.
 bool EstEntree(const QKeyEvent &touche);
 
-/// A key that puts a character into the text or takes one out.
+/// True for a key that inserts or deletes a character.
 bool DonneUnCaractere(const QKeyEvent &touche);

@@ -31,14 +31,15 @@ void Exige(const fs::path &chemin, std::error_code cause)
         Echoue(chemin, cause);
 }
 
-/// A folder itself, and not a link to one.
+/// True for a folder, false for a link to one.
 bool EstDossier(const fs::path &chemin)
 {
     std::error_code cause;
     return fs::symlink_status(chemin, cause).type() == fs::file_type::directory;
 }
 
-/// What lies in a folder, read to its end: not every file system lists on truly while entries are being deleted.
+/// The entries of a folder. The listing is complete before anything is deleted, since on some file systems a deletion
+/// upsets a listing under way.
 std::vector<fs::path> Entrees(const fs::path &dossier)
 {
     std::vector<fs::path> entrees;
@@ -50,7 +51,7 @@ std::vector<fs::path> Entrees(const fs::path &dossier)
     return entrees;
 }
 
-/// The one path of a file, folder or link, however it was written: links above it are followed, it itself is not.
+/// The canonical path of a file, folder or link. Links in the folders above it are resolved; a link at the end is not.
 QString Place(const QString &chemin)
 {
     const QFileInfo entree(chemin);
@@ -128,8 +129,8 @@ void RenommeDossier(const QString &ancien, const QString &nouveau)
     const fs::path de = EnChemin(ancien);
     const fs::path vers = EnChemin(nouveau);
     std::error_code cause;
-    // The system would put a folder silently in the place of an empty one. The same folder in other letters is no
-    // obstacle where the file system does not tell case apart.
+    // The system would silently replace an empty folder, so an existing name is refused. A new name that differs in
+    // case only is allowed where the file system ignores case.
     if (fs::symlink_status(vers, cause).type() != fs::file_type::not_found && !fs::equivalent(de, vers, cause))
         Echoue(vers, std::make_error_code(std::errc::file_exists));
     cause.clear();

@@ -5,38 +5,39 @@
 #include <functional>
 #include <optional>
 
-// Folders of the disk: made, renamed, deleted. A failure raises AccesRefuse, FichierIntrouvable, DisqueSature or
-// ErreurFichier, and its description names the path that it concerns.
+// Making, renaming and deleting folders. A failure raises AccesRefuse, FichierIntrouvable, DisqueSature or
+// ErreurFichier; its description names the path.
 
-/// What a folder holds, at any depth. A link counts as one file, whatever it leads to.
+/// Number of entries of a folder at any depth. A link counts as one file, whatever it leads to.
 struct ContenuDossier
 {
     qint64 dossiers = 0;
     qint64 fichiers = 0;
 };
 
-/// Counts what the folder at chemin holds, as far as it can be read; a link to a folder holds nothing. Raises nothing.
+/// Counts the entries of the folder at chemin, as far as it can be read. A link to a folder counts as empty. Never
+/// raises.
 ContenuDossier CompteContenu(const QString &chemin);
 
-/// True for a folder that is no part of another one: the root of a drive, or of a volume such as a USB key.
+/// True for the root of a drive or of a volume such as a USB key.
 bool EstRacine(const QString &chemin);
 
-/// The rest of chemin behind dossier, such as "/b.iso", when chemin leads through that folder; "" when it is the folder
-/// itself, none when it leads elsewhere. chemin: a full path. Links and ".." are seen through on both sides; when
-/// dossier itself is a link, only a path that uses the link leads through it.
+/// The part of chemin below dossier, such as "/b.iso"; "" when chemin is the folder itself, nothing when it lies
+/// elsewhere. Links and ".." are resolved in both. When dossier itself is a link, only a path that uses the link lies
+/// below it. chemin: a full path.
 std::optional<QString> ResteDerriere(const QString &dossier, const QString &chemin);
 
-/// Creates one folder; the folder that is to hold it exists. A name in use is a failure.
+/// Creates one folder. The folder above it must exist and the name must be free.
 void CreeDossier(const QString &chemin);
 
-/// Makes the folder chemin, and those above it, where they are missing. Raises the system's cause.
+/// Creates the folder chemin and those above it where they are missing.
 void AssureDossier(const QString &chemin);
 
-/// Gives the folder (or link) ancien the path nouveau, which may lie elsewhere on the same volume. What already stands
-/// under that path is never overwritten: that is a failure.
+/// Gives the folder or link ancien the path nouveau, which may lie elsewhere on the same volume. An existing nouveau is
+/// a failure and stays as it is.
 void RenommeDossier(const QString &ancien, const QString &nouveau);
 
-/// Deletes the folder at chemin with all it holds, for good. A link is removed and what it leads to is left alone; that
-/// holds for chemin itself too. suivi is called after each entry; false from it stops, which raises DialogueAnnule.
-/// It stops at the first entry that resists: what is then left stays as it is.
+/// Deletes the folder at chemin with all its entries, for good. Links, chemin included, are removed; their targets are
+/// not touched. It stops at the first entry that cannot be deleted and leaves the rest.
+/// suivi: called after each entry; when it returns false the deletion stops with DialogueAnnule.
 void EffaceDossier(const QString &chemin, const std::function<bool()> &suivi);

@@ -2,16 +2,16 @@
 
 #include <QFile>
 
-/// Holds a file for as long as this process lives, or until the holder goes: another process can tell it from one that
-/// a process which died has left. The hold stays with the file when it is renamed.
+/// A lock on a file, until this object is destroyed or the process ends. So another process can tell a file in use from
+/// one that a crashed process left behind. The lock stays on the file when it is renamed.
 class FichierTenu
 {
 public:
     enum class Absent { Reste, EstCree };
 
-    /// Holds the file at chemin; absent: whether one that is missing is made, empty. One that is held elsewhere, or
-    /// cannot be opened, is not held, nor is one that was taken away from chemin meanwhile; neither is any file where
-    /// the file system has no such thing.
+    /// Tries to lock the file at chemin. It does not succeed when another process has the lock, when the file cannot be
+    /// opened or is removed meanwhile, or when the file system has no locks.
+    /// absent: whether a missing file is created, empty.
     explicit FichierTenu(const QString &chemin, Absent absent = Absent::Reste);
 
     bool Tenu() const { return m_tenu; }

@@ -16,8 +16,8 @@
 
 namespace {
 
-// QFile's own error does not tell a full disk from a broken one, nor a missing file from one that may not be read, and
-// knows of none where a write got only a part away. So errno is cleared before each call and read when it has failed.
+// QFile does not distinguish a full disk from a broken one, nor a missing file from an unreadable one, and reports no
+// error for a partial write. So errno is cleared before each call and read when the call has failed.
 
 void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
 {
@@ -26,9 +26,9 @@ void Ouvre(QFile &fichier, QIODevice::OpenMode mode)
         throw ErreurDeFichier(errno);
 }
 
-/// Raises DisqueSature, or ErreurFichier for a size that the file system does not have, while a file that is to grow to
-/// taille bytes still holds all that it held: behind its end the disk is asked for the room, which the writing then
-/// finds. A file system that cannot tell lets it pass.
+/// Checks that the disk has room for a file with content to grow to taille bytes, while that content is still
+/// untouched. Raises DisqueSature, or ErreurFichier for a size that the file system does not allow. A file system that
+/// cannot tell passes.
 void ExigePlace(const QString &chemin, qint64 taille)
 {
     QFile fichier(chemin);
@@ -47,9 +47,9 @@ void Ecrit(QFile &fichier, const QByteArray &octets)
     errno = 0;
     if (fichier.write(octets) != octets.size())
         throw ErreurDeFichier(errno);
-    // The system takes everything at first. That a stick was pulled meanwhile, it tells only here.
+    // The system buffers what is written. Only here does it report that a USB stick was pulled out meanwhile.
     const int cause = Reprise([&fichier] { return fsync(fichier.handle()); }) < 0 ? errno : 0;
-    if (cause != 0 && cause != EINVAL && cause != EROFS) // a device has nothing to keep
+    if (cause != 0 && cause != EINVAL && cause != EROFS) // EINVAL, EROFS: a device, which cannot be synchronised
         throw ErreurDeFichier(cause);
     // A network drive may find out only here that it has no room.
     errno = 0;
@@ -64,7 +64,7 @@ QByteArray LitOctets(const QString &chemin, qint64 tailleMax)
 try {
     qCInfo(JournalFichiers) << "reads" << chemin;
     QFile fichier(chemin);
-    // A device or a pipe under the name of a file would never end.
+    // Only plain files are read: a device or a pipe may never end.
     if (QFileInfo::exists(chemin) && !QFileInfo(chemin).isFile())
         throw Erreur(Erreur::ErreurFichier, chemin);
     Ouvre(fichier, QIODevice::ReadOnly);
@@ -97,7 +97,7 @@ void EcritFichierTexte(const QString &chemin, const QString &texte, FichierCoupe
     try {
         Ecrit(fichier, octets);
     } catch (const Erreur &) {
-        if (coupe == FichierCoupe::Part && FichierExiste(chemin)) // no device
+        if (coupe == FichierCoupe::Part && FichierExiste(chemin)) // never a device
             QFile::remove(QFileInfo(chemin).canonicalFilePath());
         throw;
     }
@@ -112,7 +112,7 @@ void AjouteFichierTexte(const QString &chemin, const QString &texte)
     try {
         Ecrit(fichier, OctetsEn1252(texte));
     } catch (const Erreur &) {
-        QFile::resize(chemin, presente); // what has gone, and a device, has no length to take back
+        QFile::resize(chemin, presente); // cuts off the partial write; fails harmlessly for a missing file or a device
         throw;
     }
 }

@@ -19,8 +19,8 @@ struct Remplacant
     const char *option; ///< "" for none
 };
 
-/// Word processors, then text editors. What the desktop has chosen for the file's ending comes last: it takes a program
-/// in ".iso" for the picture of a disc.
+/// Word processors, then text editors, in the order in which they are tried. The desktop's choice for the file's
+/// extension comes last, since a desktop takes a CN program in ".iso" for a disc image.
 constexpr std::array Programmes{Remplacant{"libreoffice", "--writer"},
                                 Remplacant{"soffice", "--writer"},
                                 Remplacant{"abiword", ""},
@@ -34,7 +34,7 @@ constexpr std::array Programmes{Remplacant{"libreoffice", "--writer"},
                                 Remplacant{"pluma", ""},
                                 Remplacant{"featherpad", ""},
                                 Remplacant{"xdg-open", ""}};
-constexpr std::size_t NombreTraitements = 4; // the word processors at its head
+constexpr std::size_t NombreTraitements = 4; // the first entries are the word processors
 constexpr std::span<const Remplacant> Traitements(Programmes);
 constexpr std::span<const Remplacant> Editeurs = Traitements.subspan(NombreTraitements);
 
@@ -53,14 +53,14 @@ bool LancePremier(std::span<const Remplacant> remplacants, const QString &fichie
     return false;
 }
 
-/// The program's bare name in lower case, whichever separator its path has.
+/// The program's name without its folder, in lower case. Both "/" and "\" separate.
 QString NomDuProgramme(const QString &programme)
 {
     return programme.mid(programme.lastIndexOf(QRegularExpression(QStringLiteral("[\\\\/]"))) + 1).toLower();
 }
 
-/// What takes the place of a Windows program; nothing for any other. Its name decides, and not whether a program of
-/// that name exists: the "write" of many a system sends messages to terminals.
+/// The replacements for a Windows program; none for any other program. Only the name counts: the "write" that many
+/// systems have sends messages to terminals and is not meant.
 std::span<const Remplacant> Remplacants(const QString &programme)
 {
     if constexpr (QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
@@ -85,7 +85,8 @@ bool Lance(const QString &programme, const QString &arguments, const QString &fi
 
 void LanceProgramme(const QString &commande, const QString &fichier)
 {
-    // The longest beginning that names a program is the program: "/opt/CN editor" goes before "/opt/CN".
+    // The program's path may contain blanks, so the longest possible path is tried first: "/opt/CN editor" before
+    // "/opt/CN".
     for (qsizetype fin = commande.size(); fin > 0; fin = commande.lastIndexOf(u' ', fin - 1)) {
         if (Lance(commande.left(fin), commande.mid(fin), fichier))
             return;

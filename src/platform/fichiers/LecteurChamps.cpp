@@ -40,7 +40,7 @@ LecteurChamps::LecteurChamps(const QString &texte)
 QString LecteurChamps::Chaine()
 {
     QString valeur = Valeur();
-    ValeurNue(); // what stands between the value and its separator
+    ValeurNue(); // skips anything between the closing quote and the separator
     if (m_place < m_texte.size() && m_texte[m_place] == u',')
         ++m_place;
     else

@@ -2,15 +2,15 @@
 
 #include <QString>
 
-/// texte as a quoted value that LecteurChamps reads back. A double quote inside would end it there and shift every
-/// field behind it; an apostrophe stands in.
+/// texte as a quoted value that LecteurChamps reads back. A double quote inside texte becomes an apostrophe: it would
+/// end the value early and shift every following field.
 QString ValeurEntreGuillemets(QString texte);
 
 /// Reads the fields of a settings file one after another.
 ///
 /// Blanks before a value are skipped. A value that begins with a double quote runs to the next double quote; any other
-/// runs to the next comma or the end of its line. What follows, up to and including the separator or line end, is
-/// consumed with the field. Every operation raises FinDeFichier when the file ended before the field.
+/// runs to the next comma or the end of its line. The separator or line end behind the field, and anything before it,
+/// is consumed too. Every operation raises FinDeFichier when the file ends before the field.
 class LecteurChamps
 {
 public:
@@ -20,17 +20,17 @@ public:
     /// Next field as text.
     QString Chaine();
 
-    /// Next field as a 16-bit number; a text that is none counts as 0. Raises Depassement.
+    /// Next field as a 16-bit number, 0 when it is no number. Raises Depassement beyond 16 bits.
     int Entier();
 
-    /// Next line, which must hold a quoted text and nothing else. Raises TypeIncompatible.
+    /// Next line, which must be a single quoted text. Raises TypeIncompatible.
     QString LigneChaine();
 
-    /// Next line, which must hold a 16-bit number, blanks around it allowed, and nothing else.
+    /// Next line, which must be a single 16-bit number; blanks around it are allowed.
     /// Raises TypeIncompatible, Depassement.
     int LigneEntier();
 
-    /// Same, and also takes the words #TRUE# and #FALSE# for 1 and 0.
+    /// Same, and the words #TRUE# and #FALSE# count as 1 and 0.
     int LigneOuiNon();
 
 private:

@@ -7,7 +7,7 @@ namespace {
 using namespace std::chrono_literals;
 using Duree = AvanceEmission::Duree;
 
-/// A lead is a number of characters, or a line time where a fast line carries more in it.
+/// A lead: a number of characters, or a time where a fast line carries more characters in that time.
 struct LongueurAvance
 {
     int nombre;
@@ -15,18 +15,18 @@ struct LongueurAvance
 
     int En(Duree caractere) const { return std::max(nombre, static_cast<int>(temps / caractere)); }
 };
-// Up to 19200 baud 7 characters come behind an XOFF. At 115200 it is about 40: a window that is drawn anew keeps the PC
-// for some 3 ms.
+// With this lead at most 7 characters follow an XOFF up to 19200 baud, and about 40 at 115200. The time covers the 3 ms
+// or so that redrawing a window takes.
 constexpr LongueurAvance Courte{6, 3500us};
-// One more is under way when XOFF comes, and the tenth is the last that every machine has room for. At 115200 baud this
-// lead brings at most 60.
+// With the character under way at most 10 follow an XOFF, which every machine has room for. At 115200 baud at most 60
+// do.
 constexpr LongueurAvance Longue{9, 5ms};
-constexpr int PasMax = 3; // from the one to the other
+constexpr int PasMax = 3; // steps from the short lead to the long one
 
 constexpr Duree DetteMax = 10ms;
-// Most that one standstill adds. A longer one is bridged by no lead, or there was nothing to send.
+// The most that one standstill adds to the debt. No lead bridges a longer one, or there was simply nothing to send.
 constexpr Duree UnRetard = 5ms;
-constexpr int Remise = 200; // part of the time that is paid off
+constexpr int Remise = 200; // the debt falls by the elapsed time divided by this
 constexpr Duree Essai = 5s; // before a shorter lead is tried
 
 } // namespace

@@ -6,33 +6,33 @@
 /// elsewhere.
 ///
 /// A machine that says XOFF still gets these characters and the one under way. Some controls raise an alarm at the
-/// eleventh, and there the transfer ends; a line that stands still for a moment costs time and nothing else. So the
-/// lead is short as long as the PC allows it: each opening of the port begins with the short one, which a quiet PC
-/// never leaves, and even the longest one keeps below that alarm up to 19200 baud.
+/// eleventh, which ends the transfer; a line that stands still for a moment only costs time. So the lead is as short as
+/// the PC allows. Each opening of the port begins with the shortest lead, and on a quiet PC it stays. Up to 19200 baud
+/// even the longest lead does not raise that alarm.
 ///
-/// The PC is judged by the line. What the line stood still for want of characters is a debt, and time pays it off, 5 ms
-/// for each second. A debt beyond 10 ms makes the lead one step longer; a single delay, however long, does not reach as
-/// far. Every few seconds the lead is tried one step shorter: where the PC is still busy, that costs one debt and the
-/// step comes back.
+/// How busy the PC is shows on the line. Time in which the line stood still for lack of characters adds to a debt, at
+/// most 5 ms each time. The debt falls by 5 ms a second. A debt beyond 10 ms makes the lead one step longer, so a
+/// single delay never does. Every few seconds the lead is made one step shorter on trial. If the PC is still busy, the
+/// debt grows again and the step comes back.
 ///
-/// The clock belongs to the caller.
+/// The caller passes the time in, so tests can choose it.
 class AvanceEmission
 {
 public:
     using Duree = std::chrono::nanoseconds;
     using Instant = std::chrono::time_point<std::chrono::steady_clock, Duree>;
 
-    /// The short lead again, for characters that take the line that long; above 0.
+    /// Goes back to the short lead. caractere: time that one character takes on the line, above 0.
     void Regle(Duree caractere);
     /// The lead in characters: 6, or 3.5 ms of line time where that is more, up to 9 or 5 ms.
     int Nombre() const;
-    /// Characters are handed over at maintenant, after the line had nothing to carry for as long as aSec.
+    /// Notes that characters are handed over at maintenant. aSec: how long the line had nothing to carry before that.
     void Note(Instant maintenant, Duree aSec);
 
 private:
     Duree m_caractere = std::chrono::milliseconds(1);
     int m_pas = 0;     // steps that the lead is longer than the short one
-    Instant m_dernier; // call of Note
+    Instant m_dernier; // when Note was last called
     Duree m_dette{0};
-    Duree m_calme{0}; // time since the last step, either way
+    Duree m_calme{0}; // time since the lead was last made longer or shorter
 };

@@ -8,20 +8,20 @@
 
 /// How far the sending may run ahead of the line.
 ///
-/// The line is taken to be busy until a moment that moves on by one character time for each character handed to the
-/// system. What lies before that moment is on its way and cannot be called back, so it is kept short; it is never let
-/// run out while there is something to send, so that the line never waits for the program. Where it does run out, the
-/// lead grows (AvanceEmission). Time in which nothing was handed over earns nothing: after a late event loop or a held
-/// line at most one lead goes out at once.
+/// The line counts as busy until a moment that moves on by one character time for each character handed to the system.
+/// Those characters are on their way and cannot be called back, so there are never more of them than the lead. They are
+/// refilled before they run out, so that the line does not wait for the program. If they do run out, the lead grows
+/// (AvanceEmission). After a late event loop or a held line at most one lead goes out at once: time without handovers
+/// is not made up for.
 ///
-/// The clock belongs to the caller.
+/// The caller passes the time in, so tests can choose it.
 class CadenceEmission
 {
 public:
     using Duree = AvanceEmission::Duree;
     using Instant = AvanceEmission::Instant;
 
-    /// vitesse: bits a second, above 0. bitsParCaractere: see ReglagePort.
+    /// Sets the pace of the line. vitesse: bits a second, above 0. bitsParCaractere: see ReglagePort.
     void Regle(int vitesse, double bitsParCaractere);
 
     /// Line time of that many characters.
@@ -30,19 +30,20 @@ public:
     int Avance() const { return m_avance.Nombre(); }
 
     /// How many characters may be handed over now.
-    /// systeme: characters that the system still holds; those count even when the line should have carried them.
+    /// systeme: characters that the system still holds; they count even when the line should have carried them by now.
     int Place(Instant maintenant, int systeme) const;
-    /// nombre characters have been handed over.
+    /// Notes that nombre characters have been handed over.
     void Remet(int nombre, Instant maintenant);
-    /// The line does not take what it may have: until the next handover it waits for the machine and not for this PC.
+    /// Notes that the line refuses characters. The time until the next handover is then the machine's doing, not the
+    /// PC's.
     void Empeche() { m_enSuite = false; }
-    /// Line time of what is on its way; grows to no more than that of the lead.
+    /// Line time of the characters on their way, at most that of the lead.
     Duree Reste(Instant maintenant) const;
-    /// Time until a quarter of the lead is free again. Handing over that early leaves most of the lead for the delays
-    /// of a busy PC.
+    /// Time until a quarter of the lead is free again. Refilling that early leaves most of the lead to bridge the
+    /// delays of a busy PC.
     Duree AvantRemise(Instant maintenant) const;
 
-    /// The machine holds the line: nothing moves until Reprend. Both may be called twice.
+    /// Suspend stops the clock while the machine holds the line, Reprend restarts it. A repeated call does nothing.
     void Suspend(Instant maintenant);
     void Reprend(Instant maintenant);
     bool Suspendue() const { return m_suspendue; }
@@ -50,8 +51,8 @@ public:
 private:
     Duree m_caractere = std::chrono::milliseconds(1);
     AvanceEmission m_avance;
-    bool m_enSuite = false; // the line has been busy since the last handover, unless this PC was late
-    Instant m_libreA;       // the line has carried everything
+    bool m_enSuite = false; // a gap since the last handover is this PC's fault
+    Instant m_libreA;       // when the line will have carried everything
     Duree m_resteSuspendu{0};
     bool m_suspendue = false;
 };

@@ -21,7 +21,7 @@ DecodeurMarques::Resultat DecodeurMarques::Decode(const QByteArray &lus)
                 m_attente = Attente::Marque;
                 break;
             }
-            // Not a mark, then the character 0xFF itself; a driver that does not double it loses nothing here.
+            // No mark: a driver that does not double the character 0xFF. Nothing is lost.
             resultat.octets.append(Annonce);
             m_attente = Attente::Caractere;
             if (octet != Annonce)

@@ -3,8 +3,8 @@
 #include "platform/serie/LigneSerie.h"
 
 /// Takes the system's in-band marks out of what was read: 0xFF 0x00 c stands for the character c that came with a
-/// parity or framing error, or for a break where c is 0; 0xFF 0xFF stands for the character 0xFF. A mark can be cut by
-/// the end of a reading; its rest is waited for.
+/// parity or framing error, or for a break where c is 0; 0xFF 0xFF stands for the character 0xFF. A mark may be split
+/// between two readings.
 class DecodeurMarques
 {
 public:
@@ -15,7 +15,7 @@ public:
     };
 
     Resultat Decode(const QByteArray &lus);
-    /// Forgets a mark begun.
+    /// Forgets the beginning of a split mark.
     void Oublie() { m_attente = Attente::Caractere; }
 
 private:
@@ -23,12 +23,13 @@ private:
     Attente m_attente = Attente::Caractere;
 };
 
-/// What a mark can stand for, as far as the driver's counters tell.
+/// What a mark means, as far as the driver's counters tell.
 struct SensMarques
 {
     bool pause = false;  ///< a marked NUL is a break
     bool parite = false; ///< any other marked character has a parity error, and not a framing error
 };
 
-/// Gives each mark its sense, adds it to comptes, and takes the breaks out, since no character was sent.
+/// Interprets each mark by sens and counts it in comptes. Breaks are removed from the text, since a break is not a
+/// character.
 LectureLigne QualifieMarques(const DecodeurMarques::Resultat &resultat, SensMarques sens, CompteursLigne &comptes);

@@ -10,7 +10,7 @@ namespace {
 using namespace std::chrono_literals;
 using Horloge = std::chrono::steady_clock;
 
-constexpr auto PeriodeRetenue = 5ms; // how often a held line is tried where nothing wakes us
+constexpr auto PeriodeRetenue = 5ms; // how often a held line is polled
 
 } // namespace
 
@@ -70,7 +70,7 @@ void EmissionPort::SuitRetenue()
         m_cadence.Reprend(Horloge::now());
 }
 
-/// Hands over what the cadence allows and sees to it that it is called again in time for the rest.
+/// Hands over what the cadence allows and arranges the next call for the rest.
 void EmissionPort::Pompe()
 {
     if (m_file.isEmpty())
@@ -89,7 +89,7 @@ void EmissionPort::Pompe()
     }
 }
 
-/// Hands the system what it may have now and returns how many characters it took.
+/// Hands the system the characters that are due and returns how many it took.
 int EmissionPort::Remet(CadenceEmission::Instant maintenant)
 {
     const bool refusAvant = m_retenue.Refus();
@@ -113,8 +113,8 @@ int EmissionPort::Remet(CadenceEmission::Instant maintenant)
     return remis;
 }
 
-/// A line that has refused says itself when it takes characters again. If it says so and still takes nothing, it is
-/// polled by timer instead of spinning.
+/// Arranges the next handover. A line that has refused characters announces when it takes them again. If it announces
+/// that and still takes nothing, it is polled by timer instead of spinning.
 void EmissionPort::ArmeRemise(int remis, CadenceEmission::Instant maintenant)
 {
     const bool reste = !m_file.isEmpty();

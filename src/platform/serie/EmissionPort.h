@@ -16,32 +16,32 @@ class EmissionPort : public QObject
 {
     Q_OBJECT
 public:
-    /// retenue: what holds the line, opened by the caller; it must stay.
+    /// retenue: tells what holds the line. The caller opens it and keeps it alive as long as this object.
     explicit EmissionPort(RetenueLigne &retenue)
         : m_retenue(retenue)
     {
     }
 
-    /// Sends on ligne from now on, which must stay until Ferme(). The queue is empty.
-    /// Raises ErreurPort::Indisponible when the system lacks the means.
+    /// Starts sending on ligne, which must stay alive until Ferme(), with an empty queue. Raises
+    /// ErreurPort::Indisponible when the system has no timer left.
     void Ouvre(LigneSerie &ligne, const ReglagePort &reglage);
-    /// Stops at once and forgets what waits; the line is touched no more.
+    /// Stops at once, empties the queue and does not touch the line any more.
     void Arrete();
     void Ferme();
     void Regle(const ReglagePort &reglage);
-    /// Count of the queue below which SousSeuil comes; 0: never.
+    /// SousSeuil is emitted when the queue falls below seuil characters; 0: never.
     void setSeuil(int seuil) { m_seuil = seuil; }
 
     /// Queues octets and hands over what may go at once.
     void Ajoute(const QByteArray &octets);
-    /// Characters that have not been handed over.
+    /// Number of characters not yet handed over.
     int Nombre() const { return static_cast<int>(m_file.size()); }
-    /// Throws away the queue and what the system still holds.
+    /// Throws away the queue and the characters that the system still holds.
     void Jette();
 
-    /// Stops or starts the line's clock with the machine's hold. To be called when that may have changed. While the
-    /// machine holds the line nothing is handed over: behind a low CTS the characters would only gather in the adapter,
-    /// out of reach.
+    /// Stops the pace while the machine holds the line, and resumes it afterwards. To be called when the hold may have
+    /// changed. Nothing is handed over during a hold: the characters would gather in the adapter, where they cannot be
+    /// called back.
     void SuitRetenue();
     const CadenceEmission &Cadence() const { return m_cadence; }
 
@@ -63,5 +63,5 @@ private:
     CadenceEmission m_cadence;
     int m_seuil = 0;
     bool m_seuilArme = false;
-    bool m_reveilVain = false; // the line said that it would take characters, and did not
+    bool m_reveilVain = false; // the line announced that it takes characters, and then took none
 };

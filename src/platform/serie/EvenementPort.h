@@ -1,11 +1,10 @@
 #pragma once
 
-/// Numbers of the events of the serial control, as the operator's texts know them. From PremiereFaute on they are
-/// errors.
+/// Numbers of the events of the serial control, as in the operator's texts. Numbers from PremiereFaute on are errors.
 namespace EvenementPort {
 constexpr int Emission = 1;  ///< the queue has fallen below SThreshold
-constexpr int Reception = 2; ///< RThreshold characters wait, and new ones have come
-constexpr int Cts = 3;       ///< a line of that name has changed
+constexpr int Reception = 2; ///< at least RThreshold characters wait, and new ones have come
+constexpr int Cts = 3;       ///< Cts, Dsr, Cd: that line has changed
 constexpr int Dsr = 4;
 constexpr int Cd = 5;
 constexpr int Sonnerie = 6;
@@ -19,9 +18,9 @@ constexpr int Parite = 1009;
 
 // The control raises none of the following. They complete the list that the operators know.
 constexpr int FinDeFichier = 7;      ///< an end-of-file character has come
-constexpr int DelaiCts = 1002;       ///< the line of that name stayed low too long
-constexpr int DelaiDsr = 1003;       ///< same
-constexpr int DelaiCd = 1007;        ///< same
-constexpr int EmissionPleine = 1010; ///< the transmit queue is full: that of the control takes everything
-constexpr int BlocControle = 1011;   ///< the driver does not tell its settings: opening says so by ErreurPort
+constexpr int DelaiCts = 1002;       ///< CTS stayed low too long
+constexpr int DelaiDsr = 1003;       ///< DSR stayed low too long
+constexpr int DelaiCd = 1007;        ///< CD stayed low too long
+constexpr int EmissionPleine = 1010; ///< the transmit queue is full; never, since the control's queue grows as needed
+constexpr int BlocControle = 1011;   ///< the driver's settings cannot be read; the opening raises ErreurPort instead
 } // namespace EvenementPort

@@ -39,7 +39,7 @@ void FileEvenements::Distribue()
     if (position < 0)
         return;
     m_enCours.append(m_attente.takeAt(position));
-    ArmeDistribution(); // a yield of the handler takes the next one from here
+    ArmeDistribution(); // so that the next event is delivered when the handler yields
 
     const QPointer<FileEvenements> present(this);
     Q_EMIT Evenement();

@@ -5,10 +5,9 @@
 
 /// The queue of events between the line and the program's handler.
 ///
-/// An event is announced when it happens and delivered by the event loop, never inside the announcement. One code waits
-/// at most once: what counts is that something new happened. While the handler of a code runs, and may yield, other
-/// codes are delivered inside its yield but the same code waits until it has returned. So the stack holds each handler
-/// at most once, whatever comes in on the line.
+/// An event is announced when it happens and delivered later by the event loop. Each code waits at most once in the
+/// queue. A handler may yield: other codes are then delivered inside its yield, while its own code waits until it has
+/// returned. So no handler is ever nested in itself, whatever comes in on the line.
 class FileEvenements : public QObject
 {
     Q_OBJECT
@@ -16,16 +15,16 @@ public:
     using QObject::QObject;
 
     void Annonce(int code);
-    /// Forgets what waits.
+    /// Empties the queue.
     void Oublie() { m_attente.clear(); }
-    /// Between the two nothing is delivered; what is announced waits. Pairs may be nested.
+    /// Between Retient and Relache nothing is delivered; announced events wait. Pairs may be nested.
     void Retient() { ++m_retenues; }
     void Relache();
-    /// Code under delivery, 0 outside.
+    /// Code of the event being delivered, 0 when none is.
     int Code() const { return m_enCours.isEmpty() ? 0 : m_enCours.last(); }
 
 Q_SIGNALS:
-    /// The event Code() is there.
+    /// Delivers the event Code().
     void Evenement();
 
 private:
@@ -34,7 +33,7 @@ private:
     qsizetype Prochain() const;
 
     QList<int> m_attente;
-    QList<int> m_enCours; // innermost last
+    QList<int> m_enCours; // codes being delivered, the innermost last
     int m_retenues = 0;
     bool m_distributionArmee = false;
 };

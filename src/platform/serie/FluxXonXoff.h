@@ -4,35 +4,36 @@
 
 #include <optional>
 
-/// XON/XOFF dealt with by the control, behind a driver that would go on sending. It takes 17 and 19 out of what is read
-/// and says what the machine is to be told; nothing is sent here. Reading goes on while the machine is held back, past
-/// the size of the receive buffer, so that an XON is always heard. What the lead and the adapter hold still leaves
-/// behind an XOFF, and an adapter that gathers what it receives makes it later: 16 ms and more, some tens of characters
-/// at 9600 baud.
+/// XON/XOFF handled by the control, for a driver that does not obey it. This class removes the characters 17 and 19
+/// from what is read, and says when the machine must be told XOFF or XON; the caller sends it. Reading goes on even
+/// when the receive buffer is full, so that an XON is always heard. After an XOFF of the machine the characters already
+/// handed over still go out. An adapter that collects received characters before it delivers them delays the XOFF by 16
+/// ms and more, which is some tens of characters at 9600 baud.
 class FluxXonXoff
 {
 public:
-    /// Characters of a reading that a machine may still send after it was told XOFF.
+    /// Number of characters that may be read beyond the size of the receive buffer, to hear an XON behind them.
     static constexpr int Reserve = 4096;
 
-    /// Deals with the flow from now on, or leaves it alone. The machine is taken not to hold the line.
+    /// Switches the handling on or off. The machine then counts as not holding the line.
     void Pose(bool actif);
     bool Actif() const { return m_actif; }
 
-    /// The reading without its XON and XOFF, which are obeyed. One that came with a parity error is a character like
-    /// any other.
+    /// Obeys the XON and XOFF in lecture and returns it without them. One with a parity error counts as an ordinary
+    /// character.
     LectureLigne Entend(const LectureLigne &lecture);
     /// Whether the machine has said XOFF and not yet XON.
     bool Retenue() const { return m_retenue; }
 
-    /// What the machine is to be told now that nombre characters wait in a buffer of taille: XOFF from three quarters
-    /// on, XON down to a quarter and when the flow is left alone; nothing when it knows.
+    /// The character that the machine must be told: XOFF from three quarters of the buffer on, XON from a quarter down
+    /// or when the handling is off; nothing when the machine has already been told. nombre: characters that wait.
+    /// taille: size of the buffer in characters.
     std::optional<char> ADire(qsizetype nombre, int taille) const;
-    /// The machine was told.
+    /// Notes that the machine was told signal.
     void Dit(char signal);
 
 private:
     bool m_actif = false;
-    bool m_retenue = false; // by the machine
-    bool m_freinee = false; // the machine, by us
+    bool m_retenue = false; // the machine has told us XOFF
+    bool m_freinee = false; // we have told the machine XOFF
 };

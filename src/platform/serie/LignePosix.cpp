@@ -18,7 +18,7 @@
 
 namespace {
 
-// Major device numbers of the ends of pseudo-terminals that a program opens.
+// Major device numbers of pseudo-terminals (the end that a program opens as a terminal).
 constexpr unsigned PseudoPremier = 136;
 constexpr unsigned PseudoDernier = 143;
 
@@ -28,7 +28,7 @@ int NumeroOuverture(int erreur)
     case ENOENT:
     case ENXIO:
     case ENODEV:
-    case EIO: // a port number that the kernel keeps ready without a chip behind it
+    case EIO: // a device name that the kernel provides without a chip
         return ErreurPort::Inconnu;
     case EBUSY:
     case EWOULDBLOCK:
@@ -68,7 +68,7 @@ bool EstPseudoTerminal(dev_t numero)
     return major(numero) >= PseudoPremier && major(numero) <= PseudoDernier;
 }
 
-/// These drivers set the chip to stop at XOFF; no other USB driver is relied on.
+/// How the driver of a device deals with XOFF. Only the drivers listed here make the chip stop at XOFF.
 PiloteUsb PiloteDe(dev_t numero)
 {
     const QString appareil = QStringLiteral("/sys/dev/char/%1:%2/device").arg(major(numero)).arg(minor(numero));
@@ -107,7 +107,7 @@ LignePosix::LignePosix(const QString &chemin)
 
 LignePosix::~LignePosix()
 {
-    m_lecture.reset(); // before their descriptor is gone
+    m_lecture.reset(); // before the descriptor is closed
     m_ecriture.reset();
     Libere();
     close(m_fd);
@@ -121,7 +121,8 @@ std::unique_ptr<QSocketNotifier> LignePosix::Guette(QSocketNotifier::Type evenem
     return guetteur;
 }
 
-/// The lock comes first: exclusive use alone does not stop a program that runs with all rights.
+/// Locks the device and takes it for exclusive use. The lock is needed too, since exclusive use does not stop a program
+/// that runs as root.
 void LignePosix::Reserve(const QString &chemin)
 {
     if (Reprise([&] { return flock(m_fd, LOCK_EX | LOCK_NB); }) < 0)
@@ -130,7 +131,8 @@ void LignePosix::Reserve(const QString &chemin)
         EchecOuverture(chemin, errno);
 }
 
-/// Where someone else keeps the device open, as a simulated machine does, the exclusive use would outlast us.
+/// Ends the exclusive use. It would outlast this process where another one keeps the device open, as a simulated
+/// machine does.
 void LignePosix::Libere()
 {
     Reprise([this] { return ioctl(m_fd, TIOCNXCL); });
@@ -152,7 +154,7 @@ void LignePosix::PoseDTR(bool actif)
     PoseSortie(TIOCM_DTR, actif);
 }
 
-/// Asked for both, the chips do RTS/CTS alone.
+/// With both kinds of flow control on, the USB chips do RTS/CTS only.
 bool LignePosix::ObeitXoff(ControleFlux flux) const
 {
     return m_usb == PiloteUsb::Aucun || (m_usb == PiloteUsb::Obeissant && flux == ControleFlux::XonXoff);
@@ -177,7 +179,7 @@ LectureLigne LignePosix::Lit(int tailleMax)
     return QualifieMarques(resultat, resultat.marques.isEmpty() ? SensMarques() : Sens(), m_compteurs);
 }
 
-/// What the driver's counters say of the marks just read.
+/// Interprets the marks just read by what the driver has counted since the last ones.
 SensMarques LignePosix::Sens()
 {
     const CompteursLigne avant = m_comptesMarques;
@@ -226,14 +228,14 @@ std::optional<EtatsLigne> LignePosix::Etats()
     return etats;
 }
 
-/// A device that has gone says nothing more: its last counters stand, for each that fell to 0 would be an event.
+/// For an unplugged device the last counters stay: a counter that fell to 0 would look like an event.
 CompteursLigne LignePosix::Compteurs()
 {
     CompteursPilote(m_compteurs);
     return m_compteurs;
 }
 
-/// False, and compteurs untouched, for a driver that does not count.
+/// Reads the driver's counters. Returns false and leaves compteurs as it is when the driver has none.
 bool LignePosix::CompteursPilote(CompteursLigne &compteurs) const
 {
     serial_icounter_struct pilote{};

@@ -7,21 +7,21 @@
 
 #include <memory>
 
-/// What stands between the system and the line: no USB, an adapter whose chip obeys XOFF, or one that leaves it to us.
+/// How the port is connected: without USB, by a USB adapter that obeys XOFF itself, or by one that does not.
 enum class PiloteUsb { Aucun, Obeissant, Sourd };
 
 /// The serial line of a POSIX system with Linux's terminal driver.
 ///
-/// Errors of characters. The driver marks a character that came with an error inside what is read (DecodeurMarques) and
-/// counts it apart, by kind (TIOCGICOUNT). The mark says where, the counter what; a driver may give both, one, or none.
-/// Without counters a marked NUL is taken for a break, since that is by far the commoner. Any other mark is then taken
-/// for a parity error when there is parity, and for a framing error when there is none.
+/// Errors of characters. The driver marks a character that came with an error inside the text (DecodeurMarques) and
+/// counts the errors by kind (TIOCGICOUNT). The mark tells the place, the counter the kind; a driver may give both, one
+/// or none. Without counters a marked NUL is taken for a break, since that is by far the commoner. Any other mark is
+/// then taken for a parity error when there is parity, and for a framing error when there is none.
 ///
-/// Unplugging. The system ends every reading of a device that is gone with an end of file or an error, and says without
-/// end that it is readable.
+/// Unplugging. Every reading of an unplugged device ends with an end of file or an error, and the system announces it
+/// as readable without end.
 ///
-/// Pseudo-terminals. They have no speed, framing or modem lines. The driver drops such settings without a word, which
-/// is no failure there.
+/// Pseudo-terminals. They have no speed, framing or modem lines. The driver silently ignores such settings, which is no
+/// failure.
 ///
 /// What common adapters do:
 ///
@@ -42,17 +42,17 @@ enum class PiloteUsb { Aucun, Obeissant, Sourd };
 ///   CH340 (ch341) sends packets of 32 characters and tells neither parity nor framing errors. It deals with RTS/CTS in
 ///   the chip with recent kernels only.
 ///
-///   XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, pl2303, or any with RTS/CTS besides): these
-///   drivers have no way to be stopped. Linux would take the XOFF out of what is read and go on sending, and would not
-///   say XOFF to the machine. ObeitXoff is false there.
+/// XON/XOFF behind a driver that leaves it to the system (ch341, cdc_acm, pl2303, or any with RTS/CTS besides): these
+/// drivers have no way to be stopped. Linux would remove the XOFF from the text and go on sending, and would not send
+/// XOFF to the machine. ObeitXoff returns false for these.
 ///
-///   Overrun between chip and driver (1006) is what a hub, a long cable or a sleeping PC costs. In software only a
-///   lower speed cures it.
+/// Overrun between chip and driver (1006) comes from a hub, a long cable or a PC that saves power. Among the settings
+/// only a lower speed helps.
 class LignePosix : public LigneSerie
 {
 public:
-    /// Opens the device at chemin and holds it against every other program until the destruction. The line is then raw,
-    /// without flow control, and no XOFF of an earlier use stands.
+    /// Opens the device at chemin and keeps other programs out until the destruction. The line is then raw and without
+    /// flow control, and an XOFF of an earlier use is lifted.
     /// Raises ErreurPort::Inconnu, Occupe, PasUneLigne, Indisponible, or Erreur::AccesRefuse.
     explicit LignePosix(const QString &chemin);
     ~LignePosix() override;
@@ -87,6 +87,6 @@ private:
     PiloteUsb m_usb = PiloteUsb::Aucun;
     bool m_avecParite = false;
     DecodeurMarques m_decodeur;
-    CompteursLigne m_compteurs;      // the driver's when last asked, or by marks
-    CompteursLigne m_comptesMarques; // what the driver had counted at the last mark
+    CompteursLigne m_compteurs;      // as last read from the driver, or counted by marks
+    CompteursLigne m_comptesMarques; // the driver's counters at the last mark
 };

@@ -17,7 +17,8 @@ struct EtatsLigne
     bool anneau = false;
 };
 
-/// How often something happened on the line. Only the differences count; what the device does not count stays 0.
+/// Counters of events on the line. Only differences between two readings matter. What the device does not count stays
+/// 0.
 struct CompteursLigne
 {
     unsigned cts = 0;
@@ -31,51 +32,51 @@ struct CompteursLigne
     unsigned parite = 0;
 };
 
-/// What one reading gave.
+/// The result of one reading.
 struct LectureLigne
 {
     QByteArray octets;
-    QList<qsizetype> fausses; ///< rising positions in octets of characters that came with a parity error
-    bool erreur = false;      ///< the counters have moved: a parity or framing error, or a break
+    QList<qsizetype> fausses; ///< positions in octets of the characters with a parity error, in rising order
+    bool erreur = false;      ///< a counter has changed: a parity or framing error, or a break
 };
 
-/// An open serial line, closed by its destruction. No operation waits. Those that say what they raise may fail; the
-/// others do nothing, or give nothing, once the device has gone. Each system has a class of its own for its lines.
+/// An open serial line, closed by its destruction. No operation waits. Only those whose comment names a failure raise;
+/// the others do nothing and return nothing once the device is unplugged. Each system has its own class.
 class LigneSerie : public QObject
 {
     Q_OBJECT
 public:
-    /// Raises ErreurPort::Vitesse, BitsDonnees or Reglage for what the device cannot do; the line then keeps what it
-    /// had.
+    /// Sets the line. Raises ErreurPort::Vitesse, BitsDonnees or Reglage for what the device cannot do; the old
+    /// settings then stay.
     virtual void Regle(const ReglagePort &reglage) = 0;
     virtual void PoseRTS(bool actif) = 0;
     virtual void PoseDTR(bool actif) = 0;
-    /// Whether the driver, set to flux, stops sending at XOFF and says it itself when it is full. Where it does not,
-    /// the line is not to be set to XON/XOFF: the characters would vanish without effect.
+    /// Whether the driver, set to flux, stops sending at XOFF and sends XOFF itself when its buffer is full. If not,
+    /// the line must not be set to XON/XOFF: the driver would swallow these characters without effect.
     virtual bool ObeitXoff(ControleFlux flux) const = 0;
 
-    /// Whether Lisible and Inscriptible are emitted from now on; neither is to begin with.
+    /// Switch the signals Lisible and Inscriptible on or off. At first both are off.
     virtual void AnnonceLisible(bool annonce) = 0;
     virtual void AnnonceInscriptible(bool annonce) = 0;
-    /// At most tailleMax characters, above 0; none when nothing has come. Raises ErreurPort::Lecture.
+    /// Reads at most tailleMax characters (above 0); none when nothing has come. Raises ErreurPort::Lecture.
     virtual LectureLigne Lit(int tailleMax) = 0;
-    /// Hands the first characters over and gives their number; 0 when the line takes none for now.
-    /// Raises ErreurPort::Lecture.
+    /// Hands over as many of the characters as the line takes now, from the first on, and returns their number,
+    /// possibly 0. Raises ErreurPort::Lecture.
     virtual int Ecrit(const char *octets, int nombre) = 0;
-    /// Characters handed over that the system still holds, as far as it knows.
+    /// Number of characters handed over that the system still holds, as far as it knows.
     virtual int NonEmis() = 0;
-    /// Throws away what has come and was not read, or what the system has not sent.
+    /// Throw away the received characters that were not read, or those that the system has not sent.
     virtual void JetteReception() = 0;
     virtual void JetteEmission() = 0;
 
-    /// Nothing where the device has no such lines.
+    /// State of the machine's lines; nothing when the device has none.
     virtual std::optional<EtatsLigne> Etats() = 0;
     virtual CompteursLigne Compteurs() = 0;
 
-    // Both come from the event loop, again and again for as long as they are true.
+    // Both signals come from the event loop, again and again as long as their condition holds.
 Q_SIGNALS:
-    /// Characters have come, or the device has gone.
+    /// Characters have come, or the device was unplugged.
     void Lisible();
-    /// Ecrit takes characters, or the device has gone. Some drivers say so without being able to.
+    /// Ecrit takes characters, or the device was unplugged. Some drivers announce it and then take none.
     void Inscriptible();
 };

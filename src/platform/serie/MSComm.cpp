@@ -21,7 +21,7 @@ constexpr int PortMax = 16;
 constexpr int TailleTamponUsuelle = 1024;
 constexpr auto PeriodeSurveillance = 50ms;
 constexpr Duree Transit = 2ms; // what an adapter adds to a line time
-constexpr Duree Jeu = 20ms;    // after that a line is taken to stand still
+constexpr Duree Jeu = 20ms;    // tolerance before a line counts as standing still
 
 constexpr int FileSysteme = 4096; // characters that the system keeps at most
 
@@ -39,7 +39,7 @@ MSComm::MSComm(QObject *parent)
 
 MSComm::~MSComm()
 {
-    // Nothing may run any more, so a line still open is not waited for.
+    // The event loop may no longer run, so closing must not wait for the line.
     if (m_ligne)
         m_ligne->JetteEmission();
 }
@@ -75,12 +75,13 @@ void MSComm::setPortOpen(bool ouvert)
 void MSComm::Ouvre()
 {
     std::unique_ptr<LigneSerie> ligne = m_fabrique ? m_fabrique(m_commPort) : OuvreLigne(m_commPort, m_dossierPorts);
-    // Linux raises both lines as it opens the device; a machine that must not see them gets them lowered at once.
+    // Linux raises both lines when it opens the device, so they are set at once for a machine that must not see them
+    // raised.
     ligne->PoseDTR(m_dtr);
     ligne->PoseRTS(m_rts || m_reglage.ARtsCts());
     m_xonXoff = FluxXonXoff(); // the last session's XOFF state does not apply
     RegleLigne(*ligne, m_reglage);
-    ligne->JetteReception(); // a closed port receives nothing
+    ligne->JetteReception(); // characters that came while the port was closed
 
     m_emission.Ouvre(*ligne, m_reglage);
     m_ligne = std::move(ligne);
@@ -93,20 +94,20 @@ void MSComm::Ouvre()
     qCInfo(JournalLigne) << "port" << m_commPort << "is open, RTS" << m_rts << "DTR" << m_dtr;
 }
 
-/// What has left the queue gets its line time. Characters still in the queue say that the sending was cancelled: then,
-/// and on a line that is held, nothing is waited for.
+/// Closes the port. The characters that have left the queue first get their line time. It does not wait when the line
+/// is held, or when characters are still in the queue: the sending was then cancelled.
 void MSComm::Ferme()
 {
-    const bool retenue = Retenue(); // as long as an XOFF of the machine is known
+    const bool retenue = Retenue(); // before the machine's XOFF is forgotten
     m_xonXoff.Pose(false);
-    FreineMachine(); // it would wait for its XON until the next transfer
+    FreineMachine(); // sends the XON, or the machine would wait for it until the next transfer
     const bool vivante = !m_panne;
     const bool abandon = vivante && (m_emission.Nombre() > 0 || retenue);
     const CadenceEmission cadence = m_emission.Cadence();
-    m_veille.Regarde(*m_ligne); // the last errors are counted
+    m_veille.Regarde(*m_ligne); // counts the last errors
     NoteFermeture(retenue);
-    m_ajoutes -= m_emission.Nombre(); // these never went
-    // From here on the port is closed for everyone who runs while the line empties.
+    m_ajoutes -= m_emission.Nombre(); // these were never sent
+    // Handlers that run while the line empties see a closed port.
     const std::unique_ptr<LigneSerie> ligne = std::move(m_ligne);
     m_emission.Ferme();
     ligne->AnnonceLisible(false);
@@ -118,13 +119,13 @@ void MSComm::Ferme()
     if (!vivante)
         return;
 
-    // A system that holds the machine back until its queue is read says XON now; it would not when it is closed.
+    // Emptying the receive queue makes the system send XON to a machine that it holds back. Closing alone would not.
     ligne->JetteReception();
     const Duree tempsLigne = cadence.Reste(Horloge::now()) + cadence.Temps(2) + Transit;
     const auto fin = Horloge::now() + tempsLigne;
     if (!abandon)
         Attend(tempsLigne + Jeu, [&] { return Horloge::now() >= fin && ligne->NonEmis() == 0; });
-    // A system that still holds characters would make the closing wait for a machine that may never take them.
+    // If the system still holds characters, closing would wait for a machine that may never take them.
     if (abandon || ligne->NonEmis() > 0)
         ligne->JetteEmission();
 }
@@ -139,7 +140,7 @@ void MSComm::NoteFermeture(bool retenue) const
                          << fautes.cadence << "lost" << fautes.debordements;
 }
 
-/// Keeps the event loop turning until fini holds, no longer than limite. The operator's input and OnComm wait.
+/// Runs the event loop until fini returns true or limite is over. The operator's input and OnComm are held back.
 void MSComm::Attend(Duree limite, const std::function<bool()> &fini)
 {
     QAbstractEventDispatcher *repartiteur = QAbstractEventDispatcher::instance();
@@ -167,7 +168,7 @@ void MSComm::ExigeVivant() const
         throw Erreur(*m_panne);
 }
 
-/// The device has gone. Its line would announce that without end.
+/// Notes that the device was unplugged and stops listening to its line, which would announce that without end.
 void MSComm::Panne(const Erreur &erreur)
 {
     qCInfo(JournalLigne) << "the device has gone:" << erreur.Numero() << erreur.Description();
@@ -182,7 +183,7 @@ void MSComm::Panne(const Erreur &erreur)
 
 // ---- Settings
 
-/// Where the driver does not obey XOFF the line is set without it, and the control obeys.
+/// Sets the line. Where the driver does not obey XOFF, the line is set without XON/XOFF and the control handles it.
 void MSComm::RegleLigne(LigneSerie &ligne, const ReglagePort &reglage)
 {
     ReglagePort pourLigne = reglage;
@@ -271,7 +272,8 @@ int MSComm::TailleReception() const
     return m_inBufferSize > 0 ? m_inBufferSize : TailleTamponUsuelle;
 }
 
-/// An XON must be heard at all times, and cannot be without what came before it.
+/// How many characters may be read now. While the control handles XON/XOFF there is a reserve beyond the buffer's size,
+/// because an XON is heard only after the characters before it have been read.
 int MSComm::PlaceReception() const
 {
     const int reserve = m_xonXoff.Actif() ? FluxXonXoff::Reserve : 0;
@@ -290,7 +292,7 @@ void MSComm::Recolte()
         Surveille();
 }
 
-/// What has come, at most place characters; nothing from a device that has gone.
+/// Reads at most place characters; none from an unplugged device.
 LectureLigne MSComm::Releve(int place)
 {
     try {
@@ -304,7 +306,8 @@ LectureLigne MSComm::Releve(int place)
     }
 }
 
-/// Holds the machine back while the receive buffer is nearly full, where nobody else does.
+/// Tells the machine XOFF when the receive buffer is nearly full and XON when it has emptied, where the driver does
+/// not.
 void MSComm::FreineMachine()
 {
     const std::optional<char> signal = m_xonXoff.ADire(m_recus.size(), TailleReception());
@@ -318,7 +321,7 @@ void MSComm::FreineMachine()
     }
 }
 
-/// The characters of a reading as the program is to have them.
+/// The characters of a reading after NullDiscard and ParityReplace.
 QByteArray MSComm::Epure(const LectureLigne &lecture)
 {
     QByteArray octets = lecture.octets;
@@ -345,7 +348,7 @@ void MSComm::Range(const LectureLigne &lecture)
     VerifieSeuilReception();
 }
 
-/// Room was made in the receive buffer.
+/// Resumes the reading after room was made in the receive buffer.
 void MSComm::ReprendRecolte()
 {
     if (m_panne)
@@ -376,7 +379,7 @@ QString MSComm::Input()
     QString texte = TexteDe1252(m_recus.left(nombre));
     m_recus.remove(0, nombre);
     ReprendRecolte();
-    // A loop that reads piece by piece comes back for the next one.
+    // More characters wait: a loop that reads piece by piece must not sleep now.
     if (!m_recus.isEmpty())
         SignaleMouvement();
     return texte;
@@ -390,7 +393,8 @@ int MSComm::InBufferCount() const
     return static_cast<int>(m_recus.size());
 }
 
-/// What the system holds is read, so that it is known what goes, and an XON among it is heard.
+/// Reads the system's characters before it throws them away, so that they can be returned and an XON among them is
+/// heard.
 QString MSComm::VideReception()
 {
     ExigeVivant();
@@ -420,7 +424,7 @@ void MSComm::Output(const QString &texte)
 int MSComm::OutBufferCount() const
 {
     ExigeVivant();
-    // Whoever waits for this has the next characters, and the line has few left.
+    // A routine waits for the queue to be empty and must not sleep now, since the line has few characters left.
     if (m_emission.Nombre() == 0)
         SignaleMouvement();
     return m_emission.Nombre();
@@ -432,7 +436,7 @@ int MSComm::EnRoute() const
     return m_ligne->NonEmis();
 }
 
-/// Whether something else than this PC keeps the line from carrying what it was given.
+/// Whether the machine or the device holds the line.
 bool MSComm::Retenue()
 {
     return m_retenue.ParMachine() || m_retenue.ParAppareil(Horloge::now());
@@ -479,7 +483,7 @@ void MSComm::Surveille()
 
 void MSComm::Delivre()
 {
-    // What was announced may have been read or thrown away meanwhile.
+    // The announced characters may have been read or thrown away meanwhile.
     if (CommEvent() == EvenementPort::Reception && !SeuilReceptionAtteint())
         return;
     Q_EMIT OnComm();

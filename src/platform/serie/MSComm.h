@@ -33,41 +33,41 @@
 ///
 /// Receiving. The control takes from the system no more than InBufferSize has room for. The rest stays with the system.
 /// When its queue is full, the flow control (XOFF, RTS) holds the machine back. So a program that is slow to read loses
-/// nothing. Without flow control it may; event 1008 says so where the driver counts it. Closing the port throws
-/// away what was not read and lets a machine that was held back go on.
+/// nothing. Without flow control characters may be lost; event 1008 reports that where the driver counts it. Closing
+/// the port throws away unread characters and releases a machine that was held back.
 ///
-/// Sending. Output only queues. From the queue the system gets at most what the line carries in the next moment, since
-/// what it holds cannot be called back (CadenceEmission says how much, AvanceEmission why). So an XOFF or a cancel
-/// takes effect within a few characters, and OutBufferCount tells what the machine has still to get. It falls to 0 a
-/// few characters before the line falls idle, in time for the next line of text. A sending is over only when EnRoute is
-/// 0 too: a machine that stops the line over those last ones would never get them.
+/// Sending. Output only queues. The system gets at most the characters that the line carries in the next moment, since
+/// they cannot be called back from there (CadenceEmission says how many, AvanceEmission why). So an XOFF or a cancel
+/// takes effect within a few characters, and OutBufferCount tells how many the machine has still to get. It falls to 0
+/// a few characters before the line falls idle, in time for the next line of text. A sending is over only when EnRoute
+/// is 0 too: if the machine holds the line at the very end, these last characters have not gone yet.
 ///
-/// Ends of a sending. VideEmission first gives what was just written, up to a chain, its line time, unless the line is
-/// held. Closing the port gives its line time to what has left the queue; what still waits there is thrown away, since
-/// then the sending was cancelled. Both keep the event loop turning meanwhile. The operator's keys and clicks and this
-/// control's event are held back until they return.
+/// Ends of a sending. VideEmission first waits the line time of the characters just written, up to the length of a
+/// chain, unless the line is held. Closing the port waits the line time of the characters that have left the queue.
+/// Characters still in the queue are thrown away, since the sending was then cancelled. Both run the event loop
+/// meanwhile. The operator's keys and clicks and this control's event are held back until they return.
 ///
-/// Line time. It is computed from Settings. An adapter that is asked says "sent" when the characters have crossed the
-/// USB, not the line. What the system says it still holds counts on top, so that a line that is slower than its
-/// Settings is not fed.
+/// Line time. It is computed from Settings. An adapter reports characters as sent when they have crossed the USB, not
+/// the line. The characters that the system reports as still unsent count on top, so that a line slower than its
+/// Settings gets no more.
 ///
-/// Flow control. XON and XOFF are dealt with by the system, at once, even while this program is busy. Behind a driver
-/// that does not, the control deals with them (FluxXonXoff). Either way the characters 17 and 19 never reach Input. RTS
-/// and CTS are the system's or the chip's; RTSEnable then waits until the handshake is off again. RetenueLigne tells
-/// whether the line is held. CTS is looked at every 50 ms and, while it is low, before each handover, so that it holds
-/// the sending also behind a driver that takes the setting and does nothing about it.
+/// Flow control. The system handles XON and XOFF at once, even while this program is busy. Where the driver does not,
+/// the control handles them (FluxXonXoff). Either way the characters 17 and 19 never reach Input. The system or the
+/// chip handles RTS and CTS; RTSEnable takes effect only once that handshake is off. RetenueLigne tells whether the
+/// line is held. CTS is read every 50 ms and, while it is low, before each handover. So it holds the sending also where
+/// a driver accepts the setting and ignores it.
 ///
 /// Events. OnComm comes only from the event loop or a yield, with its code of EvenementPort in CommEvent. A handler may
 /// yield; the event that it is handling is not delivered again before it returns (FileEvenements). Line changes are
-/// seen within 50 ms. Those that came and went in between are seen where the driver counts them.
+/// seen within 50 ms. Shorter ones are seen where the driver counts them.
 ///
 /// Errors of characters. A character with an error stays in the text, as it came or as ParityReplace; a break adds
-/// none. How much the device tells of them differs, see the line of each system.
+/// none. How many errors the device reports differs: see the class of each system's line.
 ///
-/// Failures. They are raised as Erreur with a number of ErreurPort. A device that goes away while the port is open
-/// raises ErreurPort::Lecture at the next operation on the buffers, once the characters that had come are read. The
-/// port stays open until it is closed, and closing waits for nothing. Nothing is opened again behind the operator's
-/// back, since the device's name may belong to another adapter a moment later: the next transfer opens the port anew.
+/// Failures. They are raised as Erreur with a number of ErreurPort. After a device was unplugged, operations on the
+/// buffers raise ErreurPort::Lecture as soon as the characters already received have been read. The port stays open
+/// until it is closed, and closing then does not wait. The port is not reopened by itself, since the device's name may
+/// soon belong to another adapter: the next transfer opens it.
 class MSComm : public QObject
 {
     Q_OBJECT
@@ -78,7 +78,7 @@ public:
     explicit MSComm(QObject *parent = nullptr);
     ~MSComm() override;
 
-    /// Where the lines come from; by default OuvreLigne().
+    /// Sets the function that opens the lines; by default OuvreLigne().
     void setFabrique(Fabrique fabrique) { m_fabrique = std::move(fabrique); }
     /// Folder of links ComN to devices, so that an adapter keeps its number.
     QString DossierPorts() const { return m_dossierPorts; }
@@ -88,23 +88,24 @@ public:
     int CommPort() const { return m_commPort; }
     void setCommPort(int numPort);
 
-    /// Opens or closes the port. Opening raises ErreurPort::Occupe when it is open already, what the factory raises,
-    /// and what the device refuses of Settings; it throws away what came before. Closing a closed port does nothing.
+    /// Opens or closes the port. Opening throws away characters that came before. It raises ErreurPort::Occupe when the
+    /// port is already open, what the factory raises, and what the device refuses of Settings. Closing a closed port
+    /// does nothing.
     bool PortOpen() const { return m_ligne != nullptr; }
     void setPortOpen(bool ouvert);
 
-    /// Speed, parity, data bits and stop bits, as LitReglagePort() reads them. A refused text changes nothing; while
-    /// the port is open it raises also what the device refuses, or Lecture once it has gone.
+    /// Speed, parity, data bits and stop bits, as LitReglagePort() reads them. Raises what LitReglagePort() raises and,
+    /// while the port is open, what the device refuses, or Lecture when it was unplugged. The old settings then stay.
     QString Settings() const { return m_settings; }
     void setSettings(const QString &settings);
-    /// What the line carries with these Settings.
+    /// Characters that the line carries in a second with these Settings.
     double CaracteresParSeconde() const { return m_reglage.CaracteresParSeconde(); }
 
     /// 0 none, 1 XON/XOFF, 2 RTS/CTS, 3 both. Raises ErreurPort::Reglage.
     int Handshaking() const { return static_cast<int>(m_reglage.flux); }
     void setHandshaking(int flux);
 
-    /// State of the two lines that the PC drives, while the port is open.
+    /// The two lines that the PC drives: RTS and DTR, while the port is open.
     bool RTSEnable() const { return m_rts; }
     void setRTSEnable(bool actif);
     bool DTREnable() const { return m_dtr; }
@@ -114,11 +115,12 @@ public:
     bool DSRHolding() const { return Etats() && Etats()->dsr; }
     bool CDHolding() const { return Etats() && Etats()->cd; }
 
-    /// Size of the receive buffer in characters; the usual 1024 stands in for 0 and below.
+    /// Size of the receive buffer in characters; 0 and below mean 1024.
     /// Raises ErreurPort::DejaOuvert for another size while the port is open.
     int InBufferSize() const { return m_inBufferSize; }
     void setInBufferSize(int taille);
-    /// What the program takes for the size of a block. The queue itself takes what Output is given.
+    /// Block size for the program's sending routines, in characters. The queue itself has no limit. Raises as
+    /// InBufferSize.
     int OutBufferSize() const { return m_outBufferSize; }
     void setOutBufferSize(int taille);
 
@@ -128,45 +130,46 @@ public:
     /// Whether received NULs are dropped.
     bool NullDiscard() const { return m_nullDiscard; }
     void setNullDiscard(bool jette) { m_nullDiscard = jette; }
-    /// Its first character takes the place of each one that came with a parity error; empty: it stays as it came.
+    /// Its first character replaces each one that came with a parity error; empty: the character stays as it came.
     QString ParityReplace() const { return m_parityReplace; }
     void setParityReplace(const QString &remplacant) { m_parityReplace = remplacant; }
-    /// Received characters that raise event 2, and level of the queue below which event 1 comes; 0: no event.
+    /// RThreshold: number of waiting characters from which event 2 is raised. SThreshold: the queue falling below that
+    /// many characters raises event 1. 0: no event.
     int RThreshold() const { return m_rThreshold; }
     void setRThreshold(int seuil);
-    /// Whether as many characters wait as raise event 2. A full receive buffer is always enough: no more can come
+    /// Whether enough characters wait for event 2. A full receive buffer is always enough, since no more can come
     /// before something is read.
     bool SeuilReceptionAtteint() const;
     int SThreshold() const { return m_sThreshold; }
     void setSThreshold(int seuil);
 
-    /// The counts of a transfer; they stay when the port closes. RemetComptes begins them anew, with the port open or
+    /// The counts of a transfer. They stay when the port closes. RemetComptes sets them to 0, with the port open or
     /// closed.
     ComptesPort Comptes() const;
     void RemetComptes();
 
-    // The following raise ErreurPort::Ferme on a closed port, and Lecture once the device has gone.
+    // The following raise ErreurPort::Ferme on a closed port, and Lecture when the device was unplugged.
 
-    /// Does nothing else.
+    /// Only checks that the port is open and its device present.
     void ExigeVivant() const;
 
-    /// Takes the characters that wait out of the receive buffer, at most InputLen.
+    /// Takes waiting characters out of the receive buffer, at most InputLen.
     QString Input();
     int InBufferCount() const;
-    /// Throws away what the control and the system have received, and gives it back to whoever wants to know.
+    /// Empties the receive buffers of the control and the system, and returns the characters removed.
     QString VideReception();
     /// Queues texte for sending, whatever its length.
     void Output(const QString &texte);
-    /// Characters that have not gone to the line yet.
+    /// Number of characters in the queue.
     int OutBufferCount() const;
-    /// Characters handed over that the system still holds, as far as it knows: those that a closing may lose when the
+    /// Number of characters handed over that the system still holds, as far as it knows. Closing may lose them when the
     /// machine holds the line.
     int EnRoute() const;
-    /// Throws away what waits for sending, after its line time: see Sending above.
-    /// chaine: largest number of waiting characters that still get their line time, from 0 on.
+    /// Throws away the characters that wait for sending. The first chaine of them (0 and above) get their line time
+    /// before that: see "Ends of a sending" above.
     void VideEmission(int chaine);
 
-    /// Holds OnComm back as long as it lives, for a modal box that the handler must not run on top of.
+    /// Holds OnComm back as long as the object lives, so that no handler runs on top of a modal box.
     class SansEvenements
     {
     public:
@@ -229,7 +232,7 @@ private:
     int m_sThreshold = 0;
 
     std::unique_ptr<LigneSerie> m_ligne;
-    std::optional<Erreur> m_panne; // the device has gone
+    std::optional<Erreur> m_panne; // set when the device was unplugged
     QTimer m_surveillance;
     VeilleLigne m_veille;
     FluxXonXoff m_xonXoff;
@@ -237,5 +240,5 @@ private:
     EmissionPort m_emission{m_retenue};
     FileEvenements m_evenements;
     QByteArray m_recus;
-    qint64 m_ajoutes = 0; // characters given to Output and not thrown away, since the counts began
+    qint64 m_ajoutes = 0; // characters given to Output and not thrown away, since RemetComptes
 };

@@ -5,8 +5,8 @@
 #include <chrono>
 #include <memory>
 
-/// Wakes the event loop once, after a time given to the nanosecond. Qt's timers round up to whole milliseconds, in two
-/// places: 1 to 2 ms late, which is several characters of a fast line. Each system has a timer of its own for this.
+/// A timer that fires once, with a resolution of nanoseconds. Qt's timers fire 1 to 2 ms late, because they round up to
+/// whole milliseconds twice; on a fast line that is several characters. Each system implements it with its own timer.
 class MinuteurPrecis : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     MinuteurPrecis();
     ~MinuteurPrecis() override;
 
-    /// Echu comes after delai, at once where that is 0 or below; what was armed before is forgotten.
+    /// Echu is emitted after delai, at once when that is 0 or below. An earlier delay is forgotten.
     void Arme(std::chrono::nanoseconds delai);
     void Arrete();
 

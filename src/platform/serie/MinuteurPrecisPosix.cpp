@@ -29,7 +29,7 @@ struct MinuteurPrecis::Interne
     Interne() = default;
     ~Interne()
     {
-        reveil.setEnabled(false); // before its descriptor is gone
+        reveil.setEnabled(false); // before the descriptor is closed
         close(fd);
     }
     Q_DISABLE_COPY_MOVE(Interne)
@@ -43,7 +43,7 @@ MinuteurPrecis::MinuteurPrecis()
 {
     connect(&m_interne->reveil, &QSocketNotifier::activated, this, [this] {
         std::uint64_t fois = 0;
-        // What was armed anew meanwhile has not come yet.
+        // Nothing to read: the timer was armed again meanwhile and has not expired yet.
         if (Reprise([&] { return read(m_interne->fd, &fois, sizeof fois); }) == sizeof fois)
             Q_EMIT Echu();
     });

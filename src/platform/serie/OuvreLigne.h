@@ -6,15 +6,15 @@
 
 class LigneSerie;
 
-// Which line stands behind a port number. Each system has a unit of its own for this.
+// Finds and opens the device of a port number. Each system has its own unit for this.
 //
 // numPort: from 1 on. dossierPorts: folder of links ComN to devices, so that an adapter keeps its number; "" for none.
 
-/// What a port number stands for.
+/// The device of a port number.
 struct AppareilPort
 {
     QString nom;           ///< the device, as the system calls it; "" when there is none
-    bool sansPuce = false; ///< the system keeps the name ready, without a port behind it
+    bool sansPuce = false; ///< the name exists, but no port belongs to it
 };
 
 /// Looks for the device of a port number, without opening it.

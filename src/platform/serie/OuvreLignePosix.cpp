@@ -14,7 +14,7 @@
 
 namespace {
 
-/// The first that exists of ComN in the folder of links, /dev/comN, /dev/ttyS(N-1); "" when none does.
+/// The first path that exists: ComN in the folder of links, /dev/comN, /dev/ttyS(N-1); "" when none does.
 QString CheminPort(int numPort, const QString &dossierPorts)
 {
     QStringList chemins;
@@ -26,7 +26,7 @@ QString CheminPort(int numPort, const QString &dossierPorts)
     return trouve == chemins.cend() ? QString() : *trouve;
 }
 
-/// Linux keeps the names of more ports ready than the PC has; those without a chip are of type 0.
+/// Linux provides more /dev/ttyS names than the PC has ports. Those without a chip have type 0.
 bool EstSansPuce(const QString &peripherique)
 {
     QFile type(QStringLiteral("/sys/class/tty/%1/type").arg(QFileInfo(peripherique).fileName()));

@@ -19,12 +19,12 @@ struct ReglagePort
     bool ARtsCts() const { return flux == ControleFlux::RtsCts || flux == ControleFlux::RtsXonXoff; }
     /// Bits that one character takes on the line: start, data, parity and stop.
     double BitsParCaractere() const;
-    /// What the line carries.
+    /// Characters that the line carries in a second.
     double CaracteresParSeconde() const { return vitesse / BitsParCaractere(); }
 };
 
 /// Reads speed, parity, data bits and stop bits, as in "9600,e,7,1". Parity is one of n, o, e, m, s; stop bits are 1,
 /// 1.5 or 2. No flow control is set.
-/// Raises ErreurPort::Vitesse, BitsDonnees, or Reglage: the last also for 1.5 stop bits with more than 5 data bits and
-/// for 2 with 5, since no serial chip has them.
+/// Raises ErreurPort::Vitesse, BitsDonnees, or Reglage. 1.5 stop bits with more than 5 data bits, and 2 with 5, raise
+/// Reglage too, since no serial chip has them.
 ReglagePort LitReglagePort(const QString &texte);

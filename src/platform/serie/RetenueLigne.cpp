@@ -7,7 +7,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int SautSysteme = 24; // a driver counts down in steps of a FIFO, not character by character
-constexpr auto Jeu = 20ms;      // and not always at once; a refusal may be over as soon
+constexpr auto Jeu = 20ms;      // tolerance before a standstill or a refusal counts as a hold
 
 } // namespace
 

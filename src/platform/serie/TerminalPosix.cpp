@@ -37,14 +37,14 @@ tcflag_t DrapeauxParite(Parite parite)
     return 0;
 }
 
-// With 5 data bits the chips make 1.5 stop bits of what stands for 2.
+// With 5 data bits the chips send 1.5 stop bits when 2 are set (CSTOPB).
 tcflag_t Commande(const ReglagePort &reglage)
 {
     return CREAD | CLOCAL | HUPCL | BOTHER | Taille(reglage.bitsDonnees) | DrapeauxParite(reglage.parite) |
            (reglage.demiBitsArret > 2 ? CSTOPB : 0U) | (reglage.ARtsCts() ? CRTSCTS : 0U);
 }
 
-// INPCK stands without parity too: drivers tell framing errors only with it.
+// INPCK is set without parity too, since drivers report framing errors only with it.
 tcflag_t Entree(const ReglagePort &reglage)
 {
     return INPCK | PARMRK | (reglage.AXonXoff() ? IXON | IXOFF : 0U);
@@ -57,7 +57,7 @@ void RendBrut(termios2 &terminal)
     terminal.c_lflag = 0;
     terminal.c_cc[VSTART] = Xon;
     terminal.c_cc[VSTOP] = Xoff;
-    terminal.c_cc[VMIN] = 1; // with 0 a reading that finds nothing could not be told from a device that has gone
+    terminal.c_cc[VMIN] = 1; // with 0 an empty reading would look like that of an unplugged device
     terminal.c_cc[VTIME] = 0;
 }
 
@@ -65,7 +65,8 @@ void RendBrut(termios2 &terminal)
 int ReglageRefuse(const termios2 &demande, const termios2 &obtenu)
 {
     const auto voulue = static_cast<long>(demande.c_ospeed);
-    // A chip divides its clock by whole numbers; beyond 3 % the machine would not read us.
+    // A chip divides its clock by whole numbers, so the speed may deviate. Beyond 3 % the machine would misread
+    // characters.
     if (std::labs(static_cast<long>(obtenu.c_ospeed) - voulue) * 100 > voulue * 3)
         return ErreurPort::Vitesse;
     const tcflag_t ecart = demande.c_cflag ^ obtenu.c_cflag;
@@ -85,8 +86,8 @@ int PrepareTerminal(int fd)
         return errno;
     RendBrut(terminal);
     terminal.c_cflag |= CREAD | CLOCAL;
-    // Taking IXON away, which RendBrut does, is also what starts a stopped terminal: a pseudo-terminal keeps its XOFF
-    // from one use to the next as long as its other end is open.
+    // Removing IXON, as RendBrut does, also restarts a terminal stopped by XOFF. A pseudo-terminal stays stopped from
+    // one use to the next as long as its other end is open.
     return Reprise([&] { return ioctl(fd, TCSETS2, &terminal); }) < 0 ? errno : 0;
 }
 

@@ -30,7 +30,7 @@ void VeilleLigne::Ouvre(LigneSerie &ligne)
 {
     m_etats = ligne.Etats();
     m_compteurs = ligne.Compteurs();
-    m_depart = m_compteurs; // each device counts from a beginning of its own
+    m_depart = m_compteurs; // each device's counters start at a value of their own
 }
 
 QList<int> VeilleLigne::Regarde(LigneSerie &ligne)
@@ -49,7 +49,7 @@ QList<int> VeilleLigne::Regarde(LigneSerie &ligne)
         if (m_compteurs.*champ != comptes.*champ)
             codes << code;
     }
-    // A ring is one event, though the driver counts its end.
+    // One ring is one event: the driver counts its end too.
     if (!avant.anneau && (apres.anneau || m_compteurs.anneau != comptes.anneau))
         codes << EvenementPort::Sonnerie;
     return codes;

@@ -7,33 +7,33 @@
 
 #include <optional>
 
-/// What comes over a line beside its characters: the states of the machine's lines, and how often something happened.
-/// It says which events that makes, and counts the errors and the characters of a transfer.
+/// Watches a line: the states of the machine's lines and the driver's counters. It turns their changes into events, and
+/// counts the errors and received characters of a transfer.
 class VeilleLigne
 {
 public:
-    /// What the line says now is what later looks are compared with.
+    /// Takes the present state of ligne as the one to compare with.
     void Ouvre(LigneSerie &ligne);
-    /// The events (see MSComm) since the line was last looked at.
+    /// Reads the line again and returns the events (EvenementPort) since the last time.
     QList<int> Regarde(LigneSerie &ligne);
-    /// Nothing is known of the machine's lines any more; the counts stay.
+    /// Forgets the states of the machine's lines. The counts stay.
     void Oublie() { m_etats.reset(); }
-    /// Nothing where the line has no such states.
+    /// The states last read; nothing when the line has none.
     const std::optional<EtatsLigne> &Etats() const { return m_etats; }
 
-    /// The counts begin anew.
+    /// Sets the counts to 0.
     void RemetComptes();
-    /// The counts, but for emis, which the queue knows.
+    /// The counts, except emis, which MSComm adds.
     ComptesPort Comptes() const;
-    /// So many characters have come.
+    /// Notes that nombre characters have come.
     void NoteReception(qsizetype nombre);
 
 private:
     using Horloge = std::chrono::steady_clock;
 
     std::optional<EtatsLigne> m_etats;
-    CompteursLigne m_compteurs; // when the line was last looked at
-    CompteursLigne m_depart;    // when the counts began
+    CompteursLigne m_compteurs; // as last read
+    CompteursLigne m_depart;    // at the last RemetComptes
     qint64 m_recus = 0;
     Horloge::time_point m_premier;
     Horloge::time_point m_dernier;
