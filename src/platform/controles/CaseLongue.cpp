@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int LargeurUsuelle = 30; // average characters in a line, where the layout is free to choose
+constexpr int LargeurUsuelle = 30; // preferred width of a line, in average characters
 
 } // namespace
 
@@ -56,7 +56,7 @@ void CaseLongue::paintEvent(QPaintEvent *)
     peintre.drawPrimitive(QStyle::PE_FrameFocusRect, cadre);
 }
 
-/// The box itself, in the height of the first line.
+/// The rectangle of the box itself, at the height of the first line.
 QRect CaseLongue::Case() const
 {
     const QSize taille(style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
@@ -64,7 +64,7 @@ QRect CaseLongue::Case() const
     return {QPoint(0, qMax(0, (fontMetrics().height() - taille.height()) / 2)), taille};
 }
 
-/// Where the caption begins.
+/// Distance from the left edge to the caption, in pixels.
 int CaseLongue::Retrait() const
 {
     return Case().width() + style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);

@@ -2,7 +2,7 @@
 
 #include <QCheckBox>
 
-/// A check box whose caption takes as many lines as its width calls for, where the ordinary one would be cut.
+/// A check box whose caption wraps onto as many lines as it needs; that of an ordinary check box would be cut.
 class CaseLongue : public QCheckBox
 {
     Q_OBJECT

@@ -13,24 +13,24 @@ namespace {
 
 using Temps = std::chrono::milliseconds;
 
-/// How long an operator who strokes twice takes for it, and how long he needs to see that a box has come.
+/// The time in which an operator may press a key twice by mistake, and the time that he needs to see a new box.
 constexpr Temps Repos(400);
-/// A release and a stroke that lie closer together are one repetition of a key held down, which the system has not
-/// marked as such. No finger is as fast.
-constexpr quint64 Jumelles = 30; // milliseconds, by the clock of the events
+/// Some systems report the repetition of a key held down as a release and a press. No finger presses again within this
+/// time.
+constexpr quint64 Jumelles = 30; // milliseconds between the time stamps of the events
 
-/// Set at a window that holds keys back: from when on it takes those that are pressed anew.
+/// Property of a window that holds keys back: the time from which it takes newly pressed keys.
 constexpr const char *Reprise = "repriseClavier";
 
-/// The operator's hands, as the keyboard tells of them.
+/// What is known of the operator's keys.
 struct Mains
 {
     QSet<quint32> tenues;        ///< keys held down
-    Temps coup{-Repos};          ///< of the last stroke
-    quint64 instantCoup = 0;     ///< the same by the clock of the events
+    Temps coup{-Repos};          ///< when a key was last pressed
+    quint64 instantCoup = 0;     ///< time stamp of that event
     quint32 relachee = 0;        ///< the key released last
-    quint64 instantRelachee = 0; ///< by the clock of the events
-    bool repetee = false;        ///< the key that is on its way is a repetition
+    quint64 instantRelachee = 0; ///< time stamp of that event
+    bool repetee = false;        ///< the key event under way is a repetition
 };
 Mains mains;
 
@@ -39,14 +39,16 @@ Temps Maintenant()
     return std::chrono::duration_cast<Temps>(std::chrono::steady_clock::now().time_since_epoch());
 }
 
-/// The key itself where the system tells: with Shift it has another meaning, also between stroke and release.
+/// Identifies a key by its scan code where the system gives one. Its meaning may change between press and release, by
+/// Shift.
 quint32 Touche(const QKeyEvent &touche)
 {
     return touche.nativeScanCode() != 0 ? touche.nativeScanCode() : static_cast<quint32>(touche.key());
 }
 
-/// Each key comes several times: to the window, to the control, to what lies around it, as a shortcut and as a key. A
-/// release that went to no window of ours leaves its key held here: the next stroke has another time.
+/// Notes a key press. One press arrives several times: at the window, at the control and its parents, as a shortcut and
+/// as a key; its time stamp stays the same. A key whose release went to another program is still noted as held, but its
+/// next press has another time stamp.
 void SuitCoup(const QKeyEvent &evenement)
 {
     const quint32 touche = Touche(evenement);
@@ -76,13 +78,13 @@ bool Ecrit(const QWidget &cible, const QKeyEvent &touche)
     return cible.testAttribute(Qt::WA_InputMethodEnabled) && DonneUnCaractere(touche) && !EstEntree(touche);
 }
 
-/// What answers or closes a dialog.
+/// True for a key that answers or closes a dialog.
 bool Repond(const QKeyEvent &touche)
 {
     return EstEntree(touche) || touche.key() == Qt::Key_Escape || touche.key() == Qt::Key_Space;
 }
 
-/// Whether a window has to leave a key unheard.
+/// True when the window must ignore the key.
 bool Refuse(QWidget &fenetre, const QWidget &cible, const QKeyEvent &touche)
 {
     const bool dialogue = qobject_cast<QDialog *>(&fenetre) != nullptr;
@@ -97,18 +99,18 @@ bool Refuse(QWidget &fenetre, const QWidget &cible, const QKeyEvent &touche)
     return false;
 }
 
-/// A button that does something: one that only chooses leaves Enter to the default button.
+/// The button that Enter presses. On a check box or radio button Enter presses the dialog's default button instead.
 QAbstractButton *Bouton(QWidget &cible)
 {
     const bool choisit = cible.inherits("QCheckBox") || cible.inherits("QRadioButton");
     return choisit ? nullptr : qobject_cast<QAbstractButton *>(&cible);
 }
 
-/// True when a key that has come to a control goes no further.
+/// Handles a key that arrives at a control. True when it goes no further.
 bool Retenue(QWidget &cible, QKeyEvent &touche)
 {
     if (Refuse(*cible.window(), cible, touche)) {
-        touche.accept(); // a shortcut that is refused comes once more, as a key
+        touche.accept(); // so that a refused shortcut comes again as a key
         return true;
     }
     QAbstractButton *const bouton = Bouton(cible);
@@ -119,7 +121,7 @@ bool Retenue(QWidget &cible, QKeyEvent &touche)
     return true;
 }
 
-/// No menu, list or tool tip, which are windows of their own too.
+/// True for a window or dialog. Menus, lists and tool tips are windows too, of other types.
 bool EstFenetre(const QObject *objet)
 {
     const auto *const fenetre = qobject_cast<const QWidget *>(objet);
@@ -145,14 +147,14 @@ public:
             SuitCoup(touche);
             return objet->isWidgetType() && Retenue(*static_cast<QWidget *>(objet), touche);
         }
-        case QEvent::MouseButtonPress: // whoever clicks into a window has seen it
+        case QEvent::MouseButtonPress: // an operator who clicks into a window has seen it
             if (objet->isWidgetType())
                 static_cast<QWidget *>(objet)->window()->setProperty(Reprise, QVariant());
             return false;
         case QEvent::KeyRelease:
             SuitRelache(*static_cast<QKeyEvent *>(evenement));
             return false;
-        case QEvent::ApplicationStateChange: // what is released in another program is not told of
+        case QEvent::ApplicationStateChange: // releases in another program are not reported
             mains.tenues.clear();
             return false;
         default:

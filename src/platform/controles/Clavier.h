@@ -3,18 +3,18 @@
 class QObject;
 class QWidget;
 
-// What the keyboard does alike in every window, the toolkit's own dialogs among them:
+// Rules of the keyboard for every window, Qt's own dialogs included:
 //
-// - Enter presses the button of a dialog that has the keyboard. Where none has it, it presses the default one.
+// - In a dialog Enter presses the button that has the focus, or the default button when none has it.
 // - Enter, Escape and the space bar press once in a dialog, however long they are held down.
-// - A dialog that comes up or to the front over a key held down, or less than 400 ms after a stroke, takes no key for
-//   another 400 ms, and until it is released and pressed anew none that is still held down: the operator has not read
-//   it yet. What he types into a text box goes through. The main window keeps Enter out of its text in the same way.
+// - A dialog may come up while a key is held down, or less than 400 ms after a key was pressed. The operator has not
+// read it then, so it takes no key for another 400 ms, and a key still held down only after it was released and pressed
+// again. Typing into a text box is always possible. The main window keeps Enter out of its text in the same way.
 //
-// The mouse is never held back, and a click into a window ends the wait.
+// Mouse clicks are never held back; a click into a window ends its wait.
 
-/// Has all windows keep these rules as long as proprietaire lives.
+/// Applies these rules to all windows as long as proprietaire lives.
 void BrancheClavier(QObject *proprietaire);
 
-/// The third rule for a window that is in front and has just changed under the operator's hands.
+/// Applies the third rule to a window in front whose content has just changed.
 void RetientTouches(QWidget *fenetre);

@@ -2,5 +2,5 @@
 
 #include <QColor>
 
-/// The colour of a text that warns, readable on the ground of this desktop's windows, light or dark.
+/// The colour of a warning text, readable on the window background of this desktop, light or dark.
 QColor CouleurAlerte();

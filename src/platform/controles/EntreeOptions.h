@@ -2,7 +2,7 @@
 
 class QWidget;
 
-/// Has the tabulator enter each group of options of a window at the one that is chosen, from where the arrows then go
-/// on. The toolkit enters at the first one, and an arrow would choose its neighbour whatever was chosen before. A group
-/// of which none is chosen is entered at the first.
+/// Makes the Tab key enter each group of radio buttons in fenetre at the chosen one, or at the first when none is
+/// chosen. Qt always enters at the first one, and an arrow key would then choose its neighbour, whatever was chosen
+/// before.
 void EntreAuChoix(QWidget *fenetre);

@@ -16,7 +16,7 @@ QList<QRegularExpression> Formes(const QString &motif)
     const auto alternatives = motif.split(u';', Qt::SkipEmptyParts);
     for (const QString &alternative : alternatives) {
         const QString ecrit = alternative.trimmed();
-        // As everywhere in the program, "*.*" also means the names without a point.
+        // As everywhere in the program, "*.*" includes names without a point.
         QString forme = QRegularExpression::escape(ecrit == QLatin1String("*.*") ? QStringLiteral("*") : ecrit);
         forme.replace(QLatin1String("\\*"), QLatin1String(".*")).replace(QLatin1String("\\?"), QLatin1String("."));
         formes << QRegularExpression(QRegularExpression::anchoredPattern(forme),
@@ -70,7 +70,7 @@ QString FileListBox::FileName() const
 
 void FileListBox::Refresh()
 {
-    // A folder that was deleted and made again has to be watched anew.
+    // A folder that was deleted and created again must be watched again.
     if (m_guetteur.directories().isEmpty() && QFileInfo(m_dossier).isDir())
         m_guetteur.addPath(m_dossier);
     const QStringList noms = Noms();

@@ -7,8 +7,8 @@
 #include <QRegularExpression>
 #include <QStringListModel>
 
-/// The list of the plain files of one folder that match a pattern, in the order of their names. It follows the disk: a
-/// file that comes or goes while the list stands open is shown or dropped a moment later, and the selection stays.
+/// A list of the plain files in one folder that match a pattern, sorted by name. It follows the disk: files that appear
+/// or disappear are shown or removed a moment later, and the selection stays.
 class FileListBox : public QListView
 {
     Q_OBJECT
@@ -19,26 +19,26 @@ class FileListBox : public QListView
 public:
     explicit FileListBox(QWidget *parent = nullptr);
 
-    /// The folder listed, as it was given; "" before the first one.
+    /// The folder listed, as it was given to setPath; "" at first.
     QString Path() const { return m_dossier; }
-    /// Lists another folder, or the same one anew. Raises FichierIntrouvable or AccesRefuse when it cannot be listed;
-    /// the list then stays as it is.
+    /// Lists the folder dossier. Raises FichierIntrouvable or AccesRefuse when it cannot be listed; the list then
+    /// stays.
     void setPath(const QString &dossier);
 
-    /// Which names are listed: "*" stands for any characters, "?" for one, letters match in both cases, and ";" parts
-    /// alternatives. "*.*", as well as "", is every file. At first "*.*".
+    /// The pattern of the names listed. "*" stands for any characters, "?" for one, case does not matter, and ";"
+    /// separates alternatives. "*.*" and "" mean every file. "*.*" at first.
     QString Pattern() const { return m_motif; }
     /// Raises MotifRefuse for characters that no file name has (/ \ : " < > |); the pattern then stays as it is.
     void setPattern(const QString &motif);
 
-    /// The selected file, without folder; "" when none is selected.
+    /// Name of the selected file, without folder; "" when none is selected.
     QString FileName() const;
 
-    /// Reads the folder anew. One that has gone, or cannot be read any more, lists nothing.
+    /// Reads the folder again. The list is empty when the folder has gone or cannot be read.
     void Refresh();
 
 Q_SIGNALS:
-    void DblClick(); ///< a file was double-clicked, or Enter pressed on it: FileName
+    void DblClick(); ///< FileName() was double-clicked, or Enter was pressed on it
 
 protected:
     void keyPressEvent(QKeyEvent *evenement) override;
@@ -49,7 +49,7 @@ private:
 
     QString m_dossier;
     QString m_motif = QStringLiteral("*.*");
-    QList<QRegularExpression> m_formes; // one for each alternative of the pattern
+    QList<QRegularExpression> m_formes; // one expression for each alternative of the pattern
     QStringListModel m_noms;
     GuetteurDossiers m_guetteur;
 };

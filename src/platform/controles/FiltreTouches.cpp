@@ -25,14 +25,14 @@ bool PasChiffre(QChar caractere)
     return caractere < u'0' || caractere > u'9';
 }
 
-/// True for a key that gives a command. With Ctrl a key is one, whatever character some systems say it has; with Ctrl
-/// and Alt it is a character again.
+/// True for a key that gives a command: any key with Ctrl, even where the system attaches a character to it. With Ctrl
+/// and Alt (AltGr) a key types a character.
 bool EstCommande(const QKeyEvent &touche)
 {
     return touche.modifiers().testFlag(Qt::ControlModifier) && !touche.modifiers().testFlag(Qt::AltModifier);
 }
 
-/// Drops what is typed, by key or by an input method, and may not enter.
+/// Drops forbidden characters that are typed, by a key or an input method.
 class FiltreFrappe : public QObject
 {
 public:
@@ -46,7 +46,7 @@ public:
     bool eventFilter(QObject *, QEvent *evenement) override
     {
         if (evenement->type() == QEvent::InputMethod) {
-            // It goes through even without its characters: what was being composed has to go from the box.
+            // The event passes even when no characters are left: it ends the composition shown in the box.
             auto &frappe = *static_cast<QInputMethodEvent *>(evenement);
             if (const QString reste = Trie(frappe.commitString()); reste != frappe.commitString())
                 frappe.setCommitString(reste);
@@ -58,7 +58,7 @@ public:
     }
 
 private:
-    /// texte without what may not enter. A control character stays: the key that has one does something else than type.
+    /// texte without its forbidden characters. Control characters stay, since their keys do not type.
     QString Trie(QString texte) const
     {
         return texte.removeIf([this](QChar c) { return m_interdit(c) && c.category() != QChar::Other_Control; });
@@ -67,7 +67,7 @@ private:
     Interdit m_interdit;
 };
 
-/// Takes a comma for the point where it can only have been meant as one.
+/// Replaces a single comma in a text without a point by a point.
 class ValideNombre : public QRegularExpressionValidator
 {
 public:
@@ -81,11 +81,11 @@ public:
     }
 };
 
-/// Set at a box of which a comma was dropped that nobody has made good: why it was.
+/// Property of a box from which a comma was dropped and whose text was not corrected since: the notice to show.
 constexpr const char *VirguleJetee = "virguleJetee";
 
-/// Drops a comma that is typed, and says so: "0,4" would become 4 unseen. The keypad's is its point, whatever character
-/// the system gives it.
+/// Drops a typed comma and shows a notice, since "0,4" would otherwise silently become "04". A comma of the keypad
+/// counts as a point.
 class RefusVirgule : public QObject
 {
 public:
@@ -113,7 +113,8 @@ public:
     }
 
 private:
-    /// A point, or another text in the place of the one before the comma, makes good for it; further digits do not.
+    /// Follows the corrections of the operator. The comma is made good by a point, or by changing the text before it,
+    /// not by further digits.
     void Suit(const QString &texte)
     {
         if (!texte.startsWith(m_devant) || texte.count(u'.') > m_devant.count(u'.'))
@@ -122,10 +123,10 @@ private:
 
     QString m_avis;
     QLineEdit *m_saisie;
-    QString m_devant; ///< what stood before the comma that was dropped last
+    QString m_devant; ///< the text before the comma that was last dropped
 };
 
-/// Selects the whole of a box that is clicked, unless the mouse has selected a part of it.
+/// Selects the whole text of a box on a click, unless the mouse has selected a part of it.
 class SelectionAuClic : public QObject
 {
 public:
@@ -140,7 +141,7 @@ public:
     }
 };
 
-/// Sorts out of a text what no name may hold.
+/// Removes characters that a file name must not contain.
 class ValideNom : public QValidator
 {
 public:
@@ -190,7 +191,7 @@ bool RetientVirgule(QWidget *fenetre)
         saisie->setFocus();
         saisie->selectAll();
         MontreAvis(saisie, avis);
-        RetientTouches(fenetre); // a second stroke on Enter has not seen it
+        RetientTouches(fenetre); // the operator may press Enter twice before he sees the notice
         return true;
     }
     return false;

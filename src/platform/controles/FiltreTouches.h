@@ -5,36 +5,35 @@
 class QLineEdit;
 class QWidget;
 
-// What may enter a text box. A key that may not is dropped, and what is selected in the box stays.
+// Filters for the input of text boxes. A forbidden key is dropped, and the selection in the box stays.
 
-/// Keeps characters out that no name of a file or folder may hold: what a machine tool's control, or an older file
-/// system, stumbles over. Of a pasted text the rest goes in; a line end or tab, which only a paste can bring, never
-/// does.
+/// Keeps out characters that a file or folder name must not contain, because controls of machine tools or older file
+/// systems do not accept them. They are removed from a pasted text, as are line ends and tabs.
 void FiltreNom(QLineEdit *saisie);
 
-/// Lets nothing but digits be typed. A pasted text goes in as it is.
+/// Allows only digits to be typed. A pasted text enters unchanged.
 void FiltreChiffres(QLineEdit *saisie);
 
-/// Keeps a box to texts that match motif, a regular expression; a key or a pasted text that would break it is dropped.
+/// Limits a box to texts that match the regular expression motif. A key or a pasted text that does not fit is dropped.
 void LimiteTouches(QLineEdit *saisie, const QString &motif);
 
-/// The same for a box that takes a number with a point, which motif lets in. A comma that is pasted, or typed on the
-/// keypad, becomes the point; one that is typed elsewhere is dropped, and avis tells why beside the box. What the
-/// dialog does with the number goes through RetientVirgule().
+/// Same for a box that takes a number with a decimal point, which motif must allow. A comma that is pasted or typed on
+/// the keypad becomes a point. Any other typed comma is dropped, and avis is shown beside the box. The dialog must call
+/// RetientVirgule() before it uses the number.
 void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis);
 
-/// To be asked before the numbers of fenetre are taken. True once for a box in which a comma was dropped and digits may
-/// have been typed on, blind: "0,4" reads 04. The box is then selected and its notice shown again, and nothing is
-/// taken.
+/// To be called before the numbers in fenetre are used. Returns true once when a comma was dropped in a box and not
+/// corrected: the operator may have typed on without looking, so that "0,4" now reads 04. The box is then selected and
+/// its notice shown again, and the caller must not use the numbers.
 bool RetientVirgule(QWidget *fenetre);
 
-/// Tells avis beside a box, with a beep: what was typed there is not taken.
+/// Shows avis beside a box, with a beep, to say that the input was not accepted.
 void MontreAvis(QLineEdit *saisie, const QString &avis);
 
-/// Has a click in a box select all of it, as the tabulator does: what is typed then takes its place. A box that is full
-/// would take no key.
+/// Makes a click in a box select all of its text, as Tab does, so that typing replaces it. A full box would take no key
+/// otherwise.
 void SelectionneAuClic(QLineEdit *saisie);
 
-/// Shows texte in a box, whole: where it is longer than what the operator may type, the box takes that much from now
-/// on. A value of a file would otherwise be cut, and saved so.
+/// Shows the whole of texte in a box. When texte is longer than the box allows, its maximum length grows: otherwise a
+/// value from a file would be cut and later saved incomplete.
 void MontreEnEntier(QLineEdit *saisie, const QString &texte);

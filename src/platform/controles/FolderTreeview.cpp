@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A node: a folder, by its absolute path with "/" and without a final separator, but for a root.
+/// A node of the tree: a folder with its absolute path, with "/" and without a final separator (except a root).
 class Noeud : public QTreeWidgetItem
 {
 public:
@@ -22,8 +22,8 @@ public:
     {
         setText(0, nom);
         setIcon(0, icone);
-        // Every node can be opened at first. Only its opening tells whether it has folders below: looking into each one
-        // beforehand would make a long list slow, and wake every network drive.
+        // Every node first shows that it can be opened. Whether it has sub-folders is found out when it is opened:
+        // looking into each one beforehand would be slow and wake every network drive.
         setChildIndicatorPolicy(ShowIndicator);
     }
 
@@ -33,7 +33,7 @@ public:
 
     QString CheminDe(const QString &nom) const { return QDir(m_chemin).filePath(nom); }
 
-    // The column is narrow: pointing at a folder shows its whole path.
+    // The column is narrow, so the tool tip shows the whole path.
     QVariant data(int colonne, int role) const override
     {
         return role == Qt::ToolTipRole ? QDir::toNativeSeparators(m_chemin) : QTreeWidgetItem::data(colonne, role);
@@ -99,7 +99,7 @@ FolderTreeview::FolderTreeview(QWidget *parent)
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setIndentation(14);
-    // A deep folder scrolls into view instead of being cut.
+    // Long rows of deep folders can be scrolled instead of being cut.
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(&m_guetteur, &GuetteurDossiers::Change, this, &FolderTreeview::SuitLeDisque);
@@ -114,7 +114,7 @@ void FolderTreeview::showEvent(QShowEvent *evenement)
     QTreeWidget::showEvent(evenement);
 }
 
-/// A tree that is never shown reads nothing: the start of the program does not wait for the disk.
+/// Reads the tree when it is first needed, so that the start of the program does not wait for the disk.
 void FolderTreeview::LitPremierement()
 {
     if (topLevelItemCount() == 0)
@@ -160,8 +160,8 @@ void FolderTreeview::Refresh()
         Relit(topLevelItem(i));
 }
 
-/// Follows a change of the disk. The rows in sight stay where they are, whatever comes or goes further up: the operator
-/// may be about to click on one.
+/// Follows a change of the disk. The visible rows stay in place even when folders above them appear or disappear, since
+/// the operator may be about to click on one.
 void FolderTreeview::SuitLeDisque()
 {
     const QString choisi = SelectedFolder();
@@ -185,7 +185,7 @@ void FolderTreeview::Pendant(const std::function<void()> &travail)
     Refresh();
 }
 
-/// Reads the top of the tree, where volumes come and go while the program runs.
+/// Reads the top of the tree again: volumes come and go while the program runs.
 void FolderTreeview::LitSommets()
 {
     const QList<LieuRacine> lieux = Lieux();
@@ -202,8 +202,8 @@ void FolderTreeview::LitSommets()
     }
 }
 
-/// Reads the folders directly below a node. New ones get a node, those that have gone lose theirs; the others keep it,
-/// with all that is open below.
+/// Reads the folders directly below a node. New folders get a node and vanished ones lose theirs. The other nodes stay,
+/// with all that is open below them.
 void FolderTreeview::Lit(QTreeWidgetItem *noeud)
 {
     Noeud *const dossier = EnNoeud(noeud);
@@ -212,7 +212,7 @@ void FolderTreeview::Lit(QTreeWidgetItem *noeud)
     QSet<QString> absents(noms.begin(), noms.end());
     for (int i = noeud->childCount() - 1; i >= 0; --i) {
         Noeud *const enfant = EnNoeud(noeud->child(i));
-        // A hidden folder exists although it is not listed.
+        // Hidden folders are not listed, but exist.
         if (!absents.remove(enfant->text(0)) && !QFileInfo(enfant->Chemin()).isDir())
             Retire(enfant);
     }
@@ -239,7 +239,8 @@ void FolderTreeview::Relit(QTreeWidgetItem *noeud)
         Relit(noeud->child(i));
 }
 
-/// Qt reports a change of the selection also when only the row of the selected folder has changed.
+/// Emits SelectionChange when another folder is selected. Qt also reports a change when only the row of the same folder
+/// has changed.
 void FolderTreeview::Annonce()
 {
     if (const QString dossier = SelectedFolder(); dossier != m_annonce) {
@@ -253,7 +254,7 @@ QTreeWidgetItem *FolderTreeview::Choisi() const
     return selectedItems().value(0);
 }
 
-/// Takes a node out. Where it holds the selected folder, the folder above is selected first: Qt would select a
+/// Removes a node. If it contains the selected folder, the folder above is selected first, because Qt would select a
 /// neighbour.
 void FolderTreeview::Retire(QTreeWidgetItem *noeud)
 {
@@ -269,7 +270,7 @@ void FolderTreeview::Retire(QTreeWidgetItem *noeud)
     delete noeud;
 }
 
-/// The node at the top of the tree that lies nearest to a path; nullptr when none leads there.
+/// The top node with the longest path that chemin lies below; nullptr when there is none.
 QTreeWidgetItem *FolderTreeview::Sommet(const QString &chemin) const
 {
     QTreeWidgetItem *meilleur = nullptr;
@@ -282,8 +283,8 @@ QTreeWidgetItem *FolderTreeview::Sommet(const QString &chemin) const
     return meilleur;
 }
 
-/// The node below noeud with that name. The caller knows that the folder exists; where it is hidden, or came since the
-/// reading, its node is added.
+/// The node below noeud with the name nom, which must be an existing folder. A hidden folder, or one created since the
+/// reading, gets a node now.
 QTreeWidgetItem *FolderTreeview::SousDossier(QTreeWidgetItem *noeud, const QString &nom)
 {
     for (int i = 0; i < noeud->childCount(); ++i) {
@@ -296,14 +297,14 @@ QTreeWidgetItem *FolderTreeview::SousDossier(QTreeWidgetItem *noeud, const QStri
     return ajoute;
 }
 
-/// The bar of the selection goes to the edge, however short the names are.
+/// Extends the bar of the selection to the right edge, however short the names are.
 void FolderTreeview::resizeEvent(QResizeEvent *evenement)
 {
     QTreeWidget::resizeEvent(evenement);
     header()->setMinimumSectionSize(viewport()->width());
 }
 
-/// "*" alone would open every folder of the machine, at any depth.
+/// Ignores the key "*", by which Qt would open every folder of the PC at any depth.
 void FolderTreeview::keyPressEvent(QKeyEvent *evenement)
 {
     if (evenement->key() != Qt::Key_Asterisk)

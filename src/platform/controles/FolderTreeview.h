@@ -6,14 +6,14 @@
 
 #include <functional>
 
-/// The tree of the folders of this PC. At its top stand the operator's own folder, the USB keys and other volumes (see
-/// Volumes.h), and the drives (one root where the system has no drives). Every node is a real folder of the disk.
+/// The tree of the folders of this PC. At its top are the operator's home folder, the USB keys and other volumes (see
+/// Volumes.h), and the drives (one root where the system has no drives).
 ///
-/// A folder is read when it is first opened, and again at each opening. What has been read follows the disk, and the
-/// volumes come and go at the top; what is open and selected stays so. Hidden folders are left out, but for those on
-/// the way to a folder that the program itself selects.
+/// A folder is read each time it is opened. Folders that have been read follow the disk, and volumes come and go at the
+/// top; open folders stay open and the selection stays. Hidden folders are shown only on the way to a folder that the
+/// program selects.
 ///
-/// Paths: read with a final separator; written with or without.
+/// Paths are returned with a final separator and accepted with or without one.
 class FolderTreeview : public QTreeWidget
 {
     Q_OBJECT
@@ -24,24 +24,24 @@ public:
 
     /// The selected folder; "" when nothing is selected.
     QString SelectedFolder() const;
-    /// Selects a folder and opens the tree down to it. Raises FichierIntrouvable when there is no such folder; the
-    /// selection then stays.
+    /// Selects a folder and opens the tree down to it. Raises FichierIntrouvable when it does not exist; the selection
+    /// then stays.
     void setSelectedFolder(const QString &chemin);
 
-    /// The folder above the selected one; "" for a root, or when nothing is selected.
+    /// The folder above the selected one; "" for a root or when nothing is selected.
     QString Parent() const;
 
-    /// Reads what has been read of the tree anew. Where the selected folder has gone, the nearest one above it that
-    /// exists is selected; none where its volume has gone.
+    /// Reads again the folders that have been read. When the selected folder has gone, the nearest existing folder
+    /// above it is selected; none when its volume has gone.
     void Refresh();
 
-    /// Runs travail, in which the operator himself takes folders away, and then reads the tree anew. Disparu is not
-    /// emitted for these folders. Raises what travail raises.
+    /// Runs travail, which deletes or renames folders on the operator's command, and then reads the tree again. Disparu
+    /// is not emitted for these folders. Raises what travail raises.
     void Pendant(const std::function<void()> &travail);
 
 Q_SIGNALS:
-    void Disparu(const QString &dossier); ///< the selected folder, dossier, has gone; what Refresh() says is selected
-    void SelectionChange();               ///< another folder is selected, by whatever way
+    void Disparu(const QString &dossier); ///< the selected folder dossier has gone; the selection is as after Refresh()
+    void SelectionChange();               ///< another folder is selected, by the operator or the program
     void Click();                         ///< a folder was clicked, the selected one or another
 
 protected:
@@ -61,6 +61,6 @@ private:
     QTreeWidgetItem *Sommet(const QString &chemin) const;
     QTreeWidgetItem *SousDossier(QTreeWidgetItem *noeud, const QString &nom);
 
-    QString m_annonce;           // the selection last announced
+    QString m_annonce;           // the selection last reported by SelectionChange
     GuetteurDossiers m_guetteur; // watches every folder that has been read
 };

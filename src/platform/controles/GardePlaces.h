@@ -4,5 +4,5 @@
 
 class QWidget;
 
-/// Has controls that come and go keep their room while they are hidden, so that nothing moves under the mouse.
+/// Makes controls keep their place in the layout while they are hidden, so that nothing moves under the mouse.
 void GardePlaces(std::initializer_list<QWidget *> controles);

@@ -10,8 +10,7 @@ GuetteurDossiers::GuetteurDossiers()
     connect(&m_delai, &QTimer::timeout, this, &GuetteurDossiers::Change);
 }
 
-/// When a volume is mounted on a folder that is watched, the path leads to the volume and the watch does not: every
-/// watch is set anew.
+/// Sets every watch again. When a volume is mounted on a watched folder, the old watch stays on the folder below it.
 void GuetteurDossiers::ReprendGarde()
 {
     if (const QStringList dossiers = directories(); !dossiers.isEmpty()) {

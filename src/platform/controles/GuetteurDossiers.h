@@ -5,8 +5,9 @@
 #include <QFileSystemWatcher>
 #include <QTimer>
 
-/// Watches folders, and the volumes of this PC. Change comes 100 ms after something has come or gone in one of the
-/// folders, or a volume anywhere; all that happens meanwhile is one change, so copying 1000 files is not 1000 readings.
+/// Watches folders and the volumes of this PC. Change is emitted 100 ms after an entry of a watched folder, or any
+/// volume, has come or gone. Everything in between counts as one change, so copying 1000 files does not cause 1000
+/// readings.
 class GuetteurDossiers : public QFileSystemWatcher
 {
     Q_OBJECT

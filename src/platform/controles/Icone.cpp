@@ -28,7 +28,7 @@ private:
     QPixmap Trace(const QSize &taille);
 
     QString m_chemin;
-    std::shared_ptr<QSvgRenderer> m_rendu; // none before the first painting
+    std::shared_ptr<QSvgRenderer> m_rendu; // null before the first painting
 };
 
 void Dessin::paint(QPainter *peintre, const QRect &cadre, QIcon::Mode mode, QIcon::State etat)

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qsizetype Place = 2000; // characters: no line shows as many, and a tip of more would cover the screen
+constexpr qsizetype Place = 2000; // characters; no line shows as many, and a longer tool tip would cover the screen
 
 } // namespace
 
@@ -33,12 +33,12 @@ void LabelElide::Avertit(const QString &raison)
 
 QSize LabelElide::sizeHint() const
 {
-    return UneLigneDe(fontMetrics().horizontalAdvance(Ligne()) + 1); // an advance may be rounded down
+    return UneLigneDe(fontMetrics().horizontalAdvance(Ligne()) + 1); // the width may be rounded down
 }
 
 QSize LabelElide::minimumSizeHint() const
 {
-    constexpr int caracteres = 4; // what it shrinks to, the ellipsis with it
+    constexpr int caracteres = 4; // narrowest width, with the ellipsis
     return UneLigneDe(caracteres * fontMetrics().averageCharWidth());
 }
 
@@ -61,7 +61,7 @@ bool LabelElide::event(QEvent *evenement)
 {
     if (evenement->type() != QEvent::ToolTip)
         return QLabel::event(evenement);
-    // As rich text the tip has lines of its own; as plain text it would be one, longer than the screen is wide.
+    // As rich text the tool tip wraps; as plain text it would be one line wider than the screen.
     QStringList bulle;
     if (Montre() != Ligne())
         bulle << (text().size() > Place ? text().left(Place) + u'\u2026' : text());

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label that shows its text on one line, whatever line ends that holds, cut at the right with an ellipsis where it
-/// has no room; the tool tip then shows the whole. Its text() is always the whole.
+/// A label that shows its text on one line, even if the text has line ends. Text that does not fit is cut with an
+/// ellipsis, and the tool tip shows it whole. text() is always the whole text.
 class LabelElide : public QLabel
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ class LabelElide : public QLabel
 public:
     explicit LabelElide(QWidget *parent = nullptr);
 
-    /// From now on the text stands in the colour of a warning, and the tool tip tells raison behind it; "" ends that.
+    /// Shows the text in the warning colour, and raison in the tool tip behind it. "" ends the warning.
     void Avertit(const QString &raison);
 
     QSize sizeHint() const override;
@@ -26,5 +26,5 @@ private:
     QString Ligne() const;
     QString Montre() const;
 
-    QString m_raison; // of the warning
+    QString m_raison; // reason of the warning
 };

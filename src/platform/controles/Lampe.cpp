@@ -19,7 +19,7 @@ void Lampe::setFillColor(int couleur)
 
 void Lampe::setTextes(const QString &nom, const QString &allumee, const QString &eteinte)
 {
-    // A change is announced to the operator who works by ear: none must be announced where nothing changes.
+    // A screen reader speaks each change, so nothing is reported when nothing changes.
     if (nom == accessibleName() && allumee == m_allumee && eteinte == m_eteinte)
         return;
     setAccessibleName(nom);
@@ -45,7 +45,7 @@ void Lampe::paintEvent(QPaintEvent *)
     peintre.setPen(QPen(couleur.darker(170), 1.5));
     peintre.setBrush(couleur);
     peintre.drawEllipse(disque);
-    // An operator who does not tell red from green sees a lit lamp by its bright spot, an unlit one by its bar.
+    // For operators who cannot tell red from green, a lit lamp has a bright spot and an unlit one a bar.
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(Qt::white);
     if (verte)

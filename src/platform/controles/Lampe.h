@@ -2,15 +2,15 @@
 
 #include <QWidget>
 
-/// A round lamp of the status panel. It tells its state by more than its colour: lit it bears a bright spot, unlit
-/// a bar; the tool tip and the accessible description say it in words.
+/// A round lamp of the status panel. It shows its state not only by colour: a lit lamp has a bright spot, an unlit one
+/// a bar, and the tool tip and the accessible description give it in words.
 class Lampe : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(int FillColor READ FillColor WRITE setFillColor)
 
 public:
-    static constexpr int Verte = 65280; ///< red in the low byte
+    static constexpr int Verte = 65280; ///< colours as numbers with red in the low byte
     static constexpr int Rouge = 255;
 
     explicit Lampe(QWidget *parent = nullptr);
@@ -20,8 +20,8 @@ public:
     /// couleur: Verte or Rouge.
     void setFillColor(int couleur);
 
-    /// nom: what the lamp stands for, as an assistive program reads it; allumee, eteinte: the words for its two states,
-    /// as the tool tip shows them.
+    /// Sets the lamp's texts. nom: its accessible name. allumee, eteinte: the words for its two states, for the tool
+    /// tip.
     void setTextes(const QString &nom, const QString &allumee, const QString &eteinte);
 
     QSize sizeHint() const override;

@@ -20,11 +20,11 @@ public:
         if (qobject_cast<QComboBox *>(objet) == nullptr && qobject_cast<QAbstractSpinBox *>(objet) == nullptr)
             return false;
         auto &controle = *static_cast<QWidget *>(objet);
-        if (!roule && controle.focusPolicy() == Qt::WheelFocus) // or the first turn would give it the keyboard
+        if (!roule && controle.focusPolicy() == Qt::WheelFocus) // otherwise the first turn would give it the focus
             controle.setFocusPolicy(Qt::StrongFocus);
         if (!roule || controle.hasFocus())
             return false;
-        evenement->accept(); // or what lies around it would scroll
+        evenement->accept(); // otherwise the area around it would scroll
         return true;
     }
 };

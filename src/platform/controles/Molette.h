@@ -2,6 +2,6 @@
 
 class QObject;
 
-/// As long as proprietaire lives, the mouse wheel changes no list and no number that has not the keyboard: whoever
-/// scrolls over a window must not change a setting on his way. There the wheel does nothing at all.
+/// As long as proprietaire lives, the mouse wheel does nothing on a list or number box without the focus: an operator
+/// who scrolls over a window must not change a setting by accident.
 void BrancheMolette(QObject *proprietaire);

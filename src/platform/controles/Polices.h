@@ -2,7 +2,7 @@
 
 #include <future>
 
-/// Reads the system's list of fonts on a thread of its own. It is the longest single step of a start, and the first
-/// text shown would wait for it; begun before the application object is made, it costs next to no time. The result is
-/// to be waited for before the first window, or the list is read twice.
+/// Reads the system's list of fonts on a separate thread. This is the longest single step of the start, and it costs
+/// next to no time when it begins before the application object is created. Wait for the result before the first window
+/// is made, otherwise the list is read twice.
 std::future<void> LitPolices();

@@ -20,7 +20,7 @@ bool EstSombre(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-/// The keyboard is on this control, and the operator uses it.
+/// True when the control has the focus and the operator works with the keyboard.
 bool AFoyer(const QStyleOption &option)
 {
     return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
@@ -37,7 +37,7 @@ void DessineFoyer(QPainter &peintre, const QRect &place, const QPalette &palette
     peintre.restore();
 }
 
-/// True for the toolkit's own picture: a desktop's comes in larger sizes too.
+/// True for Qt's own picture, which is small. A desktop's icon has larger sizes too.
 bool EstGrossier(const QIcon &icone)
 {
     constexpr int raster = 32; // pixels
@@ -47,7 +47,7 @@ bool EstGrossier(const QIcon &icone)
 
 } // namespace
 
-/// The pictures lie in a library, and the linker would leave them there.
+/// The pictures are resources of a static library: without this call the linker would omit them.
 static void PrendDessins()
 {
     Q_INIT_RESOURCE(boites);
@@ -68,8 +68,9 @@ void StyleContraste::drawPrimitive(PrimitiveElement element, const QStyleOption 
         return;
     }
     QStyleOptionButton clair(*bouton);
-    clair.palette.setColor(QPalette::Window, option->palette.color(QPalette::WindowText)); // the outline comes from it
-    clair.state.setFlag(State_HasFocus, false);                                            // or from the highlight
+    clair.palette.setColor(QPalette::Window,
+                           option->palette.color(QPalette::WindowText)); // the outline is derived from it
+    clair.state.setFlag(State_HasFocus, false);                          // or, with the focus, from the highlight
     QProxyStyle::drawPrimitive(element, &clair, peintre, widget);
 }
 

@@ -2,11 +2,13 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style, with three differences. On a dark theme the outline of check boxes and radio buttons is
-/// light: the style Fusion draws it darker than the window, where an empty box can no longer be told from its
-/// background. There too a light frame shows where the keyboard is, which Fusion hardly tints; on a button of Fusion's
-/// the frame stands on every theme, since its default button always looks as if the keyboard were there. And on a
-/// desktop without pictures for message boxes theirs are drawn: the toolkit's are rasters, coarse on a fine screen.
+/// The desktop's own style, with three differences.
+/// - On a dark theme check boxes and radio buttons have a light outline. Fusion draws it darker than the window, so
+/// that an empty box cannot be seen.
+/// - On a dark theme a light frame shows which control has the focus, which Fusion hardly marks. With Fusion, push
+/// buttons have this frame on every theme, since its default button always looks as if it had the focus.
+/// - On a desktop without icons for message boxes the program's own drawings are used: Qt's are small pixel images,
+/// coarse on a fine screen.
 class StyleContraste : public QProxyStyle
 {
 public:

@@ -15,7 +15,7 @@ public:
     {
         if (evenement->type() != QEvent::MouseButtonPress && evenement->type() != QEvent::MouseButtonDblClick)
             return false;
-        // The toolkit takes the third of three clicks for a new one.
+        // Qt reports the third of three quick clicks as a new single click.
         const quint64 instant = static_cast<QMouseEvent *>(evenement)->timestamp();
         const auto ensemble = static_cast<quint64>(QApplication::doubleClickInterval());
         const bool suit = m_dernier != 0 && instant - m_dernier < ensemble;
@@ -24,7 +24,7 @@ public:
     }
 
 private:
-    quint64 m_dernier = 0; // by the clock of the events, in milliseconds
+    quint64 m_dernier = 0; // time stamp of the last click, in milliseconds
 };
 
 } // namespace

@@ -2,5 +2,5 @@
 
 class QAbstractButton;
 
-/// Has a double, triple or longer click press a button once. Other buttons count each click.
+/// Makes a double or triple click press bouton only once. Ordinary buttons count each click.
 void UnClic(QAbstractButton *bouton);

@@ -10,14 +10,14 @@
 
 namespace {
 
-/// A pair of CR and LF is one; so are the separators of lines and paragraphs that office programs write.
+/// Matches a line end: CR LF as one, CR, LF, and the Unicode line and paragraph separators that office programs write.
 const QRegularExpression &FinDeLigne()
 {
     static const QRegularExpression fin(QStringLiteral("\\R"));
     return fin;
 }
 
-/// Stands before the rule that a box has already, if it has one: the rule sees one line.
+/// Removes line ends before the validator that the box already has, if any, sees the text.
 class ValideLigne : public QValidator
 {
 public:
@@ -28,7 +28,7 @@ public:
     {
         saisie->setValidator(this);
         if (FinDeLigne().match(saisie->text()).hasMatch())
-            saisie->setText(saisie->text()); // through the rule, which came behind it
+            saisie->setText(saisie->text()); // validates the text that was set before
     }
 
     State validate(QString &texte, int &curseur) const override
@@ -62,7 +62,7 @@ private:
     const QValidator *m_regle;
 };
 
-/// Meets each box before it is first shown, those of the system's dialogs and of editable lists too.
+/// Gives each text box its validator before it is first shown, including those of Qt's dialogs and editable lists.
 class Rencontre : public QObject
 {
 public:

@@ -4,11 +4,10 @@
 
 class QObject;
 
-/// texte with a blank in the place of each line end.
+/// texte with each line end replaced by a blank.
 QString SurUneLigne(QString texte);
 
-/// From now on, and as long as proprietaire lives, every one-line text box of the program keeps to one line, whatever a
-/// paste, a drop or an input method brings: a line end becomes a blank. A box that holds one character takes none, and
-/// where the box has a rule of its own that takes no blank, those at the two ends go: a number copied with the end of
-/// its line is still that number.
+/// As long as proprietaire lives, line ends that enter a one-line text box by paste, drop or input method become
+/// blanks. In a box for one character they are removed. If the box's own validator refuses the result, blanks at both
+/// ends are removed, so that a number copied together with its line end is still accepted.
 void TientUneLigne(QObject *proprietaire);

@@ -8,7 +8,7 @@ namespace {
 
 const QString Table = QStringLiteral("/proc/self/mountinfo");
 
-/// A blank, a tab, a line end or a "\" in a path stands in the table as "\" and three octal digits.
+/// Decodes a path of the table, where a blank, a tab, a line end or a "\" is written as "\" and three octal digits.
 QString CheminDeTable(const QByteArray &ecrit)
 {
     constexpr int chiffres = 3;
@@ -26,7 +26,7 @@ QString CheminDeTable(const QByteArray &ecrit)
 
 QStringList VolumesDeTable(const QByteArray &table, const QString &utilisateur)
 {
-    constexpr int champ = 4; // of a line of the table: where the volume is mounted
+    constexpr int champ = 4; // index of the mount point in a line of the table
     const QStringList dossiers = {QStringLiteral("/media"), QStringLiteral("/media/") + utilisateur,
                                   QStringLiteral("/run/media/") + utilisateur, QStringLiteral("/mnt")};
     QStringList volumes;
@@ -54,7 +54,7 @@ GuetteurVolumes::GuetteurVolumes()
 {
     if (!m_table.open(QIODevice::ReadOnly))
         return;
-    // At each change the system reports an exceptional condition on the open table, once.
+    // The system reports each change of the open table as an exceptional condition.
     auto *const signal = new QSocketNotifier(m_table.handle(), QSocketNotifier::Exception, this);
     connect(signal, &QSocketNotifier::activated, this, &GuetteurVolumes::Change);
 }

@@ -4,17 +4,17 @@
 #include <QObject>
 #include <QStringList>
 
-// The USB keys, shares and other volumes that are mounted where an operator looks for them: in /media, in the folder of
-// his own session there or in /run/media, and in /mnt. The system's table of mounts is all that is read, so a share
-// whose server is silent keeps nobody waiting. Where the system has no such table there are none.
+// The USB keys, shares and other volumes mounted in the usual places: /media, /media/USER, /run/media/USER and /mnt.
+// Only the system's table of mounts is read, so a share whose server does not answer causes no wait. On a system
+// without such a table there are none.
 
-/// The folders that the volumes are mounted on, without final separator, in the order of their paths.
+/// The mount points of the volumes, without final separator, sorted by path.
 QStringList Volumes();
 
-/// The same for a table of mounts in the form of /proc/self/mountinfo and for the session of utilisateur.
+/// Same for a given table, in the form of /proc/self/mountinfo, and the user name utilisateur.
 QStringList VolumesDeTable(const QByteArray &table, const QString &utilisateur);
 
-/// Tells when something is mounted or taken away, anywhere on this PC.
+/// Emits Change when anything is mounted or unmounted on this PC.
 class GuetteurVolumes : public QObject
 {
     Q_OBJECT
@@ -26,5 +26,5 @@ Q_SIGNALS:
     void Change();
 
 private:
-    QFile m_table; // open as long as it is watched
+    QFile m_table; // open as long as this object watches it
 };

@@ -5,11 +5,11 @@
 #include <QFont>
 #include <QTextCharFormat>
 
-// The looks of the text pane.
+// Fonts and character formats of the text pane.
 
-/// The font of a text that brings none of its own. Looked for once: asking the system which fonts it has is a good part
-/// of a pane's making.
+/// The font of a text without a font of its own. It is determined once, since asking the system for its fonts takes a
+/// good part of the time in which a pane is made.
 const QFont &PoliceOrdinaire();
 
-/// The look of a stretch of rich text.
+/// The character format for a stretch of rich text.
 QTextCharFormat FormatDe(const AttributsRtf &attributs);

@@ -18,7 +18,7 @@ QByteArray CodageDePage(int page)
 
 QByteArray CodageDeJeu(int jeu)
 {
-    // After the published values of the Windows font interface.
+    // Character set numbers as published for the Windows font interface.
     static const QHash<int, QByteArray> codages{
         {77, "macintosh"},     {128, "Shift_JIS"},    {129, "windows-949"},  {134, "GBK"},
         {136, "Big5"},         {161, "windows-1253"}, {162, "windows-1254"}, {163, "windows-1258"},
@@ -32,7 +32,7 @@ QString TexteDeCodage(const QByteArray &octets, const QByteArray &codage)
     if (codage.isEmpty())
         return TexteDe1252(octets);
     QStringDecoder decodeur(codage.constData(), QStringDecoder::Flag::Stateless);
-    // A number without a converter is most often that of UTF-8, where a stray high byte is no character.
+    // A code page without a converter is most often UTF-8.
     if (!decodeur.isValid())
         decodeur = QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     return decodeur(octets);

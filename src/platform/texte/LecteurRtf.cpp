@@ -14,10 +14,10 @@
 
 namespace {
 
-/// Where the text of a group goes.
+/// Where the text of a group goes: into the document, nowhere, or into one of the file's tables.
 enum class Destination { Corps, Perdu, DoubleEcriture, Polices, Couleurs };
 
-/// The look of the text as the file tells it: numbers of its own tables, sizes in half points.
+/// The look of the text in the file's terms: numbers of its font and colour tables, sizes in half points.
 struct Style
 {
     static constexpr int PoliceDuFichier = -1;
@@ -31,17 +31,17 @@ struct Style
     bool italique = false;
     bool souligne = false;
     bool barre = false;
-    bool cache = false; ///< hidden, or deleted while changes were being tracked
+    bool cache = false; ///< hidden text, or text deleted under change tracking
 
     bool operator==(const Style &) const = default;
 };
 
-/// What a closing brace brings back.
+/// The state of the reader that a closing brace restores.
 struct GroupeRtf
 {
     Style style;
     Destination destination = Destination::Corps;
-    int remplacements = 1; ///< how many stand-ins follow a \u, for readers without Unicode
+    int remplacements = 1; ///< number of substitute characters behind each \u, for readers without Unicode
 };
 
 struct Police
@@ -50,7 +50,8 @@ struct Police
     QByteArray codage; ///< empty: that of the file
 };
 
-/// One pass over the file. Groups lie on a stack of its own, so that their depth costs memory only.
+/// Reads the file in one pass. Groups are kept on a stack in memory instead of by recursion, so that their depth is not
+/// limited.
 class Lecteur
 {
 public:
@@ -61,7 +62,7 @@ public:
 
     QList<MorceauRtf> Lit();
 
-    // What the control words do. A word's value is its number, or Absente.
+    // The handlers of control words. Their argument is the number behind the word, or Absente.
     static constexpr int Absente = std::numeric_limits<int>::min();
     void Rangee(int);
     void NonSouligne(int) { m_groupe.style.souligne = false; }
@@ -98,9 +99,9 @@ private:
     qsizetype m_place = 0;
     GroupeRtf m_groupe;
     std::vector<GroupeRtf> m_pile;
-    bool m_facultatif = false;    ///< a \* has just been read: an unknown word begins a group to skip
-    int m_remplacements = 0;      ///< stand-ins of the last \u that are still to come
-    QByteArray m_octetsEnAttente; ///< bytes of the body, not decoded yet since several can make one character
+    bool m_facultatif = false;    ///< a \* was just read: if the next word is unknown, its group is skipped
+    int m_remplacements = 0;      ///< substitute characters of the last \u that are still to come
+    QByteArray m_octetsEnAttente; ///< bytes of the body that are not decoded yet, since several can make one character
 
     QByteArray m_codage; ///< empty: code page 1252
     int m_policeOrdinaire = 0;
@@ -117,12 +118,12 @@ struct FinLigne
 {
 };
 
-/// What a word does: stands for a text, ends a line, sends the group's text elsewhere, switches a look, gives it a
-/// number, or something of its own.
+/// What a control word does: insert a text, end a line, redirect the group's text, switch or set a part of the look, or
+/// call a handler.
 using Effet =
     std::variant<const char16_t *, FinLigne, Destination, bool Style::*, int Style::*, void (Lecteur::*)(int)>;
 
-// The words that matter, after the published format; all others are passed over.
+// The control words of the published format that the reader needs. All others are ignored.
 const QHash<QByteArray, Effet> &Mots()
 {
     static const QHash<QByteArray, Effet> mots = [] {
@@ -207,7 +208,7 @@ QList<MorceauRtf> Lecteur::Lit()
         else if (c == '\\')
             LitControle();
         else if (static_cast<unsigned char>(c) >= ' ' || c == '\t')
-            Octet(c); // line ends only wrap the file itself
+            Octet(c); // line ends of the file itself mean nothing
     } while (!m_pile.empty() && m_place < m_octets.size());
     VideOctets();
     return std::move(m_morceaux);
@@ -260,7 +261,7 @@ void Lecteur::LitControle()
     case '\n':
         AppliqueMot("par", Absente, false);
         break;
-    default: // an optional hyphen and the marks of an index show nothing
+    default: // optional hyphens and index marks are invisible
         break;
     }
 }
@@ -372,7 +373,7 @@ void Lecteur::DecritCouleur(const QByteArray &nom, int valeur)
 void Lecteur::Rangee(int)
 {
     constexpr QChar Tabulation = u'\t';
-    // A cell is ended by its tab, a row needs it between its cells only.
+    // Each cell ends with a tab. The tab behind the last cell of a row is removed.
     if (!m_morceaux.isEmpty() && m_morceaux.last().texte.endsWith(Tabulation))
         m_morceaux.last().texte.chop(1);
     Ecrit(u"\r\n");
@@ -385,13 +386,13 @@ void Lecteur::PageDeCode(int valeur)
 
 void Lecteur::Unicode(int valeur)
 {
-    // Codes above 32767 stand in the file as negative numbers; a character beyond 16 bits as a pair of them.
+    // The file writes codes above 32767 as negative numbers, and a character beyond 16 bits as two codes.
     const QChar caractere(static_cast<char16_t>(valeur));
     Ecrit({&caractere, 1});
     m_remplacements = m_groupe.remplacements;
 }
 
-/// A byte of text, for the body or for the table that the group describes.
+/// Takes a byte of text, for the body or for the table that the group describes.
 void Lecteur::Octet(char octet)
 {
     if (m_groupe.destination == Destination::Corps) {
@@ -405,7 +406,7 @@ void Lecteur::Octet(char octet)
     }
 }
 
-/// A character of the body that needs no decoding.
+/// Takes a character of the body that needs no decoding.
 void Lecteur::Caractere(QStringView texte)
 {
     if (EstRemplacement())
@@ -414,8 +415,8 @@ void Lecteur::Caractere(QStringView texte)
     Ecrit(texte);
 }
 
-/// True when the character just read only stands in for a \u. A word that ends a line or changes the look never does,
-/// whatever count the writer gave: a line end lost would join two blocks of a program.
+/// True when the character just read is only a substitute for the last \u. Control words that end a line or change the
+/// look never count as substitutes, even when the file says so: a lost line end would join two blocks of a program.
 bool Lecteur::EstRemplacement()
 {
     if (m_remplacements == 0)

@@ -5,7 +5,7 @@
 #include <QList>
 #include <QString>
 
-/// How a stretch of rich text looks.
+/// The look of a stretch of rich text.
 struct AttributsRtf
 {
     QString police;     ///< name of the font; empty when the file names none
@@ -20,16 +20,16 @@ struct AttributsRtf
     bool operator==(const AttributsRtf &) const = default;
 };
 
-/// A stretch of text that looks the same throughout. Paragraphs and forced lines end in CR LF.
+/// A stretch of text with one look. Paragraphs and forced line breaks end in CR LF.
 struct MorceauRtf
 {
     QString texte;
     AttributsRtf attributs;
 };
 
-/// The text of a rich text file, in order, with its looks: what a word processor shows as the body of the document.
-/// Pictures, headers, notes, hidden and deleted text and the numbers of automatic lists are left out; a field gives its
-/// result; cells of a table are separated by tabs, its rows and page breaks by CR LF.
-/// octets: the whole file. One that breaks off in the middle gives what stands before the break.
+/// Reads the body of a rich text document, in order, with its looks. Pictures, headers, notes, hidden and deleted text
+/// and the numbers of automatic lists are left out. A field gives its result. Cells of a table are separated by tabs;
+/// rows and page breaks become CR LF.
+/// octets: the whole file. A file that breaks off gives the text before the break.
 /// Raises FormatRefuse when octets does not begin as rich text, MemoireInsuffisante.
 QList<MorceauRtf> LitRtf(const QByteArray &octets);

@@ -4,6 +4,6 @@
 
 class RichTextBox;
 
-/// A part of volet.Text(), for who has not the time to read all of it at once: nombre lines from premiere on, which
-/// counts from 0, each with its line end; "" behind the last one.
+/// Part of volet.Text(), for a caller that must not take the time to read the whole text at once: nombre lines from the
+/// line premiere on (counted from 0), each with its line end. "" when premiere lies behind the last line.
 QString LignesDe(const RichTextBox &volet, int premiere, int nombre);

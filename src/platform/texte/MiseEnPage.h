@@ -2,8 +2,9 @@
 
 #include <QPlainTextDocumentLayout>
 
-/// The layout of a plain text pane, except that a long row waits for its next painting. The plain one lays the row out
-/// anew at each change: a reception without line ends (a wrong speed or parity gives one) would do little else.
+/// The layout of a plain text pane, except that a long row is laid out only when it is next painted. The base class
+/// lays it out at each change, which would take nearly all the time of a reception without line ends (as a wrong speed
+/// or parity produces).
 class MiseEnPage : public QPlainTextDocumentLayout
 {
     Q_OBJECT
@@ -15,5 +16,5 @@ protected:
     void documentChanged(int position, int retirees, int ajoutees) override;
 
 private:
-    int m_lignes = 0; ///< of the document, at the last change
+    int m_lignes = 0; ///< lines of the document at the last change
 };

@@ -20,7 +20,8 @@
 
 namespace {
 
-/// Property of a separator's character format: its kind of line end. On typed text, which may inherit it, it is void.
+/// Property of the character format of a block separator: its kind of line end. Typed text may inherit the property;
+/// there it means nothing.
 constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
 
 } // namespace
@@ -46,8 +47,8 @@ RichTextBox::RichTextBox(QWidget *parent)
 void RichTextBox::SuitDocument()
 {
     connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int ajoutes) {
-        m_couture1 = position;
-        m_couture2 = position + ajoutes;
+        m_coutureDebut = position;
+        m_coutureFin = position + ajoutes;
     });
 }
 
@@ -67,7 +68,8 @@ void RichTextBox::PrendTexte(RichTextBox &autre)
         setText(autre.Text());
     } else {
         Q_EMIT Remplacement();
-        // The two panes exchange their documents. A document with a parent would go with the pane that lets go of it.
+        // The two panes exchange their documents. A pane deletes the old document if it is its parent, so the parents
+        // are removed first.
         QTextDocument *const mien = document();
         QTextDocument *const sien = autre.document();
         mien->disconnect(this);
@@ -173,7 +175,7 @@ void RichTextBox::RetireFin(int n)
     queue.setPosition(std::max(fin - positions, 0), QTextCursor::KeepAnchor);
     const QTextCharFormat format = FormatA(queue.selectionStart());
     queue.removeSelectedText();
-    // These positions may hold more than n characters: what is too much goes back.
+    // These positions may hold more than n characters: the surplus is inserted again.
     Insere(queue, texte.chopped(std::min<qsizetype>(n, texte.size())), format);
     queue.endEditBlock();
 }
@@ -204,7 +206,7 @@ QColor RichTextBox::SelColor() const
 
 bool RichTextBox::event(QEvent *evenement)
 {
-    // A key that the pane claims here never reaches the menu.
+    // If the pane accepted this event, the menu would never get its shortcut.
     if (evenement->type() == QEvent::ShortcutOverride && EstRaccourciDuMenu(*static_cast<QKeyEvent *>(evenement))) {
         evenement->ignore();
         return false;
@@ -214,7 +216,7 @@ bool RichTextBox::event(QEvent *evenement)
 
 void RichTextBox::keyPressEvent(QKeyEvent *evenement)
 {
-    // The menu's letters do nothing here while their entries are disabled: some of them delete text on this toolkit.
+    // A shortcut comes here when its menu entry is disabled. Qt would delete text on some of them.
     if (EstRaccourciDuMenu(*evenement)) {
         evenement->ignore();
         return;
@@ -234,7 +236,8 @@ void RichTextBox::keyPressEvent(QKeyEvent *evenement)
     evenement->setAccepted(propre.isAccepted());
 }
 
-/// Backspace and Delete take out a character, not the place where a long line goes on in the next row.
+/// Moves the cursor over the end of a row that goes on in the next one, so that Backspace and Delete remove a character
+/// and not this row end.
 void RichTextBox::PasseFinDeRang(const QKeyEvent &touche)
 {
     QTextCursor curseur = textCursor();
@@ -246,7 +249,7 @@ void RichTextBox::PasseFinDeRang(const QKeyEvent &touche)
     setTextCursor(curseur);
 }
 
-/// A row that goes on with the line above bears a bar before its first character.
+/// Draws a bar in front of each row that continues the line above.
 void RichTextBox::paintEvent(QPaintEvent *evenement)
 {
     QPlainTextEdit::paintEvent(evenement);
@@ -296,7 +299,7 @@ QMimeData *RichTextBox::createMimeDataFromSelection() const
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
 {
-    // A file that is dropped is for the window around the pane; its path is no text of the program.
+    // A dropped file is handled by the main window; the pane must not insert its path.
     return !source->hasUrls() && (source->hasText() || source->hasFormat(m_formatCopie));
 }
 
@@ -309,7 +312,7 @@ void RichTextBox::insertFromMimeData(const QMimeData *source)
     ensureCursorVisible();
 }
 
-/// Replaces the whole text by texte, which is normalised already.
+/// Replaces the whole text by texte, which must be normalised.
 void RichTextBox::Remplace(const QString &texte, const QTextCharFormat &format)
 {
     const SansAnnulation sansAnnulation(document());
@@ -321,7 +324,7 @@ void RichTextBox::Remplace(const QString &texte, const QTextCharFormat &format)
     RevientAuDebut();
 }
 
-/// Empties the document inside an edit block of the caller; format is the look of what comes next.
+/// Empties the document inside an edit block of the caller. format: the look of the text that follows.
 void RichTextBox::Vide(const QTextCharFormat &format)
 {
     Q_EMIT Remplacement();
@@ -338,9 +341,9 @@ void RichTextBox::RevientAuDebut()
     verticalScrollBar()->setValue(0);
 }
 
-/// Frees the layouts of the lines that have scrolled by during a long reception. A line keeps its layout once it has
-/// been shown, and that is many times its text; only a change of the document's layout object frees them. Done each
-/// time the text has grown by a quarter, so that it costs in proportion to the text.
+/// Frees the layouts of lines that have scrolled out of sight during a long reception. Qt keeps the layout of each line
+/// that was ever shown, which needs many times the memory of its text, and frees it only when the layout object is
+/// replaced. This happens each time the text has grown by a quarter, so that the cost stays proportional to the text.
 void RichTextBox::AllegeMiseEnPage()
 {
     constexpr int PremierSeuil = 4096;
@@ -354,8 +357,8 @@ void RichTextBox::AllegeMiseEnPage()
 /// Inserts texte at curseur, in an edit block of the caller.
 void RichTextBox::Insere(QTextCursor &curseur, const QString &texte, QTextCharFormat format)
 {
-    // The document takes CR LF, CR and LF each for one separator and gives it the format of the insertion. So all lines
-    // up to the next change of kind go in at once, and a text of one kind, however large, is not even copied.
+    // Qt makes one separator of each CR LF, CR and LF, in the format of the insertion. So all lines up to the next
+    // change of kind are inserted at once, and a text with one kind of line end is not even copied.
     qsizetype colonne = curseur.positionInBlock();
     for (qsizetype debut = 0; debut < texte.size(); colonne = 0) {
         const Troncon troncon = PremierTroncon(texte, debut, colonne);
@@ -373,14 +376,14 @@ void RichTextBox::Insere(QTextCursor &curseur, const QString &texte, QTextCharFo
     }
 }
 
-/// Makes one separator of a CR and a LF that the last edit has brought together.
+/// Joins a CR and a LF that the last edit has brought together into one line end.
 void RichTextBox::RecolleFins()
 {
-    // After an undo the document is as an earlier edit left it, and another edit would cost the operator his redo.
+    // After an undo nothing is joined: an edit now would discard what the operator can redo.
     if (!m_finsDiverses || document()->isRedoAvailable())
         return;
     const QScopedValueRollback<bool> muet(m_muet, true);
-    for (const int couture : {m_couture2, m_couture1}) {
+    for (const int couture : {m_coutureFin, m_coutureDebut}) {
         const QTextBlock vide = document()->findBlock(couture);
         if (vide.length() != 1 || !vide.previous().isValid() || !vide.next().isValid() ||
             FinAvant(vide) != FinDeLigne::Cr || FinAvant(vide.next()) != FinDeLigne::Lf)
@@ -401,7 +404,7 @@ FinDeLigne RichTextBox::FinAvant(const QTextBlock &bloc) const
     return m_finsDiverses ? static_cast<FinDeLigne>(bloc.charFormat().intProperty(ProprieteFin)) : FinDeLigne::CrLf;
 }
 
-/// brut, a text of the document that begins in bloc, with each separator given back as the line end that it stands for.
+/// Replaces each separator in brut by the line end that it stands for. brut: text of the document that begins in bloc.
 QString RichTextBox::AvecFins(const QString &brut, QTextBlock bloc) const
 {
     QString texte;
@@ -415,14 +418,15 @@ QString RichTextBox::AvecFins(const QString &brut, QTextBlock bloc) const
     return texte.append(brut.constData() + debut, brut.size() - debut);
 }
 
-/// How many positions at the end hold at least n characters: a row that goes on in the next one has one more.
+/// Number of positions at the end of the document that hold at least n characters. A long line has one more position
+/// for each row that it continues in.
 int RichTextBox::PositionsPour(qsizetype n)
 {
     return static_cast<int>(n + n / LongueurRang + 1);
 }
 
-/// The text of the last positions, or of the whole document when it has fewer. No cursor goes there: placing one lays
-/// its line out.
+/// The text of the last positions, or of the whole document when it has fewer. It is read without a cursor, since
+/// placing one would lay out its line.
 QString RichTextBox::Queue(int positions) const
 {
     const int fin = FinDuDocument();
@@ -433,7 +437,7 @@ QString RichTextBox::Queue(int positions) const
     return AvecFins(brut, document()->findBlock(debut));
 }
 
-/// How many characters of Text() stand before a position of the document.
+/// Converts a position of the document into the number of characters of Text() before it.
 int RichTextBox::PlaceDe(int position) const
 {
     QTextBlock bloc = document()->findBlock(position);
@@ -445,8 +449,8 @@ int RichTextBox::PlaceDe(int position) const
     return place;
 }
 
-/// The position of the document at place, a count of characters of Text(). apresFin: a place between CR and LF means
-/// behind that line end, otherwise before it.
+/// Converts place, a number of characters of Text(), into a position of the document. apresFin: a place between CR and
+/// LF gives the position behind that line end, otherwise the one before it.
 int RichTextBox::PositionDe(int place, bool apresFin) const
 {
     int reste = std::max(place, 0);
@@ -463,7 +467,7 @@ int RichTextBox::PositionDe(int place, bool apresFin) const
     }
 }
 
-/// The look of the character at a position of the document, or at its end of the last one.
+/// The look of the character at a position of the document; at its end the look of the last character.
 QTextCharFormat RichTextBox::FormatA(int position) const
 {
     QTextCursor curseur(document());
@@ -490,7 +494,7 @@ void RichTextBox::Habille(QTextFormat::Property propriete, const QVariant &valeu
     const SansAnnulation sansAnnulation(document());
     QTextCharFormat aspect;
     aspect.setProperty(propriete, valeur);
-    // What is typed where the whole text was deleted takes its look from the first block.
+    // After the whole text was deleted, typed text takes its look from the first block.
     if (textCursor().selectionStart() == 0)
         QTextCursor(document()).mergeBlockCharFormat(aspect);
     mergeCurrentCharFormat(aspect);

@@ -8,72 +8,72 @@
 #include <QTextCharFormat>
 #include <QTextCursor>
 
-/// The pane that holds a program. What it is given comes back exactly: each line end keeps its kind (CR LF, lone CR,
-/// lone LF) through edits and undo, and tabs, form feeds, NUL and all other characters of code page 1252 stay as they
-/// are. A character that code page 1252 lacks becomes "?" as it enters, so that what stands in the pane is what a file
-/// and the line get. Positions and lengths count the characters of Text(): CR LF is two. A line without end is shown on
-/// several rows, so that it is as quick to show as any other.
+/// The text pane, which holds a CN program exactly. Each line end keeps its kind (CR LF, lone CR, lone LF) through
+/// edits and undo, and tabs, form feeds, NUL and all other characters of code page 1252 stay as they are. A character
+/// that code page 1252 lacks becomes "?" on entry, so that the pane shows exactly what a file or the line gets.
+/// Positions and lengths count the characters of Text(), where CR LF is two. A very long line is shown on several rows,
+/// so that it takes no longer to show than others.
 ///
-/// How it works: a line end of the text is one block separator of the document. The separator's own character format
-/// carries the kind of line end, and CR LF, the ordinary kind, carries nothing. Where a long line goes on in the next
-/// row a separator stands too, of the kind that is no character.
+/// How it works: each line end of the text is one block separator of the document. The character format of the
+/// separator has a property with the kind of line end; the ordinary CR LF has none. Where a long line goes on in the
+/// next row there is a separator of the kind FinDeLigne::Aucune.
 class RichTextBox : public QPlainTextEdit
 {
     Q_OBJECT
 
 public:
-    /// Forms of LoadFile.
+    /// File formats for LoadFile.
     static constexpr int TexteRiche = 0;
     static constexpr int TexteSimple = 1;
 
     explicit RichTextBox(QWidget *parent = nullptr);
 
-    /// The whole text. Setting it keeps the look of the text's beginning, puts the insertion point at the start and
-    /// forgets what Ctrl+Z could undo.
+    /// The whole text. Setting it keeps the look of the text's beginning, moves the cursor to the start and clears the
+    /// undo history.
     QString Text() const;
     void setText(const QString &texte);
 
-    /// Takes over the text of another pane, which is empty then. Nothing is copied, however long the text, unless this
-    /// pane shows its text in a look of its own, which the text then takes.
+    /// Takes over the text of another pane, which is left empty. The text is not copied, however long it is, unless
+    /// this pane has another font or look, which the text then takes.
     void PrendTexte(RichTextBox &autre);
 
-    /// MIME type of a copy's bytes in code page 1252, with which the copy comes back exactly in this pane and in those
-    /// of the same type. Without it, as at first, a copy is text alone.
+    /// MIME type under which copied text is also offered as bytes in code page 1252, so that panes with the same type
+    /// paste it exactly. Empty at first: text is then copied as plain text only.
     void setFormatCopie(const QString &format) { m_formatCopie = format; }
 
     bool EstVide() const;
 
-    /// The line end in front of a line of the document, which is not its first.
+    /// The kind of the line end before bloc, which is not the first block of the document.
     FinDeLigne FinAvant(const QTextBlock &bloc) const;
 
-    /// The selected text. Setting it replaces the selection, in the look of its beginning, and leaves the insertion
-    /// point behind the new text.
+    /// The selected text. Setting it replaces the selection in the look of its beginning, and leaves the cursor behind
+    /// the new text.
     QString SelText() const;
     void setSelText(const QString &texte);
 
-    /// Start and length of the selection, in characters of Text(). Setting the start empties the selection; what lies
-    /// beyond the text is taken as its end, and a bound between CR and LF takes in the whole line end.
+    /// Start and length of the selection, in characters of Text(). Setting the start empties the selection. Values
+    /// beyond the text mean its end. A selection that begins or ends between CR and LF includes the whole line end.
     int SelStart() const;
     void setSelStart(int debut);
     int SelLength() const;
     void setSelLength(int longueur);
 
-    /// Appends texte, in time that depends on its length only. A CR that ended the text and a LF that begins texte are
-    /// one line end from then on. A pane scrolled to its end follows. Ctrl+Z undoes nothing from before.
+    /// Appends texte, in a time that depends on its length only. A CR at the end of the text and a LF at the beginning
+    /// of texte become one line end. A pane that is scrolled to its end stays there. Clears the undo history.
     void Ajoute(const QString &texte);
 
     /// True when the text ends with suffixe; an empty one always matches.
     bool FinitPar(const QString &suffixe) const;
 
-    /// Cuts the last n characters off; all of them when there are fewer.
+    /// Removes the last n characters, or all when there are fewer.
     void RetireFin(int n);
 
-    /// Loads a file as format says, and raises what the reading raises (see FichierTexte.h and LecteurRtf.h); the pane
-    /// then keeps what it held. Plain text takes the pane's font, rich text brings its own looks.
+    /// Loads the file at chemin. Plain text takes the pane's font, rich text has its own looks. format: TexteRiche or
+    /// TexteSimple. Raises as LitFichierTexte() and LitRtf(); the pane then keeps its text.
     void LoadFile(const QString &chemin, int format);
 
-    // The look of the selection, told by its first character, or of what is typed at the insertion point. Setting it
-    // leaves the text as it is, so Change is not emitted.
+    // The look of the first selected character, or of text typed at the cursor. Setting it does not change the text, so
+    // Change is not emitted.
     bool SelBold() const { return Police().bold(); }
     void setSelBold(bool gras) { Habille(QTextFormat::FontWeight, gras ? QFont::Bold : QFont::Normal); }
     bool SelItalic() const { return Police().italic(); }
@@ -94,13 +94,15 @@ public:
     void setSelColor(const QColor &couleur) { Habille(QTextFormat::ForegroundBrush, QBrush(couleur)); }
 
 Q_SIGNALS:
-    /// Another text is about to take the place of the whole text, which can still be read.
+    /// Emitted just before the whole text is replaced. Text() still gives the old one.
     void Remplacement();
-    /// The text was changed, by hand or by the program.
+    /// The text was changed, by the operator or by the program.
     void Change();
-    /// A key that gives texte, before the pane takes it. Backspace, Tab and Enter count; Ctrl with a letter does not.
+    /// A key that types or deletes, before the pane handles it. Backspace, Tab and Enter count; Ctrl with a letter does
+    /// not.
     void KeyPress(const QString &texte);
-    /// A button pressed at a point of the screen. The Menu key counts as the right button; the pane pops up no menu.
+    /// A mouse button was pressed at a point of the screen. The Menu key counts as the right button. The pane has no
+    /// context menu of its own.
     void MouseDown(Qt::MouseButton bouton, const QPoint &ici);
 
 protected:
@@ -137,8 +139,8 @@ private:
 
     QString m_formatCopie;
     bool m_finsDiverses = false; ///< the text may hold line ends other than CR LF
-    bool m_muet = false;         ///< what changes now is not for Change
+    bool m_muet = false;         ///< changes are not reported by Change for now
     int m_lignesAllegees = 0;    ///< lines that the text had when AllegeMiseEnPage last ran
-    int m_couture1 = 0;          ///< where the last edit began, and where what it inserted ended: the only places at
-    int m_couture2 = 0;          ///< which a CR and a LF can newly have met
+    int m_coutureDebut = 0;      ///< start of the last edit, and end of the text that it inserted: the only places
+    int m_coutureFin = 0;        ///< where a CR and a LF can newly have met
 };

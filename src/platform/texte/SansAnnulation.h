@@ -2,7 +2,8 @@
 
 #include <QTextDocument>
 
-/// Work on a text that Ctrl+Z cannot undo: for a whole program the undo store would outweigh the text.
+/// Switches undo off while it lives and clears the undo history. For a whole program the history would need more memory
+/// than the text.
 class SansAnnulation
 {
 public:

@@ -2,8 +2,8 @@
 
 #include <QKeyEvent>
 
-// What a key means to the text pane.
+// The meaning of keys in the text pane.
 
-/// Ctrl with a letter is a shortcut of the menu, except for those of the pane: all, cut, paste, redo, undo. Alt with a
-/// character is one too, whether a menu bears that letter or not: left to itself the toolkit would type it.
+/// True for a shortcut of the menu. Ctrl with a letter is one, except those of the pane: select all, paste, cut, redo,
+/// undo. Alt with a character is one too, even if no menu has that letter, because Qt would type the character.
 bool EstRaccourciDuMenu(const QKeyEvent &touche);
