@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QSocketNotifier>
+#include <QtGlobal>
 
 #include <functional>
 #include <memory>
 
-/// Catches the signals by which the system asks the process to end: a closed terminal, Ctrl+C in it, the end of a
-/// session. It runs a last function from the event loop, then ends the process by the same signal. Only one instance
-/// may exist at a time.
+/// Catches the system's request to end the process, runs a last function, then lets the process end. Only one instance
+/// may exist at a time. Each system has its own unit for this class.
+/// Linux: the signals of a closed terminal, of Ctrl+C in it and of the end of a session; the function runs from the
+/// event loop, and the process ends by the same signal. Windows: the end of the session.
 class FinDemandee
 {
 public:
@@ -17,8 +18,6 @@ public:
     Q_DISABLE_COPY_MOVE(FinDemandee)
 
 private:
-    void Finit();
-
-    std::function<void()> m_avant;
-    std::unique_ptr<QSocketNotifier> m_guetteur;
+    struct Systeme;
+    const std::unique_ptr<Systeme> m_systeme;
 };

@@ -1,7 +1,7 @@
 #include "Essais.h"
 #include "platform/controles/FileListBox.h"
 #include "platform/controles/FolderTreeview.h"
-#include "platform/controles/Volumes.h"
+#include "platform/controles/VolumesPosix.h"
 #include "platform/fichiers/Dossiers.h"
 #include "platform/fichiers/FichierTexte.h"
 

@@ -1,6 +1,9 @@
+#include "platform/controles/VolumesPosix.h"
+
 #include "platform/controles/Volumes.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSocketNotifier>
 
@@ -49,12 +52,19 @@ QStringList Volumes()
     return VolumesDeTable(table.readAll(), qEnvironmentVariable("USER", QDir::home().dirName()));
 }
 
-GuetteurVolumes::GuetteurVolumes()
-    : m_table(Table)
+struct GuetteurVolumes::Systeme
 {
-    if (!m_table.open(QIODevice::ReadOnly))
+    QFile table{Table}; // open as long as it is watched
+};
+
+GuetteurVolumes::GuetteurVolumes()
+    : m_systeme(std::make_unique<Systeme>())
+{
+    if (!m_systeme->table.open(QIODevice::ReadOnly))
         return;
     // The system reports each change of the open table as an exceptional condition.
-    auto *const signal = new QSocketNotifier(m_table.handle(), QSocketNotifier::Exception, this);
+    auto *const signal = new QSocketNotifier(m_systeme->table.handle(), QSocketNotifier::Exception, this);
     connect(signal, &QSocketNotifier::activated, this, &GuetteurVolumes::Change);
 }
+
+GuetteurVolumes::~GuetteurVolumes() = default;
