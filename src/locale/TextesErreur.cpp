@@ -1,13 +1,13 @@
 #include "locale/TextesErreur.h"
 
 #include "locale/Langue.h"
+#include "platform/base/Cause.h"
 #include "platform/serie/ErreurPort.h"
 #include "platform/serie/EvenementPort.h"
 
 #include <QStringList>
 
 #include <algorithm>
-#include <cerrno>
 #include <iterator>
 
 namespace {
@@ -156,77 +156,81 @@ constexpr TexteSysteme TextesSysteme[] = {
      {u"L'opérateur a annulé.", u"The operator has cancelled.", u"El operador ha cancelado."}},
 };
 
-/// A cause that the system names by a number (errno), in the operator's words.
+/// A cause in the operator's words.
 struct TexteCause
 {
-    int numero;
+    Cause cause;
     int dit; ///< the number of Erreur whose text says as much already, else 0
     Texte3 texte;
 };
 
 constexpr TexteCause TextesCause[] = {
-    {ENOENT,
+    {Cause::Absent,
      Erreur::FichierIntrouvable,
      {u"Le fichier, le dossier ou l'appareil n'existe pas.", u"The file, directory or device does not exist.",
       u"El fichero, el directorio o el aparato no existe."}},
-    {ENOTDIR,
+    {Cause::PasUnDossier,
      0,
      {u"Un nom du chemin n'est pas celui d'un dossier.", u"A name in the path is not that of a directory.",
       u"Un nombre de la ruta no es el de un directorio."}},
-    {EISDIR,
+    {Cause::EstUnDossier,
      0,
      {u"Ce nom est celui d'un dossier.", u"This name is that of a directory.", u"Este nombre es el de un directorio."}},
-    {EEXIST, 0, {u"Ce nom existe déjà.", u"This name exists already.", u"Este nombre ya existe."}},
-    {ENAMETOOLONG, 0, {u"Le nom est trop long.", u"The name is too long.", u"El nombre es demasiado largo."}},
-    {EACCES,
+    {Cause::ExisteDeja, 0, {u"Ce nom existe déjà.", u"This name exists already.", u"Este nombre ya existe."}},
+    {Cause::NomTropLong, 0, {u"Le nom est trop long.", u"The name is too long.", u"El nombre es demasiado largo."}},
+    {Cause::SansDroits,
      Erreur::AccesRefuse,
      {u"Les droits ne suffisent pas.", u"The rights do not suffice.", u"Los derechos no bastan."}},
-    {EPERM,
+    {Cause::NonPermis,
      Erreur::AccesRefuse,
      {u"Le système ne le permet pas.", u"The system does not permit it.", u"El sistema no lo permite."}},
-    {EROFS,
+    {Cause::ProtegeEnEcriture,
      0,
      {u"Le disque est protégé contre l'écriture.", u"The disk is write-protected.",
       u"El disco está protegido contra escritura."}},
-    {ENOSPC, Erreur::DisqueSature, {u"Il n'y a plus de place.", u"There is no room left.", u"No queda sitio."}},
-    {EDQUOT,
+    {Cause::DisquePlein,
+     Erreur::DisqueSature,
+     {u"Il n'y a plus de place.", u"There is no room left.", u"No queda sitio."}},
+    {Cause::QuotaEpuise,
      0,
      {u"La place accordée à cet utilisateur est épuisée.", u"The room granted to this user is used up.",
       u"El espacio concedido a este usuario está agotado."}},
-    {EFBIG,
+    {Cause::FichierTropGrand,
      0,
      {u"Le fichier est trop grand pour ce disque.", u"The file is too large for this disk.",
       u"El fichero es demasiado grande para este disco."}},
-    {EMFILE,
+    {Cause::TropDeFichiers,
      0,
      {u"Le programme a trop de fichiers ouverts.", u"The program has too many files open.",
       u"El programa tiene demasiados ficheros abiertos."}},
-    {ENFILE,
+    {Cause::TropDeFichiersSysteme,
      0,
      {u"Le système a trop de fichiers ouverts.", u"The system has too many files open.",
       u"El sistema tiene demasiados ficheros abiertos."}},
-    {EMLINK,
+    {Cause::TropDeLiens,
      0,
      {u"Ce nom a trop de liens.", u"This name has too many links.", u"Este nombre tiene demasiados enlaces."}},
-    {ELOOP,
+    {Cause::LiensEnBoucle,
      0,
      {u"Le chemin passe par trop de liens.", u"The path leads through too many links.",
       u"La ruta pasa por demasiados enlaces."}},
-    {ENOTEMPTY, 0, {u"Le dossier n'est pas vide.", u"The directory is not empty.", u"El directorio no está vacío."}},
-    {EBUSY,
+    {Cause::DossierNonVide,
+     0,
+     {u"Le dossier n'est pas vide.", u"The directory is not empty.", u"El directorio no está vacío."}},
+    {Cause::Utilise,
      0,
      {u"Il est utilisé par un autre programme.", u"It is in use by another program.",
       u"Otro programa lo está utilizando."}},
-    {EINVAL,
+    {Cause::NonAccepte,
      0,
      {u"Le système n'accepte pas ce nom ou ce réglage.", u"The system does not accept this name or setting.",
       u"El sistema no acepta este nombre o este ajuste."}},
-    {EIO,
+    {Cause::NeRepondPlus,
      0,
      {u"Le disque ou l'appareil ne répond plus.", u"The disk or device no longer answers.",
       u"El disco o el aparato ya no responde."}},
-    {ENODEV, 0, {u"L'appareil n'est plus là.", u"The device is gone.", u"El aparato ya no está."}},
-    {ENXIO, 0, {u"L'appareil n'est pas là.", u"The device is not there.", u"El aparato no está."}},
+    {Cause::AppareilParti, 0, {u"L'appareil n'est plus là.", u"The device is gone.", u"El aparato ya no está."}},
+    {Cause::AppareilAbsent, 0, {u"L'appareil n'est pas là.", u"The device is not there.", u"El aparato no está."}},
 };
 
 constexpr Texte3 CauseInconnue{u"Cause inconnue, numéro %1.", u"Unknown cause, number %1.",
@@ -242,19 +246,19 @@ const auto *Ligne(const Table &table, int numero)
 }
 
 /// The cause in the operator's words; empty where there is none, or where the text of the failure tells it.
-QString Cause(const Erreur &erreur)
+QString TexteDeCause(const Erreur &erreur)
 {
     if (erreur.Cause() == 0)
         return {};
-    const auto *const cause = Ligne(TextesCause, erreur.Cause());
-    if (cause == nullptr)
+    const auto *const cause = std::ranges::find(TextesCause, CauseDe(erreur.Cause()), &TexteCause::cause);
+    if (cause == std::end(TextesCause))
         return Texte(CauseInconnue).arg(erreur.Cause());
     return cause->dit == erreur.Numero() ? QString() : Texte(cause->texte);
 }
 
 QString AvecDetails(const QString &texte, const Erreur &erreur)
 {
-    QStringList lignes{texte, erreur.Objet(), Cause(erreur)};
+    QStringList lignes{texte, erreur.Objet(), TexteDeCause(erreur)};
     lignes.removeAll(QString());
     return lignes.join(u'\r');
 }

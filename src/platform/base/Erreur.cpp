@@ -1,8 +1,7 @@
 #include "platform/base/Erreur.h"
 
+#include "platform/base/Cause.h"
 #include "platform/base/Journal.h"
-
-#include <cerrno>
 
 namespace {
 
@@ -10,6 +9,24 @@ QString Decrit(const QString &objet, int cause)
 {
     const QString separe = objet.isEmpty() || cause == 0 ? QString() : QStringLiteral(": ");
     return objet + separe + (cause == 0 ? QString() : qt_error_string(cause));
+}
+
+int NumeroDeFichier(Cause cause)
+{
+    switch (cause) {
+    case Cause::DisquePlein:
+    case Cause::QuotaEpuise:
+        return Erreur::DisqueSature;
+    case Cause::Absent:
+    case Cause::PasUnDossier:
+        return Erreur::FichierIntrouvable;
+    case Cause::SansDroits:
+    case Cause::NonPermis:
+    case Cause::ProtegeEnEcriture:
+        return Erreur::AccesRefuse;
+    default:
+        return Erreur::ErreurFichier;
+    }
 }
 
 } // namespace
@@ -25,11 +42,7 @@ Erreur::Erreur(int numero, const QString &objet, int cause)
 
 Erreur ErreurDeFichier(int cause, const QString &objet)
 {
-    const int numero = cause == ENOSPC || cause == EDQUOT                    ? Erreur::DisqueSature
-                       : cause == ENOENT || cause == ENOTDIR                 ? Erreur::FichierIntrouvable
-                       : cause == EACCES || cause == EPERM || cause == EROFS ? Erreur::AccesRefuse
-                                                                             : Erreur::ErreurFichier;
-    Erreur erreur(numero, objet, cause);
-    qCInfo(JournalFichiers) << "failure" << numero << erreur.Description();
+    Erreur erreur(NumeroDeFichier(CauseDe(cause)), objet, cause);
+    qCInfo(JournalFichiers) << "failure" << erreur.Numero() << erreur.Description();
     return erreur;
 }

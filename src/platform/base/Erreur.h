@@ -12,7 +12,7 @@ class Erreur : public std::exception
 public:
     /// numero: the number by which the program knows the failure (see the constants below and ErreurPort.h).
     /// objet: what failed: the file, the device, the value.
-    /// cause: the system's own number for it (errno), 0 where it has none.
+    /// cause: the system's own number for it (see Cause.h), 0 where it has none.
     Erreur(int numero, const QString &objet, int cause = 0);
 
     int Numero() const { return m_numero; }
@@ -44,7 +44,7 @@ private:
     QByteArray m_octets;
 };
 
-/// The failure of an operation on files or folders that the system refused with cause (errno): DisqueSature,
+/// The failure of an operation on files or folders that the system refused with cause: DisqueSature,
 /// FichierIntrouvable, AccesRefuse, or else ErreurFichier.
 Erreur ErreurDeFichier(int cause, const QString &objet = {});
 

@@ -1,0 +1,6 @@
+#include "platform/base/Casse.h"
+
+Qt::CaseSensitivity CasseDesChemins()
+{
+    return Qt::CaseInsensitive;
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <windows.h>
+
+// Numbers of GetLastError() that the headers of this compiler lack.
+
+constexpr DWORD ErreurDossier = 336; ///< ERROR_DIRECTORY_NOT_SUPPORTED: a folder where a file is expected
+constexpr DWORD ErreurQuota = 1295;  ///< ERROR_DISK_QUOTA_EXCEEDED
