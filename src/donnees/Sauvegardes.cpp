@@ -4,14 +4,12 @@
 #include "donnees/EtatDocument.h"
 #include "platform/base/Erreur.h"
 #include "platform/fichiers/Dossiers.h"
+#include "platform/fichiers/FichierDisque.h"
 #include "platform/fichiers/FichierTexte.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QRegularExpression>
-
-#include <cerrno>
-#include <filesystem>
 
 namespace {
 
@@ -64,14 +62,15 @@ QString Reserve(const QString &nom, const QDateTime &date)
     AssureDossier(dossier);
     for (int rang = 1;; ++rang) {
         const QString suite = rang == 1 ? QString() : QStringLiteral(" (%1)").arg(rang);
-        QFile fichier(AjouteAntislash(dossier) + racine + date.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + suite +
-                      fin);
-        errno = 0;
-        if (fichier.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-            return fichier.fileName();
-        const int cause = errno;
-        if (!fichier.exists())
-            throw ErreurDeFichier(cause);
+        const QString chemin =
+            AjouteAntislash(dossier) + racine + date.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + suite + fin;
+        try {
+            const FichierDisque reserve(chemin, FichierDisque::Usage::Cree);
+            return chemin;
+        } catch (const Erreur &) {
+            if (!QFile::exists(chemin))
+                throw;
+        }
     }
 }
 
@@ -153,17 +152,20 @@ QString GardeCopie(const QString &chemin)
 
 QString GardeTelQuel(const QString &chemin, const QString &nom)
 {
+    QString place;
     try {
-        const QString place = Reserve(NomPourTexte(nom), QFileInfo(chemin).lastModified());
-        std::error_code cause;
-        std::filesystem::rename(QFile::encodeName(chemin).constData(), QFile::encodeName(place).constData(), cause);
-        if (!cause)
-            return place;
-        QFile::remove(place);
+        place = Reserve(NomPourTexte(nom), QFileInfo(chemin).lastModified());
     } catch (const Erreur &erreur) {
         DitEchecSauvegarde(erreur);
+        return chemin;
     }
-    return chemin;
+    try {
+        RemplaceFichier(chemin, place);
+        return place;
+    } catch (const Erreur &) {
+        QFile::remove(place);
+        return chemin;
+    }
 }
 
 void EcouteSauvegardes(std::function<void(const Erreur &)> echec)

@@ -4,6 +4,7 @@
 #include "donnees/Sauvegardes.h"
 #include "platform/base/Erreur.h"
 #include "platform/fichiers/Dossiers.h"
+#include "platform/fichiers/FichierDisque.h"
 #include "platform/fichiers/FichierTenu.h"
 #include "platform/fichiers/FichierTexte.h"
 
@@ -11,7 +12,6 @@
 #include <QDir>
 #include <QRandomGenerator>
 
-#include <filesystem>
 #include <future>
 #include <mutex>
 
@@ -44,15 +44,13 @@ QString Debut()
 void Pose(const QString &partiel, const QString &chemin, std::unique_ptr<FichierTenu> tenu)
 {
     const std::lock_guard garde(place.verrou);
-    std::error_code cause;
-    if (place.voulu)
-        std::filesystem::rename(QFile::encodeName(partiel).constData(), QFile::encodeName(chemin).constData(), cause);
-    else
+    if (!place.voulu) {
         QFile::remove(partiel);
-    if (cause)
-        throw ErreurDeFichier(cause.value());
-    if (!place.voulu)
         return;
+    }
+    if (!FichierTenu::SeRemplace())
+        place.tenu.reset(); // and is held again a moment later, as the new one
+    RemplaceFichier(partiel, chemin);
     if (!place.chemin.isEmpty() && place.chemin != chemin)
         QFile::remove(place.chemin); // the program was given another name meanwhile
     place.chemin = chemin;
