@@ -38,7 +38,7 @@ QString Compte(const ContenuDossier &contenu)
 
 bool Accepte(const QString &chemin, const ContenuDossier &contenu)
 {
-    const bool lien = QFileInfo(chemin).isSymLink();
+    const bool lien = EstLien(chemin);
     const QString question =
         lien ? Texte(QuestionLien) + u'\r' + chemin : Texte(QuestionDossier) + u'\r' + chemin + u'\r' + Compte(contenu);
     return Confirme(question, Boite::Exclamation | Boite::SecondBouton, Texte(QuestionTitre));

@@ -1,5 +1,6 @@
 #include "platform/controles/FolderTreeview.h"
 
+#include "platform/base/Casse.h"
 #include "platform/base/Erreur.h"
 #include "platform/controles/Volumes.h"
 
@@ -83,7 +84,9 @@ QList<LieuRacine> Lieux()
 
 bool EstSous(const QString &chemin, const QString &dossier)
 {
-    return chemin == dossier || chemin.startsWith(dossier.endsWith(u'/') ? dossier : dossier + u'/');
+    const Qt::CaseSensitivity casse = CasseDesChemins();
+    return chemin.compare(dossier, casse) == 0 ||
+           chemin.startsWith(dossier.endsWith(u'/') ? dossier : dossier + u'/', casse);
 }
 
 QString AvecSeparateur(const QString &chemin)
@@ -288,7 +291,7 @@ QTreeWidgetItem *FolderTreeview::Sommet(const QString &chemin) const
 QTreeWidgetItem *FolderTreeview::SousDossier(QTreeWidgetItem *noeud, const QString &nom)
 {
     for (int i = 0; i < noeud->childCount(); ++i) {
-        if (noeud->child(i)->text(0) == nom)
+        if (noeud->child(i)->text(0).compare(nom, CasseDesChemins()) == 0)
             return noeud->child(i);
     }
     auto *const ajoute = new Noeud(EnNoeud(noeud)->CheminDe(nom), nom, style()->standardIcon(QStyle::SP_DirIcon));

@@ -6,7 +6,7 @@
 #include <optional>
 
 // Making, renaming and deleting folders. A failure raises AccesRefuse, FichierIntrouvable, DisqueSature or
-// ErreurFichier; its description names the path.
+// ErreurFichier; its description names the path. Each system has its own unit for what changes the disk.
 
 /// Number of entries of a folder at any depth. A link counts as one file, whatever it leads to.
 struct ContenuDossier
@@ -18,6 +18,9 @@ struct ContenuDossier
 /// Counts the entries of the folder at chemin, as far as it can be read. A link to a folder counts as empty. Never
 /// raises.
 ContenuDossier CompteContenu(const QString &chemin);
+
+/// True for a link: a symbolic link or, on Windows, a junction.
+bool EstLien(const QString &chemin);
 
 /// True for the root of a drive or of a volume such as a USB key.
 bool EstRacine(const QString &chemin);
