@@ -15,6 +15,7 @@
 #include "platform/controles/GardePlaces.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/dialogues/CommonDialog.h"
+#include "platform/fichiers/Lanceur.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
@@ -50,11 +51,8 @@ constexpr Texte3 FinPerdue{
     u"Elegir otro final de transferencia, como EOT, aquí y en la máquina, o el control de flujo RTS/CTS."};
 
 constexpr char16_t TitreEditeur[] = u"Choix de l'éditeur de programmes CN";
-constexpr char16_t FiltreEditeur[] = u"Fichiers EXE |*.exe|Fichiers COM |*.com|Fichiers BAT |*.bat|Fichiers PIF |*.pif"
-#ifndef Q_OS_WIN
-                                     u"|*|*.*" // programs have no ending of their own there
-#endif
-    ;
+constexpr char16_t FiltreEditeur[] = u"Fichiers EXE |*.exe|Fichiers COM |*.com|Fichiers BAT |*.bat|Fichiers PIF |*.pif";
+constexpr char16_t FiltreSansExtension[] = u"|*|*.*";
 
 /// The button that opens the chooser on a chain, and its title.
 struct EditionChaine
@@ -290,7 +288,10 @@ void Prop::VaA(QLineEdit *boite)
 /// A "Dorvanel.CFG" that cannot be written is told; the editor is in force for this run all the same.
 void Prop::Command5_Click()
 {
-    CommonDialog1->PrepareFichier(QString::fromUtf16(TitreEditeur), QString::fromUtf16(FiltreEditeur));
+    QString filtre = QString::fromUtf16(FiltreEditeur);
+    if (ProgrammesSansExtension())
+        filtre += QString::fromUtf16(FiltreSansExtension);
+    CommonDialog1->PrepareFichier(QString::fromUtf16(TitreEditeur), filtre);
     try {
         CommonDialog1->ShowOpen();
         Reglages.EditeurCN = CommonDialog1->FileName;

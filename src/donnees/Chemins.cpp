@@ -1,10 +1,11 @@
 #include "donnees/Chemins.h"
 
+#include "platform/fichiers/Lieux.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 namespace {
 
@@ -26,13 +27,6 @@ void CopieExemples(const QString &de, const QString &vers)
     }
 }
 
-/// $XDG_DATA_HOME, which counts only where it is absolute: the program changes its current folder.
-QString DonneesUtilisateur()
-{
-    const QString dossier = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return QDir::isAbsolutePath(dossier) ? dossier : QDir::homePath() + QStringLiteral("/.local/share");
-}
-
 /// A start that finds no settings is the first one, even where the folder is there: the operator may have tied his
 /// adapter to a port in it before. Later starts bring back nothing that he has deleted.
 QString DossierUtilisateur(const QString &dossierProgramme)
@@ -41,13 +35,6 @@ QString DossierUtilisateur(const QString &dossierProgramme)
     if (!QFileInfo::exists(dossier + QStringLiteral("/Dorvanel.ini")) && QDir().mkpath(dossier))
         CopieExemples(dossierProgramme, dossier);
     return dossier;
-}
-
-/// What lies below /usr belongs to the package manager, which must find it as it laid it, even when it is root that
-/// starts the program and could write there.
-bool EstInstalle(const QString &dossier)
-{
-    return dossier.startsWith(QLatin1String("/usr/")) || !QFileInfo(dossier).isWritable();
 }
 
 QString DossierOrdinaire()

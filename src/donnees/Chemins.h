@@ -5,8 +5,8 @@
 // Paths. The folder separator is the platform's: "\" on Windows, "/" elsewhere.
 
 /// The folder that holds the settings and the samples: the folder of the program file or, where that cannot be written
-/// or lies below /usr (an installed program), the folder Dorvanel in the user's own data, which gets a copy of the
-/// samples on the first start. Which of the two it is stays the same for the whole run.
+/// or lies below /usr or Program Files (an installed program), the folder Dorvanel in the user's own data, which gets a
+/// copy of the samples on the first start. Which of the two it is stays the same for the whole run.
 QString DossierApplication();
 
 /// Puts another folder in its place; a test gives itself one. "" goes back to the ordinary one.
