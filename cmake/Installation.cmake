@@ -5,7 +5,7 @@ include(GNUInstallDirs)
 set(PAQUET ${PROJECT_SOURCE_DIR}/paquet)
 set(FABRIQUE ${PROJECT_BINARY_DIR}/paquet)
 set(DOSSIER_PROGRAMME lib/dorvanel)
-set(TAILLES_ICONE 16 22 24 32 48 64 128 256)
+set(TAILLES_THEME 16 22 24 32 48 64 128 256)
 
 # A release is a version of the project with its heading, and so its day, in CHANGELOG.md.
 file(STRINGS ${PROJECT_SOURCE_DIR}/CHANGELOG.md TITRE REGEX "^## \\[${PROJECT_VERSION}\\] - ")
@@ -31,15 +31,12 @@ foreach(COMMANDE dorvanel essai)
 endforeach()
 
 # Icons in the theme's sizes, drawn from the one drawing
-set(ICONE ${PROJECT_SOURCE_DIR}/resources/icones/Dorvanel.svg)
-foreach(TAILLE IN LISTS TAILLES_ICONE)
-    list(APPEND ICONES ${FABRIQUE}/icones/${TAILLE}.png)
+dessine_icone(Dorvanel ${FABRIQUE}/icones ${TAILLES_THEME})
+foreach(TAILLE IN LISTS TAILLES_THEME)
     install(FILES ${FABRIQUE}/icones/${TAILLE}.png RENAME dorvanel.png
             DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${TAILLE}x${TAILLE}/apps)
 endforeach()
-add_custom_command(OUTPUT ${ICONES} DEPENDS icones ${ICONE}
-                   COMMAND icones ${ICONE} ${FABRIQUE}/icones ${TAILLES_ICONE} VERBATIM)
-install(FILES ${ICONE} RENAME dorvanel.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES resources/icones/Dorvanel.svg RENAME dorvanel.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 
 # The desktop: menu entry, file types, software catalogue
 install(FILES ${PAQUET}/dorvanel.desktop ${PAQUET}/zz-dorvanel-autres.desktop
@@ -61,7 +58,7 @@ install(FILES ${FABRIQUE}/changelog.gz DESTINATION ${DOCS})
 install(FILES ${FABRIQUE}/dorvanel.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${FABRIQUE}/dorvanel.1.gz RENAME dorvanel-essai.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
-add_custom_target(a_installer ALL DEPENDS ${ICONES} ${COMPRIMES})
+add_custom_target(a_installer ALL DEPENDS ${IMAGES} ${COMPRIMES})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dorvanel)

@@ -17,7 +17,7 @@ FrmConfDem::FrmConfDem(QWidget *parent)
     setupUi(this);
     AppliqueLegendes(this);
     for (QPushButton *bouton : {Command1, Command2, Command5})
-        bouton->setIcon(Icone(QStringLiteral(":/icones/Mnu_Ouvrir.svg")));
+        bouton->setIcon(Icone(QStringLiteral(":/icones/Mnu_Ouvrir")));
     connect(Command1, &QPushButton::clicked, this, [this] { ChoisitDossier(LblDos, LigneNom::Citee); });
     connect(Command2, &QPushButton::clicked, this, &FrmConfDem::Command2_Click);
     connect(Command5, &QPushButton::clicked, this, [this] { ChoisitDossier(LabelDosConf, LigneNom::Nue); });

@@ -32,7 +32,7 @@ Apropos::Apropos(QWidget *parent)
         Label1->setText(PourAffichage(programme));
     Label4->setText(QString::fromUtf16(AdresseCourrier));
     Label5->setText(QString::fromUtf16(AdresseSite));
-    Image1->setPixmap(Icone(QStringLiteral(":/icones/Dorvanel.svg")).pixmap(CoteImage));
+    Image1->setPixmap(Icone(QStringLiteral(":/icones/Dorvanel")).pixmap(CoteImage));
     connect(Label8, &QPushButton::clicked, this, Mnu_AideEnLigne);
     connect(Label4, &QPushButton::clicked, this, &Apropos::Label4_Click);
     connect(Label5, &QPushButton::clicked, this, &Apropos::Label5_Click);

@@ -22,7 +22,7 @@ CadreExplorateur::CadreExplorateur(QWidget *parent)
                                                              {Command3, "Explorateur_Fermer"},
                                                              {Command4, "Dossier_Renommer"}};
     for (const auto &[bouton, icone] : icones)
-        bouton->setIcon(Icone(QStringLiteral(":/icones/%1.svg").arg(QLatin1String(icone))));
+        bouton->setIcon(Icone(QStringLiteral(":/icones/%1").arg(QLatin1String(icone))));
     Combo1->addItems(Motifs);
     // A completion would put a filter in force that the operator has not typed.
     Combo1->setCompleter(nullptr);

@@ -5,9 +5,12 @@
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "platform/controles/EntreeOptions.h"
+#include "platform/controles/Icone.h"
 #include "platform/dialogues/Boites.h"
 
 namespace {
+
+constexpr QSize Drapeau(36, 24); // pixels
 
 /// French stands in the windows as they are made: only a new start brings it back to those already written over.
 void AvertitRelance()
@@ -24,6 +27,9 @@ FrmLangue::FrmLangue(QWidget *parent)
 {
     setupUi(this);
     EntreAuChoix(this);
+    const std::pair<QLabel *, const char *> drapeaux[] = {{Image1, "fr"}, {Image2, "en"}, {Image3, "es"}};
+    for (const auto &[image, langue] : drapeaux)
+        image->setPixmap(Icone(QStringLiteral(":/icones/Drapeau_%1").arg(QLatin1String(langue))).pixmap(Drapeau));
     QRadioButton *const options[] = {Option1, Option2, Option3};
     if (LangIndex >= 0 && LangIndex <= 2)
         options[LangIndex]->setChecked(true);

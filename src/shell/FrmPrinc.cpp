@@ -39,7 +39,7 @@ constexpr const char *IconesBoutons[] = {"Mnu_Ouvrir",     "Mnu_EnregistrerSous"
 
 QIcon IconeProgramme(const char *nom)
 {
-    return Icone(QStringLiteral(":/icones/%1.svg").arg(QLatin1String(nom)));
+    return Icone(QStringLiteral(":/icones/%1").arg(QLatin1String(nom)));
 }
 
 int Couleur(bool active)

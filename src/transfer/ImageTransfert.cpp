@@ -6,5 +6,5 @@
 QPixmap ImageTransfert()
 {
     constexpr int cote = 64; // pixels
-    return Icone(QStringLiteral(":/icones/Mode_%1.svg").arg(Transfert.TypeTransfert)).pixmap(cote);
+    return Icone(QStringLiteral(":/icones/Mode_%1").arg(Transfert.TypeTransfert)).pixmap(cote);
 }

@@ -1,16 +1,26 @@
 #include "platform/controles/Icone.h"
 
 #include <QApplication>
+#include <QDirIterator>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QStyle>
 #include <QStyleOption>
-#include <QSvgRenderer>
 
-#include <memory>
+#include <algorithm>
 
 namespace {
+
+/// Of the pictures in a folder, in pixels, rising: their files are named by it.
+QList<int> Hauteurs(const QString &dossier)
+{
+    QList<int> hauteurs;
+    for (QDirIterator images(dossier); images.hasNext();)
+        hauteurs << images.nextFileInfo().baseName().toInt();
+    std::sort(hauteurs.begin(), hauteurs.end());
+    return hauteurs;
+}
 
 class Dessin : public QIconEngine
 {
@@ -25,10 +35,9 @@ public:
     QIconEngine *clone() const override { return new Dessin(*this); }
 
 private:
-    QPixmap Trace(const QSize &taille);
+    QPixmap Lit(const QSize &taille) const;
 
     QString m_chemin;
-    std::shared_ptr<QSvgRenderer> m_rendu; // null before the first painting
 };
 
 void Dessin::paint(QPainter *peintre, const QRect &cadre, QIcon::Mode mode, QIcon::State etat)
@@ -52,23 +61,27 @@ QPixmap Dessin::pixmap(const QSize &taille, QIcon::Mode mode, QIcon::State)
     QPixmap image;
     if (QPixmapCache::find(cle, &image))
         return image;
-    image = Trace(taille);
+    image = Lit(taille);
     if (mode != QIcon::Normal)
         image = QApplication::style()->generatedIconPixmap(mode, image, &option);
     QPixmapCache::insert(cle, image);
     return image;
 }
 
-QPixmap Dessin::Trace(const QSize &taille)
+/// The picture of the height asked for, or the next larger one scaled down, in the middle of the size asked for.
+QPixmap Dessin::Lit(const QSize &taille) const
 {
-    if (m_rendu == nullptr) {
-        m_rendu = std::make_shared<QSvgRenderer>(m_chemin);
-        m_rendu->setAspectRatioMode(Qt::KeepAspectRatio);
-    }
+    const QList<int> hauteurs = Hauteurs(m_chemin);
+    const auto assez = std::lower_bound(hauteurs.begin(), hauteurs.end(), taille.height());
     QPixmap image(taille);
     image.fill(Qt::transparent);
-    QPainter peintre(&image);
-    m_rendu->render(&peintre);
+    if (hauteurs.isEmpty())
+        return image;
+    QImage lue(QStringLiteral("%1/%2.png").arg(m_chemin).arg(assez == hauteurs.end() ? hauteurs.last() : *assez),
+               "PNG");
+    if (lue.width() > taille.width() || lue.height() != taille.height())
+        lue = lue.scaled(taille, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter(&image).drawImage((taille.width() - lue.width()) / 2, (taille.height() - lue.height()) / 2, lue);
     return image;
 }
 

@@ -10,10 +10,10 @@
 namespace {
 
 constexpr std::pair<QStyle::StandardPixmap, const char *> Dessins[] = {
-    {QStyle::SP_MessageBoxCritical, ":/boites/Critique.svg"},
-    {QStyle::SP_MessageBoxWarning, ":/boites/Exclamation.svg"},
-    {QStyle::SP_MessageBoxInformation, ":/boites/Information.svg"},
-    {QStyle::SP_MessageBoxQuestion, ":/boites/Question.svg"}};
+    {QStyle::SP_MessageBoxCritical, ":/boites/Critique"},
+    {QStyle::SP_MessageBoxWarning, ":/boites/Exclamation"},
+    {QStyle::SP_MessageBoxInformation, ":/boites/Information"},
+    {QStyle::SP_MessageBoxQuestion, ":/boites/Question"}};
 
 bool EstSombre(const QPalette &palette)
 {
