@@ -19,6 +19,7 @@ constexpr NumeroSysteme Numeros[] = {
     {ERROR_ACCESS_DENIED, Cause::SansDroits},
     {ERROR_NETWORK_ACCESS_DENIED, Cause::SansDroits},
     {ERROR_PRIVILEGE_NOT_HELD, Cause::NonPermis},
+    {ErreurLien, Cause::NonPermis},
     {ERROR_WRITE_PROTECT, Cause::ProtegeEnEcriture},
     {ERROR_DISK_FULL, Cause::DisquePlein},
     {ERROR_HANDLE_DISK_FULL, Cause::DisquePlein},

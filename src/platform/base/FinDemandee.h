@@ -8,7 +8,8 @@
 /// Catches the system's request to end the process, runs a last function, then lets the process end. Only one instance
 /// may exist at a time. Each system has its own unit for this class.
 /// Linux: the signals of a closed terminal, of Ctrl+C in it and of the end of a session; the function runs from the
-/// event loop, and the process ends by the same signal. Windows: the end of the session.
+/// event loop, and the process ends by the same signal. Windows: the end of the session; after the function all windows
+/// are closed, which asks what closing them asks.
 class FinDemandee
 {
 public:

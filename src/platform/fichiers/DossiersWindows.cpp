@@ -1,5 +1,6 @@
 #include "platform/fichiers/Dossiers.h"
 
+#include "platform/base/CauseWindows.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Journal.h"
 #include "platform/fichiers/CheminWindows.h"
@@ -10,12 +11,12 @@
 
 #include <vector>
 
-#include <windows.h>
-
 // The C++ library of this compiler does not recognise links on Windows; a deletion would follow them. So each entry is
 // asked from the system itself.
 
 namespace {
+
+constexpr std::size_t LongueurChemin = 32768; // the longest path that the system has
 
 struct Entree
 {
@@ -93,9 +94,40 @@ bool Retire(const Entree &entree)
                                                  : DeleteFileW(entree.chemin.c_str())) != 0;
 }
 
+/// The path at which the system opens chemin. drapeaux: those of CreateFileW.
+QString PlaceOuverte(const std::wstring &chemin, DWORD drapeaux)
+{
+    const HANDLE entree =
+        CreateFileW(chemin.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | drapeaux, nullptr);
+    if (entree == INVALID_HANDLE_VALUE)
+        Echoue(chemin);
+    const auto fermeture = qScopeGuard([entree] { CloseHandle(entree); });
+    std::vector<wchar_t> place(LongueurChemin);
+    const DWORD longueur = GetFinalPathNameByHandleW(entree, place.data(), static_cast<DWORD>(place.size()),
+                                                     FILE_NAME_OPENED | VOLUME_NAME_NT);
+    if (longueur == 0 || longueur >= place.size())
+        Echoue(chemin);
+    return QString::fromWCharArray(place.data(), static_cast<qsizetype>(longueur));
+}
+
+/// Refuses an entry that the system opens elsewhere than in its folder, which is a link that it resolves unasked: its
+/// deletion would delete the target. Wine resolves the links of a Linux disk so.
+void ExigeSurPlace(const std::wstring &chemin)
+{
+    const std::size_t nom = chemin.rfind(L'\\') + 1;
+    QString attendue = PlaceOuverte(chemin.substr(0, nom), 0);
+    if (!attendue.endsWith(u'\\'))
+        attendue += u'\\';
+    attendue += QString::fromStdWString(chemin.substr(nom));
+    if (attendue.compare(PlaceOuverte(chemin, FILE_FLAG_OPEN_REPARSE_POINT), Qt::CaseInsensitive) != 0)
+        Echoue(chemin, ErreurLien);
+}
+
 /// Deletes write-protected files too, since the operator has agreed to the deletion of all entries.
 void Exige(const Entree &entree)
 {
+    ExigeSurPlace(entree.chemin);
     if (Retire(entree))
         return;
     const DWORD cause = GetLastError();
