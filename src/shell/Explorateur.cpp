@@ -218,8 +218,7 @@ void Command4_Click()
     if (nouveau.isEmpty())
         return;
     try {
-        RenommeEtSuit(dossier, nouveau);
-        arbre.Refresh();
+        arbre.Pendant([&] { RenommeEtSuit(dossier, nouveau); });
         arbre.setSelectedFolder(nouveau);
     } catch (const Erreur &) {
         MsgBox(Texte(NonRenomme), Boite::Exclamation, Texte(ErreurTitre));

@@ -181,10 +181,7 @@ void FolderTreeview::SuitLeDisque()
 
 void FolderTreeview::Pendant(const std::function<void()> &travail)
 {
-    {
-        const QSignalBlocker sourd(m_guetteur);
-        travail();
-    }
+    m_guetteur.Suspend(travail);
     Refresh();
 }
 

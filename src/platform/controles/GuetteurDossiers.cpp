@@ -1,5 +1,8 @@
 #include "platform/controles/GuetteurDossiers.h"
 
+#include <QScopeGuard>
+#include <QSignalBlocker>
+
 GuetteurDossiers::GuetteurDossiers()
 {
     using namespace std::chrono_literals;
@@ -8,6 +11,19 @@ GuetteurDossiers::GuetteurDossiers()
     connect(this, &QFileSystemWatcher::directoryChanged, this, &GuetteurDossiers::Annonce);
     connect(&m_volumes, &GuetteurVolumes::Change, this, &GuetteurDossiers::ReprendGarde);
     connect(&m_delai, &QTimer::timeout, this, &GuetteurDossiers::Change);
+}
+
+void GuetteurDossiers::Suspend(const std::function<void()> &travail)
+{
+    const QSignalBlocker sourd(this);
+    const QStringList dossiers = directories();
+    if (!dossiers.isEmpty())
+        removePaths(dossiers);
+    const auto reprise = qScopeGuard([&] {
+        if (!dossiers.isEmpty())
+            addPaths(dossiers);
+    });
+    travail();
 }
 
 /// Sets every watch again. When a volume is mounted on a watched folder, the old watch stays on the folder below it.

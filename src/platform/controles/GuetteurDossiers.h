@@ -5,6 +5,8 @@
 #include <QFileSystemWatcher>
 #include <QTimer>
 
+#include <functional>
+
 /// Watches folders and the volumes of this PC. Change is emitted 100 ms after an entry of a watched folder, or any
 /// volume, has come or gone. Everything in between counts as one change, so copying 1000 files does not cause 1000
 /// readings.
@@ -14,6 +16,10 @@ class GuetteurDossiers : public QFileSystemWatcher
 
 public:
     GuetteurDossiers();
+
+    /// Calls travail; meanwhile nothing is watched and Change is not emitted. Windows refuses to rename a folder above
+    /// a watched one, and a deleted folder that is watched keeps its name. Raises what travail raises.
+    void Suspend(const std::function<void()> &travail);
 
 Q_SIGNALS:
     void Change();
