@@ -3,14 +3,11 @@
 #include "donnees/Jauge.h"
 #include "donnees/Lignes.h"
 #include "donnees/ParamCom.h"
-
-#include <chrono>
+#include "platform/base/Horloge.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-std::chrono::nanoseconds avance{0}; // of the program's clock
 
 // The boxes that he may read, by their titles.
 const QString Offre = QStringLiteral("Enregistrer les lignes reçues");
@@ -70,15 +67,6 @@ Pilote::Deroulement Coupe(EssaiTransfert &essai, bool debranche, qsizetype posit
 }
 
 } // namespace
-
-// The linker puts this in the place of the system's clock.
-// NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's
-extern "C" std::chrono::steady_clock::time_point __real__ZNSt6chrono3_V212steady_clock3nowEv() noexcept;
-extern "C" std::chrono::steady_clock::time_point __wrap__ZNSt6chrono3_V212steady_clock3nowEv() noexcept
-{
-    return __real__ZNSt6chrono3_V212steady_clock3nowEv() + avance;
-}
-// NOLINTEND(bugprone-reserved-identifier)
 
 /// Whatever happens to the line or to the disk in the midst of a transfer: it is told, the port is closed, what had
 /// come is whole, and the next transfer goes through as if nothing had been.
@@ -265,6 +253,8 @@ void TestPannes::Retenue()
     QFETCH(int, rang);
     EssaiTransfert essai(Genres[rang]);
     ParamCom.ControleFlux = 2;
+    static std::chrono::minutes passees{0};
+    Horloge::Maintenant = []() -> Horloge::Instant { return std::chrono::steady_clock::now() + passees; };
     for (qsizetype position = 0; position < essai.charge.attendu.size(); ++position) {
         essai.ligne = std::make_shared<Scenario>();
         essai.ligne->accepte = int(position);
@@ -274,7 +264,7 @@ void TestPannes::Retenue()
             if (frmPrinc->MSComm1->CTSHolding())
                 return false;
             if (regards == 0) {
-                avance += std::chrono::minutes(1);
+                ++passees;
                 essai.ligne->accepte = 1'000'000;
                 regards = std::max(1, essai.ligne->regards);
             }

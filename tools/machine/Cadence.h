@@ -4,8 +4,8 @@
 
 #include <chrono>
 
-using Horloge = std::chrono::steady_clock;
-using Instant = std::chrono::time_point<Horloge, std::chrono::nanoseconds>;
+using HorlogeMachine = std::chrono::steady_clock; // never that of the program that the machine serves
+using Instant = std::chrono::time_point<HorlogeMachine, std::chrono::nanoseconds>;
 using Duree = std::chrono::nanoseconds;
 
 /// What makes the time of a character on the line.

@@ -25,7 +25,7 @@ void MachineSimulee::Retient()
 {
     {
         const std::lock_guard verrou(m_verrou);
-        Recoit(Horloge::now()); // the machine's thread may be late: what the line has brought came before the XOFF
+        Recoit(HorlogeMachine::now()); // this thread may be late: what the line has brought came before the XOFF
         m_tampon.Retient();
         Parle();
     }
@@ -36,7 +36,7 @@ void MachineSimulee::Reprend()
 {
     {
         const std::lock_guard verrou(m_verrou);
-        m_tampon.Reprend(Horloge::now());
+        m_tampon.Reprend(HorlogeMachine::now());
         Parle();
     }
     m_reveil.Sonne();
@@ -45,7 +45,7 @@ void MachineSimulee::Reprend()
 void MachineSimulee::RemetAZero()
 {
     const std::lock_guard verrou(m_verrou);
-    Recoit(Horloge::now()); // the machine's thread may be late: what the line has brought came before the reset
+    Recoit(HorlogeMachine::now()); // the machine's thread may be late: what the line has brought came before the reset
     m_decoupe.Vide();
     m_enCours = {};
     m_emission.reset();
@@ -57,7 +57,7 @@ void MachineSimulee::Emet(const Envoi &envoi)
 {
     {
         const std::lock_guard verrou(m_verrou);
-        m_emission.emplace(envoi, m_reglage.Debut, m_reglage.Fin, m_reglage.Ligne, Horloge::now());
+        m_emission.emplace(envoi, m_reglage.Debut, m_reglage.Fin, m_reglage.Ligne, HorlogeMachine::now());
         m_envoi = {true, 0, 0, envoi.Salve ? Retour::Aucun : Retour::Attendu, {}};
         m_bloquee = false;
     }
@@ -111,7 +111,7 @@ void MachineSimulee::Tourne()
 {
     std::unique_lock verrou(m_verrou);
     while (!m_arret) {
-        const Instant t = Horloge::now();
+        const Instant t = HorlogeMachine::now();
         Recoit(t);
         m_tampon.Avance(t);
         Parle();
@@ -254,7 +254,7 @@ void MachineSimulee::Dort(std::unique_lock<std::mutex> &verrou)
     const std::optional<Instant> echeance = Echeance();
     if (echeance) {
         constexpr qint64 Seconde = 1'000'000'000;
-        const qint64 reste = std::max<qint64>(0, (*echeance - Horloge::now()).count());
+        const qint64 reste = std::max<qint64>(0, (*echeance - HorlogeMachine::now()).count());
         delai = {time_t(reste / Seconde), long(reste % Seconde)};
     }
     verrou.unlock();

@@ -1,13 +1,12 @@
 #include "platform/controles/Clavier.h"
 
+#include "platform/base/Horloge.h"
 #include "platform/base/Touches.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QSet>
-
-#include <chrono>
 
 namespace {
 
@@ -36,7 +35,7 @@ Mains mains;
 
 Temps Maintenant()
 {
-    return std::chrono::duration_cast<Temps>(std::chrono::steady_clock::now().time_since_epoch());
+    return std::chrono::duration_cast<Temps>(Horloge::Maintenant().time_since_epoch());
 }
 
 /// Identifies a key by its scan code where the system gives one. Its meaning may change between press and release, by

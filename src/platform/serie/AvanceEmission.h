@@ -1,6 +1,6 @@
 #pragma once
 
-#include <chrono>
+#include "platform/base/Horloge.h"
 
 /// How many characters the sending runs ahead of the line, so that the line never waits for a PC that is busy
 /// elsewhere.
@@ -20,7 +20,7 @@ class AvanceEmission
 {
 public:
     using Duree = std::chrono::nanoseconds;
-    using Instant = std::chrono::time_point<std::chrono::steady_clock, Duree>;
+    using Instant = Horloge::Instant;
 
     /// Goes back to the short lead. caractere: time that one character takes on the line, above 0.
     void Regle(Duree caractere);

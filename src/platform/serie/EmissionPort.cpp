@@ -8,7 +8,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-using Horloge = std::chrono::steady_clock;
 
 constexpr auto PeriodeRetenue = 5ms; // how often a held line is polled
 
@@ -65,9 +64,9 @@ void EmissionPort::SuitRetenue()
     if (retenue != m_cadence.Suspendue())
         qCInfo(JournalLigne) << "the machine" << (retenue ? "holds the line" : "lets the line go");
     if (retenue)
-        m_cadence.Suspend(Horloge::now());
+        m_cadence.Suspend(Horloge::Maintenant());
     else
-        m_cadence.Reprend(Horloge::now());
+        m_cadence.Reprend(Horloge::Maintenant());
 }
 
 /// Hands over what the cadence allows and arranges the next call for the rest.
@@ -77,7 +76,7 @@ void EmissionPort::Pompe()
         return;
     SuitRetenue();
     try {
-        const auto maintenant = Horloge::now();
+        const auto maintenant = Horloge::Maintenant();
         ArmeRemise(Remet(maintenant), maintenant);
     } catch (const Erreur &erreur) {
         Q_EMIT Panne(erreur);

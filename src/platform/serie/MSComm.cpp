@@ -15,7 +15,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using Duree = CadenceEmission::Duree;
-using Horloge = std::chrono::steady_clock;
 
 constexpr int PortMax = 16;
 constexpr int TailleTamponUsuelle = 1024;
@@ -121,10 +120,10 @@ void MSComm::Ferme()
 
     // Emptying the receive queue makes the system send XON to a machine that it holds back. Closing alone would not.
     ligne->JetteReception();
-    const Duree tempsLigne = cadence.Reste(Horloge::now()) + cadence.Temps(2) + Transit;
-    const auto fin = Horloge::now() + tempsLigne;
+    const Duree tempsLigne = cadence.Reste(Horloge::Maintenant()) + cadence.Temps(2) + Transit;
+    const auto fin = Horloge::Maintenant() + tempsLigne;
     if (!abandon)
-        Attend(tempsLigne + Jeu, [&] { return Horloge::now() >= fin && ligne->NonEmis() == 0; });
+        Attend(tempsLigne + Jeu, [&] { return Horloge::Maintenant() >= fin && ligne->NonEmis() == 0; });
     // If the system still holds characters, closing would wait for a machine that may never take them.
     if (abandon || ligne->NonEmis() > 0)
         ligne->JetteEmission();
@@ -439,7 +438,7 @@ int MSComm::EnRoute() const
 /// Whether the machine or the device holds the line.
 bool MSComm::Retenue()
 {
-    return m_retenue.ParMachine() || m_retenue.ParAppareil(Horloge::now());
+    return m_retenue.ParMachine() || m_retenue.ParAppareil(Horloge::Maintenant());
 }
 
 void MSComm::VideEmission(int chaine)

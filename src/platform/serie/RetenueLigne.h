@@ -1,10 +1,9 @@
 #pragma once
 
+#include "platform/base/Horloge.h"
 #include "platform/serie/FluxXonXoff.h"
 #include "platform/serie/LigneSerie.h"
 #include "platform/serie/VeilleLigne.h"
-
-#include <chrono>
 
 /// Tells whether the line is held, so that characters handed over now would not reach the machine. The machine holds it
 /// by an XOFF that the control handles itself, or by a low CTS under RTS/CTS. The device holds it when it keeps
@@ -15,7 +14,7 @@ class RetenueLigne
 {
 public:
     using Duree = std::chrono::nanoseconds;
-    using Instant = std::chrono::time_point<std::chrono::steady_clock, Duree>;
+    using Instant = Horloge::Instant;
 
     /// xonXoff: the XON and XOFF received. veille: the states of the machine's lines. Both must live as long as this
     /// object.

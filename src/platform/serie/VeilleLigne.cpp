@@ -63,7 +63,7 @@ void VeilleLigne::RemetComptes()
 
 void VeilleLigne::NoteReception(qsizetype nombre)
 {
-    m_dernier = Horloge::now();
+    m_dernier = Horloge::Maintenant();
     if (m_recus == 0)
         m_premier = m_dernier;
     m_recus += nombre;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/Horloge.h"
 #include "platform/serie/ComptesPort.h"
 #include "platform/serie/LigneSerie.h"
 
@@ -29,12 +30,10 @@ public:
     void NoteReception(qsizetype nombre);
 
 private:
-    using Horloge = std::chrono::steady_clock;
-
     std::optional<EtatsLigne> m_etats;
     CompteursLigne m_compteurs; // as last read
     CompteursLigne m_depart;    // at the last RemetComptes
     qint64 m_recus = 0;
-    Horloge::time_point m_premier;
-    Horloge::time_point m_dernier;
+    Horloge::Instant m_premier;
+    Horloge::Instant m_dernier;
 };

@@ -2,13 +2,12 @@
 
 #include "captures_prog/Vues.h"
 #include "comconfig/Prop.h"
+#include "platform/base/Horloge.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QPushButton>
 #include <QWheelEvent>
-
-#include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -36,18 +35,17 @@ void Joue(QWidget *cible, Qt::Key touche, const QString &gestes)
 
 } // namespace
 
-// The linker puts this in the place of the system's clock: it stands still until the test moves it.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the name is the linker's
-extern "C" std::chrono::steady_clock::time_point __wrap__ZNSt6chrono3_V212steady_clock3nowEv() noexcept
-{
-    return std::chrono::steady_clock::time_point(heure);
-}
-
 class TestClavier : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    // The clock stands still until the test moves it.
+    void initTestCase()
+    {
+        Horloge::Maintenant = [] { return Horloge::Instant(heure); };
+    }
+
     // In each dialog Enter comes to each control that the keyboard can go to: a button presses itself, from any other
     // one the default button is pressed.
     void Entree()
