@@ -317,13 +317,12 @@ private Q_SLOTS:
         for (int langue = 0; langue < 3; ++langue) {
             EtabliProp etabli(langue);
             const Prop prop(frmPrinc);
-            for (const int bouton : {6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 23, 24, 25}) {
-                etabli.Fait("MsgBox", [&aides](QWidget &fenetre) {
-                    aides << fenetre.windowTitle() + u'|' + dynamic_cast<QMessageBox &>(fenetre).text();
-                    fenetre.close();
-                });
+            SuppleantBoites().message = [&aides](const QString &texte, int, const QString &titre) {
+                aides << titre + u'|' + PourAffichage(texte);
+                return Reponse::Ok;
+            };
+            for (const int bouton : {6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 23, 24, 25})
                 Bouton(prop, u"Command%1"_s.arg(bouton))->click();
-            }
         }
         QCOMPARE(aides.size(), 3 * 14);
         QVERIFY(aides.contains(u"Information on the adjustment of the parity|Information on the parity\n\nEven : \n"

@@ -18,24 +18,8 @@ namespace {
 
 /// What the operator types for a corrector out of range, one after the other; the empty one cancels.
 constexpr std::array Saisies = {"", "301", "-32769", "x", "1e309", "12,5", "-3", "300"};
-std::size_t saisie = 0;
 
 } // namespace
-
-// The linker puts these in the place of the boxes: drawing one takes as long as a thousand measures.
-Reponse SansBoite(const QString &texte, int drapeaux, const QString &titre) asm("__wrap__Z6MsgBoxRK7QStringiS1_");
-QString Tape(const QString &invite, const QString &titre,
-             const QString &valeur) asm("__wrap__Z8InputBoxRK7QStringS1_S1_");
-
-Reponse SansBoite(const QString & /*texte*/, int /*drapeaux*/, const QString & /*titre*/)
-{
-    return Reponse::Ok;
-}
-
-QString Tape(const QString & /*invite*/, const QString & /*titre*/, const QString & /*valeur*/)
-{
-    return QLatin1String(Saisies[saisie++ % Saisies.size()]);
-}
 
 // What a bench may send, up to the gauge file. The first two bytes choose the machine, what the operator types, and the
 // number of measures.
@@ -43,7 +27,11 @@ void Essaie(const QByteArray &octets)
 {
     if (octets.size() < 2)
         return;
-    saisie = static_cast<unsigned char>(octets[0]) >> 2;
+    const std::size_t premiere = static_cast<unsigned char>(octets[0]) >> 2;
+    // Drawing a box takes as long as a thousand measures.
+    SuppleantBoites() = {
+        [](auto &&...) { return Reponse::Ok; },
+        [saisie = premiere](auto &&...) mutable { return QString::fromLatin1(Saisies[saisie++ % Saisies.size()]); }};
     Jauges = {};
     ParamMac = {};
     ParamMac.TypeMachine = 1; // a mill asks nothing at the dial

@@ -9,6 +9,7 @@
 #include "donnees/Reglages.h"
 #include "donnees/Transfert.h"
 #include "locale/Langue.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/serie/MSComm.h"
 #include "programme/Demarrage.h"
 #include "programme/Menus.h"
@@ -52,6 +53,7 @@ void Poste::RemetEnregistrements()
     Transfert = {};
     Lignes = {};
     Jauges = {};
+    SuppleantBoites() = {};
     LangIndex = 0;
     QGuiApplication::clipboard()->clear();
     AppliqueLangueSysteme();

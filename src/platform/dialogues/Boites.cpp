@@ -93,6 +93,12 @@ QPointer<QMessageBox> demande; // the question that stands without waiting
 
 } // namespace
 
+Suppleant &SuppleantBoites()
+{
+    static Suppleant suppleant;
+    return suppleant;
+}
+
 void Elargit(QMessageBox &boite)
 {
     constexpr int boutonsDuCadre = 140;
@@ -109,6 +115,8 @@ void Elargit(QMessageBox &boite)
 Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
     RetireDemande();
+    if (SuppleantBoites().message)
+        return SuppleantBoites().message(texte, drapeaux, titre);
     QMessageBox boite(FenetreAppelante());
     Prepare(boite, texte, drapeaux, titre);
     const int choix = boite.exec();
@@ -146,6 +154,8 @@ void RetireDemande()
 
 QString InputBox(const QString &invite, const QString &titre, const QString &valeur)
 {
+    if (SuppleantBoites().saisie)
+        return SuppleantBoites().saisie(invite, titre, valeur);
     constexpr int largeur = 440; // pixels; a longer prompt takes more lines
     QInputDialog boite(FenetreAppelante());
     boite.setObjectName(QStringLiteral("InputBox"));

@@ -38,6 +38,15 @@ void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, c
                          const std::function<void()> &siOui);
 void RetireDemande();
 
+/// Answers in place of MsgBox() and InputBox(), with their parameters, for a fuzzer or a test that reads many boxes.
+/// Where a function is empty, as in the program, the box is shown.
+struct Suppleant
+{
+    std::function<Reponse(const QString &texte, int drapeaux, const QString &titre)> message;
+    std::function<QString(const QString &invite, const QString &titre, const QString &valeur)> saisie;
+};
+Suppleant &SuppleantBoites();
+
 /// Gives a box, before it is shown, the width of its title and of its lines, as far as the screen has it: the toolkit
 /// cuts the one and breaks the others.
 void Elargit(QMessageBox &boite);
