@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QFile>
-#include <QStringList>
+#include <QTest>
 
 /// The path of a file of tests/donnees.
 inline QString Donnees(const QString &nom)
@@ -30,4 +30,13 @@ inline QList<QStringList> Table(const QString &nom)
         rangees << cases;
     }
     return rangees;
+}
+
+/// A row for each of that table, with its beginning for a name. The test has it by QFETCH(QStringList, cases).
+inline void RangeesDe(const QString &table)
+{
+    QTest::addColumn<QStringList>("cases");
+    int ligne = 0;
+    for (const QStringList &cases : Table(table))
+        QTest::addRow("%d: %s", ++ligne, qPrintable(cases.join(QLatin1String(" | ")).simplified().left(60))) << cases;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Essais.h"
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
 
@@ -8,7 +9,7 @@
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 
-#include <QTest>
+#include <QDir>
 
 /// A workstation with its operator; with it come the records and the window that nearly every test looks at.
 struct Etabli : Poste, Operateur

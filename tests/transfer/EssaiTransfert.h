@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Essais.h"
 #include "LigneScenario.h"
 #include "pilote/Pilote.h"
 
@@ -7,8 +8,6 @@
 #include "donnees/Transfert.h"
 #include "platform/controles/Lampe.h"
 #include "shell/FrmPrinc.h"
-
-#include <QTest>
 
 constexpr char FinTrans[] = "\x04";
 
@@ -58,7 +57,10 @@ public:
     /// Lamps, port and pane as they have to be between two transfers, and the next transfer is whole.
     void VerifiePret()
     {
-        QVERIFY(!frmPrinc->PortOuvert && !frmPrinc->MSComm1->PortOpen() && !ligne->ouverte && !TransfertEnCours());
+        QVERIFY(!frmPrinc->PortOuvert);
+        QVERIFY(!frmPrinc->MSComm1->PortOpen());
+        QVERIFY(!ligne->ouverte);
+        QVERIFY(!TransfertEnCours());
         for (const Lampe *lampe : {frmPrinc->shpPortOpen, frmPrinc->shpSend, frmPrinc->shpReceive})
             QTRY_COMPARE(lampe->FillColor(), Lampe::Rouge);
         QVERIFY(frmPrinc->Text2->isHidden());
