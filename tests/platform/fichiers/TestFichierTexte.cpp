@@ -1,22 +1,34 @@
+#include "DisquePlein.h"
 #include "Essais.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/fichiers/FichierTexte.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
+
+namespace {
+
+/// What stands in the way under a name, and the numbers that reading and writing raise.
+const std::tuple<const char *, int, int> Obstacles[] = {
+    {"absent", Erreur::FichierIntrouvable, 0},
+    {"parti/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
+    {"fichier/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
+    {"dossier", Erreur::ErreurFichier, Erreur::ErreurFichier},
+    {"tube", Erreur::ErreurFichier, -1}, // would wait for a reader
+    {"plein", Erreur::ErreurFichier, Erreur::DisqueSature},
+    {"gros", Erreur::MemoireInsuffisante, 0}};
+
+} // namespace
 
 class TestFichierTexte : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_dossier;
+    std::unique_ptr<QTemporaryDir> m_dossier;
 
-    QString Chemin(const char *nom) const { return m_dossier.filePath(QString::fromUtf8(nom)); }
+    QString Chemin(const char *nom) const { return m_dossier->filePath(QString::fromUtf8(nom)); }
 
 private Q_SLOTS:
     // Each byte has one character and comes back; other characters become "?". A shorter text leaves nothing of the
@@ -33,37 +45,33 @@ private Q_SLOTS:
         QCOMPARE(LitOctets(chemin), QByteArray("a???\xE9"));
     }
 
-    // What stands in the way under the name, and the number that reading and writing raise.
-    void Echecs()
+    void init()
     {
+        m_dossier = std::make_unique<QTemporaryDir>();
         EcritFichierTexte(Chemin("fichier"), QStringLiteral("12345678"));
         EcritFichierTexte(Chemin("gros"), QStringLiteral("123456789"));
-        QVERIFY(QDir(m_dossier.path()).mkdir(QStringLiteral("dossier")));
+        QVERIFY(QDir(m_dossier->path()).mkdir(QStringLiteral("dossier")));
         QVERIFY(QFile::link(QStringLiteral("/dev/full"), Chemin("plein")));
         QCOMPARE(mkfifo(qPrintable(Chemin("tube")), 0600), 0);
-        const std::tuple<const char *, int, int> cas[] = {
-            {"absent", Erreur::FichierIntrouvable, 0},
-            {"parti/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
-            {"fichier/x", Erreur::FichierIntrouvable, Erreur::FichierIntrouvable},
-            {"dossier", Erreur::ErreurFichier, Erreur::ErreurFichier},
-            {"tube", Erreur::ErreurFichier, -1}, // would wait for a reader
-            {"plein", Erreur::ErreurFichier, Erreur::DisqueSature},
-            {"gros", Erreur::MemoireInsuffisante, 0}};
-        for (const auto &[nom, lecture, ecriture] : cas) {
-            const QString chemin = Chemin(nom);
-            QCOMPARE(FichierExiste(chemin), QLatin1String(nom) == QLatin1String("gros"));
-            QCOMPARE(NumeroErreur([&] { LitOctets(chemin, 8); }), lecture);
-            if (ecriture >= 0)
-                QCOMPARE(NumeroErreur([&] { EcritFichierTexte(chemin, QStringLiteral("x")); }), ecriture);
-        }
-        // Without room for the longer text the file keeps the one that it has. A new file is cut, and told why.
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit libre{};
-        getrlimit(RLIMIT_FSIZE, &libre);
-        const rlimit serre{16, libre.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &serre);
+    }
+
+    void Echecs_data() { Rangees(Obstacles); }
+    void Echecs()
+    {
+        const auto &[nom, lecture, ecriture] = Rangee(Obstacles);
+        const QString chemin = Chemin(nom);
+        QCOMPARE(FichierExiste(chemin), QLatin1String(nom) == QLatin1String("gros"));
+        QCOMPARE(NumeroErreur([&] { LitOctets(chemin, 8); }), lecture);
+        if (ecriture >= 0)
+            QCOMPARE(NumeroErreur([&] { EcritFichierTexte(chemin, QStringLiteral("x")); }), ecriture);
+    }
+
+    // Without room for the longer text the file keeps the one that it has. A new file is cut, and told why.
+    void SansPlace()
+    {
+        const auto plein = DisquePlein(16);
         QStringList causes;
-        const int plein = NumeroErreur([&] { AjouteFichierTexte(Chemin("gros"), QString(16, u'y')); });
+        const int ajout = NumeroErreur([&] { AjouteFichierTexte(Chemin("gros"), QString(16, u'y')); });
         for (const auto &[nom, coupe] :
              {std::pair{"fichier", FichierCoupe::Part}, {"neuf", FichierCoupe::Part}, {"cut", FichierCoupe::Reste}}) {
             try {
@@ -73,11 +81,11 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(causes, QStringList(3, qt_error_string(EFBIG)));
-        QVERIFY(!FichierExiste(Chemin("neuf")) && FichierExiste(Chemin("cut")));
-        setrlimit(RLIMIT_FSIZE, &libre);
+        QVERIFY(!FichierExiste(Chemin("neuf")));
+        QVERIFY(FichierExiste(Chemin("cut")));
         QCOMPARE(LitOctets(Chemin("fichier"), 8), QByteArray("12345678"));
-        QCOMPARE(plein, Erreur::ErreurFichier); // half of the line that was added is cut off again
-        QCOMPARE(LitOctets(Chemin("gros")), QByteArray("x"));
+        QCOMPARE(ajout, Erreur::ErreurFichier); // half of the line that was added is cut off again
+        QCOMPARE(LitOctets(Chemin("gros")), QByteArray("123456789"));
     }
 };
 

@@ -4,32 +4,39 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
+
+namespace {
+
+/// Which of the system's programs a name starts, and with which arguments; nothing where none can be started. "#"
+/// stands for the folder of the programs, "@" for the file.
+const std::tuple<const char *, const char *, const char *> Noms[] = {
+    {"an editor by its path", "#/write to", "write to|@|"},
+    {"an editor by its name", "gedit", "gedit|@|"},
+    {"a path with arguments", "#/write to -n \"a b\"", "write to|-n|a b|@|"},
+    {"a name with an argument", "gedit --wait", "gedit|--wait|@|"},
+    {"a folder", "#", nullptr},
+    {"no name", "", nullptr},
+    {"not the terminal's own write", "write", "soffice|--writer|@|"},
+    {"write.exe", "write.exe", "soffice|--writer|@|"},
+    {"write.exe by its path", "C:\\WINDOWS\\WRITE.EXE", "soffice|--writer|@|"},
+    {"wordpad.exe on a mounted disk", "/mnt/c/wordpad.exe", "soffice|--writer|@|"},
+    {"notepad.exe", "C:\\WINDOWS\\NOTEPAD.EXE", "gedit|@|"},
+    {"an unknown .exe", "C:\\EDIT.EXE", nullptr}};
+
+} // namespace
 
 class TestLanceur : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void Lance_data() { Rangees(Noms); }
     void Lance();
 };
 
-// Which of the system's programs a name starts, and with which arguments; nothing where none can be started. "#" stands
-// for the folder of the programs, "@" for the file.
 void TestLanceur::Lance()
 {
-    const std::pair<const char *, const char *> cas[] = {{"#/write to", "write to|@|"}, // an editor by its path
-                                                         {"gedit", "gedit|@|"},
-                                                         {"#/write to -n \"a b\"", "write to|-n|a b|@|"},
-                                                         {"gedit --wait", "gedit|--wait|@|"},
-                                                         {"#", nullptr},
-                                                         {"", nullptr},
-                                                         {"write", "soffice|--writer|@|"}, // not the terminal's own
-                                                         {"write.exe", "soffice|--writer|@|"},
-                                                         {"C:\\WINDOWS\\WRITE.EXE", "soffice|--writer|@|"},
-                                                         {"/mnt/c/wordpad.exe", "soffice|--writer|@|"},
-                                                         {"C:\\WINDOWS\\NOTEPAD.EXE", "gedit|@|"},
-                                                         {"C:\\EDIT.EXE", nullptr}};
+    const auto &[rangee, programme, lance] = Rangee(Noms);
     const QTemporaryDir dossier;
     const QString sortie = dossier.filePath(QStringLiteral("sortie"));
     for (const char *const nom : {"write", "write to", "soffice", "gedit"}) {
@@ -41,16 +48,13 @@ void TestLanceur::Lance()
     }
     qputenv("PATH", dossier.path().toLocal8Bit());
     const QString fichier = dossier.filePath(QStringLiteral("pièce $HOME '1.iso"));
-    for (const auto &[programme, lance] : cas) {
-        const QString nom = QString::fromLatin1(programme).replace(u'#', dossier.path());
-        const int numero = NumeroErreur([&] { LanceProgramme(nom, fichier); });
-        QCOMPARE(numero, lance == nullptr ? Erreur::FichierIntrouvable : 0);
-        if (lance == nullptr)
-            continue;
-        QTRY_VERIFY2(QFile::exists(sortie), programme);
-        QCOMPARE(QString::fromUtf8(LitOctets(sortie)), QString::fromLatin1(lance).replace(u'@', fichier));
-        QVERIFY(QFile::remove(sortie));
-    }
+    const QString nom = QString::fromLatin1(programme).replace(u'#', dossier.path());
+    const int numero = NumeroErreur([&] { LanceProgramme(nom, fichier); });
+    QCOMPARE(numero, lance == nullptr ? Erreur::FichierIntrouvable : 0);
+    if (lance == nullptr)
+        return;
+    QTRY_VERIFY(QFile::exists(sortie));
+    QCOMPARE(QString::fromUtf8(LitOctets(sortie)), QString::fromLatin1(lance).replace(u'@', fichier));
 }
 
 QTEST_GUILESS_MAIN(TestLanceur)

@@ -2,11 +2,20 @@
 #include "platform/base/Nombres.h"
 #include "platform/fichiers/LecteurChamps.h"
 
-#include <QTest>
-
 #include <limits>
 
 namespace {
+
+/// A settings file, and its fields, read one after another until the file ends.
+const std::tuple<const char *, const char *, const char *> Fichiers[] = {
+    {"blanks and a path", " 0 \r\n\"C:\\A B\"\r\n", "0 |C:\\A B|[62]"},
+    {"two on a line", "\"a,b\",c\r\n", "a,b|c|[62]"},
+    {"a bare value is cut at its comma", "C:\\a,b\r\nd", "C:\\a|b|d|[62]"},
+    {"signs behind a quote", "\"a\" b, c", "a|c|[62]"},
+    {"lone CR and LF", "a\rb\nc", "a|b|c|[62]"},
+    {"quotes never closed", "a\r\n\"b\r\nc\r\n", "a|[62]"},
+    {"quotes round a line end", "\"a\r\nb\"\r\nc", "a\r\nb|c|[62]"},
+};
 
 /// Runs a reading; gives its value, or the number of its failure in brackets.
 template <typename Lecture>
@@ -25,26 +34,16 @@ class TestLecteurChamps : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Fields of a settings file, read one after another until the file ends.
+    void Champs_data() { Rangees(Fichiers); }
     void Champs()
     {
-        const std::pair<const char *, const char *> cas[] = {
-            {" 0 \r\n\"C:\\A B\"\r\n", "0 |C:\\A B|[62]"},
-            {"\"a,b\",c\r\n", "a,b|c|[62]"},
-            {"C:\\a,b\r\nd", "C:\\a|b|d|[62]"}, // a bare value is cut at its comma
-            {"\"a\" b, c", "a|c|[62]"},
-            {"a\rb\nc", "a|b|c|[62]"},
-            {"a\r\n\"b\r\nc\r\n", "a|[62]"}, // quotes never closed
-            {"\"a\r\nb\"\r\nc", "a\r\nb|c|[62]"},
-        };
-        for (const auto &[texte, champs] : cas) {
-            LecteurChamps lecteur(QString::fromLatin1(texte));
-            QStringList lus;
-            do
-                lus << Essaie([&lecteur] { return lecteur.Chaine(); });
-            while (!lus.last().startsWith(u'[') && lus.size() < 10);
-            QCOMPARE(lus.join(u'|'), QLatin1String(champs));
-        }
+        const auto &[nom, texte, champs] = Rangee(Fichiers);
+        LecteurChamps lecteur(QString::fromLatin1(texte));
+        QStringList lus;
+        do
+            lus << Essaie([&lecteur] { return lecteur.Chaine(); });
+        while (!lus.last().startsWith(u'[') && lus.size() < 10);
+        QCOMPARE(lus.join(u'|'), QLatin1String(champs));
     }
 
     // What an operator types or a bench sends, well formed or not.
@@ -80,7 +79,8 @@ private Q_SLOTS:
         QLocale::setDefault(ancienne);
         QCOMPARE(textes.join(u' '),
                  QStringLiteral("0 -.8 12.5 .1 100 .3333333 123.456 .00001 9999999 16777220 1 -200.05"));
-        QCOMPARE(TexteNombre(0) + TexteNombre(8018) + TexteNombre(-1), QStringLiteral(" 0 8018-1"));
+        QCOMPARE((QStringList{TexteNombre(0), TexteNombre(8018), TexteNombre(-1)}),
+                 (QStringList{QStringLiteral(" 0"), QStringLiteral(" 8018"), QStringLiteral("-1")}));
     }
 };
 

@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
@@ -22,6 +21,41 @@ int NumeroOuverture(const QString &chemin)
 {
     return NumeroErreur([&] { LignePosix ligne(chemin); });
 }
+
+const std::tuple<const char *, int, QByteArrayList> Refus[] = {
+    {"speed", ErreurPort::Vitesse, {"", "rapide,n,8,1", "0,n,8,1", "-9600,n,8,1", "49,n,8,1", "99999999999,n,8,1"}},
+    {"data bits", ErreurPort::BitsDonnees, {"9600,n,4,1", "9600,n,9,1", "9600,n,,1"}},
+    {"the rest",
+     ErreurPort::Reglage,
+     {"9600,x,8,1", "9600,,8,1", "9600,n,8", "9600,n,8,1.5", "9600,n,5,2", "9600,n,8,1,1"}}};
+
+/// What comes from the driver, the characters in it and the places of those that are marked.
+const std::tuple<const char *, const char *, const char *, QList<qsizetype>> Marques[] = {
+    {"a doubled FF", "61 FF FF 00 62", "61 FF 00 62", {}},
+    {"a wrong character", "61 FF 00 58 62", "61 58 62", {1}},
+    {"a break, and a wrong FF", "FF 00 00 FF 00 FF", "00 FF", {0, 1}},
+    {"an FF that is not doubled", "FF 61", "FF 61", {}}};
+
+const std::tuple<const char *, Appel, int, int> AppelsRates[] = {
+    {"open, no device", Appel::Ouvre, ENXIO, ErreurPort::Inconnu},
+    {"open, held", Appel::Ouvre, EBUSY, ErreurPort::Occupe},
+    {"no terminal", Appel::Interroge, ENOTTY, ErreurPort::PasUneLigne},
+    {"settings", Appel::Regle, EIO, ErreurPort::Inconnu},
+    {"write", Appel::Ecrit, EIO, ErreurPort::Lecture},
+    {"read", Appel::Lit, EIO, ErreurPort::Lecture}};
+
+/// Settings, and the characters that the flow control takes.
+const std::tuple<const char *, ControleFlux, QByteArray> Reglages[] = {
+    {"9600,n,8,1", ControleFlux::Aucun, ""},
+    {"128000,s,8,1", ControleFlux::XonXoff, "\x11\x13"},
+    {"14400,e,7,2", ControleFlux::RtsXonXoff, "\x11\x13"}};
+
+/// The speed that the device makes of the one asked for, the settings, the number.
+const std::tuple<const char *, unsigned, const char *, int> Ecarts[] = {
+    {"7 data bits", 0, "9600,n,7,1", ErreurPort::BitsDonnees},
+    {"parity", 0, "9600,e,8,1", ErreurPort::Reglage},
+    {"3 % too slow", 9312, "9600,n,8,1", 0},
+    {"more than 3 % too slow", 9311, "9600,n,8,1", ErreurPort::Vitesse}};
 
 /// A machine on a pseudo-terminal that bears the name of a port.
 struct Com2
@@ -43,50 +77,50 @@ class TestLignePosix : public QObject
 private Q_SLOTS:
     void cleanup() { systeme = {}; }
 
-    void reglages()
+    void reglageLu()
     {
         const ReglagePort reglage = LitReglagePort(QStringLiteral(" 110 , O, 5 ,1.5"));
         QCOMPARE(reglage.vitesse, 110);
         QCOMPARE(reglage.parite, Parite::Impaire);
         QCOMPARE(reglage.BitsParCaractere(), 8.5);
-        const std::pair<int, QByteArrayList> refus[] = {
-            {ErreurPort::Vitesse, {"", "rapide,n,8,1", "0,n,8,1", "-9600,n,8,1", "49,n,8,1", "99999999999,n,8,1"}},
-            {ErreurPort::BitsDonnees, {"9600,n,4,1", "9600,n,9,1", "9600,n,,1"}},
-            {ErreurPort::Reglage,
-             {"9600,x,8,1", "9600,,8,1", "9600,n,8", "9600,n,8,1.5", "9600,n,5,2", "9600,n,8,1,1"}}};
-        for (const auto &[numero, textes] : refus) {
-            for (const QByteArray &texte : textes)
-                QCOMPARE(NumeroErreur([&] { LitReglagePort(QString::fromLatin1(texte)); }), numero);
+    }
+
+    void reglageFaux_data() { Rangees(Refus); }
+    void reglageFaux()
+    {
+        const auto &[nom, numero, textes] = Rangee(Refus);
+        for (const QByteArray &texte : textes) {
+            const auto passe = Passe(QString::fromLatin1(texte));
+            QCOMPARE(NumeroErreur([&] { LitReglagePort(QString::fromLatin1(texte)); }), numero);
         }
     }
 
     // Wherever a reading ends, the marks are the same.
+    void marques_data() { Rangees(Marques); }
     void marques()
     {
-        using Positions = QList<qsizetype>;
-        const std::tuple<const char *, const char *, Positions> cas[] = {
-            {"61 FF FF 00 62", "61 FF 00 62", {}},
-            {"61 FF 00 58 62", "61 58 62", {1}},
-            {"FF 00 00 FF 00 FF", "00 FF", {0, 1}}, // a break, and a wrong 0xFF
-            {"FF 61", "FF 61", {}}};                // not doubled
-        for (const auto &[hexa, octets, marques] : cas) {
-            const QByteArray lus = QByteArray::fromHex(hexa);
-            for (qsizetype coupe = 0; coupe <= lus.size(); ++coupe) {
-                DecodeurMarques decodeur;
-                DecodeurMarques::Resultat tout = decodeur.Decode(lus.left(coupe));
-                const DecodeurMarques::Resultat suite = decodeur.Decode(lus.mid(coupe));
-                for (const qsizetype position : suite.marques)
-                    tout.marques.append(tout.octets.size() + position);
-                QCOMPARE(tout.octets + suite.octets, QByteArray::fromHex(octets));
-                QCOMPARE(tout.marques, marques);
-            }
+        const auto &[nom, hexa, octets, marques] = Rangee(Marques);
+        const QByteArray lus = QByteArray::fromHex(hexa);
+        for (qsizetype coupe = 0; coupe <= lus.size(); ++coupe) {
+            const auto passe = Passe(QStringLiteral("cut at %1").arg(coupe));
+            DecodeurMarques decodeur;
+            DecodeurMarques::Resultat tout = decodeur.Decode(lus.left(coupe));
+            const DecodeurMarques::Resultat suite = decodeur.Decode(lus.mid(coupe));
+            for (const qsizetype position : suite.marques)
+                tout.marques.append(tout.octets.size() + position);
+            QCOMPARE(tout.octets + suite.octets, QByteArray::fromHex(octets));
+            QCOMPARE(tout.marques, marques);
         }
-        // A NUL and a letter are marked: taken for a break and a parity error, then both for parity errors.
+    }
+
+    // A NUL and a letter are marked: taken for a break and a parity error, then both for parity errors.
+    void sensDesMarques()
+    {
         CompteursLigne comptes;
         const DecodeurMarques::Resultat resultat{QByteArray("a\0Xb", 4), {1, 2}};
         LectureLigne lecture = QualifieMarques(resultat, {true, true}, comptes);
         QCOMPARE(lecture.octets, QByteArray("aXb"));
-        QCOMPARE(lecture.fausses, Positions{1});
+        QCOMPARE(lecture.fausses, QList<qsizetype>{1});
         lecture = QualifieMarques(resultat, {false, true}, comptes);
         QCOMPARE(lecture.octets, resultat.octets);
         QCOMPARE(lecture.fausses, resultat.marques);
@@ -116,74 +150,63 @@ private Q_SLOTS:
     }
 
     // Each call to the system fails: the operation raises its number, and nothing stays open.
+    void appelsRates_data() { Rangees(AppelsRates); }
     void appelsRates()
     {
-        const std::tuple<Appel, int, int> cas[] = {{Appel::Ouvre, ENXIO, ErreurPort::Inconnu},
-                                                   {Appel::Ouvre, EBUSY, ErreurPort::Occupe},
-                                                   {Appel::Interroge, ENOTTY, ErreurPort::PasUneLigne},
-                                                   {Appel::Regle, EIO, ErreurPort::Inconnu},
-                                                   {Appel::Ecrit, EIO, ErreurPort::Lecture},
-                                                   {Appel::Lit, EIO, ErreurPort::Lecture}};
+        const auto &[nom, appel, erreur, numero] = Rangee(AppelsRates);
         const Com2 com2;
         const auto ouverts = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
         const auto avant = ouverts();
-        for (const auto &[appel, erreur, numero] : cas) {
-            systeme = {appel, erreur};
-            QCOMPARE(NumeroErreur([&] {
-                         LignePosix ligne(com2.chemin);
-                         ligne.Ecrit("a", 1);
-                         ligne.Lit(1);
-                     }),
-                     numero);
-            QCOMPARE(ouverts(), avant);
-            systeme = {};
-            LignePosix ligne(com2.chemin);
-            systeme = {Appel::Regle, EINVAL};
-            QCOMPARE(NumeroErreur([&] { ligne.Regle(ReglagePort()); }), ErreurPort::Reglage);
-        }
+        systeme = {appel, erreur};
+        QCOMPARE(NumeroErreur([&] {
+                     LignePosix ligne(com2.chemin);
+                     ligne.Ecrit("a", 1);
+                     ligne.Lit(1);
+                 }),
+                 numero);
+        QCOMPARE(ouverts(), avant);
+        systeme = {};
+        LignePosix ligne(com2.chemin);
+        systeme = {Appel::Regle, EINVAL};
+        QCOMPARE(NumeroErreur([&] { ligne.Regle(ReglagePort()); }), ErreurPort::Reglage);
     }
 
     // Every byte, both ways, even when signals interrupt the calls and the system takes and gives one character at a
     // time; with XON/XOFF the flow control takes its two. What a pseudo-terminal drops of the settings is no failure;
     // what it keeps must be there.
+    void octetsExacts_data() { Rangees(Reglages); }
     void octetsExacts()
     {
-        const std::tuple<const char *, ControleFlux, QByteArray> cas[] = {
-            {"9600,n,8,1", ControleFlux::Aucun, ""},
-            {"128000,s,8,1", ControleFlux::XonXoff, "\x11\x13"},
-            {"14400,e,7,2", ControleFlux::RtsXonXoff, "\x11\x13"}};
+        const auto &[texte, flux, pris] = Rangee(Reglages);
         const QByteArray tous = TousLesOctets();
-        for (const auto &[texte, flux, pris] : cas) {
-            Com2 com2;
-            systeme = {};
-            systeme.tempete = pris.isEmpty();
-            LignePosix ligne(com2.chemin);
-            ReglagePort reglage = LitReglagePort(QString::fromLatin1(texte));
-            reglage.flux = flux;
-            ligne.Regle(reglage);
-            termios terminal{};
-            QCOMPARE(tcgetattr(com2.machine.Maitre(), &terminal), 0);
-            QCOMPARE(terminal.c_iflag & (IXON | IXOFF | IXANY), tcflag_t(pris.isEmpty() ? 0 : IXON | IXOFF));
+        Com2 com2;
+        systeme.tempete = pris.isEmpty();
+        LignePosix ligne(com2.chemin);
+        ReglagePort reglage = LitReglagePort(QString::fromLatin1(texte));
+        reglage.flux = flux;
+        ligne.Regle(reglage);
+        termios terminal{};
+        QCOMPARE(tcgetattr(com2.machine.Maitre(), &terminal), 0);
+        QCOMPARE(terminal.c_iflag & (IXON | IXOFF | IXANY), tcflag_t(pris.isEmpty() ? 0 : IXON | IXOFF));
 
-            for (int ecrits = 0; ecrits < 256;)
-                ecrits += ligne.Ecrit(tous.constData() + ecrits, 256 - ecrits);
-            QByteArray venus;
-            QTRY_VERIFY((venus += com2.machine.Lit(65536)).size() >= 256);
-            QCOMPARE(venus, tous);
+        for (int ecrits = 0; ecrits < 256;)
+            ecrits += ligne.Ecrit(tous.constData() + ecrits, 256 - ecrits);
+        QByteArray venus;
+        QTRY_VERIFY((venus += com2.machine.Lit(65536)).size() >= 256);
+        QCOMPARE(venus, tous);
 
-            QCOMPARE(com2.machine.Ecrit(tous), 256);
-            QByteArray attendus = tous;
-            attendus.removeIf([pris = pris](char octet) { return pris.contains(octet); });
-            QByteArray lus;
-            const auto toutLu = [&] {
-                for (int fois = 0; fois < 1000; ++fois) // in a storm most readings give nothing
-                    lus += ligne.Lit(100).octets;
-                return lus.size() >= attendus.size();
-            };
-            QTRY_VERIFY(toutLu());
-            QCOMPARE(lus, attendus);
-            QCOMPARE(systeme.coups > 1000, systeme.tempete);
-        }
+        QCOMPARE(com2.machine.Ecrit(tous), 256);
+        QByteArray attendus = tous;
+        attendus.removeIf([pris = pris](char octet) { return pris.contains(octet); });
+        QByteArray lus;
+        const auto toutLu = [&] {
+            for (int fois = 0; fois < 1000; ++fois) // in a storm most readings give nothing
+                lus += ligne.Lit(100).octets;
+            return lus.size() >= attendus.size();
+        };
+        QTRY_VERIFY(toutLu());
+        QCOMPARE(lus, attendus);
+        QCOMPARE(systeme.coups > 1000, systeme.tempete);
     }
 
     // An XOFF that an earlier use left behind holds no one; the same settings again do not let a held line go.
@@ -258,26 +281,21 @@ private Q_SLOTS:
     }
 
     // What a device takes otherwise than asked is refused with its number, and what it had stands again.
+    void reglageRefuse_data() { Rangees(Ecarts); }
     void reglageRefuse()
     {
+        const auto &[nom, vitesse, texte, numero] = Rangee(Ecarts);
         const Com2 com2;
         const int ligne = open(qPrintable(com2.chemin), O_RDWR | O_NOCTTY);
         Puce puce;
         systeme.puce = &puce;
-        for (const auto &[vitesse, texte, numero] : {std::tuple{0, "9600,n,7,1", ErreurPort::BitsDonnees},
-                                                     {0, "9600,e,8,1", ErreurPort::Reglage},
-                                                     {9312, "9600,n,8,1", 0},
-                                                     {9311, "9600,n,8,1", ErreurPort::Vitesse}}) {
-            puce.vitesse = 0;
-            RegleTerminal(ligne, LitReglagePort(QStringLiteral("9600,n,8,2")), true);
-            puce.vitesse = unsigned(vitesse);
-            QCOMPARE(
-                NumeroErreur([&, texte = texte] { RegleTerminal(ligne, LitReglagePort(QLatin1String(texte)), true); }),
-                numero);
-            termios terminal{};
-            QCOMPARE(tcgetattr(ligne, &terminal), 0);
-            QCOMPARE((terminal.c_cflag & CSTOPB) != 0, numero != 0);
-        }
+        RegleTerminal(ligne, LitReglagePort(QStringLiteral("9600,n,8,2")), true);
+        puce.vitesse = vitesse;
+        const ReglagePort voulu = LitReglagePort(QLatin1String(texte));
+        QCOMPARE(NumeroErreur([&] { RegleTerminal(ligne, voulu, true); }), numero);
+        termios terminal{};
+        QCOMPARE(tcgetattr(ligne, &terminal), 0);
+        QCOMPARE((terminal.c_cflag & CSTOPB) != 0, numero != 0);
         close(ligne);
     }
 };

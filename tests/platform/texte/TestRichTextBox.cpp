@@ -165,9 +165,13 @@ private Q_SLOTS:
         volet.LoadFile(QStringLiteral(DONNEES) + QStringLiteral("/libreoffice.rtf"), RichTextBox::TexteRiche);
         const auto va = [&volet](const char *mot) { volet.setSelStart(int(volet.Text().indexOf(T(mot))) + 1); };
         va("O4512");
-        QVERIFY(volet.SelBold() && !volet.SelItalic() && !volet.SelUnderline());
+        QVERIFY(volet.SelBold());
+        QVERIFY(!volet.SelItalic());
+        QVERIFY(!volet.SelUnderline());
         va("N10");
-        QVERIFY(!volet.SelBold() && volet.SelFontSize() == 10 && volet.SelColor() == QColor(0, 0, 255));
+        QVERIFY(!volet.SelBold());
+        QCOMPARE(volet.SelFontSize(), 10.0);
+        QCOMPARE(volet.SelColor(), QColor(0, 0, 255));
         QCOMPARE(volet.SelFontName(), QStringLiteral("Liberation Mono"));
         va("Z-5");
         QVERIFY(volet.SelUnderline());
