@@ -4,10 +4,6 @@
 #include "shell/CadreExplorateur.h"
 #include "shell/NomsPerdus.h"
 
-#include <QDir>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 constexpr char Cfg[] = "Dorvanel.CFG";
@@ -39,26 +35,28 @@ class TestDosProg : public QObject
 private Q_SLOTS:
     // The folder follows the selection at once, the file only when it is applied, and a new start reads the file. A
     // folder that a configuration names beside the program stays named so until another is chosen.
+    void Choisit_data() { OuiEtNon("programmes", "programs", "gauges"); }
     void Choisit()
     {
-        for (const TypeDossier type : {DossierProgrammes, DossierJauges}) {
-            Atelier atelier(0);
-            DossierDe(type) = u"Prog"_s;
-            const DosProg dialogue(type, nullptr);
-            FolderTreeview &arbre = *dialogue.FolderTreeview1;
-            QCOMPARE(arbre.SelectedFolder() + DossierDe(type), atelier.Chemin("Prog/Prog"));
-            arbre.setSelectedFolder(atelier.Chemin("Prog/Tour"));
-            dialogue.Command1->click();
-            arbre.setSelectedFolder(Reglages.DosAppli);
-            dialogue.Command2->click();
-            arbre.clearSelection();
-            QCOMPARE(DossierDe(type), Reglages.DosAppli + u'/');
-            const QString attendu = type == DossierProgrammes ? u"\"%1/Prog/Tour/\"\r\n\"%1/Jau\"\r\n\"%2\"\r\n"_s
-                                                              : u"\"%1/Prog\"\r\n\"%1/Prog/Tour/\"\r\n\"%2\"\r\n"_s;
-            QCOMPARE(atelier.Lit(Cfg), attendu.arg(Reglages.DosAppli, Reglages.EditeurCN).toLatin1());
-            atelier.Redemarre();
-            QCOMPARE(DossierDe(type), atelier.Chemin("Prog/Tour/"));
-        }
+        QFETCH(bool, programmes);
+        const TypeDossier type = programmes ? DossierProgrammes : DossierJauges;
+        Atelier atelier(0);
+        DossierDe(type) = u"Prog"_s;
+        const DosProg dialogue(type, nullptr);
+        FolderTreeview &arbre = *dialogue.FolderTreeview1;
+        QCOMPARE((QStringList{arbre.SelectedFolder(), DossierDe(type)}),
+                 (QStringList{atelier.Chemin("Prog/"), u"Prog"_s}));
+        arbre.setSelectedFolder(atelier.Chemin("Prog/Tour"));
+        dialogue.Command1->click();
+        arbre.setSelectedFolder(Reglages.DosAppli);
+        dialogue.Command2->click();
+        arbre.clearSelection();
+        QCOMPARE(DossierDe(type), Reglages.DosAppli + u'/');
+        const QString attendu = programmes ? u"\"%1/Prog/Tour/\"\r\n\"%1/Jau\"\r\n\"%2\"\r\n"_s
+                                           : u"\"%1/Prog\"\r\n\"%1/Prog/Tour/\"\r\n\"%2\"\r\n"_s;
+        QCOMPARE(atelier.Lit(Cfg), attendu.arg(Reglages.DosAppli, Reglages.EditeurCN).toLatin1());
+        atelier.Redemarre();
+        QCOMPARE(DossierDe(type), atelier.Chemin("Prog/Tour/"));
     }
 
     // A folder whose name the file cannot keep is told as it is applied, also where it goes along
@@ -109,33 +107,39 @@ private Q_SLOTS:
 
     // The new folder is the reception folder at once, and the tree stands on it, as the explorer does where it was
     // opened. What no name may hold is dropped, typed or pasted; Enter makes the folder and applies nothing.
+    void SousDossier_data() { OuiEtNon("explorateur", "with the explorer", "without"); }
     void SousDossier()
     {
-        for (const bool explorateur : {false, true}) {
-            const Atelier atelier(0);
-            if (explorateur)
-                Operateur::Barre(15);
-            DosProg dialogue(DossierProgrammes, frmPrinc);
-            dialogue.show();
-            QVERIFY(QTest::qWaitForWindowActive(&dialogue) && dialogue.Frame1->isHidden());
-            dialogue.Command3->click();
-            QCOMPARE(dialogue.focusWidget(), dialogue.Text1);
-            const QString interdits = u"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|]}° \"\n\t"_s;
-            QVERIFY(dialogue.Text1->text().isEmpty() && !dialogue.Command4->isEnabled());
-            dialogue.Text1->setText(u"A"_s);
-            dialogue.Text1->selectAll();
-            QTest::keyClicks(dialogue.Text1, u"../ .\\ \",("_s);
-            QCOMPARE(dialogue.Text1->selectedText(), u"A"_s); // a dropped key takes nothing with it
-            dialogue.Text1->insert(u"../Fr"_s + interdits + u"e-9_È"_s);
-            QTest::keyClick(dialogue.Text1, Qt::Key_Return);
-            const QString cree = atelier.Chemin(u"Prog/Fre-9_È/"_s);
-            QCOMPARE(ParamCom.DosRecep + dialogue.FolderTreeview1->SelectedFolder(), cree + cree);
-            if (const CadreExplorateur *const colonne = frmPrinc->Frame1)
-                QCOMPARE(colonne->FolderTreeview1->SelectedFolder() + colonne->File1->Path(), cree + cree);
-            QVERIFY(QFileInfo(cree).isDir() && dialogue.Frame1->isHidden() && dialogue.isVisible());
-            QCOMPARE(dialogue.focusWidget(), dialogue.FolderTreeview1); // where Enter makes no second one
-            QVERIFY(!QFile::exists(atelier.Chemin(Cfg)));
-        }
+        QFETCH(bool, explorateur);
+        const Atelier atelier(0);
+        if (explorateur)
+            Operateur::Barre(15);
+        DosProg dialogue(DossierProgrammes, frmPrinc);
+        dialogue.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+        QVERIFY(dialogue.Frame1->isHidden());
+        dialogue.Command3->click();
+        QCOMPARE(dialogue.focusWidget(), dialogue.Text1);
+        const QString interdits = u"².,;:ù*îïÎÏêëÊËôöÔÖûüÛÜâäÂÄ&?+'`^=\\/éèàç()~{[|]}° \"\n\t"_s;
+        QVERIFY(dialogue.Text1->text().isEmpty());
+        QVERIFY(!dialogue.Command4->isEnabled());
+        dialogue.Text1->setText(u"A"_s);
+        dialogue.Text1->selectAll();
+        QTest::keyClicks(dialogue.Text1, u"../ .\\ \",("_s);
+        QCOMPARE(dialogue.Text1->selectedText(), u"A"_s); // a dropped key takes nothing with it
+        dialogue.Text1->insert(u"../Fr"_s + interdits + u"e-9_È"_s);
+        QTest::keyClick(dialogue.Text1, Qt::Key_Return);
+        const QString cree = atelier.Chemin(u"Prog/Fre-9_È/"_s);
+        QCOMPARE(ParamCom.DosRecep, cree);
+        QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), cree);
+        if (const CadreExplorateur *const colonne = frmPrinc->Frame1)
+            QCOMPARE((QStringList{colonne->FolderTreeview1->SelectedFolder(), colonne->File1->Path()}),
+                     (QStringList{cree, cree}));
+        QVERIFY(QFileInfo(cree).isDir());
+        QVERIFY(dialogue.Frame1->isHidden());
+        QVERIFY(dialogue.isVisible());
+        QCOMPARE(dialogue.focusWidget(), dialogue.FolderTreeview1); // where Enter makes no second one
+        QVERIFY(!QFile::exists(atelier.Chemin(Cfg)));
     }
 
     // The reception dialog opens it for its own folder, and shows each choice behind it; the properties, of which the
@@ -149,7 +153,8 @@ private Q_SLOTS:
                 const auto &dialogue = dynamic_cast<const DosProg &>(fenetre);
                 const auto *const montre = dialogue.parent()->findChild<QLabel *>(label);
                 dialogue.FolderTreeview1->setSelectedFolder(u"/"_s);
-                QVERIFY(montre->isVisible() && montre->text() == avant);
+                QVERIFY(montre->isVisible());
+                QCOMPARE(montre->text(), avant);
                 dialogue.Command1->click();
                 QCOMPARE(montre->text(), u"/"_s);
                 fenetre.close();
@@ -159,7 +164,7 @@ private Q_SLOTS:
         atelier.Fait("DosProg", choisit(u"Label3"_s, u"/"_s));
         atelier.Presse("Rc_Fic", "Command1");
         Operateur::Menu("Mnu_RecepJauge");
-        QCOMPARE(Reglages.DosJauge + ParamCom.DosRecep, u'/' + atelier.Chemin("Prog"));
+        QCOMPARE((QStringList{Reglages.DosJauge, ParamCom.DosRecep}), (QStringList{u"/"_s, atelier.Chemin("Prog")}));
 
         atelier.Presse("Prop", "Command2");
         atelier.Fait("DosProg", choisit(u"Label8"_s, atelier.Chemin("Prog")));

@@ -5,10 +5,6 @@
 #include "platform/fichiers/FichierTexte.h"
 #include "shell/CadreExplorateur.h"
 
-#include <QDir>
-
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// A workstation and its operator at the start-up options. "%1" in a text stands for the application folder.
@@ -77,11 +73,15 @@ private Q_SLOTS:
         atelier.Coche(u"123"_s);
         const QString ini = u" 1 \r\n\"%1/Pieces\"\r\n 1 \r\n\"%1/Conf/Tour.par\"\r\n 1 \r\n%1/Conf\r\n 0 \r\n"_s;
         atelier.Ouvre(true, ini);
-        QVERIFY(!frmPrinc->ExplorateurMontre() && EtatConf.FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
+        QVERIFY(!frmPrinc->ExplorateurMontre());
+        QVERIFY(EtatConf.FicConf.isEmpty());
+        QVERIFY(!Operateur::Offre("Mnu_RecepProg"));
         atelier.Redemarre();
-        QVERIFY(frmPrinc->ExplorateurMontre() && Operateur::Offre("Mnu_RecepProg"));
+        QVERIFY(frmPrinc->ExplorateurMontre());
+        QVERIFY(Operateur::Offre("Mnu_RecepProg"));
         QCOMPARE(frmPrinc->Frame1->FolderTreeview1->SelectedFolder(), atelier.Chemin("Pieces/"));
-        QCOMPARE(EtatConf.FicConf + ParamCom.NomPort, atelier.Chemin("Conf/Tour.parCom3"));
+        QCOMPARE((QStringList{EtatConf.FicConf, ParamCom.NomPort}),
+                 (QStringList{atelier.Chemin("Conf/Tour.par"), u"Com3"_s}));
         atelier.Ouvre(true, ini);
 
         Reglages.FicConfDefaut.clear();
@@ -89,7 +89,8 @@ private Q_SLOTS:
         const QString reste = u" 0 \r\n\"%1\"\r\n 1 \r\n\"\"\r\n 0 \r\n%1/Conf\r\n 0 \r\n"_s;
         atelier.Ouvre(true, reste);
         atelier.Redemarre();
-        QVERIFY(!frmPrinc->ExplorateurMontre() && EtatConf.FicConf.isEmpty());
+        QVERIFY(!frmPrinc->ExplorateurMontre());
+        QVERIFY(EtatConf.FicConf.isEmpty());
     }
 
     // A name that the settings cannot keep is told as it is chosen, with its signs. Each line loses other ones.
@@ -123,7 +124,8 @@ private Q_SLOTS:
         atelier.Coche({});
         atelier.Presse("FrmConfDem", "Command3");
         Operateur::Menu("Mnu_ConfigDemar");
-        QCOMPARE(Reglages.OptDosDefaut + Reglages.OptConfDefaut + Reglages.OptExplorateur, 3);
+        QCOMPARE((QList<int>{Reglages.OptDosDefaut, Reglages.OptConfDefaut, Reglages.OptExplorateur}),
+                 QList<int>(3, 1));
         atelier.Presse("FrmConfDem", "Command6");
         atelier.Presse("FrmLangue", "Option3");
         atelier.Presse("FrmLangue", "Command1");
@@ -132,32 +134,33 @@ private Q_SLOTS:
 
     // Receiving needs a configuration, sending a program too, which may come before or after. Cancelling changes
     // nothing. A file that breaks off is in the record as far as it goes, and what was in service stays so.
+    void Charge_data() { OuiEtNon("programmeDAbord", "the program first", "the configuration first"); }
     void Charge()
     {
+        QFETCH(bool, programmeDAbord);
         const QString complete = Donnees(u"Complet.par"_s);
-        for (const bool programmeDAbord : {false, true}) {
-            Etabli e(0);
-            const QString programme = e.Ecrit("P.iso", "G0");
-            const QString courte = e.Ecrit("Courte.par", LitOctets(complete).chopped(5)); // no last line
-            if (programmeDAbord)
-                OuvreDocument(programme);
-            e.Ferme("CommonDialog");
-            Operateur::Barre(8);
-            QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.NomPort, QString());
-            e.ChoisitAncien(courte);
-            Operateur::Menu("Mnu_ChargeConf");
-            QCOMPARE(EnService(), u"0000 Aucun Aucun "_s);
-            QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.NomPort, courte + u"Courte.parCom3"_s);
-
-            e.Choisit(complete);
-            Operateur::Menu("Mnu_ChargeConf");
-            const QString suite = u" Complet.par Tour 2 axes, été € \r\r\n"_s;
-            QCOMPARE(EnService(), (programmeDAbord ? u"1111"_s : u"1100"_s) + suite);
+        Etabli e(0);
+        const QString programme = e.Ecrit("P.iso", "G0");
+        const QString courte = e.Ecrit("Courte.par", LitOctets(complete).chopped(5)); // no last line
+        if (programmeDAbord)
             OuvreDocument(programme);
-            e.ChoisitAncien(courte);
-            Operateur::Menu("Mnu_ChargeConf");
-            QCOMPARE(EnService() + EtatConf.NomConf, u"1111"_s + suite + u"Courte.par"_s);
-        }
+        e.Ferme("CommonDialog");
+        Operateur::Barre(8);
+        QCOMPARE((QStringList{EtatConf.FicConf, EtatConf.NomConf, ParamCom.NomPort}), (QStringList{{}, {}, {}}));
+        e.ChoisitAncien(courte);
+        Operateur::Menu("Mnu_ChargeConf");
+        QCOMPARE(EnService(), u"0000 Aucun Aucun "_s);
+        QCOMPARE((QStringList{EtatConf.FicConf, EtatConf.NomConf, ParamCom.NomPort}),
+                 (QStringList{courte, u"Courte.par"_s, u"Com3"_s}));
+
+        e.Choisit(complete);
+        Operateur::Menu("Mnu_ChargeConf");
+        const QString suite = u" Complet.par Tour 2 axes, été € \r\r\n"_s;
+        QCOMPARE(EnService(), (programmeDAbord ? u"1111"_s : u"1100"_s) + suite);
+        OuvreDocument(programme);
+        e.ChoisitAncien(courte);
+        Operateur::Menu("Mnu_ChargeConf");
+        QCOMPARE((QStringList{EnService(), EtatConf.NomConf}), (QStringList{u"1111"_s + suite, u"Courte.par"_s}));
     }
 };
 

@@ -12,10 +12,8 @@
 #include "transfer/Rc_Fic.h"
 
 #include <QClipboard>
-#include <QDir>
 #include <QInputDialog>
 
-using namespace Qt::Literals::StringLiterals;
 using C = ConfigurationCom;
 
 namespace {
@@ -36,6 +34,44 @@ struct EtabliProp : Etabli
     std::shared_ptr<Scenario> scenario = std::make_shared<Scenario>();
 };
 
+/// The buttons of a group, its field and their number, and whether a click is in the record at once.
+const std::tuple<const char *, int C::*, int, bool> Groupes[] = {
+    {"optFlow_%1", &C::ControleFlux, 4, true},     {"optEcho_%1", &C::Echo, 2, true},
+    {"OptFinTrans_%1", &C::TypeFinTrans, 3, true}, {"OptFinLig_%1", &C::TypeFinLig, 5, true},
+    {"OptionNul_%1", &C::FiltreNul, 2, true},      {"OptionRTS_%1", &C::LigneRTS, 2, true},
+    {"OptionDRT_%1", &C::LigneDTR, 2, true},       {"OptionRCP_%1", &C::TypeRecep, 3, true},
+    {"Option1_%1", &C::FinLigRecep, 4, false},     {"OptionEnvoi_%1", &C::TypeEnvoi, 2, false}};
+
+const std::tuple<const char *, int, QString, int, QString> RefusApplique[] = {
+    {"data bits", 1, u"4"_s, 0, u"La taille d'octet spécifiée n'est pas valide\r\"4\""_s},
+    {"port", 3, u"8"_s, 8002, u"Numéro de port non valide\rrefused"_s},
+    {"settings", 1, u"8"_s, 8015, u"Impossible de définir l'état de communication\rrefused"_s}};
+
+using E = EtatConfiguration;
+constexpr const char *Rien = nullptr, *Flux = "optFlow_3", *FinLigne = "OptFinLig_1";
+/// The state of the record, an option pressed, applied, saved, and the state behind.
+const std::tuple<const char *, E::Fiche, const char *, bool, bool, E::Fiche> Fermetures[] = {
+    {"untouched", E::Entiere, Rien, false, false, E::Entiere},
+    {"chosen only", E::Entiere, Flux, false, false, E::EnAttente},
+    {"applied", E::Entiere, Flux, true, false, E::Entiere},
+    {"saved", E::Entiere, Flux, false, true, E::Entiere},
+    {"saved, with the former line end", E::Entiere, FinLigne, false, true, E::EnAttente},
+    {"still waiting", E::EnAttente, Rien, false, false, E::EnAttente},
+    {"waiting, applied", E::EnAttente, Rien, true, false, E::Entiere},
+    {"broken off, applied", E::Incomplete, Flux, true, false, E::Incomplete},
+    {"broken off, saved", E::Incomplete, Rien, false, true, E::Entiere}};
+
+/// Gestures in the chooser on the chain CR LF: numbers press the character's button, "=x" applies x as the free
+/// character, the rest are names of buttons. Codes, label and undo.
+const std::tuple<const char *, QString, QString, bool> Compositions[] = {
+    {"19", u"\r\n\x13"_s, u"CRLFXoff"_s, true},
+    {"19 17 Command3 Command3", u"\r\n\x13"_s, u"CRLFXoff"_s, false},
+    {"9 Command2 Command3", {}, {}, false},
+    {"Command2 0", u"\0"_s, u"Nul"_s, true},
+    {"Command2 38 34 30 31 32 127", u"&\"\x1E\x1F \x7F"_s, u"&&\"usrsEsp\x7F"_s, true},
+    {"Command2 Command4 2 Command5", u"\u0002\u0002\u0003"_s, u"\u0002stx\u0003"_s, true},
+    {"Command2 =é =€ =& =Ω =", u"é€&"_s, u"é€&"_s, true}};
+
 QAbstractButton *Bouton(const Prop &prop, const QString &nom)
 {
     return prop.findChild<QAbstractButton *>(nom);
@@ -49,27 +85,23 @@ class TestProp : public QObject
 
 private Q_SLOTS:
     // A click is in the record at once and stays there when the dialog closes, but for the two that a saving takes.
+    void Options_data() { Rangees(Groupes); }
     void Options()
     {
-        const std::tuple<QString, int C::*, int, bool> groupes[] = {
-            {u"optFlow_%1"_s, &C::ControleFlux, 4, true},     {u"optEcho_%1"_s, &C::Echo, 2, true},
-            {u"OptFinTrans_%1"_s, &C::TypeFinTrans, 3, true}, {u"OptFinLig_%1"_s, &C::TypeFinLig, 5, true},
-            {u"OptionNul_%1"_s, &C::FiltreNul, 2, true},      {u"OptionRTS_%1"_s, &C::LigneRTS, 2, true},
-            {u"OptionDRT_%1"_s, &C::LigneDTR, 2, true},       {u"OptionRCP_%1"_s, &C::TypeRecep, 3, true},
-            {u"Option1_%1"_s, &C::FinLigRecep, 4, false},     {u"OptionEnvoi_%1"_s, &C::TypeEnvoi, 2, false}};
+        const auto &[nom, champ, nombre, auClic] = Rangee(Groupes);
+        const QString option = QLatin1String(nom);
         const EtabliProp etabli;
-        for (const auto &[nom, champ, nombre, auClic] : groupes) {
-            for (int i = -1; i <= nombre; ++i) { // the values at both ends belong to no option
-                ParamCom.*champ = i;
-                const Prop prop(frmPrinc);
-                const auto *const bouton = Bouton(prop, nom.arg(i));
-                QVERIFY2(bouton == nullptr || bouton->isChecked(), qPrintable(nom.arg(i)));
-                Bouton(prop, nom.arg((i + 1) % nombre))->click(); // which may be the one that stands there
-                prop.cmdCancel->click();
-                QCOMPARE(ParamCom.*champ, auClic ? (i + 1) % nombre : i);
-                QCOMPARE(prop.Command20->isHidden(), ParamCom.TypeFinTrans != 2);
-                QCOMPARE(prop.LabelFinLigne->isHidden(), ParamCom.TypeFinLig != 4);
-            }
+        for (int i = -1; i <= nombre; ++i) { // the values at both ends belong to no option
+            const auto passe = Passe(QString::number(i));
+            ParamCom.*champ = i;
+            const Prop prop(frmPrinc);
+            const auto *const bouton = Bouton(prop, option.arg(i));
+            QVERIFY(bouton == nullptr || bouton->isChecked());
+            Bouton(prop, option.arg((i + 1) % nombre))->click(); // which may be the one that stands there
+            prop.cmdCancel->click();
+            QCOMPARE(ParamCom.*champ, auClic ? (i + 1) % nombre : i);
+            QCOMPARE(prop.Command20->isHidden(), ParamCom.TypeFinTrans != 2);
+            QCOMPARE(prop.LabelFinLigne->isHidden(), ParamCom.TypeFinLig != 4);
         }
     }
 
@@ -79,6 +111,7 @@ private Q_SLOTS:
         EtabliProp etabli;
         for (const auto &[type, nombre, montre] :
              {std::tuple{0, 1, u"512"_s}, {1, 1, u"1"_s}, {2, 1, u"512"_s}, {1, 512, u"512"_s}, {2, 100, u"100"_s}}) {
+            const auto passe = Passe(u"%1: %2"_s.arg(type).arg(nombre));
             ParamCom.TypeRecep = type;
             ParamCom.NbCarLecture = nombre;
             const Prop prop(frmPrinc);
@@ -90,12 +123,14 @@ private Q_SLOTS:
         const Prop prop(frmPrinc);
         for (const auto &[avant, option, apres] :
              {std::tuple{u"7"_s, 1, u"1"_s}, {u"1"_s, 0, u"512"_s}, {u"01"_s, 2, u"01"_s}}) {
+            const auto passe = Passe(avant);
             prop.Text2->setText(avant);
             Bouton(prop, u"OptionRCP_%1"_s.arg(option))->click();
             QCOMPARE(prop.Text2->text(), apres);
         }
         prop.OptionTaille_0->click();
-        QVERIFY(prop.Text8->text() == u"0" && prop.Text8->isHidden());
+        QCOMPARE(prop.Text8->text(), u"0"_s);
+        QVERIFY(prop.Text8->isHidden());
         prop.OptionTaille_1->click();
         QVERIFY(!prop.Text8->isHidden());
     }
@@ -138,69 +173,73 @@ private Q_SLOTS:
         etabli.Prevenu(u"Un nombre est trop grand pour le champ qui doit le recevoir.\r"_s + prop.Label16->text() +
                        u'\r' + trop + u" ne convient pas (32767 au plus)."_s);
         prop.cmdOK->click();
-        QCOMPARE(ParamCom.Commentaire + QString::number(ParamCom.SeuilEmis), u"12"_s);
-        QVERIFY(prop.SSTab1->currentWidget() == prop.divers && prop.focusWidget() == prop.Text7);
+        QCOMPARE(ParamCom.Commentaire, QString());
+        QCOMPARE(ParamCom.SeuilEmis, 12);
+        QCOMPARE(prop.SSTab1->currentWidget(), prop.divers);
+        QCOMPARE(prop.focusWidget(), prop.Text7);
     }
 
     // Apply: record, control and main window follow; an open port moves, and what it refuses does not keep it from the
     // rest. The way of sending and the fixed size wait for a saving; menus and files stay as they were.
+    void Applique_data() { OuiEtNon("ouvert", "open port", "closed port"); }
     void Applique()
     {
-        for (const bool ouvert : {false, true}) {
-            const EtabliProp etabli;
-            MSComm &controle = *frmPrinc->MSComm1;
-            EtabliProp::Ouvre(ouvert);
-            EtatConf.NomConf = ouvert ? u"Tour.par"_s : QString();
-            const Prop prop(frmPrinc);
-            prop.cboPort->setCurrentIndex(6);
-            prop.cboParity->setCurrentText(u"Mark"_s);
-            prop.cboStopBits->setCurrentText(u"2"_s);
-            for (QRadioButton *const option : {prop.optFlow_3, prop.OptFinLig_2, prop.Option1_1, prop.OptionEnvoi_0})
-                option->click();
-            int valeur = 1;
-            for (QLineEdit *const boite :
-                 {prop.Text1, prop.Text2, prop.Text3, prop.Text4, prop.Text5, prop.Text6, prop.Text7, prop.Text8})
-                boite->setText(QString::number(valeur++));
-            prop.cmdOK->click();
-            const C &p = ParamCom;
-            QCOMPARE((QStringList{p.NomPort, p.Commentaire, p.Parite, p.BitsArret, p.CarRemplace, p.ChaineFinLig}),
-                     u"Com7|1|m|2|3|\n\r"_s.split(u'|'));
-            QCOMPARE((QList<int>{p.NumPort, p.NbCarLecture, p.TailleTamponRecep, p.TailleTamponEmis, p.SeuilRecep,
-                                 p.SeuilEmis, p.FinLigRecep, p.TailleRecep, p.TypeEnvoi}),
-                     (QList<int>{7, 2, 4, 5, 6, 7, 1, 70, 1}));
-            QCOMPARE(controle.Settings() + controle.ParityReplace(), u"19200,m,8,23"_s);
-            QCOMPARE((QList<int>{controle.CommPort(), controle.Handshaking(), controle.InputLen(),
-                                 controle.InBufferSize(), controle.RThreshold(), controle.SThreshold(),
-                                 controle.DTREnable(), controle.PortOpen(), frmPrinc->PortOuvert}),
-                     (QList<int>{7, 3, 2, ouvert ? 1024 : 4, 6, 7, 1, ouvert, ouvert}));
-            QCOMPARE(frmPrinc->Label4->text() + frmPrinc->Label6->text(), (ouvert ? u"Tour.par1"_s : u"Aucun1"_s));
-            QVERIFY(EtatConf.FicConf.isEmpty() && !Operateur::Offre("Mnu_RecepProg"));
-        }
+        QFETCH(bool, ouvert);
+        const EtabliProp etabli;
+        MSComm &controle = *frmPrinc->MSComm1;
+        EtabliProp::Ouvre(ouvert);
+        EtatConf.NomConf = ouvert ? u"Tour.par"_s : QString();
+        const Prop prop(frmPrinc);
+        prop.cboPort->setCurrentIndex(6);
+        prop.cboParity->setCurrentText(u"Mark"_s);
+        prop.cboStopBits->setCurrentText(u"2"_s);
+        for (QRadioButton *const option : {prop.optFlow_3, prop.OptFinLig_2, prop.Option1_1, prop.OptionEnvoi_0})
+            option->click();
+        int valeur = 1;
+        for (QLineEdit *const boite :
+             {prop.Text1, prop.Text2, prop.Text3, prop.Text4, prop.Text5, prop.Text6, prop.Text7, prop.Text8})
+            boite->setText(QString::number(valeur++));
+        prop.cmdOK->click();
+        const C &p = ParamCom;
+        QCOMPARE((QStringList{p.NomPort, p.Commentaire, p.Parite, p.BitsArret, p.CarRemplace, p.ChaineFinLig}),
+                 u"Com7|1|m|2|3|\n\r"_s.split(u'|'));
+        QCOMPARE((QList<int>{p.NumPort, p.NbCarLecture, p.TailleTamponRecep, p.TailleTamponEmis, p.SeuilRecep,
+                             p.SeuilEmis, p.FinLigRecep, p.TailleRecep, p.TypeEnvoi}),
+                 (QList<int>{7, 2, 4, 5, 6, 7, 1, 70, 1}));
+        QCOMPARE((QStringList{controle.Settings(), controle.ParityReplace()}), (QStringList{u"19200,m,8,2"_s, u"3"_s}));
+        QCOMPARE((QList<int>{controle.CommPort(), controle.Handshaking(), controle.InputLen(), controle.InBufferSize(),
+                             controle.RThreshold(), controle.SThreshold(), controle.DTREnable(), controle.PortOpen(),
+                             frmPrinc->PortOuvert}),
+                 (QList<int>{7, 3, 2, ouvert ? 1024 : 4, 6, 7, 1, ouvert, ouvert}));
+        QCOMPARE((QStringList{frmPrinc->Label4->text(), frmPrinc->Label6->text()}),
+                 (QStringList{ouvert ? u"Tour.par"_s : u"Aucun"_s, u"1"_s}));
+        QVERIFY(EtatConf.FicConf.isEmpty());
+        QVERIFY(!Operateur::Offre("Mnu_RecepProg"));
     }
 
     // A refusal is told with its reason and ends the Apply: the record keeps what the controls held, the rest stays as
     // it was. A port that cannot be opened leaves the control on the old number, closed.
+    void Refuse_data() { Rangees(RefusApplique); }
     void Refuse()
     {
-        for (const auto &[port, bits, refus, texte] :
-             {std::tuple{1, u"4"_s, 0, u"La taille d'octet spécifiée n'est pas valide\r\"4\""_s},
-              {3, u"8"_s, 8002, u"Numéro de port non valide\rrefused"_s},
-              {1, u"8"_s, 8015, u"Impossible de définir l'état de communication\rrefused"_s}}) {
-            EtabliProp etabli;
-            const MSComm &controle = *frmPrinc->MSComm1;
-            EtabliProp::Ouvre(true);
-            etabli.scenario->refusReglage = refus;
-            const Prop prop(frmPrinc);
-            prop.cboPort->setCurrentIndex(port - 1);
-            prop.cboDataBits->setCurrentText(bits);
-            prop.cboStopBits->setCurrentText(u"1"_s);
-            etabli.Prevenu(texte);
-            prop.cmdOK->click();
-            QCOMPARE(ParamCom.BitsDonnees + QString::number(ParamCom.NumPort), bits + QString::number(port));
-            QCOMPARE(controle.CommPort() + controle.InputLen(), 1);
-            QVERIFY(controle.PortOpen() == (port == 1) && frmPrinc->PortOuvert == controle.PortOpen());
-            QCOMPARE(ParamCom.ChaineFinLig + frmPrinc->Label6->text(), u"Aucun"_s);
-        }
+        const auto &[nom, port, bits, refus, texte] = Rangee(RefusApplique);
+        EtabliProp etabli;
+        const MSComm &controle = *frmPrinc->MSComm1;
+        EtabliProp::Ouvre(true);
+        etabli.scenario->refusReglage = refus;
+        const Prop prop(frmPrinc);
+        prop.cboPort->setCurrentIndex(port - 1);
+        prop.cboDataBits->setCurrentText(bits);
+        prop.cboStopBits->setCurrentText(u"1"_s);
+        etabli.Prevenu(texte);
+        prop.cmdOK->click();
+        QCOMPARE(ParamCom.BitsDonnees, bits);
+        QCOMPARE(ParamCom.NumPort, port);
+        QCOMPARE(controle.CommPort(), 1);
+        QCOMPARE(controle.InputLen(), 0);
+        QCOMPARE(controle.PortOpen(), port == 1);
+        QCOMPARE(frmPrinc->PortOuvert, controle.PortOpen());
+        QCOMPARE((QStringList{ParamCom.ChaineFinLig, frmPrinc->Label6->text()}), (QStringList{QString(), u"Aucun"_s}));
     }
 
     // A cancelled saving ends without a word: the fields are taken. One whose end of transfer the flow control takes
@@ -221,9 +260,10 @@ private Q_SLOTS:
         prop.Text8->setText(u"33"_s);
         etabli.Ferme("CommonDialog");
         prop.Command1->click();
-        QCOMPARE(EtatConf.FicConf + EtatConf.NomConf + ParamCom.DosRecep + QDir::currentPath(),
-                 etabli.Dossier() + etabli.Dossier());
-        QCOMPARE(ParamCom.TailleRecep * 10 + ParamCom.TypeEnvoi, 330);
+        QCOMPARE((QStringList{EtatConf.FicConf, EtatConf.NomConf, ParamCom.DosRecep, QDir::currentPath()}),
+                 (QStringList{{}, {}, etabli.Dossier(), etabli.Dossier()}));
+        QCOMPARE(ParamCom.TailleRecep, 33);
+        QCOMPARE(ParamCom.TypeEnvoi, 0);
         ParamCom.ControleFlux = 1;
         prop.OptFinTrans_0->click();
         etabli.Choisit(etabli.Chemin("Fin.par"));
@@ -246,36 +286,25 @@ private Q_SLOTS:
     // What the transfers are told of the record that a closed dialog leaves: a choice that was neither applied nor
     // saved is no configuration yet, nor is a saved one whose ends of line and of transfer are still the former ones. A
     // file that broke off has to be saved.
+    void Fermee_data() { Rangees(Fermetures); }
     void Fermee()
     {
-        using E = EtatConfiguration;
-        constexpr const char *rien = nullptr, *flux = "optFlow_3", *fin = "OptFinLig_1";
-        for (const auto &[avant, option, applique, enregistre, apres] :
-             {std::tuple{E::Entiere, rien, false, false, E::Entiere},
-              {E::Entiere, flux, false, false, E::EnAttente},
-              {E::Entiere, flux, true, false, E::Entiere},
-              {E::Entiere, flux, false, true, E::Entiere},
-              {E::Entiere, fin, false, true, E::EnAttente},
-              {E::EnAttente, rien, false, false, E::EnAttente},
-              {E::EnAttente, rien, true, false, E::Entiere},
-              {E::Incomplete, flux, true, false, E::Incomplete},
-              {E::Incomplete, rien, false, true, E::Entiere}}) {
-            EtabliProp etabli;
-            ParamCom.BitsArret = u"1"_s; // which go with 8 data bits
-            BatirChaines();
-            EtatConf.fiche = avant;
-            const Prop prop(frmPrinc);
-            if (option != nullptr)
-                Bouton(prop, QLatin1String(option))->click();
-            if (applique)
-                prop.cmdOK->click();
-            if (enregistre) {
-                etabli.Choisit(etabli.Chemin("Tour.par"));
-                prop.Command1->click();
-            }
-            prop.cmdCancel->click();
-            QCOMPARE(EtatConf.fiche, apres);
+        const auto &[nom, avant, option, applique, enregistre, apres] = Rangee(Fermetures);
+        EtabliProp etabli;
+        ParamCom.BitsArret = u"1"_s; // which go with 8 data bits
+        BatirChaines();
+        EtatConf.fiche = avant;
+        const Prop prop(frmPrinc);
+        if (option != nullptr)
+            Bouton(prop, QLatin1String(option))->click();
+        if (applique)
+            prop.cmdOK->click();
+        if (enregistre) {
+            etabli.Choisit(etabli.Chemin("Tour.par"));
+            prop.Command1->click();
         }
+        prop.cmdCancel->click();
+        QCOMPARE(EtatConf.fiche, apres);
     }
 
     // A configuration to modify: a saving without a change gives it back byte for byte, also where no list has its
@@ -289,6 +318,7 @@ private Q_SLOTS:
         const QByteArray autre = QByteArray(entier).replace("19200", "187500").replace("2048", "20480");
         Reglages.DosConf = etabli.Dossier();
         for (const QByteArray &octets : {entier, autre, autre.chopped(5)}) {
+            const auto passe = Passe(u"%1 bytes"_s.arg(octets.size()));
             QFile::remove(etabli.Chemin("Sans suffixe")); // or the dialog asks about it
             const QString ancien = etabli.Ecrit("Ancien.par", octets);
             if (octets.size() < entier.size())
@@ -304,8 +334,10 @@ private Q_SLOTS:
             });
             Operateur::Menu("Mnu_ModifConf");
             QCOMPARE(etabli.Lit("Sans suffixe"), octets == entier ? entier : autre);
-            QVERIFY(Operateur::Offre("Mnu_RecepProg") && !frmPrinc->Bouton(10)->isEnabled());
-            QCOMPARE(frmPrinc->Label4->text() + ParamCom.ChaineFinLig, u"Ancien.par"_s); // until Apply
+            QVERIFY(Operateur::Offre("Mnu_RecepProg"));
+            QVERIFY(!frmPrinc->Bouton(10)->isEnabled());
+            QCOMPARE((QStringList{frmPrinc->Label4->text(), ParamCom.ChaineFinLig}),
+                     (QStringList{u"Ancien.par"_s, QString()})); // until Apply
         }
     }
 
@@ -343,37 +375,30 @@ private Q_SLOTS:
         prop.cboPort->hidePopup();
         prop.cboPort->showPopup();
         QVERIFY2(bulle(5).contains(QFileInfo(adaptateur).canonicalFilePath()), qPrintable(bulle(5)));
-        QVERIFY(bulle(16).startsWith(u"Com16 : "_s) && bulle(16).section(u':', 1) != bulle(5).section(u':', 1));
+        QVERIFY(bulle(16).startsWith(u"Com16 : "_s));
+        QVERIFY(bulle(16).section(u':', 1) != bulle(5).section(u':', 1));
     }
 
-    // The chooser of characters. Gestures on the chain CR LF: numbers press the character's button, "=x" applies x as
-    // the free character, the rest are names of buttons. Codes, label and undo; behind the chain no code is left.
+    // The chooser of characters; behind the chain no code is left.
+    void Compose_data() { Rangees(Compositions); }
     void Compose()
     {
+        const auto &[gestes, chaine, libelle, annulable] = Rangee(Compositions);
         const Poste poste(0);
-        for (const auto &[gestes, chaine, libelle, annulable] :
-             {std::tuple{u"19"_s, u"\r\n\x13"_s, u"CRLFXoff"_s, true},
-              {u"19 17 Command3 Command3"_s, u"\r\n\x13"_s, u"CRLFXoff"_s, false},
-              {u"9 Command2 Command3"_s, {}, {}, false},
-              {u"Command2 0"_s, u"\0"_s, u"Nul"_s, true},
-              {u"Command2 38 34 30 31 32 127"_s, u"&\"\x1E\x1F \x7F"_s, u"&&\"usrsEsp\x7F"_s, true},
-              {u"Command2 Command4 2 Command5"_s, u"\u0002\u0002\u0003"_s, u"\u0002stx\u0003"_s, true},
-              {u"Command2 =é =€ =& =Ω ="_s, u"é€&"_s, u"é€&"_s, true}}) {
-            ParamCom.CarFinLig = {0, '\r', '\n'};
-            ParamCom.NbCarFinLig = 2;
-            const FrmCaract dialogue(ChaineLigne, u"CRLF"_s, frmPrinc);
-            for (const QString &geste : gestes.split(u' ')) {
-                const bool libre = geste.startsWith(u'=');
-                dialogue.Text1->setText(libre ? geste.mid(1) : QString());
-                const QString nom = libre ? u"Command6"_s : geste.startsWith(u'C') ? geste : u"Car_"_s + geste;
-                dialogue.findChild<QPushButton *>(nom)->click();
-            }
-            QCOMPARE(CaracteresDe(ChaineLigne), chaine);
-            ParamCom.NbCarFinLig = 100;
-            QCOMPARE(CaracteresDe(ChaineLigne), chaine.leftJustified(100, QChar()));
-            QCOMPARE(dialogue.Label1->text(), libelle);
-            QCOMPARE(dialogue.Command3->isEnabled(), annulable);
+        ParamCom.CarFinLig = {0, '\r', '\n'};
+        ParamCom.NbCarFinLig = 2;
+        const FrmCaract dialogue(ChaineLigne, u"CRLF"_s, frmPrinc);
+        for (const QString &geste : QString::fromUtf8(gestes).split(u' ')) {
+            const bool libre = geste.startsWith(u'=');
+            dialogue.Text1->setText(libre ? geste.mid(1) : QString());
+            const QString nom = libre ? u"Command6"_s : geste.startsWith(u'C') ? geste : u"Car_"_s + geste;
+            dialogue.findChild<QPushButton *>(nom)->click();
         }
+        QCOMPARE(CaracteresDe(ChaineLigne), chaine);
+        ParamCom.NbCarFinLig = 100;
+        QCOMPARE(CaracteresDe(ChaineLigne), chaine.leftJustified(100, QChar()));
+        QCOMPARE(dialogue.Label1->text(), libelle);
+        QCOMPARE(dialogue.Command3->isEnabled(), annulable);
     }
 
     // The arrows go through the table as it is seen. Enter on a character that the line cannot carry keeps it in sight.
@@ -396,7 +421,9 @@ private Q_SLOTS:
         dialogue.Text1->setFocus();
         dialogue.Text1->setText(u"Ł"_s);
         QTest::keyClick(dialogue.Text1, Qt::Key_Return);
-        QVERIFY(dialogue.isVisible() && dialogue.Text1->selectedText() == u"Ł" && ParamCom.NbCarFinLig == 0);
+        QVERIFY(dialogue.isVisible());
+        QCOMPARE(dialogue.Text1->selectedText(), u"Ł"_s);
+        QCOMPARE(ParamCom.NbCarFinLig, 0);
     }
 
     // The 101st character finds every way shut; an undo opens them again.

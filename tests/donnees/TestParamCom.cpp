@@ -6,9 +6,6 @@
 #include "platform/fichiers/FichierTexte.h"
 
 #include <QTemporaryDir>
-#include <QTest>
-
-using namespace Qt::Literals::StringLiterals;
 
 class TestParamCom : public QObject
 {
@@ -32,7 +29,7 @@ private Q_SLOTS:
                               p.DosRecep, p.LibDebProg, p.LibFinLig, p.LibFinTrans}),
                  u"Com3|Tour 2 axes, été €|19200|o|8|1.5|?|C:\\Programmes CN|%|CRCRLF|é FIN"_s.split(u'|'));
         BatirChaines();
-        QCOMPARE(CaracteresDe(ChaineDebut) + ParamCom.ChaineFinLig, u"%\r\r\n"_s);
+        QCOMPARE((QStringList{CaracteresDe(ChaineDebut), ParamCom.ChaineFinLig}), (QStringList{u"%"_s, u"\r\r\n"_s}));
         QCOMPARE(OctetsEn1252(ParamCom.ChaineFinTrans), QByteArray("\xE9\xFF"));
     }
 
@@ -51,28 +48,29 @@ private Q_SLOTS:
         ParamCom.CarFinTrans[1] = 34;
         EcrireFichierPar(m_copie);
         QCOMPARE(Lit(m_copie), 0);
-        QCOMPARE(ParamCom.Commentaire + ParamCom.LibFinTrans, u"Tour 'A'"_s + long_ + u'\'');
-        QVERIFY(ParamCom.CarFinTrans[1] == 34 && ParamCom.TypeEnvoi == 1);
+        QCOMPARE((QStringList{ParamCom.Commentaire, ParamCom.LibFinTrans}),
+                 (QStringList{u"Tour 'A'"_s + long_, u"'"_s}));
+        QCOMPARE(ParamCom.CarFinTrans[1], 34);
+        QCOMPARE(ParamCom.TypeEnvoi, 1);
+        QCOMPARE(Lit(m_dossier.filePath(u"absent.par"_s)), Erreur::FichierIntrouvable);
         QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(u"parti/x.par"_s)), Erreur);
     }
 
     // One line of the full file changed, or missing. What stands behind the failure keeps its former value.
+    void LignesChangees_data() { RangeesDe(u"lignes_par.tsv"_s); }
     void LignesChangees()
     {
-        for (const QStringList &change : Table(u"lignes_par.tsv"_s)) {
-            ParamCom = {};
-            ParamCom.FinLigRecep = ParamCom.TypeEnvoi = 7;
-            const int ligne = change[0].toInt(); // from 1
-            const int numero = change[2].toInt();
-            QStringList lignes = Lignes();
-            lignes[ligne - 1] = change[1];
-            QCOMPARE(LitLignes(lignes), numero);
-            QCOMPARE(ParamCom.Echo, ligne > 7 || numero == 0 ? 1 : 0);
-            QCOMPARE(ParamCom.FinLigRecep, ligne > 36 || numero == 0 ? 3 : 7);
-            QCOMPARE(ParamCom.TypeEnvoi, numero == 0 ? 1 : 7);
-            QCOMPARE(EtatConf.fiche, numero == 0 ? EtatConfiguration::Entiere : EtatConfiguration::Incomplete);
-        }
-        QCOMPARE(Lit(m_dossier.filePath(u"absent.par"_s)), Erreur::FichierIntrouvable);
+        QFETCH(QStringList, cases);
+        ParamCom.FinLigRecep = ParamCom.TypeEnvoi = 7;
+        const int ligne = cases[0].toInt(); // from 1
+        const int numero = cases[2].toInt();
+        QStringList lignes = Lignes();
+        lignes[ligne - 1] = cases[1];
+        QCOMPARE(LitLignes(lignes), numero);
+        QCOMPARE(ParamCom.Echo, ligne > 7 || numero == 0 ? 1 : 0);
+        QCOMPARE(ParamCom.FinLigRecep, ligne > 36 || numero == 0 ? 3 : 7);
+        QCOMPARE(ParamCom.TypeEnvoi, numero == 0 ? 1 : 7);
+        QCOMPARE(EtatConf.fiche, numero == 0 ? EtatConfiguration::Entiere : EtatConfiguration::Incomplete);
     }
 
     // A chain holds 100 codes. Whatever count a file gives, the record it leaves can be saved and is whole again.
@@ -80,6 +78,7 @@ private Q_SLOTS:
     {
         for (const auto &[compte, numero, tenus] :
              {std::tuple{100, 0, 100}, {101, int(Erreur::IndiceHorsPlage), 100}, {-3, 0, 0}}) {
+            const auto passe = Passe(QString::number(compte));
             ParamCom = {};
             QStringList lignes = Lignes();
             lignes[26] = QString::number(compte);
