@@ -12,8 +12,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// A workstation with a mill, and the bursts of its bench.
@@ -54,17 +52,17 @@ class TestFiltreJauge : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void Colonnes_data() { RangeesDe(u"mesures.tsv"_s); }
     void Colonnes()
     {
-        for (const QStringList &mesure : Table(u"mesures.tsv"_s)) {
-            Atelier atelier;
-            if (mesure.size() > 2)
-                atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont écrites ainsi :\r"
-                                                   "    N° 1, correcteur "_s +
-                                                       mesure[2]);
-            QCOMPARE(atelier.Filtre({mesure[1]}, 1), "%\r\n" + mesure[0].toLatin1() + "\r\n");
-            QVERIFY(QApplication::overrideCursor() == nullptr);
-        }
+        QFETCH(QStringList, cases);
+        Atelier atelier;
+        if (cases.size() > 2)
+            atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont écrites ainsi :\r"
+                                               "    N° 1, correcteur "_s +
+                                                   cases[2]);
+        QCOMPARE(atelier.Filtre({cases[1]}, 1), "%\r\n" + cases[0].toLatin1() + "\r\n");
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
     }
 
     // Bursts ahead of the measures and between them are passed over, and told at their places of the session; nothing
@@ -104,6 +102,7 @@ private Q_SLOTS:
         for (const auto &[rafale, nombre, dits, reste] :
              {std::tuple{u"tn: 12\r"_s, 22, rangs + u"\r    ... + 2"_s, "BRUT\r\n"},
               {u"\a "_s, 1, u"\r    N° 1 : (rien)"_s, ""}}) {
+            const auto passe = Passe(rafale);
             Atelier atelier;
             ParamMac.TypeMachine = 0; // and no dial
             atelier.Ecrit("A.JAU", "BRUT\r\n");
@@ -120,6 +119,7 @@ private Q_SLOTS:
              {std::tuple{u"33"_s, u"33"_s, u"33|99999|12"_s.split(u'|'), "12"},
               {u"-9E4"_s, u"-90000"_s, {u"-40000"_s, u"-1"_s}, "-1"},
               {u"300"_s, u"300"_s, {QString()}, "0"}}) {
+            const auto passe = Passe(recu);
             Atelier atelier;
             atelier.Apprend("Erreur de numéro de correcteur",
                             u"Attention numéro de correcteur %1|   interdit pour l'outil Nø: 2"_s.arg(dit),
@@ -173,7 +173,7 @@ private Q_SLOTS:
                            Boite::Exclamation | Boite::OuiNon | Boite::SecondBouton, reponse);
         }
         QCOMPARE(atelier.Filtre(rafales, 4), "%\r\nD2 X26 Z98.12 R0 C0\r\n");
-        QVERIFY(QApplication::overrideCursor() == nullptr);
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
     }
 };
 
