@@ -102,6 +102,7 @@ void AnnonceDisparu(const QString &texte)
     if (annonce != nullptr)
         return;
     annonce = new QTimer(frmPrinc);
+    annonce->setObjectName(QStringLiteral("AnnonceDisparu"));
     annonce->callOnTimeout([texte] {
         if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
             return;

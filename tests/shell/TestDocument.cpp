@@ -1,22 +1,28 @@
-#include "Essais.h"
 #include "Etabli.h"
 
 #include "platform/dialogues/CommonDialog.h"
 
 #include <QClipboard>
-#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QListView>
 #include <QMimeData>
 #include <QToolButton>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 const QString Iso = QStringLiteral("P.iso");
 const QString Version = QStringLiteral("Dorvanel Pro version " DORVANEL_VERSION " : ");
+
+/// The names of the document, and those that the window shows of it.
+QStringList Noms()
+{
+    return {Document.NomFichier, Document.TitreFichier, frmPrinc->windowTitle(), frmPrinc->Label2->text()};
+}
+QStringList Ouvert(const QString &chemin, const QString &titre)
+{
+    return {chemin, titre, Version + chemin, titre};
+}
 
 /// An operator who opens and saves programs.
 struct Atelier : Etabli
@@ -56,12 +62,11 @@ private Q_SLOTS:
               QByteArray("A\r\r\nB\n\rC\n\n\r\n\r\rD\r"), QByteArray("\tN10\t\fX1 \f\r\n \t\r\n"), tous,
               QByteArray(tous).replace("", "\r\n"), QByteArray(3, '\0'), QByteArray(100'000, 'X'),
               QByteArray("M30\r\n\x1A"), QByteArray("{\\rtf1 G0}"), gros}) {
+            const auto passe = Passe(QString::fromLatin1(octets.left(20).toPercentEncoding()));
             const QString chemin = atelier.Ecrit("Pièce n° 1.iso", octets);
             atelier.Choisit("Mnu_Ouvrir", chemin);
             QCOMPARE(frmPrinc->Text1->Text().size(), octets.size());
-            QCOMPARE(Document.NomFichier + Document.TitreFichier, chemin + u"Pièce n° 1.iso"_s);
-            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(),
-                     Version + Document.NomFichier + Document.TitreFichier);
+            QCOMPARE(Noms(), Ouvert(chemin, u"Pièce n° 1.iso"_s));
             QVERIFY(!Document.FichierModifie);
             for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
                 QVERIFY(Operateur::Offre(entree));
@@ -69,9 +74,7 @@ private Q_SLOTS:
             atelier.Choisit("Mnu_EnregistrerSous", atelier.Chemin("copie.iso"));
             QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");
             QVERIFY(atelier.Lit("Pièce n° 1.iso") == octets);
-            QCOMPARE(Document.NomFichier + Document.TitreFichier, atelier.Chemin("copie.iso") + u"copie.iso"_s);
-            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(),
-                     Version + Document.NomFichier + Document.TitreFichier);
+            QCOMPARE(Noms(), Ouvert(atelier.Chemin("copie.iso"), u"copie.iso"_s));
             QFile::remove(atelier.Chemin("copie.iso"));
         }
     }
@@ -83,6 +86,7 @@ private Q_SLOTS:
         const QString programme = atelier.Ecrit("P.iso", "G0");
         OuvreDocument(programme);
         for (const char *const entree : {"Mnu_Ouvrir", "Mnu_EnregistrerSous"}) {
+            const auto passe = Passe(QLatin1String(entree));
             atelier.Fait("CommonDialog", [&](QWidget &fenetre) {
                 auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
                 dialogue.setDirectory(atelier.Dossier());
@@ -121,6 +125,7 @@ private Q_SLOTS:
               {"Mnu_Ouvrir", 16, "*.iso", "*.xcn", programme},
               {"Mnu_EnregistrerSous", 14, "*.xcn", "*.iso", QString()},
               {"Mnu_Ouvrir", 16, "*.xcn", "*.iso", QString()}}) {
+            const auto passe = Passe(QLatin1String(entree) + u' ' + QLatin1String(prend));
             atelier.Fait("CommonDialog", [=](QWidget &fenetre) {
                 auto &dialogue = dynamic_cast<QFileDialog &>(fenetre);
                 QCOMPARE(dialogue.nameFilters().size(), filtres);
@@ -133,7 +138,7 @@ private Q_SLOTS:
                 atelier.Operateur::Choisit(fichier);
             Operateur::Menu(entree);
         }
-        QCOMPARE(frmPrinc->Text1->Text() + Document.TitreFichier, u"G0P.xcn"_s);
+        QCOMPARE((QStringList{frmPrinc->Text1->Text(), Document.TitreFichier}), (QStringList{u"G0"_s, u"P.xcn"_s}));
         QVERIFY(!frmPrinc->CommonDialog1->CancelError);
     }
 
@@ -146,6 +151,7 @@ private Q_SLOTS:
         frmPrinc->Text1->setText(u"G1"_s);
         for (const QString &refuse :
              {atelier.Ecrit("Faux.RTF", "G0 X1\r\n"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
+            const auto passe = Passe(refuse);
             atelier.Repond("Mensaje",
                            u"Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
                            "abierto por otra aplicación.\r - Abrir el fichero con Worpad.\r - Registrar el "
@@ -153,8 +159,8 @@ private Q_SLOTS:
                                QFileInfo(refuse).fileName()),
                            Boite::Information | Boite::OuiNon, QMessageBox::No);
             OuvreDocument(refuse);
-            QCOMPARE(frmPrinc->Text1->Text() + Document.NomFichier + Document.TitreFichier, u"G1"_s + chemin + Iso);
-            QCOMPARE(frmPrinc->windowTitle() + frmPrinc->Label2->text(), Version + chemin + Iso);
+            QCOMPARE(frmPrinc->Text1->Text(), u"G1"_s);
+            QCOMPARE(Noms(), Ouvert(chemin, Iso));
             QVERIFY(Document.FichierModifie);
         }
     }
@@ -171,6 +177,7 @@ private Q_SLOTS:
               {u"G1"_s, QMessageBox::No, QMessageBox::No, "G0"},
               {u"G2"_s, QMessageBox::Yes, QMessageBox::No, "G2\r\n"},
               {u"G3"_s, QMessageBox::No, QMessageBox::Yes, "G2\r\n"}}) {
+            const auto passe = Passe(tape);
             if (!tape.isEmpty()) {
                 frmPrinc->Text1->setText(tape);
                 atelier.Repond("Fichero en curso modificado",
@@ -183,9 +190,9 @@ private Q_SLOTS:
             QCOMPARE(Document.FichierModifie, tape == u"G1");
             QCOMPARE(frmPrinc->Text1->Text(), va == QMessageBox::Yes ? QString() : tape.isEmpty() ? u"G0"_s : tape);
         }
-        QCOMPARE(Document.NomFichier + Document.TitreFichier + frmPrinc->Label2->text(), u"Nuevo.iso"_s + Iso + Iso);
-        QCOMPARE(frmPrinc->windowTitle(), Version + u"Nuevo.iso"_s);
-        QVERIFY(frmPrinc->Bouton(2)->isEnabled() && !frmPrinc->Mnu_Annuler->isEnabled());
+        QCOMPARE(Noms(), Ouvert(u"Nuevo.iso"_s, Iso));
+        QVERIFY(frmPrinc->Bouton(2)->isEnabled());
+        QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
         frmPrinc->CommonDialog1->InitDir = u"/"_s;
         atelier.Fait("CommonDialog", [](QWidget &fenetre) {
             QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), Reglages.DosDefaut);
@@ -212,7 +219,8 @@ private Q_SLOTS:
         QGuiApplication::clipboard()->setMimeData(image);
         QCOMPARE(offres(), u"Couper Copier Supprimer"_s);
         QTest::mousePress(frmPrinc->Text1->viewport(), Qt::RightButton, {}, QPoint(5, 5));
-        QVERIFY(frmPrinc->Mnu_Edition->isVisible() && frmPrinc->Mnu_Couper->isEnabled());
+        QVERIFY(frmPrinc->Mnu_Edition->isVisible());
+        QVERIFY(frmPrinc->Mnu_Couper->isEnabled());
         frmPrinc->Mnu_Edition->close();
         QCOMPARE(frmPrinc->Text1->SelLength(), 3);
         QGuiApplication::clipboard()->setText(u"X"_s);
@@ -232,6 +240,7 @@ private Q_SLOTS:
             {u"Mnu_Coller"_s, 12, 0, u"N10\nN20\r\nN30X\tY\rZ\r\n"_s, colle},
             {u"Mnu_Supprimer"_s, 3, 6, u"N10N30"_s, colle}};
         for (const auto &[entree, debut, longueur, texte, pressePapiers] : commandes) {
+            const auto passe = Passe(u"%1 at %2"_s.arg(entree).arg(debut));
             Atelier atelier(0);
             atelier.Ouvre(debut, longueur);
             const QString avant = frmPrinc->Text1->Text();

@@ -1,4 +1,4 @@
-#include "Essais.h"
+#include "DisquePlein.h"
 #include "Etabli.h"
 
 #include "donnees/Sauvegardes.h"
@@ -9,15 +9,10 @@
 #include "transfer/FichierRecu.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QSessionManager>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -65,6 +60,12 @@ struct Atelier : Etabli
 };
 
 constexpr auto Oui = QMessageBox::Yes, Non = QMessageBox::No;
+
+/// How another copy of the program ends, and whether the operator opens its text.
+const std::tuple<const char *, int, bool> Morts[] = {{"killed", SIGKILL, false},
+                                                     {"killed, its text opened", SIGKILL, true},
+                                                     {"asked to end", SIGTERM, false},
+                                                     {"terminal closed", SIGHUP, false}};
 
 /// A way in which a text leaves the pane: the answers to the boxes, and what is kept for it, before the 256 bytes.
 struct Depart
@@ -130,32 +131,38 @@ class TestFilet : public QObject
 private Q_SLOTS:
     // Each way out of the pane leaves the text, all 256 bytes of it, in the folder, or the file that is written over,
     // and no undo that would bring one program under another's name.
+    void Sorties_data() { Rangees(Departs); }
     void Sorties()
     {
-        for (const Depart &depart : Departs) {
-            Atelier atelier("X" + TousLesOctets());
-            const QString texte = frmPrinc->Text1->Text();
-            Transfert.NomFicRecep = u"RECU.ISO"_s;
-            Transfert.DossierRecep = atelier.Dossier();
-            for (const auto reponse : depart.reponses)
-                atelier.Repond(reponse);
-            depart.joue(atelier);
-            QByteArrayList attendus;
-            if (depart.garde != nullptr)
-                attendus << depart.garde + TousLesOctets();
-            QVERIFY2(atelier.Gardes() == attendus, depart.nom);
-            QVERIFY2(frmPrinc->PortOuvert == (depart.joue == Quitte && depart.garde == nullptr), depart.nom);
-            const bool parti = frmPrinc->Text1->Text() != texte;
-            QVERIFY2(parti != (frmPrinc->Mnu_Annuler->isEnabled() && !Document.TexteAnnuler.isEmpty()), depart.nom);
-        }
-        for (const bool vide : {false, true}) { // a text without changes, and none: nothing to keep
-            const Atelier atelier;
-            if (vide)
-                frmPrinc->Text1->RetireFin(99);
-            Document.FichierModifie = vide;
-            OuvreAutre(atelier);
-            QVERIFY(atelier.Gardes().isEmpty());
-        }
+        const Depart &depart = Rangee(Departs);
+        Atelier atelier("X" + TousLesOctets());
+        const QString texte = frmPrinc->Text1->Text();
+        Transfert.NomFicRecep = u"RECU.ISO"_s;
+        Transfert.DossierRecep = atelier.Dossier();
+        for (const auto reponse : depart.reponses)
+            atelier.Repond(reponse);
+        depart.joue(atelier);
+        QByteArrayList attendus;
+        if (depart.garde != nullptr)
+            attendus << depart.garde + TousLesOctets();
+        QCOMPARE(atelier.Gardes(), attendus);
+        QCOMPARE(frmPrinc->PortOuvert, depart.joue == Quitte && depart.garde == nullptr);
+        const bool parti = frmPrinc->Text1->Text() != texte;
+        QCOMPARE(frmPrinc->Mnu_Annuler->isEnabled(), !parti);
+        QCOMPARE(Document.TexteAnnuler.isEmpty(), parti);
+    }
+
+    // A text without changes, and none: nothing to keep.
+    void RienAGarder_data() { OuiEtNon("vide", "no text", "no changes"); }
+    void RienAGarder()
+    {
+        QFETCH(bool, vide);
+        const Atelier atelier;
+        if (vide)
+            frmPrinc->Text1->RetireFin(99);
+        Document.FichierModifie = vide;
+        OuvreAutre(atelier);
+        QVERIFY(atelier.Gardes().isEmpty());
     }
 
     // Names, and what the folder holds at most: the oldest go, but neither what was kept last nor the operator's own.
@@ -170,6 +177,7 @@ private Q_SLOTS:
                                          {u"Sauvegardes/R_2026-11-20_101010.rtf"_s, u"R.rtf@.txt"_s},
                                          {u"P_2026-11-20_101010.iso"_s, u"P@@.iso"_s},
                                          {u""_s, u"Sans nom@.iso"_s}}) {
+            const auto passe = Passe(nom);
             Atelier atelier;
             Document.NomFichier = nom.isEmpty() ? QString() : atelier.Chemin(nom);
             OuvreAutre(atelier);
@@ -180,21 +188,26 @@ private Q_SLOTS:
             QStringList chemins;
             for (int i = 0; i < 3; ++i) // two at least in one second
                 chemins << GardeTexte(u"P.iso"_s, u"N10"_s);
-            QVERIFY(chemins.removeDuplicates() == 0 && !chemins.filter(u" (2).iso"_s).isEmpty());
+            QCOMPARE(chemins.removeDuplicates(), 0);
+            QVERIFY(!chemins.filter(u" (2).iso"_s).isEmpty());
         }
         for (const int gros : {70, 200}) { // the clock of the PC went wrong for a time
+            const auto passe = Passe(QString::number(gros));
             Atelier atelier;
             QDir(atelier.Dossier()).mkdir(u"Sauvegardes"_s);
             for (int i = 0; i < 120; ++i) {
                 const QString date = i == 119 ? u" a moi.iso"_s : u"_2026-11-20_000000.iso"_s;
                 QFile fichier(atelier.Ecrit(u"Sauvegardes/V%1"_s.arg(1000 + i) + date, "V"));
-                QVERIFY(fichier.resize(i == gros ? 199'999'990 : 2) && fichier.open(QIODevice::ReadWrite));
+                QVERIFY(fichier.resize(i == gros ? 199'999'990 : 2));
+                QVERIFY(fichier.open(QIODevice::ReadWrite));
                 fichier.setFileTime(QDateTime::currentDateTime().addDays(50 - i), QFile::FileModificationTime);
             }
             OuvreAutre(atelier);
             const QStringList noms = QDir(atelier.Chemin("Sauvegardes")).entryList(QDir::Files, QDir::Name);
             const int restent = std::min(gros, 99);
-            QVERIFY(noms.size() == restent + 2 && noms.at(0).startsWith(u"P_") && noms.last() == u"V1119 a moi.iso");
+            QCOMPARE(noms.size(), restent + 2);
+            QVERIFY(noms.at(0).startsWith(u"P_"));
+            QCOMPARE(noms.last(), u"V1119 a moi.iso"_s);
             QVERIFY(noms.at(restent).startsWith(u"V%1_"_s.arg(999 + restent)));
             Document.NomFichier = atelier.Chemin(u"Sauvegardes/"_s + noms.at(restent)); // open, and the oldest
             GardeTexte(u"Z.iso"_s, gros == 70 ? QString(999'999, u'N') : u"N"_s);
@@ -211,130 +224,129 @@ private Q_SLOTS:
         const QByteArray octets = TousLesOctets() + "\r\r\n\n";
         frmPrinc->Text1->setText(TexteDe1252("X" + octets));
         auto *const repos = frmPrinc->findChild<QTimer *>(u"ReposFilet"_s);
-        QVERIFY(repos->isActive() && repos->interval() <= 1000);
+        QVERIFY(repos->isActive());
+        QVERIFY(repos->interval() <= 1000);
         QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=X" + octets});
         QVERIFY(!repos->isActive());
         Atelier::Change();
-        QVERIFY(repos->interval() > 25'000 && !frmPrinc->Bouton(5)->isEnabled());
+        QVERIFY(repos->interval() > 25'000);
+        QVERIFY(!frmPrinc->Bouton(5)->isEnabled());
         repos->start(0);
         QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=" + octets});
         atelier.Choisit(atelier.Chemin("Q.iso"));
         Operateur::Menu("Mnu_EnregistrerSous");
         QCOMPARE(atelier.Gardes(), QByteArrayList());
-        QVERIFY(!repos->isActive() && Operateur::Offre("Mnu_Imprim") && frmPrinc->Bouton(5)->isEnabled());
+        QVERIFY(!repos->isActive());
+        QVERIFY(Operateur::Offre("Mnu_Imprim"));
+        QVERIFY(frmPrinc->Bouton(5)->isEnabled());
     }
 
     // Another copy of the program, whose text is changed, is killed, or asked by the system to end. While it lives its
     // file is its own; only of a killed one the next start asks, once.
+    void Mort_data() { Rangees(Morts); }
     void Mort()
     {
+        const auto &[nom, signal, ouvre] = Rangee(Morts);
         const QByteArrayList enCours{"!P.iso=N10 G0\r\n"};
-        for (const auto &[signal, ouvre] :
-             {std::pair{SIGKILL, false}, {SIGKILL, true}, {SIGTERM, false}, {SIGHUP, false}}) {
-            Atelier atelier;
-            const pid_t copie = fork();
-            if (copie == 0) {
-                frmPrinc->hide(); // the threads that paint stay with the parent
-                const FinDemandee fin([] { RetientTexte(); });
-                while (atelier.Gardes() != enCours)
-                    QTest::qWait(10);
-                std::raise(SIGSTOP);
-                QTest::qWait(60'000);
-                _exit(1);
-            }
-            QCOMPARE(Atelier::Etat(copie), SIGSTOP);
-            ProposeTextesRetrouves();
-            QCOMPARE(atelier.Gardes(), enCours);
-            kill(copie, signal);
-            kill(copie, SIGCONT);
-            QCOMPARE(Atelier::Etat(copie), signal);
-            atelier.Ecrit("Sauvegardes/En cours_00000000.partiel", "N1");
-            atelier.Redemarre();
-            if (signal == SIGKILL)
-                atelier.Repond(ouvre ? Oui : Non, u"P.iso, 20"_s);
-            ProposeTextesRetrouves();
-            ProposeTextesRetrouves();
-            QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
-            QCOMPARE(frmPrinc->Text1->Text(), ouvre ? u"N10 G0\r\n"_s : QString());
-            QCOMPARE(Document.FichierModifie, ouvre);
-            QCOMPARE(Document.NomFichier.startsWith(atelier.Chemin("Sauvegardes/P_")), ouvre);
-            QVERIFY(atelier.Lit("P.iso") == "XN10 G0\r\n");
-            if (ouvre)
-                atelier.Repond(Non);
-            frmPrinc->close(); // it stands in the folder already
-            QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+        Atelier atelier;
+        const pid_t copie = fork();
+        if (copie == 0) {
+            frmPrinc->hide(); // the threads that paint stay with the parent
+            const FinDemandee fin([] { RetientTexte(); });
+            while (atelier.Gardes() != enCours)
+                QTest::qWait(10);
+            std::raise(SIGSTOP);
+            QTest::qWait(60'000);
+            _exit(1);
         }
+        QCOMPARE(Atelier::Etat(copie), SIGSTOP);
+        ProposeTextesRetrouves();
+        QCOMPARE(atelier.Gardes(), enCours);
+        kill(copie, signal);
+        kill(copie, SIGCONT);
+        QCOMPARE(Atelier::Etat(copie), signal);
+        atelier.Ecrit("Sauvegardes/En cours_00000000.partiel", "N1");
+        atelier.Redemarre();
+        if (signal == SIGKILL)
+            atelier.Repond(ouvre ? Oui : Non, u"P.iso, 20"_s);
+        ProposeTextesRetrouves();
+        ProposeTextesRetrouves();
+        QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+        QCOMPARE(frmPrinc->Text1->Text(), ouvre ? u"N10 G0\r\n"_s : QString());
+        QCOMPARE(Document.FichierModifie, ouvre);
+        QCOMPARE(Document.NomFichier.startsWith(atelier.Chemin("Sauvegardes/P_")), ouvre);
+        QCOMPARE(atelier.Lit("P.iso"), QByteArray("XN10 G0\r\n"));
+        if (ouvre)
+            atelier.Repond(Non);
+        frmPrinc->close(); // it stands in the folder already
+        QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
     }
 
     // Several dead texts: one is opened, of the others he is told. It has no name of its own: saving it asks for one,
     // and does not put it back among what goes one day.
+    void Retrouves_data() { OuiEtNon("nomme", "named", "not named"); }
     void Retrouves()
     {
-        for (const bool nomme : {false, true}) {
-            Atelier atelier;
-            QDir(atelier.Dossier()).mkdir(u"Sauvegardes"_s);
-            for (int i = 1; i < 4; ++i) {
-                QFile fichier(
-                    atelier.Ecrit(u"Sauvegardes/En cours_0000000%1_R%1.iso"_s.arg(i), "G%" + QByteArray::number(i)));
-                QVERIFY(fichier.open(QIODevice::ReadWrite));
-                fichier.setFileTime(QDateTime::currentDateTime().addDays(i), QFile::FileModificationTime);
-            }
-            atelier.Redemarre();
-            atelier.Repond(Non, u"R3.iso, 20"_s);
-            atelier.Repond(Oui, u"R2.iso, 20"_s);
-            atelier.Repond(QMessageBox::Ok, u": 1\n"_s + atelier.Chemin("Sauvegardes"));
-            ProposeTextesRetrouves();
-            const QByteArrayList gardes{"R1@.iso=G%1", "R2@.iso=G%2", "R3@.iso=G%3"};
-            QCOMPARE(atelier.Gardes(), gardes);
-            QCOMPARE(frmPrinc->Text1->Text(), u"G%2"_s);
-            atelier.Repond(Oui);
-            if (nomme) {
-                atelier.Choisit(atelier.Chemin("Q.iso"));
-            } else {
-                atelier.Ferme("CommonDialog");
-                atelier.Repond(QMessageBox::Ok, u"Sauvegardes/R2_"_s);
-            }
-            frmPrinc->close();
-            QCOMPARE(atelier.Gardes(), gardes);
-            QCOMPARE(atelier.Lit("Q.iso"), nomme ? "G%2\r\n" : "");
+        QFETCH(bool, nomme);
+        Atelier atelier;
+        QDir(atelier.Dossier()).mkdir(u"Sauvegardes"_s);
+        for (int i = 1; i < 4; ++i) {
+            QFile fichier(
+                atelier.Ecrit(u"Sauvegardes/En cours_0000000%1_R%1.iso"_s.arg(i), "G%" + QByteArray::number(i)));
+            QVERIFY(fichier.open(QIODevice::ReadWrite));
+            fichier.setFileTime(QDateTime::currentDateTime().addDays(i), QFile::FileModificationTime);
         }
+        atelier.Redemarre();
+        atelier.Repond(Non, u"R3.iso, 20"_s);
+        atelier.Repond(Oui, u"R2.iso, 20"_s);
+        atelier.Repond(QMessageBox::Ok, u": 1\n"_s + atelier.Chemin("Sauvegardes"));
+        ProposeTextesRetrouves();
+        const QByteArrayList gardes{"R1@.iso=G%1", "R2@.iso=G%2", "R3@.iso=G%3"};
+        QCOMPARE(atelier.Gardes(), gardes);
+        QCOMPARE(frmPrinc->Text1->Text(), u"G%2"_s);
+        atelier.Repond(Oui);
+        if (nomme) {
+            atelier.Choisit(atelier.Chemin("Q.iso"));
+        } else {
+            atelier.Ferme("CommonDialog");
+            atelier.Repond(QMessageBox::Ok, u"Sauvegardes/R2_"_s);
+        }
+        frmPrinc->close();
+        QCOMPARE(atelier.Gardes(), gardes);
+        QCOMPARE(atelier.Lit("Q.iso"), nomme ? "G%2\r\n" : "");
     }
 
     // A folder that takes nothing, or a full disk: each command goes on, it is told once, no half file stays, and what
     // was written before does. At the end the operator is told what became of a text that he wanted saved.
+    void Panne_data() { OuiEtNon("plein", "full disk", "closed folder"); }
     void Panne()
     {
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit libre{};
-        getrlimit(RLIMIT_FSIZE, &libre);
-        const rlimit pleine{0, libre.rlim_max};
-        for (const bool plein : {false, true}) {
-            Atelier atelier;
-            const QString autre = atelier.Ecrit("Q.iso", "XQ");
-            const QByteArrayList reste = plein ? QByteArrayList{"!P.iso=N10 G0\r\n"} : QByteArrayList();
-            if (plein)
-                frmPrinc->findChild<QTimer *>(u"ReposFilet"_s)->start(0);
-            else
-                atelier.Ecrit("Sauvegardes", "");
-            QTRY_COMPARE(atelier.Gardes(), reste);
-            QVERIFY(setrlimit(RLIMIT_FSIZE, plein ? &pleine : &libre) == 0);
-            for (int i = 0; i < 2; ++i) {
-                OuvreDocument(autre);
-                QCOMPARE(frmPrinc->Text1->Text(), u"XQ"_s);
-                if (i == 0)
-                    atelier.Repond(QMessageBox::Ok, atelier.Chemin("Sauvegardes"));
-                QTRY_VERIFY(!frmPrinc->findChild<QTimer *>(u"VoieFilet"_s)->isActive());
-                Atelier::Change();
-            }
-            QVERIFY(setrlimit(RLIMIT_FSIZE, &libre) == 0);
-            QCOMPARE(atelier.Gardes(), reste);
-            QVERIFY(QFile::remove(autre) && QDir(atelier.Dossier()).mkdir(u"Q.iso"_s));
-            atelier.Repond(Oui);
-            atelier.Repond(QMessageBox::Ok, u"Erreur lors de l'enregistrement du fichier"_s);
-            atelier.Repond(QMessageBox::Ok, plein ? u"Sauvegardes/Q_"_s : u"Rien ne peut"_s);
-            frmPrinc->close();
-            QCOMPARE(atelier.Gardes(), plein ? reste + QByteArrayList{"Q@.iso=Q"} : reste);
+        QFETCH(bool, plein);
+        Atelier atelier;
+        const QString autre = atelier.Ecrit("Q.iso", "XQ");
+        const QByteArrayList reste = plein ? QByteArrayList{"!P.iso=N10 G0\r\n"} : QByteArrayList();
+        if (plein)
+            frmPrinc->findChild<QTimer *>(u"ReposFilet"_s)->start(0);
+        else
+            atelier.Ecrit("Sauvegardes", "");
+        QTRY_COMPARE(atelier.Gardes(), reste);
+        for (int i = 0; i < 2; ++i) {
+            const auto disque = DisquePlein(plein ? 0 : RLIM_INFINITY);
+            OuvreDocument(autre);
+            QCOMPARE(frmPrinc->Text1->Text(), u"XQ"_s);
+            if (i == 0)
+                atelier.Repond(QMessageBox::Ok, atelier.Chemin("Sauvegardes"));
+            QTRY_VERIFY(!frmPrinc->findChild<QTimer *>(u"VoieFilet"_s)->isActive());
+            Atelier::Change();
         }
+        QCOMPARE(atelier.Gardes(), reste);
+        QVERIFY(QFile::remove(autre));
+        QVERIFY(QDir(atelier.Dossier()).mkdir(u"Q.iso"_s));
+        atelier.Repond(Oui);
+        atelier.Repond(QMessageBox::Ok, u"Erreur lors de l'enregistrement du fichier"_s);
+        atelier.Repond(QMessageBox::Ok, plein ? u"Sauvegardes/Q_"_s : u"Rien ne peut"_s);
+        frmPrinc->close();
+        QCOMPARE(atelier.Gardes(), plein ? reste + QByteArrayList{"Q@.iso=Q"} : reste);
     }
 };
 

@@ -5,10 +5,7 @@
 #include "shell/FrmAide.h"
 #include "shell/FrmLangue.h"
 
-#include <QDir>
 #include <QRegularExpression>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -63,6 +60,7 @@ private Q_SLOTS:
                                      {u"Dorvanel Pro help"_s, u"The help file does not exist:\r"_s},
                                      {u"Ayuda de Dorvanel Pro"_s, u"El fichero de ayuda no existe:\r"_s}};
         for (int langue = 0; langue < 3; ++langue) {
+            const auto passe = Passe(QString::number(langue));
             PosteAide poste(langue);
             QCOMPARE(poste.aide->windowTitle(), textes[langue][0]);
             QCOMPARE(poste.aide->TextBrowser1->source().fileName(), Manuels[langue]);
@@ -73,7 +71,8 @@ private Q_SLOTS:
             Operateur::Barre(16);
             QCOMPARE(frmPrinc->findChildren<FrmAide *>().size(), 1);
 
-            QVERIFY(poste.aide->close() && QFile::remove(poste.Chemin(Manuels[langue])));
+            QVERIFY(poste.aide->close());
+            QVERIFY(QFile::remove(poste.Chemin(Manuels[langue])));
             poste.Apprend(textes[langue][0], textes[langue][1] + poste.Chemin(Manuels[langue]));
             Operateur::Menu(u"Mnu_Aide");
         }
@@ -121,7 +120,9 @@ private Q_SLOTS:
             QTest::keyClick(&fenetre, Qt::Key_F1);
             FrmAide *const aide = Ouverte(&fenetre);
             QCoreApplication::processEvents(); // it gets its frame
-            QVERIFY(aide != nullptr && aide->isVisible() && ecran.contains(aide->frameGeometry()));
+            QVERIFY(aide != nullptr);
+            QVERIFY(aide->isVisible());
+            QVERIFY(ecran.contains(aide->frameGeometry()));
             QCOMPARE(aide->TextBrowser1->source().fragment(), u"FrmLangue"_s);
             for (const QSize &taille : {aide->size(), QSize(500, 300), QSize(790, 500)}) {
                 aide->resize(taille);
@@ -136,6 +137,7 @@ private Q_SLOTS:
         const QList<std::pair<const char *, QString>> pages{
             {"Mnu_Ouvrir", u"frmPrinc"_s}, {"Mnu_Police", u"impression"_s}, {"Mnu_ConfigIMP", u"impression"_s}};
         for (const auto &[entree, page] : pages) {
+            const auto passe = Passe(QLatin1String(entree));
             poste.Fait(u"CommonDialog", [page = page](QWidget &fenetre) {
                 Mnu_Aide();
                 QCOMPARE(Ouverte(&fenetre)->TextBrowser1->source().fragment(), page);

@@ -11,8 +11,6 @@
 #include <QSettings>
 #include <QWindow>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// Drags files over the pane, or sur, and drops them there; true when the window takes them, as a copy. disparait: the
@@ -51,7 +49,8 @@ private Q_SLOTS:
     void Lampes()
     {
         const Poste poste(1);
-        QCOMPARE(frmPrinc->UpdateTimer.interval() + frmPrinc->Timer2.interval(), 1000 + 5000);
+        QCOMPARE(frmPrinc->UpdateTimer.interval(), 1000);
+        QCOMPARE(frmPrinc->Timer2.interval(), 5000);
         frmPrinc->UpdateTimer.setInterval(1);
         const auto scenario = std::make_shared<Scenario>();
         frmPrinc->MSComm1->setFabrique(LigneScenario::Fabrique(scenario));
@@ -59,6 +58,7 @@ private Q_SLOTS:
         QTRY_COMPARE(frmPrinc->lblPortOpen->text(), u"Closed Port"_s); // the caption reads "Closed port"
 
         for (const bool ouvre : {true, false}) {
+            const auto passe = Passe(ouvre ? u"open"_s : u"closed"_s);
             scenario->etats = EtatsLigne{true, false, false, false};
             frmPrinc->MSComm1->setPortOpen(ouvre);
             frmPrinc->PortOuvert = ouvre;
@@ -89,6 +89,7 @@ private Q_SLOTS:
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
         const QRect place(20, 200, 780, 600); // in the corner of the screen
         for (const auto &[dehors, maximise] : {std::pair{0, false}, {300, false}, {300, true}}) {
+            const auto passe = Passe(u"%1%2"_s.arg(dehors).arg(maximise ? u", maximised"_s : QString()));
             const Poste poste(0);
             Mnu_AffichDOS();
             frmPrinc->setGeometry(place.translated(dehors, dehors));
@@ -132,20 +133,23 @@ private Q_SLOTS:
             QVERIFY(Depose({autre}));
             operateur.Repond(u"Configuration machine"_s, u"Ce fichier n'est pas une configuration machine :\r"_s + mac,
                              Boite::Exclamation, QMessageBox::Ok);
-            QVERIFY(!Document.FichierModifie && Depose({mac}));
+            QVERIFY(!Document.FichierModifie);
+            QVERIFY(Depose({mac}));
             operateur.Fait("MsgBox", [](QWidget &boite) {
                 QVERIFY(dynamic_cast<QMessageBox &>(boite).text().contains(u"Parti.iso."_s));
                 boite.close();
             });
             QVERIFY(Depose({poste.Ecrit("Parti.iso", "G2")}, true));
         }
-        QCOMPARE(Document.NomFichier + frmPrinc->Text1->Text() + frmPrinc->Label2->text(),
-                 autre + u"G1\r\nAUTRE €.iso"_s);
+        QCOMPARE((QStringList{Document.NomFichier, frmPrinc->Text1->Text(), frmPrinc->Label2->text()}),
+                 (QStringList{autre, u"G1\r\n"_s, u"AUTRE €.iso"_s}));
         Mnu_AffichDOS();
         QVERIFY(Depose({par}, false, frmPrinc->Frame1->Combo1));
-        QCOMPARE(EtatConf.FicConf + frmPrinc->Label4->text() + Document.NomFichier, par + u"Autre.PAR"_s + autre);
+        QCOMPARE((QStringList{EtatConf.FicConf, frmPrinc->Label4->text(), Document.NomFichier}),
+                 (QStringList{par, u"Autre.PAR"_s, autre}));
 
-        QVERIFY(!Depose({ancien, autre}) && !Depose({poste.Dossier()}));
+        QVERIFY(!Depose({ancien, autre}));
+        QVERIFY(!Depose({poste.Dossier()}));
         QDialog dialogue;
         dialogue.open();
         QVERIFY(!Depose({ancien}));

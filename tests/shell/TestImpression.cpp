@@ -12,8 +12,6 @@
 
 #include <numeric>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// A workstation whose printer is a PDF file.
@@ -64,6 +62,7 @@ private Q_SLOTS:
     void ToutLeTexte()
     {
         for (const QString &fin : {u"\r\n"_s, u"\r"_s, u"\n"_s}) {
+            const auto passe = Passe(QString::fromLatin1(fin.toLatin1().toHex()));
             Atelier atelier(1);
             QStringList lignes{u"%\tA"_s, u"12345678B"_s, QString(1000, u'X') + u"FIN"_s};
             for (int numero = 1; numero <= 400; ++numero)
@@ -76,7 +75,8 @@ private Q_SLOTS:
 
             const QList<QStringList> pages = Pages(atelier.Chemin("P.pdf"));
             QCOMPARE(pages.size(), 6);
-            QVERIFY(pages[1].size() == pages[4].size() && pages[1].size() > 60);
+            QCOMPARE(pages[1].size(), pages[4].size());
+            QVERIFY(pages[1].size() > 60);
             QStringList lues = std::accumulate(pages.begin(), pages.end(), QStringList());
             QCOMPARE(lues.takeFirst(), u"Programme : "_s + Document.NomFichier);
             QCOMPARE(lues[0].indexOf(u'A'), lues[1].indexOf(u'B')); // the tabulator has gone to the eighth column
@@ -111,9 +111,11 @@ private Q_SLOTS:
         Atelier atelier(1);
         OuvreDocument(atelier.Ecrit("P.iso", "N10"));
         for (const bool accepte : {false, true}) {
+            const auto passe = Passe(accepte ? u"accepted"_s : u"cancelled"_s);
             atelier.Fait("CommonDialog", [accepte](QWidget &fenetre) {
                 auto *const paysage = fenetre.findChild<QRadioButton *>(u"Paysage"_s);
-                QCOMPARE(fenetre.windowTitle() + u": "_s + paysage->text(), u"Print setup: Landscape"_s);
+                QCOMPARE((QStringList{fenetre.windowTitle(), paysage->text()}),
+                         (QStringList{u"Print setup"_s, u"Landscape"_s}));
                 paysage->click();
                 QMetaObject::invokeMethod(&fenetre, accepte ? "accept" : "reject");
             });
