@@ -1,4 +1,5 @@
 #include "Donnees.h"
+#include "Essais.h"
 #include "LigneScenario.h"
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
@@ -13,11 +14,8 @@
 #include "transfer/PortCom.h"
 
 #include <QFile>
-#include <QTest>
 
 #include <cerrno>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -36,6 +34,29 @@ struct Atelier
     std::shared_ptr<Scenario> ligne = std::make_shared<Scenario>();
     MSComm &controle = *frmPrinc->MSComm1;
 };
+
+/// The way of flow control, the port, the number with which the line refuses, the number told, settings and text.
+const std::tuple<const char *, int, int, int, int, const char *, const char *, QString> Refus[] = {
+    {"flow control", 9, 2, 0, 8015, "x", "8", u"Impossible de définir l'état de communication"_s},
+    {"speed", 1, 99, 0, 8007, "x", "4", u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
+    {"data bits", 1, 99, 0, 8008, "9600", "4", u"La taille d'octet spécifiée n'est pas valide"_s},
+    {"port number", 1, 17, 8015, 8002, "9600", "8", u"Numéro de port non valide"_s},
+    {"held", 1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s},
+    {"no rights", 1, 2, 70, 70, "9600", "8",
+     u"L'accès est refusé.\rrefused\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, dans un "
+     "terminal :\r    sudo adduser $USER dialout\rpuis fermer la session et la rouvrir."_s}};
+
+/// The number told while the line holds the last characters: none where the machine takes them at last.
+const std::tuple<const char *, int, QString> Fins[] = {
+    {"taken", 0, {}},
+    {"cancelled", 8018, u"Opération valide uniquement quand le port est ouvert"_s},
+    {"unplugged", 8020, u"Erreur de lecture du périphérique de communication"_s}};
+
+using Compteurs = CompteursLigne;
+const std::tuple<const char *, int, unsigned Compteurs::*, QString> EvenementsLigne[] = {
+    {"parity", 0, &Compteurs::parite, u"Erreur de parité"_s},
+    {"lost characters", 1, &Compteurs::debordements, u"Going beyond of the plug of receiving"_s},
+    {"CTS", 2, &Compteurs::cts, u"Cambio de Préstamo que debe emitirse (CTS) detectado"_s}};
 
 int clesRetirees = 0; // writings that are taken and never reach the disk
 
@@ -63,7 +84,10 @@ private Q_SLOTS:
         const Atelier atelier;
         MSComm &c = atelier.controle;
         OuvrePortCOM();
-        QVERIFY(c.PortOpen() && frmPrinc->PortOuvert && !atelier.ligne->rts && !atelier.ligne->dtr);
+        QVERIFY(c.PortOpen());
+        QVERIFY(frmPrinc->PortOuvert);
+        QVERIFY(!atelier.ligne->rts);
+        QVERIFY(!atelier.ligne->dtr);
         QCOMPARE(c.Settings(), u"115200,n,8,1"_s);
         QCOMPARE(atelier.ligne->reglages.constFirst().vitesse, 115200);
         QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
@@ -78,44 +102,39 @@ private Q_SLOTS:
         QCOMPARE((QList<int>{c.CommPort(), c.InputLen(), c.NullDiscard(), c.InBufferSize(), c.OutBufferSize(),
                              c.RThreshold(), c.SThreshold(), c.Handshaking()}),
                  (QList<int>{3, 100, 1, 2048, 256, 128, 5, 1}));
-        QCOMPARE(c.ParityReplace() + c.Settings(), u"?19200,o,5,1.5"_s);
-        QVERIFY(!atelier.ligne->rts && atelier.ligne->dtr);
+        QCOMPARE((QStringList{c.ParityReplace(), c.Settings()}), (QStringList{u"?"_s, u"19200,o,5,1.5"_s}));
+        QVERIFY(!atelier.ligne->rts);
+        QVERIFY(atelier.ligne->dtr);
         QCOMPARE(atelier.ligne->reglages.constLast().demiBitsArret, 3);
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Abierto"_s);
         FermePortCOM(dialogue);
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Cerrado"_s);
-        QVERIFY(!frmPrinc->PortOuvert && !atelier.ligne->ouverte);
+        QVERIFY(!frmPrinc->PortOuvert);
+        QVERIFY(!atelier.ligne->ouverte);
     }
 
-    // The first step that fails is told once, in the language, and the steps behind it do not run. A port that was open
-    // takes the settings, and then stays as it is behind a buffer size that it cannot take.
+    // The first step that fails is told once, and the steps behind it do not run.
+    void OuvreRate_data() { Rangees(Refus); }
     void OuvreRate()
     {
         Atelier atelier;
-        // the way of flow control, the port, the number with which the line refuses
-        for (const auto &[flux, port, refus, numero, vitesse, bits, texte] :
-             {std::tuple{9, 2, 0, 8015, "x", "8", u"Impossible de définir l'état de communication"_s},
-              {1, 99, 0, 8007, "x", "4", u"Le débit en bauds du périphérique n'est pas pris en charge"_s},
-              {1, 99, 0, 8008, "9600", "4", u"La taille d'octet spécifiée n'est pas valide"_s},
-              {1, 17, 8015, 8002, "9600", "8", u"Numéro de port non valide"_s},
-              {1, 2, 8005, 8005, "9600", "8", u"Port déjà ouvert"_s},
-              {1, 2, 70, 70, "9600", "8",
-               u"L'accès est refusé.\rrefused\rLes ports série sont réservés au groupe dialout. S'y inscrire une fois, "
-               u"dans un terminal :\r "
-               u"   "
-               "sudo adduser $USER dialout\rpuis fermer la session et la rouvrir."_s}}) {
-            ParamCom.ControleFlux = flux;
-            ParamCom.Vitesse = QLatin1String(vitesse);
-            ParamCom.BitsDonnees = QLatin1String(bits);
-            ParamCom.NumPort = port;
-            atelier.ligne->refusReglage = refus;
-            atelier.operateur.LitErreur(numero, texte);
-            OuvrePortCOM();
-            QVERIFY(!atelier.controle.PortOpen() && !frmPrinc->PortOuvert);
-            QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Fermé"_s);
-        }
+        const auto &[nom, flux, port, refus, numero, vitesse, bits, texte] = Rangee(Refus);
+        ParamCom.ControleFlux = flux;
+        ParamCom.Vitesse = QLatin1String(vitesse);
+        ParamCom.BitsDonnees = QLatin1String(bits);
+        ParamCom.NumPort = port;
+        atelier.ligne->refusReglage = refus;
+        atelier.operateur.LitErreur(numero, texte);
+        OuvrePortCOM();
+        QVERIFY(!atelier.controle.PortOpen());
+        QVERIFY(!frmPrinc->PortOuvert);
+        QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Fermé"_s);
+    }
 
-        atelier.ligne->refusReglage = 0;
+    // A port that was open takes the settings, and then stays as it is behind a buffer size that it cannot take.
+    void DejaOuvert()
+    {
+        Atelier atelier;
         OuvrePortCOM();
         ParamCom.Vitesse = u"4800"_s;
         ParamCom.NumPort = 9;
@@ -126,7 +145,8 @@ private Q_SLOTS:
         atelier.operateur.Repond(u"Error N°:  8000Closing of the port of communication"_s,
                                  u"Nonvalid operation when the port is open"_s, Boite::Critique, QMessageBox::Ok);
         OuvrePortCOM();
-        QVERIFY(atelier.controle.PortOpen() && atelier.controle.CommPort() == 2);
+        QVERIFY(atelier.controle.PortOpen());
+        QCOMPARE(atelier.controle.CommPort(), 2);
         QCOMPARE(atelier.ligne->reglages.constLast().vitesse, 4800);
         LangIndex = 2; // object and cause stand below, where they say more, or alone for a number without a text
         Em_Rc dialogue(frmPrinc);
@@ -139,7 +159,8 @@ private Q_SLOTS:
                                      Boite::Critique, QMessageBox::Ok);
             ErreurPortCOM(Erreur(numero, u"/dev/x"_s, cause), dialogue);
         }
-        QVERIFY(!atelier.controle.PortOpen() && !frmPrinc->PortOuvert);
+        QVERIFY(!atelier.controle.PortOpen());
+        QVERIFY(!frmPrinc->PortOuvert);
     }
 
     // A port that stayed open can be closed from the menu; the lamp follows by itself.
@@ -147,45 +168,48 @@ private Q_SLOTS:
     {
         const Atelier atelier;
         frmPrinc->PortOuvert = true;
-        QVERIFY(!Operateur::Offre("Mnu_FermePortCom") && !frmPrinc->PortOuvert);
+        QVERIFY(!Operateur::Offre("Mnu_FermePortCom"));
+        QVERIFY(!frmPrinc->PortOuvert);
         OuvrePortCOM();
         frmPrinc->PortOuvert = false;
         Operateur::Menu("Mnu_FermePortCom");
-        QVERIFY(!atelier.controle.PortOpen() && !frmPrinc->PortOuvert && !atelier.ligne->ouverte);
+        QVERIFY(!atelier.controle.PortOpen());
+        QVERIFY(!frmPrinc->PortOuvert);
+        QVERIFY(!atelier.ligne->ouverte);
     }
 
     // The machine stops the line over the last characters, which the system has already: they are waited for, until it
     // takes them, the operator cancels or the plug is pulled.
+    void FinRetenue_data() { Rangees(Fins); }
     void FinRetenue()
     {
-        for (const auto &[numero, texte] : {std::pair{0, QString()},
-                                            {8018, u"Opération valide uniquement quand le port est ouvert"_s},
-                                            {8020, u"Erreur de lecture du périphérique de communication"_s}}) {
-            Atelier atelier;
-            Scenario &ligne = *atelier.ligne;
-            ligne.immobile = true;
-            Em_Rc dialogue(frmPrinc);
-            int coups = 0;
-            QTimer machine;
-            connect(&machine, &QTimer::timeout, this, [&, numero = numero] {
-                if (ligne.ecrits.size() < 3 || ++coups != 60)
-                    return;
-                QCOMPARE(dialogue.Label2->text(), u"Emission fin de transfert"_s);
-                if (numero == 8018)
-                    return dialogue.reject();
-                ligne.nonEmis = 0; // nor does a system hold anything for a device that has gone
-                if (numero == 8020)
-                    ligne.Debranche();
-            });
-            machine.start(1);
-            if (numero != 0)
-                atelier.operateur.LitErreur(numero, texte);
-            EnvoiFich_FinFich(dialogue);
-            QVERIFY(coups >= 60 && !frmPrinc->PortOuvert && !ligne.ouverte);
-            QCOMPARE(dialogue.Label2->text() == u"Transfert terminé avec succès !", numero == 0);
-            QCOMPARE(ligne.ecrits, QByteArray("G0\x04"));
-            QCOMPARE(ligne.jetsEmission, numero == 8018 ? 1 : 0);
-        }
+        const auto &[nom, numero, texte] = Rangee(Fins);
+        Atelier atelier;
+        Scenario &ligne = *atelier.ligne;
+        ligne.immobile = true;
+        Em_Rc dialogue(frmPrinc);
+        int coups = 0;
+        QTimer machine;
+        connect(&machine, &QTimer::timeout, this, [&, numero = numero] {
+            if (ligne.ecrits.size() < 3 || ++coups != 60)
+                return;
+            QCOMPARE(dialogue.Label2->text(), u"Emission fin de transfert"_s);
+            if (numero == 8018)
+                return dialogue.reject();
+            ligne.nonEmis = 0; // nor does a system hold anything for a device that has gone
+            if (numero == 8020)
+                ligne.Debranche();
+        });
+        machine.start(1);
+        if (numero != 0)
+            atelier.operateur.LitErreur(numero, texte);
+        EnvoiFich_FinFich(dialogue);
+        QVERIFY(coups >= 60);
+        QVERIFY(!frmPrinc->PortOuvert);
+        QVERIFY(!ligne.ouverte);
+        QCOMPARE(dialogue.Label2->text() == u"Transfert terminé avec succès !", numero == 0);
+        QCOMPARE(ligne.ecrits, QByteArray("G0\x04"));
+        QCOMPARE(ligne.jetsEmission, numero == 8018 ? 1 : 0);
     }
 
     // A machine that echoes each character is never told to stop in the midst of its program.
@@ -223,7 +247,8 @@ private Q_SLOTS:
         Em_Rc dialogue(frmPrinc);
         FermePortCOM(dialogue);
         QCOMPARE(dialogue.Command1->text(), u"&Fermer"_s);
-        QVERIFY(!atelier.controle.PortOpen() && !atelier.ligne->ouverte);
+        QVERIFY(!atelier.controle.PortOpen());
+        QVERIFY(!atelier.ligne->ouverte);
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Ouvert"_s); // until the lamps' timer looks
     }
 
@@ -254,23 +279,18 @@ private Q_SLOTS:
     }
 
     // What happens on the line is told in the operator's language; lost characters empty the buffer.
+    void Evenements_data() { Rangees(EvenementsLigne); }
     void Evenements()
     {
-        using Compteurs = CompteursLigne;
-        const std::tuple<int, unsigned Compteurs::*, QString> evenements[] = {
-            {0, &Compteurs::parite, u"Erreur de parité"_s},
-            {1, &Compteurs::debordements, u"Going beyond of the plug of receiving"_s},
-            {2, &Compteurs::cts, u"Cambio de Préstamo que debe emitirse (CTS) detectado"_s}};
-        for (const auto &[langue, compteur, texte] : evenements) {
-            const Atelier atelier(langue);
-            OuvrePortCOM();
-            atelier.ligne->Envoie("perdu");
-            QTRY_COMPARE(atelier.controle.InBufferCount(), 5);
-            ++((*atelier.ligne).compteurs.*compteur);
-            QTRY_COMPARE(frmPrinc->Etat->text(), u"État : "_s + texte);
-            QTRY_COMPARE(atelier.controle.InBufferCount(), compteur == &Compteurs::debordements ? 0 : 5);
-            QCOMPARE(frmPrinc->Etat->isHidden(), compteur != &Compteurs::cts);
-        }
+        const auto &[nom, langue, compteur, texte] = Rangee(EvenementsLigne);
+        const Atelier atelier(langue);
+        OuvrePortCOM();
+        atelier.ligne->Envoie("perdu");
+        QTRY_COMPARE(atelier.controle.InBufferCount(), 5);
+        ++((*atelier.ligne).compteurs.*compteur);
+        QTRY_COMPARE(frmPrinc->Etat->text(), u"État : "_s + texte);
+        QTRY_COMPARE(atelier.controle.InBufferCount(), compteur == &Compteurs::debordements ? 0 : 5);
+        QCOMPARE(frmPrinc->Etat->isHidden(), compteur != &Compteurs::cts);
     }
 };
 

@@ -1,5 +1,4 @@
 #include "Donnees.h"
-#include "Essais.h"
 #include "EssaiTransfert.h"
 
 #include "donnees/Lignes.h"
@@ -12,8 +11,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -34,6 +31,88 @@ QByteArrayList ParLignes(const QByteArray &programme)
     return pieces;
 }
 
+const QByteArray Longue = (QByteArray(300, 'X') + "\n").repeated(50);
+/// Language, text, what the line says, whether that is a warning.
+const std::tuple<const char *, int, QByteArray, QString, bool> LignesApercu[] = {
+    {"a heading", 0, " \r\n%2010 (PLATINE)\tA\r\nN10\n", u"%2010 (PLATINE)<HT>A : 3 lignes, 26 caractères"_s, false},
+    {"lone CR", 1, "\r\rO1", u"O1: 3 lines, 4 characters"_s, false},
+    {"one character", 1, "A", u"A: 1 line, 1 character"_s, false},
+    {"long, French", 0, Longue, u"… : 50 lignes, 15\u202F050 caractères"_s, false},
+    {"long, Spanish", 2, Longue, u"…: 50 líneas, 15.050 caracteres"_s, false},
+    {"empty", 0, "", u"Le texte à envoyer est vide : 0 ligne, 0 caractère."_s, true},
+    {"blank", 1, "\r\n \x7f\r\n", u"The text to be sent is empty: 2 lines, 6 characters."_s, true}};
+
+const QString Conseil = u" : recevoir par fichier, ou faire une pause en fin de ligne à la machine."_s;
+const QString SansFin =
+    u" d'une ligne sans fin : recevoir par fichier, ou finir à la machine la dernière ligne par une fin de ligne."_s;
+/// Type of line end, whether the operator forces the end, what the machine sends at a time, what is told behind the
+/// count and the time.
+const std::tuple<const char *, Genre, int, bool, QByteArrayList, QString> Pertes[] = {
+    {"line", Genre::Ligne, 3, false, {"A\r\n", "B\r\n", "\x04"}, {}},
+    {"line, none at the end", Genre::Ligne, 3, true, {"N1\r\nN2 X", "\r\n", "N3"}, u"2 caractères"_s + SansFin},
+    {"line, the end behind a text", Genre::Ligne, 3, true, {"A\r\n", "M30\x04"}, u"1 caractère"_s + SansFin},
+    {"line, the end in one reading", Genre::Ligne, 3, true, {"M30\r\n\x04"}, {}},
+    {"character, more behind the end", Genre::Caractere, 1, false, {"A\r\n", "B\r\n", "\x04Z"}, {}},
+    {"character, NULs", Genre::Caractere, 3, false, {QByteArray("A\r\n\0\0", 5), "B\r\n", "\x04"}, {}},
+    {"character, lines thrown away",
+     Genre::Caractere,
+     3,
+     false,
+     {"A\r\nB\r\nC", "D\r\n", "%\x04"},
+     u"4 caractères jetés"_s + Conseil + u"\n1 caractère"_s + SansFin},
+    {"character, the end thrown away",
+     Genre::Caractere,
+     3,
+     true,
+     {"A\r\nB\x04", "CD"},
+     u"1 caractère jeté"_s + Conseil + u"\n2 caractères"_s + SansFin},
+    {"character, the end in one reading", Genre::Caractere, 3, true, {"A\r\n\x04"}, {}},
+    {"file, forced", Genre::Fichier, 3, true, {"A\r\nB"}, {}},
+    {"file", Genre::Fichier, 3, false, {"A\r\nB\r\nC", "\x04"}, {}}};
+
+constexpr Genre Entier = Genre::FichierEntier, ParLigne = Genre::LigneParLigne;
+const QByteArray Tous = TousLesOctets();
+/// The text, the beginning of the program, the type of line end: 0 LF, 3 CR LF; and what the machine gets.
+const std::tuple<const char *, Genre, QByteArray, QByteArray, int, QByteArray> Envois[] = {
+    {"whole: empty", Entier, "", "%O", 3, "%O\r\n\x04"},
+    {"whole: exactly a buffer", Entier, "12345678", "", 3, "12345678\x04"},
+    {"whole: one more", Entier, "123456789", "", 3, "123456789\x04"},
+    {"whole: line ends", Entier, " A\r\nB\nC\rD \r\n", "", 3, " A\r\nB\nC\rD \r\n\x04"},
+    {"whole: every byte", Entier, Tous, "\xFF", 0, "\xFF\n" + Tous + "\x04"},
+    {"lines: empty", ParLigne, "", "", 3, "\r\n\x04"},
+    {"lines: a beginning", ParLigne, "A\r\nB", "%", 0, "%\nA\r\nB\n\x04"},
+    {"lines: CR LF for each", ParLigne, "A\r\nB", "", 3, "A\r\r\nB\r\n\x04"},
+    {"lines: blanks", ParLigne, "  A \r\n B \r\n\r\n C  ", "", 0, "A \r\n B \r\n\r\n C\n\x04"},
+    {"lines: LF alone cuts none", ParLigne, "\tA\r\r\nB\rC\n\rD\t\n", "", 3, "\tA\r\r\r\nB\rC\n\rD\t\n\r\n\x04"},
+    {"lines: every byte", ParLigne, Tous, "", 0, Tous + "\n\x04"}};
+
+/// Whether there is an echo, the status and what the echo ends with.
+const std::tuple<const char *, Genre, bool, QString, QString> Montrees[] = {
+    {"whole file", Genre::FichierEntier, false, u"Emission du fichier. Bloc :  301"_s, {}},
+    {"whole file, echo", Genre::FichierEntier, true, u"Emission du fichier. Bloc :  301"_s, u"301"_s},
+    {"line by line, echo", Genre::LigneParLigne, true, u"Emission ligne  2"_s, u"C<CR><LF>"_s}};
+
+const QByteArray SansEot = QByteArray(Tous).replace(FinTrans, "");
+const QByteArray Avale = QByteArray(SansEot).replace('\r', "").replace("\n", "\r\n");
+const QByteArray Deux = "N10 G0\r\n\r\nN20 M30\r\n";
+const QByteArray Milieu = "A\x04 B\r\n";
+/// Type of line end, or by file the size of a reading; what the operator has added to each line; what the machine
+/// sends, and the file.
+const std::tuple<const char *, Genre, int, int, QByteArray, QByteArray> Programmes[] = {
+    {"lines: nothing", Genre::Ligne, 3, 0, "", "\r\n"},
+    {"lines: a program", Genre::Ligne, 3, 0, Deux, Deux + "\r\n"},
+    {"lines: CR LF added", Genre::Ligne, 3, 3, "A\r\nB\r\n", "A\r\n\r\nB\r\n\r\n\r\n"},
+    {"lines: LF, CR LF added", Genre::Ligne, 0, 1, "A\nB\n", "A\n\r\nB\n\r\n\r\n"},
+    {"lines: every byte", Genre::Ligne, 3, 0, Milieu + Tous + "\r\n", Milieu + Tous + "\r\n\r\n"},
+    {"characters: nothing", Genre::Caractere, 3, 0, "", "\r\n"},
+    {"characters: a program", Genre::Caractere, 3, 0, Deux, Deux + "\r\n"},
+    {"characters: a line end of the operator's", Genre::Caractere, 4, 0, "A\r\r\nB\r\r\n", "A\r\nB\r\n\r\n"},
+    {"characters: the end in the middle", Genre::Caractere, 3, 0, "A\r\n" + Milieu, "A\r\n\r\n"},
+    {"characters: every byte", Genre::Caractere, 3, 0, SansEot + "\r\n", Avale + "\r\n\r\n"},
+    {"file: nothing", Genre::Fichier, 512, 0, "", "\r\n"},
+    {"file: every byte", Genre::Fichier, 512, 0, Milieu + Tous, Milieu + Tous + "\r\n"},
+    {"file: the end of a reading is the end", Genre::Fichier, 1, 0, Milieu, "A\r\n"}};
+
 } // namespace
 
 /// Transfers from the question to the last byte: what goes out for a text, what stays of what comes in, and what the
@@ -44,12 +123,18 @@ class TestTransferts : public QObject
 
 private Q_SLOTS:
     void Annonce();
+    void Apercus_data() { Rangees(LignesApercu); }
     void Apercus();
+    void VideEntreTemps();
     void AutreConfiguration();
+    void Bilans_data() { Rangees(Pertes); }
     void Bilans();
     void DialogueReception();
+    void Emissions_data() { Rangees(Envois); }
     void Emissions();
+    void EmissionMontree_data() { Rangees(Montrees); }
     void EmissionMontree();
+    void Receptions_data() { Rangees(Programmes); }
     void Receptions();
     void ReceptionForcee_data() { RangsGenres(2, 4); }
     void ReceptionForcee();
@@ -98,36 +183,29 @@ void TestTransferts::Annonce()
 // once more, with the text that the pane holds then.
 void TestTransferts::Apercus()
 {
+    const auto &[nom, langue, texte, attendu, alerte] = Rangee(LignesApercu);
     EssaiTransfert essai(Genre::FichierEntier);
-    const QByteArray longue = QByteArray(300, 'X') + "\n";
-    // language, text, what the line says, whether that is a warning
-    const std::tuple<int, QByteArray, QString, bool> cas[] = {
-        {0, " \r\n%2010 (PLATINE)\tA\r\nN10\n", u"%2010 (PLATINE)<HT>A : 3 lignes, 26 caractères"_s, false},
-        {1, "\r\rO1", u"O1: 3 lines, 4 characters"_s, false},
-        {1, "A", u"A: 1 line, 1 character"_s, false},
-        {0, longue.repeated(50), u"… : 50 lignes, 15\u202F050 caractères"_s, false},
-        {2, longue.repeated(50), u"…: 50 líneas, 15.050 caracteres"_s, false},
-        {0, "", u"Le texte à envoyer est vide : 0 ligne, 0 caractère."_s, true},
-        {1, "\r\n \x7f\r\n", u"The text to be sent is empty: 2 lines, 6 characters."_s, true}};
-    for (const auto &[langue, texte, attendu, alerte] : cas) {
-        LangIndex = langue;
-        essai.charge.texte = texte;
-        essai.pilote.Fait(Dialogue, [&](const QWidget &fenetre) {
-            const QString lu = Operateur::Lu("Bilan");
-            QVERIFY2(lu.endsWith(attendu) && lu.size() < 100, qPrintable(lu));
-            QCOMPARE(fenetre.findChild<QWidget *>(u"BilanSigne"_s)->isVisible(), alerte);
-            if (lu.startsWith(u"Le "))
-                frmPrinc->Text1->setText(u"N10"_s); // it is no more what it was
-        });
-        const auto joue = essai.Joue();
-        const bool quandMeme = alerte && langue == 1;
-        QCOMPARE(joue.avis.size(), quandMeme ? 1 : 0);
-        QCOMPARE(joue.bilan.section(u'\n', 1), quandMeme ? u"The text sent is empty !"_s : QString());
-        QCOMPARE(essai.ligne->ecrits, (alerte && !quandMeme ? "N10" : texte) + FinTrans);
-        essai.ligne->ecrits.clear();
-    }
-    LangIndex = 0;
-    essai.ligne = std::make_shared<Scenario>();
+    LangIndex = langue;
+    essai.charge.texte = texte;
+    essai.pilote.Fait(Dialogue, [&, attendu = attendu, alerte = alerte](const QWidget &fenetre) {
+        const QString lu = Operateur::Lu("Bilan");
+        QVERIFY2(lu.endsWith(attendu), qPrintable(lu));
+        QVERIFY2(lu.size() < 100, qPrintable(lu));
+        QCOMPARE(fenetre.findChild<QWidget *>(u"BilanSigne"_s)->isVisible(), alerte);
+        if (lu.startsWith(u"Le "))
+            frmPrinc->Text1->setText(u"N10"_s); // it is no more what it was
+    });
+    const auto joue = essai.Joue();
+    const bool quandMeme = alerte && langue == 1;
+    QCOMPARE(joue.avis.size(), quandMeme ? 1 : 0);
+    QCOMPARE(joue.bilan.section(u'\n', 1), quandMeme ? u"The text sent is empty !"_s : QString());
+    QCOMPARE(essai.ligne->ecrits, (alerte && !quandMeme ? "N10" : texte) + FinTrans);
+}
+
+// The operator empties the text while the dialog stands open, and thinks better of it: the port is not even opened.
+void TestTransferts::VideEntreTemps()
+{
+    EssaiTransfert essai(Genre::FichierEntier);
     essai.charge.texte = "A";
     essai.pilote.Fait(Dialogue, [](const QWidget &fenetre) {
         frmPrinc->Text1->setText(QString());
@@ -138,48 +216,24 @@ void TestTransferts::Apercus()
                         Operateur::DemandeSimple | Boite::SecondBouton, QMessageBox::No);
     essai.pilote.Ferme(Dialogue);
     essai.Joue();
-    QVERIFY(essai.ligne->ecrits.isEmpty() && essai.ligne->reglages.isEmpty()); // the port was not even opened
+    QVERIFY(essai.ligne->reglages.isEmpty());
 }
 
 // What a reception had to throw away is counted, and what no program misses is not: what follows the end, the rest of a
 // line end, a leader of NULs.
 void TestTransferts::Bilans()
 {
-    const QString conseil = u" : recevoir par fichier, ou faire une pause en fin de ligne à la machine."_s;
-    const QString sansFin =
-        u" d'une ligne sans fin : recevoir par fichier, ou finir à la machine la dernière ligne par une fin de ligne."_s;
-    // type of line end, what the machine sends at a time, whether the operator forces the end, what is told behind the
-    // count and the time
-    const std::tuple<Genre, int, QByteArrayList, bool, QString> cas[] = {
-        {Genre::Ligne, 3, {"A\r\n", "B\r\n", "\x04"}, false, {}},
-        {Genre::Ligne, 3, {"N1\r\nN2 X", "\r\n", "N3"}, true, u"2 caractères"_s + sansFin},
-        {Genre::Ligne, 3, {"A\r\n", "M30\x04"}, true, u"1 caractère"_s + sansFin},
-        {Genre::Ligne, 3, {"M30\r\n\x04"}, true, {}},
-        {Genre::Caractere, 1, {"A\r\n", "B\r\n", "\x04Z"}, false, {}},
-        {Genre::Caractere, 3, {QByteArray("A\r\n\0\0", 5), "B\r\n", "\x04"}, false, {}},
-        {Genre::Caractere,
-         3,
-         {"A\r\nB\r\nC", "D\r\n", "%\x04"},
-         false,
-         u"4 caractères jetés"_s + conseil + u"\n1 caractère"_s + sansFin},
-        {Genre::Caractere,
-         3,
-         {"A\r\nB\x04", "CD"},
-         true,
-         u"1 caractère jeté"_s + conseil + u"\n2 caractères"_s + sansFin},
-        {Genre::Caractere, 3, {"A\r\n\x04"}, true, {}},
-        {Genre::Fichier, 3, {"A\r\nB"}, true, {}},
-        {Genre::Fichier, 3, {"A\r\nB\r\nC", "\x04"}, false, {}}};
-    for (const auto &[genre, finLigne, pieces, force, attendu] : cas) {
-        EssaiTransfert essai(genre);
-        ParamCom.TypeFinLig = finLigne;
-        BatirChaines();
-        essai.charge.pieces = pieces;
-        const qsizetype recus = essai.Envoye().size();
-        if (force)
-            essai.PreditEnsuite();
-        bool presse = false;
-        const auto joue = essai.Joue(force ? recus : 0, [&](const QDialog &transfert) {
+    const auto &[nom, genre, finLigne, force, pieces, attendu] = Rangee(Pertes);
+    EssaiTransfert essai(genre);
+    ParamCom.TypeFinLig = finLigne;
+    BatirChaines();
+    essai.charge.pieces = pieces;
+    const qsizetype recus = essai.Envoye().size();
+    if (force)
+        essai.PreditEnsuite();
+    bool presse = false;
+    const auto joue =
+        essai.Joue(force ? recus : 0, [&, force = force, pieces = pieces, attendu = attendu](const QDialog &transfert) {
             const QString lu = Operateur::Lu("Bilan"); // he would wait for ever, were he not told
             const bool dit = lu.contains(u"a fin de transfert "_s) && lu.endsWith(attendu);
             if (force && pieces.last().endsWith(FinTrans) && !dit)
@@ -188,10 +242,9 @@ void TestTransferts::Bilans()
                 Operateur::Presse(transfert, "Command7");
             return true;
         });
-        QCOMPARE(joue.bilan.section(u" en "_s, 0, 0), u"%1 caractères reçus"_s.arg(recus));
-        QCOMPARE(joue.bilan.section(u'\n', 0, 0).endsWith(u" s, fin forcée."_s), force);
-        QCOMPARE(joue.bilan.section(u'\n', 1), attendu);
-    }
+    QCOMPARE(joue.bilan.section(u" en "_s, 0, 0), u"%1 caractères reçus"_s.arg(recus));
+    QCOMPARE(joue.bilan.section(u'\n', 0, 0).endsWith(u" s, fin forcée."_s), force);
+    QCOMPARE(joue.bilan.section(u'\n', 1), attendu);
 }
 
 // Another configuration from inside the dialog; a cancelled choice leaves the first, and a file that breaks off,
@@ -231,7 +284,7 @@ void TestTransferts::AutreConfiguration()
     });
     operateur.Presse(Dialogue, "Command1");
     Operateur::Menu("Mnu_EmisProgCN");
-    QCOMPARE(EtatConf.FicConf + frmPrinc->Label4->text(), autre + u"Tour.par"_s);
+    QCOMPARE((QStringList{EtatConf.FicConf, frmPrinc->Label4->text()}), (QStringList{autre, u"Tour.par"_s}));
     QCOMPARE(ParamCom.ChaineFinLig, u"\r\r\n"_s);
 
     EtatConf.neuve = true; // applied, and in no file: told, whatever name stands beside it
@@ -288,35 +341,19 @@ void TestTransferts::DialogueReception()
 // What the machine gets, byte for byte, twice in a row: so nothing follows the end of the first.
 void TestTransferts::Emissions()
 {
-    constexpr Genre entier = Genre::FichierEntier, lignes = Genre::LigneParLigne;
-    const QByteArray tous = TousLesOctets();
-    // beginning of the program, type of line end: 0 LF, 3 CR LF
-    const std::tuple<Genre, QByteArray, QByteArray, int, QByteArray> cas[] = {
-        {entier, "", "%O", 3, "%O\r\n\x04"},
-        {entier, "12345678", "", 3, "12345678\x04"}, // exactly a buffer
-        {entier, "123456789", "", 3, "123456789\x04"},
-        {entier, " A\r\nB\nC\rD \r\n", "", 3, " A\r\nB\nC\rD \r\n\x04"},
-        {entier, tous, "\xFF", 0, "\xFF\n" + tous + "\x04"},
-        {lignes, "", "", 3, "\r\n\x04"},
-        {lignes, "A\r\nB", "%", 0, "%\nA\r\nB\n\x04"},
-        {lignes, "A\r\nB", "", 3, "A\r\r\nB\r\n\x04"},
-        {lignes, "  A \r\n B \r\n\r\n C  ", "", 0, "A \r\n B \r\n\r\n C\n\x04"},
-        {lignes, "\tA\r\r\nB\rC\n\rD\t\n", "", 3, "\tA\r\r\r\nB\rC\n\rD\t\n\r\n\x04"}, // LF alone cuts no line
-        {lignes, tous, "", 0, tous + "\n\x04"}};
-    for (const auto &[genre, texte, debut, finLigne, attendu] : cas) {
-        EssaiTransfert essai(genre);
-        ParamCom.TypeFinLig = finLigne;
-        ParamCom.NbCarDebProg = int(debut.size());
-        for (int i = 0; i < debut.size(); ++i)
-            ParamCom.CarDebProg[std::size_t(i) + 1] = static_cast<unsigned char>(debut[i]);
-        BatirChaines();
-        ParamCom.TailleTamponEmis = 8;
-        essai.charge.texte = texte;
-        for (int fois = 1; fois <= 2; ++fois) {
-            QCOMPARE(essai.Joue().statut, u"Transfert terminé avec succès !"_s);
-            QCOMPARE(essai.ligne->ecrits, attendu.repeated(fois));
-            QCOMPARE(frmPrinc->Text1->Text().size(), texte.size());
-        }
+    const auto &[nom, genre, texte, debut, finLigne, attendu] = Rangee(Envois);
+    EssaiTransfert essai(genre);
+    ParamCom.TypeFinLig = finLigne;
+    ParamCom.NbCarDebProg = int(debut.size());
+    for (int i = 0; i < debut.size(); ++i)
+        ParamCom.CarDebProg[std::size_t(i) + 1] = static_cast<unsigned char>(debut[i]);
+    BatirChaines();
+    ParamCom.TailleTamponEmis = 8;
+    essai.charge.texte = texte;
+    for (int fois = 1; fois <= 2; ++fois) {
+        QCOMPARE(essai.Joue().statut, u"Transfert terminé avec succès !"_s);
+        QCOMPARE(essai.ligne->ecrits, attendu.repeated(fois));
+        QCOMPARE(frmPrinc->Text1->Text().size(), texte.size());
     }
 }
 
@@ -325,113 +362,89 @@ void TestTransferts::Emissions()
 // it unasked; at the end it shows the end.
 void TestTransferts::EmissionMontree()
 {
+    const auto &[nom, genre, echo, statut, echoLu] = Rangee(Montrees);
     QByteArray corps;
     for (const char lettre : {'A', 'B', 'C'})
         corps += QByteArray(98, lettre) + "\r\n";
-    for (const auto &[genre, echo, statut, echoLu] :
-         {std::tuple{Genre::FichierEntier, false, u"Emission du fichier. Bloc :  301"_s, QString()},
-          {Genre::FichierEntier, true, u"Emission du fichier. Bloc :  301"_s, u"301"_s},
-          {Genre::LigneParLigne, true, u"Emission ligne  2"_s, u"C<CR><LF>"_s}}) {
-        EssaiTransfert essai(genre);
-        essai.charge.texte = corps + 'D';
-        essai.ligne->accepte = 210;
-        ParamCom.Echo = echo ? 1 : 0;
-        ParamCom.TailleTamponEmis = 100;
-        QTest::keyPress(frmPrinc, Qt::Key_Return);
-        essai.pilote.Fait(Dialogue, [&](QWidget &fenetre) {
-            auto *const bouton = fenetre.findChild<QPushButton *>(u"Command2"_s);
-            const auto appuie = [=] { QTest::simulateEvent(bouton, true, Qt::Key_Return, {}, u"\r"_s, true); };
-            appuie(); // still from the confirmation
-            QVERIFY(bouton->isEnabled() && essai.ligne->ecrits.isEmpty());
-            QTest::mouseClick(bouton, Qt::LeftButton);
-            QTest::mouseDClick(bouton, Qt::LeftButton);
-            QTest::mouseRelease(bouton, Qt::LeftButton);
-            appuie();
+    EssaiTransfert essai(genre);
+    essai.charge.texte = corps + 'D';
+    essai.ligne->accepte = 210;
+    ParamCom.Echo = echo ? 1 : 0;
+    ParamCom.TailleTamponEmis = 100;
+    QTest::keyPress(frmPrinc, Qt::Key_Return);
+    essai.pilote.Fait(Dialogue, [&](QWidget &fenetre) {
+        auto *const bouton = fenetre.findChild<QPushButton *>(u"Command2"_s);
+        const auto appuie = [=] { QTest::simulateEvent(bouton, true, Qt::Key_Return, {}, u"\r"_s, true); };
+        appuie(); // still from the confirmation
+        QVERIFY(bouton->isEnabled());
+        QVERIFY(essai.ligne->ecrits.isEmpty());
+        QTest::mouseClick(bouton, Qt::LeftButton);
+        QTest::mouseDClick(bouton, Qt::LeftButton);
+        QTest::mouseRelease(bouton, Qt::LeftButton);
+        appuie();
+    });
+    essai.pilote.Fait(
+        Dialogue,
+        [&, echo = echo, echoLu = echoLu](QWidget &fenetre) {
+            const auto controle = [&](const QString &objet) { return fenetre.findChild<QWidget *>(objet); };
+            QCOMPARE(essai.ligne->accepte, 0);
+            QCOMPARE(controle(u"Label3"_s)->isVisible(), echo);
+            QVERIFY(Operateur::Lu("Label3").endsWith(echoLu));
+            QVERIFY(!controle(u"Label4"_s)->isVisible());
+            QVERIFY(!controle(u"Frame2"_s)->isVisible());
+            QVERIFY(!controle(u"Command2"_s)->isEnabled());
+            QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Verte);
+            if (echo)
+                fenetre.close();
+            else
+                QTest::keyClick(&fenetre, Qt::Key_Escape);
+            QVERIFY(fenetre.isVisible());
+        },
+        [echo = echo, statut = statut] {
+            return Operateur::Lu("Label2") == statut &&
+                   (echo || Operateur::Lu("Progression").startsWith(u"69 %  -  reste "));
         });
-        essai.pilote.Fait(
-            Dialogue,
-            [&](QWidget &fenetre) {
-                const auto controle = [&](const QString &nom) { return fenetre.findChild<QWidget *>(nom); };
-                QCOMPARE(essai.ligne->accepte, 0);
-                QCOMPARE(controle(u"Label3"_s)->isVisible(), echo);
-                QVERIFY(Operateur::Lu("Label3").endsWith(echoLu));
-                QVERIFY(!controle(u"Label4"_s)->isVisible() && !controle(u"Frame2"_s)->isVisible());
-                QVERIFY(!controle(u"Command2"_s)->isEnabled());
-                QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Verte);
-                if (echo)
-                    fenetre.close();
-                else
-                    QTest::keyClick(&fenetre, Qt::Key_Escape);
-                QVERIFY(fenetre.isVisible());
-            },
-            [echo = echo, statut = statut] {
-                return Operateur::Lu("Label2") == statut &&
-                       (echo || Operateur::Lu("Progression").startsWith(u"69 %  -  reste "));
-            });
-        essai.pilote.Repond("Transfert en cours", "Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
-                            Operateur::Demande, QMessageBox::No);
-        essai.pilote.Fait(Dialogue, [&](QWidget &) { essai.ligne->accepte = 1'000'000; });
-        essai.pilote.Fait(
-            Dialogue,
-            [&](QWidget &) {
-                QCOMPARE(Operateur::Lu("Label3") == u"<EOT>", echo);
-                QCOMPARE(Operateur::Lu("Command1"), u"&Annuler"_s);
-                QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
-            },
-            [] { return Operateur::Lu("Label2") == u"Transfert terminé avec succès !"; });
-        QCOMPARE(essai.Joue().avis.size(), 0);
-        QCOMPARE(essai.ligne->ecrits, corps + (genre == Genre::FichierEntier ? "D\x04" : "D\n\x04"));
-    }
+    essai.pilote.Repond("Transfert en cours", "Le transfert n'est pas terminé !\rConfirmez l'arrêt du transfert ?",
+                        Operateur::Demande, QMessageBox::No);
+    essai.pilote.Fait(Dialogue, [&](QWidget &) { essai.ligne->accepte = 1'000'000; });
+    essai.pilote.Fait(
+        Dialogue,
+        [echo = echo](QWidget &) {
+            QCOMPARE(Operateur::Lu("Label3") == u"<EOT>", echo);
+            QCOMPARE(Operateur::Lu("Command1"), u"&Annuler"_s);
+            QCOMPARE(frmPrinc->shpSend->FillColor(), Lampe::Rouge);
+        },
+        [] { return Operateur::Lu("Label2") == u"Transfert terminé avec succès !"; });
+    QCOMPARE(essai.Joue().avis.size(), 0);
+    QCOMPARE(essai.ligne->ecrits, corps + (genre == Genre::FichierEntier ? "D\x04" : "D\n\x04"));
 }
 
 // What a machine may send: nothing, a program, the end string in the middle or not alone, any byte. To the file on the
 // disk, the pane, the answer to the machine and the names of the document.
 void TestTransferts::Receptions()
 {
-    constexpr Genre lignes = Genre::Ligne, caracteres = Genre::Caractere, fichier = Genre::Fichier;
-    const QByteArray tous = TousLesOctets();
-    const QByteArray sansFin = QByteArray(tous).replace(FinTrans, "");
-    const QByteArray avale = QByteArray(sansFin).replace('\r', "").replace("\n", "\r\n");
-    const QByteArray deux = "N10 G0\r\n\r\nN20 M30\r\n";
-    const QByteArray milieu = "A\x04 B\r\n";
-    // type of line end, or by file the size of a reading; what the operator has added to each line
-    const std::tuple<Genre, int, int, QByteArray, QByteArray> cas[] = {
-        {lignes, 3, 0, "", "\r\n"},
-        {lignes, 3, 0, deux, deux + "\r\n"},
-        {lignes, 3, 3, "A\r\nB\r\n", "A\r\n\r\nB\r\n\r\n\r\n"},
-        {lignes, 0, 1, "A\nB\n", "A\n\r\nB\n\r\n\r\n"},
-        {lignes, 3, 0, milieu + tous + "\r\n", milieu + tous + "\r\n\r\n"},
-        {caracteres, 3, 0, "", "\r\n"},
-        {caracteres, 3, 0, deux, deux + "\r\n"},
-        {caracteres, 4, 0, "A\r\r\nB\r\r\n", "A\r\nB\r\n\r\n"}, // a chain of the operator's own
-        {caracteres, 3, 0, "A\r\n" + milieu, "A\r\n\r\n"},
-        {caracteres, 3, 0, sansFin + "\r\n", avale + "\r\n\r\n"},
-        {fichier, 512, 0, "", "\r\n"},
-        {fichier, 512, 0, milieu + tous, milieu + tous + "\r\n"},
-        {fichier, 1, 0, milieu, "A\r\n"}}; // read so, it stands at the end of what has come
-    for (const auto &[genre, finOuLecture, option, envoye, attendu] : cas) {
-        EssaiTransfert essai(genre);
-        ParamCom.Echo = 1;
-        const bool parFichier = genre == fichier;
-        (parFichier ? ParamCom.NbCarLecture : ParamCom.TypeFinLig) = finOuLecture;
-        ParamCom.FinLigRecep = option;
-        ParamCom.NbCarFinLig = 3;
-        ParamCom.CarFinLig = {0, 13, 13, 10};
-        BatirChaines();
-        essai.charge.pieces = ParLignes(envoye) << FinTrans;
-        essai.pilote.Fait(
-            Dialogue,
-            [parFichier](QWidget &) { QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s); },
-            [] { return Operateur::Lu("Label2") == u"Transfert réalisé avec succès !" && !frmPrinc->PortOuvert; });
-        QCOMPARE(essai.Joue().avis.size(), 0);
-        QCOMPARE(essai.Disque(), attendu);
-        QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
-        QCOMPARE(frmPrinc->Text1->Text().size(), attendu.size() - (parFichier ? 2 : 0));
-        QVERIFY(!Document.FichierModifie);
-        QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
-        QCOMPARE(Document.TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
-        QVERIFY(frmPrinc->Text2->isHidden());
-    }
+    const auto &[nom, genre, finOuLecture, option, envoye, attendu] = Rangee(Programmes);
+    EssaiTransfert essai(genre);
+    ParamCom.Echo = 1;
+    const bool parFichier = genre == Genre::Fichier;
+    (parFichier ? ParamCom.NbCarLecture : ParamCom.TypeFinLig) = finOuLecture;
+    ParamCom.FinLigRecep = option;
+    ParamCom.NbCarFinLig = 3;
+    ParamCom.CarFinLig = {0, 13, 13, 10};
+    BatirChaines();
+    essai.charge.pieces = ParLignes(envoye) << FinTrans;
+    essai.pilote.Fait(
+        Dialogue,
+        [parFichier](QWidget &) { QCOMPARE(Operateur::Lu("Command1"), parFichier ? u"&Annuler"_s : u"&Fermer"_s); },
+        [] { return Operateur::Lu("Label2") == u"Transfert réalisé avec succès !" && !frmPrinc->PortOuvert; });
+    QCOMPARE(essai.Joue().avis.size(), 0);
+    QCOMPARE(essai.Disque(), attendu);
+    QCOMPARE(essai.ligne->ecrits, QByteArray(FinTrans));
+    QCOMPARE(frmPrinc->Text1->Text().size(), attendu.size() - (parFichier ? 2 : 0));
+    QVERIFY(!Document.FichierModifie);
+    QCOMPARE(frmPrinc->Label2->text(), u"PIECE.ISO"_s);
+    QCOMPARE(Document.TitreFichier, parFichier ? u"PIECE.iso"_s : u"PIECE.ISO"_s);
+    QVERIFY(frmPrinc->Text2->isHidden());
 }
 
 // The operator forces the end, or thinks better of it while characters come: before the first character, behind a line
@@ -443,6 +456,7 @@ void TestTransferts::ReceptionForcee()
     const QByteArray programme = essai.Envoye().chopped(1);
     for (const qsizetype position : {0, 4, 5}) {
         for (const bool force : {true, false}) {
+            const auto passe = Passe(u"at %1%2"_s.arg(position).arg(force ? u", forced"_s : QString()));
             essai.ligne = std::make_shared<Scenario>();
             essai.PreditEnsuite();
             if (force) {
@@ -481,6 +495,7 @@ void TestTransferts::ArretDemande()
     const QByteArray programme = essai.Envoye().chopped(1);
     const auto pris = [&essai] { return essai.Pris(); };
     for (const auto &[position, non] : {std::pair{0, true}, {5, true}, {5, false}}) {
+        const auto passe = Passe(u"at %1%2"_s.arg(position).arg(non ? u", answered"_s : QString()));
         essai.ligne = std::make_shared<Scenario>();
         essai.PreditEnsuite();
         for (const QByteArray piece : {"Z", "\r\n"})
@@ -518,6 +533,7 @@ void TestTransferts::ReceptionTenue()
     QFETCH(int, rang);
     EssaiTransfert essai(Genres[rang]);
     for (const bool parCts : {true, false}) {
+        const auto passe = Passe(parCts ? u"CTS"_s : u"XOFF"_s);
         essai.ligne = std::make_shared<Scenario>();
         ParamCom.ControleFlux = parCts ? 2 : 1;
         essai.ligne->accepte = parCts ? 1'000'000 : 0;
@@ -563,9 +579,8 @@ void TestTransferts::TropDeLignes()
     essai.pilote.LitErreur(Erreur::IndiceHorsPlage, u"La table est pleine.\rLa réception dépasse 25000 lignes."_s);
     essai.pilote.Ferme("CommonDialog"); // he thinks better of it: offered once more
     const QString bilan = essai.Joue().bilan;
-    QVERIFY2(bilan.contains(u"sauve.txt\n100\u202F000 caractères reçus en "_s) &&
-                 bilan.contains(u"\n50\u202F000 caractères jetés : "_s),
-             qPrintable(bilan));
+    QVERIFY2(bilan.contains(u"sauve.txt\n100\u202F000 caractères reçus en "_s), qPrintable(bilan));
+    QVERIFY2(bilan.contains(u"\n50\u202F000 caractères jetés : "_s), qPrintable(bilan));
     QCOMPARE(essai.poste.Lit("sauve.txt"), pleine);
 }
 
@@ -584,7 +599,8 @@ void TestTransferts::TropGrand()
                             Boite::Information | Boite::OuiNon, QMessageBox::No);
     QCOMPARE(essai.Joue().avis.size(), 0);
     QCOMPARE(essai.Disque(), programme + "\r\n");
-    QVERIFY(frmPrinc->Text1->isHidden() && frmPrinc->Text1->Text().isEmpty());
+    QVERIFY(frmPrinc->Text1->isHidden());
+    QVERIFY(frmPrinc->Text1->Text().isEmpty());
     QCOMPARE(Document.NomFichier, essai.poste.Chemin("PIECE.ISO"));
     essai.pilote.Fait("MsgBox", Operateur::Clique(QMessageBox::Yes));
     Operateur::Menu("Mnu_Nouveau");
