@@ -18,13 +18,10 @@
 #include "transfer/Em_Rc.h"
 #include "transfer/Rc_Fic.h"
 
-#include <QDir>
 #include <QMenu>
 #include <QPushButton>
 
 #include <memory>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -161,7 +158,8 @@ private Q_SLOTS:
     {
         QFETCH(int, langue);
         const Poste poste(langue);
-        QVERIFY(QDir(poste.Dossier()).mkpath(u"Conf"_s) && QDir(poste.Dossier()).mkpath(u"Programmes"_s));
+        QVERIFY(QDir(poste.Dossier()).mkpath(u"Conf"_s));
+        QVERIFY(QDir(poste.Dossier()).mkpath(u"Programmes"_s));
         const QString exemple = u"Conf/Machine_simulee.par"_s;
         QVERIFY(QFile::copy(Donnees(u"../../resources/exemples/"_s + exemple), poste.Chemin(exemple)));
         for (const QString &manuel : {u"DORVANEL.HLP"_s, u"DORVANEL_EN.HLP"_s, u"DORVANEL_ES.HLP"_s})
@@ -181,7 +179,8 @@ private Q_SLOTS:
             }
             QCoreApplication::removePostedEvents(fenetre.get(), QEvent::MetaCall); // a reception that would ask
             QCoreApplication::processEvents();
-            QVERIFY2(fenetre->width() <= 1280 && fenetre->height() <= 760, vue.nom); // the screens of the shop
+            QVERIFY2(fenetre->width() <= 1280, vue.nom);
+            QVERIFY2(fenetre->height() <= 760, vue.nom); // the screens of the shop
             for (const QString &defaut : Defauts(*fenetre))
                 defauts << QLatin1String(vue.nom) + u": "_s + defaut;
         }

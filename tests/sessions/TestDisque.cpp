@@ -1,3 +1,4 @@
+#include "DisquePlein.h"
 #include "Essais.h"
 #include "pilote/Operateur.h"
 #include "pilote/Poste.h"
@@ -18,16 +19,10 @@
 
 #include <QDir>
 #include <QLineEdit>
-#include <QScopeGuard>
-#include <QTest>
 
-#include <csignal>
 #include <sys/fsuid.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -37,13 +32,10 @@ constexpr char Ini[] = "Dorvanel.ini";
 /// or else neither may be written.
 [[nodiscard]] auto Gate(const Poste &poste, const QString &fichier, bool dossier, bool ferme)
 {
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit libre{};
-    getrlimit(RLIMIT_FSIZE, &libre);
-    const rlimit serre{ferme ? libre.rlim_cur : rlim_t(QFileInfo(poste.Chemin(fichier)).size()), libre.rlim_max};
+    auto plein = DisquePlein(ferme || dossier ? RLIM_INFINITY : rlim_t(QFileInfo(poste.Chemin(fichier)).size()));
     const bool deplace = dossier && !ferme;
     const QString parti = poste.Dossier() + u".parti"_s;
-    const bool gate = deplace ? QDir().rename(poste.Dossier(), parti) : setrlimit(RLIMIT_FSIZE, &serre) == 0;
+    const bool gate = !deplace || QDir().rename(poste.Dossier(), parti);
     const auto droits = [=, &poste](mode_t surDossier, mode_t surFichier, uid_t qui) {
         setfsuid(geteuid());
         chmod(qPrintable(poste.Dossier()), surDossier);
@@ -52,8 +44,8 @@ constexpr char Ini[] = "Dorvanel.ini";
     };
     if (ferme)
         droits(0555, 0444, 65534);
-    return qScopeGuard([=, &poste] {
-        QVERIFY(gate && setrlimit(RLIMIT_FSIZE, &libre) == 0);
+    return qScopeGuard([=, &poste, plein = std::move(plein)] {
+        QVERIFY(gate);
         QVERIFY(!deplace || QDir().rename(parti, poste.Dossier()));
         if (ferme)
             droits(0700, 0644, geteuid());
@@ -127,9 +119,10 @@ const Ecrivain Ecrivains[] = {
          a.Dit(NonEnregistre);
          Operateur::Menu("Mnu_EnregistrerSous");
          const QString nom = a.echoue ? u"P.iso"_s : a.fichier;
-         QCOMPARE(Document.NomFichier + Document.TitreFichier + frmPrinc->Label2->text(),
-                  a.Chemin(a.fichier) + a.fichier + nom);
-         QVERIFY(frmPrinc->windowTitle().endsWith(a.Chemin(nom)) && Document.FichierModifie == a.echoue);
+         QCOMPARE((QStringList{Document.NomFichier, Document.TitreFichier, frmPrinc->Label2->text()}),
+                  (QStringList{a.Chemin(a.fichier), a.fichier, nom}));
+         QVERIFY(frmPrinc->windowTitle().endsWith(a.Chemin(nom)));
+         QCOMPARE(Document.FichierModifie, a.echoue);
      }},
     {"new", "P.iso", [](Atelier &a) { a.Garde([] { Operateur::Menu("Mnu_Nouveau"); }); }},
     {"quit", "P.iso", [](Atelier &a) { a.Garde([] { Operateur::Menu("Mnu_Quitter"); }); }},
@@ -138,7 +131,7 @@ const Ecrivain Ecrivains[] = {
      [](Atelier &a) {
          a.Nomme();
          a.prop.Command17->click();
-         QCOMPARE(EtatConf.FicConf + EtatConf.NomConf, a.Chemin(a.fichier) + a.fichier);
+         QCOMPARE((QStringList{EtatConf.FicConf, EtatConf.NomConf}), (QStringList{a.Chemin(a.fichier), a.fichier}));
          QCOMPARE(a.prop.Label6->text() == a.fichier, !a.echoue);
          QCOMPARE(EtatConf.malEcrite, a.echoue);
      }},
@@ -166,7 +159,7 @@ const Ecrivain Ecrivains[] = {
          a.Choisit("/bin/sh");
          a.Dit(NonEnregistre, u"Dorvanel Pro"_s, Boite::Exclamation);
          a.prop.Command5->click();
-         QCOMPARE(a.prop.Label12->text() + Reglages.EditeurCN, u"/bin/sh/bin/sh"_s);
+         QCOMPARE((QStringList{a.prop.Label12->text(), Reglages.EditeurCN}), (QStringList{u"/bin/sh"_s, u"/bin/sh"_s}));
      }},
     {"gauges", "JAUGES.COR",
      [](Atelier &a) {
@@ -174,7 +167,8 @@ const Ecrivain Ecrivains[] = {
              CreFicJauge();
              QVERIFY(!a.echoue);
          } catch (const JaugesNonEcrites &erreur) {
-             QVERIFY(a.echoue && erreur.Intact());
+             QVERIFY(a.echoue);
+             QVERIFY(erreur.Intact());
              QCOMPARE(erreur.TexteJauges(), u"%\r\nD1 X10 Z50 R0 C0\r\n"_s);
          }
      }},
