@@ -7,6 +7,7 @@
 #include "locale/Langue.h"
 #include "platform/base/Nombres.h"
 #include "platform/controles/FiltreTouches.h"
+#include "platform/serie/MSComm.h"
 #include "ui_Prop.h"
 
 #include <algorithm>
@@ -18,7 +19,6 @@ using C = ConfigurationCom;
 using U = Ui_Prop;
 using Boutons = std::array<QRadioButton * U::*, 5>; // the places behind the last one are empty
 
-constexpr int NombrePorts = 16;
 constexpr const char16_t *Vitesses[] = {u"110",   u"150",   u"300",    u"600",    u"1200",  u"2400",
                                         u"4800",  u"9600",  u"14400",  u"19200",  u"28800", u"38400",
                                         u"56000", u"57600", u"115200", u"128000", u"256000"};
@@ -181,7 +181,7 @@ void PrendNombre(const Ui::Prop &dialogue, const CaseNombre &champ)
 
 void RemplitListes(const Ui::Prop &dialogue)
 {
-    for (int port = 1; port <= NombrePorts; ++port)
+    for (int port = 1; port <= MSComm::PortMax; ++port)
         dialogue.cboPort->addItem(QStringLiteral("Com%1").arg(port));
     dialogue.cboPort->setCurrentIndex(-1);
     Remplit(dialogue.cboSpeed, Vitesses);

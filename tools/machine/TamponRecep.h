@@ -2,11 +2,10 @@
 
 #include "machine/Cadence.h"
 
+#include "platform/serie/CaracteresFlux.h"
+
 #include <optional>
 #include <vector>
-
-constexpr char Xon = 17;
-constexpr char Xoff = 19;
 
 /// A hold written down beforehand.
 struct Arret

@@ -1,13 +1,8 @@
 #include "platform/serie/FluxXonXoff.h"
 
+#include "platform/serie/CaracteresFlux.h"
+
 #include <algorithm>
-
-namespace {
-
-constexpr char Xon = 17;
-constexpr char Xoff = 19;
-
-} // namespace
 
 void FluxXonXoff::Pose(bool actif)
 {

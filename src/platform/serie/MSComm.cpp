@@ -16,11 +16,9 @@ namespace {
 using namespace std::chrono_literals;
 using Duree = CadenceEmission::Duree;
 
-constexpr int PortMax = 16;
 constexpr int TailleTamponUsuelle = 1024;
 constexpr auto PeriodeSurveillance = 50ms;
 constexpr Duree Transit = 2ms; // what an adapter adds to a line time
-constexpr Duree Jeu = 20ms;    // tolerance before a line counts as standing still
 
 constexpr int FileSysteme = 4096; // characters that the system keeps at most
 
@@ -123,7 +121,7 @@ void MSComm::Ferme()
     const Duree tempsLigne = cadence.Reste(Horloge::Maintenant()) + cadence.Temps(2) + Transit;
     const auto fin = Horloge::Maintenant() + tempsLigne;
     if (!abandon)
-        Attend(tempsLigne + Jeu, [&] { return Horloge::Maintenant() >= fin && ligne->NonEmis() == 0; });
+        Attend(tempsLigne + JeuAdaptateur, [&] { return Horloge::Maintenant() >= fin && ligne->NonEmis() == 0; });
     // If the system still holds characters, closing would wait for a machine that may never take them.
     if (abandon || ligne->NonEmis() > 0)
         ligne->JetteEmission();
@@ -447,7 +445,7 @@ void MSComm::VideEmission(int chaine)
     const auto termine = [this] { return !m_ligne || m_panne || m_emission.Nombre() == 0 || Retenue(); };
     const CadenceEmission &cadence = m_emission.Cadence();
     const int nombre = std::min(m_emission.Nombre(), chaine) + cadence.Avance();
-    Attend(cadence.Temps(nombre) + Jeu, termine);
+    Attend(cadence.Temps(nombre) + JeuAdaptateur, termine);
     if (!m_ligne || m_panne || m_emission.Nombre() == 0)
         return;
     m_ajoutes -= m_emission.Nombre();

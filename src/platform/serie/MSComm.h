@@ -75,6 +75,8 @@ public:
     /// Opens the line of that number; raises what OuvreLigne() raises.
     using Fabrique = std::function<std::unique_ptr<LigneSerie>(int numPort)>;
 
+    static constexpr int PortMax = 16; ///< highest port number
+
     explicit MSComm(QObject *parent = nullptr);
     ~MSComm() override;
 
@@ -84,7 +86,7 @@ public:
     QString DossierPorts() const { return m_dossierPorts; }
     void setDossierPorts(const QString &dossier) { m_dossierPorts = dossier; }
 
-    /// Port number, 1 to 16. Raises ErreurPort::Inconnu, or DejaOuvert for another number while the port is open.
+    /// Port number, 1 to PortMax. Raises ErreurPort::Inconnu, or DejaOuvert for another number while the port is open.
     int CommPort() const { return m_commPort; }
     void setCommPort(int numPort);
 

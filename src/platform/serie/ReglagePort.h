@@ -2,9 +2,15 @@
 
 #include <QString>
 
+#include <chrono>
+
 enum class Parite { Aucune, Impaire, Paire, Marque, Espace };
 
 enum class ControleFlux { Aucun, XonXoff, RtsCts, RtsXonXoff };
+
+/// How long an adapter may keep to itself what the line does: received characters, progress in sending, the end of a
+/// refusal. The slowest that is known keeps it for 16 ms (see LignePosix).
+constexpr std::chrono::milliseconds JeuAdaptateur{20};
 
 /// How characters travel on the line.
 struct ReglagePort

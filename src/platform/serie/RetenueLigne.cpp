@@ -4,10 +4,7 @@
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr int SautSysteme = 24; // a driver counts down in steps of a FIFO, not character by character
-constexpr auto Jeu = 20ms;      // tolerance before a standstill or a refusal counts as a hold
 
 } // namespace
 
@@ -21,7 +18,7 @@ void RetenueLigne::Ouvre(LigneSerie &ligne, const ReglagePort &reglage)
 void RetenueLigne::Regle(const ReglagePort &reglage)
 {
     m_rtsCts = reglage.ARtsCts();
-    m_patience = Jeu + Duree(qRound64(SautSysteme * 1e9 / reglage.CaracteresParSeconde()));
+    m_patience = JeuAdaptateur + Duree(qRound64(SautSysteme * 1e9 / reglage.CaracteresParSeconde()));
 }
 
 bool RetenueLigne::ParMachine() const
@@ -38,7 +35,7 @@ bool RetenueLigne::CtsBas() const
 bool RetenueLigne::ParAppareil(Instant maintenant)
 {
     const bool immobile = Systeme(maintenant) > 0 && maintenant - m_progres > m_patience;
-    const bool refuse = m_refus && maintenant - m_depuisRefus > Jeu;
+    const bool refuse = m_refus && maintenant - m_depuisRefus > JeuAdaptateur;
     return immobile || refuse;
 }
 

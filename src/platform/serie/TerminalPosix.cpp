@@ -2,6 +2,7 @@
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Reprise.h"
+#include "platform/serie/CaracteresFlux.h"
 #include "platform/serie/ErreurPort.h"
 
 #include <asm/termbits.h>
@@ -10,9 +11,6 @@
 #include <sys/ioctl.h>
 
 namespace {
-
-constexpr cc_t Xon = 17;
-constexpr cc_t Xoff = 19;
 
 tcflag_t Taille(int bits)
 {
