@@ -1,6 +1,7 @@
 #include "Mesure.h"
 
 #include "donnees/ParamCom.h"
+#include "platform/serie/ReglagePort.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -81,9 +82,9 @@ void ConfigureMachine(int vitesse)
     ParamCom.Parite = QStringLiteral("n");
     ParamCom.BitsDonnees = QStringLiteral("8");
     ParamCom.BitsArret = QStringLiteral("1");
-    ParamCom.ControleFlux = 1;
-    ParamCom.TypeFinTrans = 1;
-    ParamCom.TypeFinLig = 3;
+    ParamCom.ControleFlux = static_cast<int>(ControleFlux::XonXoff);
+    ParamCom.TypeFinTrans = FinTransEot;
+    ParamCom.TypeFinLig = FinLigCrLf;
     ParamCom.TailleTamponRecep = 1024;
     ParamCom.TailleTamponEmis = 512;
     ParamCom.Echo = 1;

@@ -97,7 +97,7 @@ public:
         fenetre.show();
         QFile::link(machine.Chemin(), m_dossier.filePath(QStringLiteral("Com2")));
         ConfigureMachine(vitesse);
-        ParamCom.TypeFinLig = 0;
+        ParamCom.TypeFinLig = FinLigLf;
         ParamCom.TypeEnvoi = typeEnvoi;
         BatirChaines();
     }

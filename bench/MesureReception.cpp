@@ -43,7 +43,7 @@ struct PosteReception
         ParamCom.SeuilRecep = 256;
         Transfert.DossierRecep = dossier.path();
         Transfert.NomFicRecep = QStringLiteral("RECU.ISO");
-        Transfert.TypeTransfert = 0; // the dialog shows the transfer and starts nothing by itself
+        Transfert.TypeTransfert = AucunTransfert; // the dialog shows the transfer and starts nothing by itself
         fenetre.show();
     }
 

@@ -10,6 +10,7 @@
 #include "platform/dialogues/Boites.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "platform/fichiers/FichierTexte.h"
+#include "platform/serie/ReglagePort.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
 
@@ -98,8 +99,9 @@ void MetConfigurationNeuve()
     p.BitsDonnees = QStringLiteral("7");
     p.BitsArret = QStringLiteral("1");
     p.Echo = 0;
-    p.ControleFlux = 2;
-    p.TypeFinTrans = p.TypeFinLig = 0;
+    p.ControleFlux = static_cast<int>(ControleFlux::RtsCts);
+    p.TypeFinTrans = FinTransXoff;
+    p.TypeFinLig = FinLigLf;
     p.NbCarLecture = 512;
     p.CarRemplace = QStringLiteral("?");
     p.TailleTamponRecep = 1024;

@@ -62,16 +62,14 @@ constexpr Boutons Taille{&U::OptionTaille_0, &U::OptionTaille_1};
 
 void MontreFinTrans(const Ui::Prop &dialogue, int index)
 {
-    constexpr int autre = 2;
-    dialogue.LabelFinTrans->setVisible(index == autre);
-    dialogue.Command20->setVisible(index == autre);
+    dialogue.LabelFinTrans->setVisible(index == FinTransAutre);
+    dialogue.Command20->setVisible(index == FinTransAutre);
 }
 
 void MontreFinLig(const Ui::Prop &dialogue, int index)
 {
-    constexpr int autre = 4;
-    dialogue.LabelFinLigne->setVisible(index == autre);
-    dialogue.Command21->setVisible(index == autre);
+    dialogue.LabelFinLigne->setVisible(index == FinLigAutre);
+    dialogue.Command21->setVisible(index == FinLigAutre);
 }
 
 /// Receiving by characters takes them one at a time; the other two ways go back to the usual number.
@@ -292,5 +290,5 @@ ErreurEnAttente PrendControles(const Ui::Prop &dialogue)
 void PrendTransferts(const Ui::Prop &dialogue)
 {
     PrendNombre(dialogue, CaseTaille);
-    ParamCom.TypeEnvoi = Selection(dialogue, Envoi) == 0 ? 0 : 1;
+    ParamCom.TypeEnvoi = Selection(dialogue, Envoi) == EnvoiLignes ? EnvoiLignes : EnvoiFichier;
 }

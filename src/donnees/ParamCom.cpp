@@ -5,6 +5,8 @@
 #include "platform/base/PageCode1252.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/fichiers/LecteurChamps.h"
+#include "platform/serie/CaracteresFlux.h"
+#include "platform/serie/ReglagePort.h"
 
 #include <QScopeGuard>
 
@@ -120,42 +122,42 @@ void EcrireFichierPar(const QString &chemin)
     EtatConf.neuve = EtatConf.malEcrite = false;
 }
 
+QString CaracteresFinLigne(TypeFinLigne type)
+{
+    static const QString fins[] = {QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\n\r"),
+                                   QStringLiteral("\r\n")};
+    return type == FinLigAutre ? CaracteresDe(ChaineLigne) : fins[type];
+}
+
 void BatirChaines()
 {
-    constexpr char xoff = 19;
     constexpr char eot = 4;
     switch (ParamCom.TypeFinTrans) {
-    case 0:
-        ParamCom.ChaineFinTrans = QLatin1Char(xoff);
+    case FinTransXoff:
+        ParamCom.ChaineFinTrans = QLatin1Char(Xoff);
         break;
-    case 1:
+    case FinTransEot:
         ParamCom.ChaineFinTrans = QLatin1Char(eot);
         break;
-    case 2:
+    case FinTransAutre:
         ParamCom.ChaineFinTrans = CaracteresDe(ChaineTransfert);
         break;
     default:
         break;
     }
-    static const QString finsDeLigne[] = {QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\n\r"),
-                                          QStringLiteral("\r\n")};
-    constexpr int autre = 4;
-    if (ParamCom.TypeFinLig == autre)
-        ParamCom.ChaineFinLig = CaracteresDe(ChaineLigne);
-    else if (ParamCom.TypeFinLig >= 0 && ParamCom.TypeFinLig < autre)
-        ParamCom.ChaineFinLig = finsDeLigne[ParamCom.TypeFinLig];
+    if (ParamCom.TypeFinLig >= FinLigLf && ParamCom.TypeFinLig <= FinLigAutre)
+        ParamCom.ChaineFinLig = CaracteresFinLigne(static_cast<TypeFinLigne>(ParamCom.TypeFinLig));
 }
 
 bool FinTransfertPerdue()
 {
-    constexpr int xonXoff = 1;
-    constexpr int xonXoffEtRts = 3;
-    constexpr int autre = 2;
-    if (ParamCom.ControleFlux != xonXoff && ParamCom.ControleFlux != xonXoffEtRts)
+    const auto flux = static_cast<ControleFlux>(ParamCom.ControleFlux);
+    if (flux != ControleFlux::XonXoff && flux != ControleFlux::RtsXonXoff)
         return false;
     const QString chaine = CaracteresDe(ChaineTransfert);
-    return ParamCom.TypeFinTrans == 0 ||
-           (ParamCom.TypeFinTrans == autre && (chaine.contains(u'\x11') || chaine.contains(u'\x13')));
+    return ParamCom.TypeFinTrans == FinTransXoff ||
+           (ParamCom.TypeFinTrans == FinTransAutre &&
+            (chaine.contains(QLatin1Char(Xon)) || chaine.contains(QLatin1Char(Xoff))));
 }
 
 bool ChainesAJour()

@@ -4,8 +4,23 @@
 
 #include <array>
 
+// What the numbers of a .par file mean. A file may hold any other number, so the fields are plain numbers; those of
+// ControleFlux are the values of the enumeration ControleFlux.
+
+/// Values of TypeFinTrans.
+enum TypeFinTransfert { FinTransXoff = 0, FinTransEot = 1, FinTransAutre = 2 };
+
+/// Values of TypeFinLig.
+enum TypeFinLigne { FinLigLf = 0, FinLigCr = 1, FinLigLfCr = 2, FinLigCrLf = 3, FinLigAutre = 4 };
+
 /// Values of TypeRecep.
 enum TypeReception { RecepLignes = 0, RecepCaracteres = 1, RecepFichier = 2 };
+
+/// Values of FinLigRecep.
+enum TypeFinLigneRecue { FinRecueAucune = 0, FinRecueLf = 1, FinRecueCr = 2, FinRecueCrLf = 3 };
+
+/// Values of TypeEnvoi; any number but EnvoiLignes counts as EnvoiFichier.
+enum TypeEmission { EnvoiLignes = 0, EnvoiFichier = 1 };
 
 /// How the program talks to one machine. The fields stand in the order in which a .par file holds them; Integer fields
 /// are 16 bits there.
@@ -24,9 +39,9 @@ struct ConfigurationCom
     QString BitsDonnees;       ///< "4" to "8"
     QString BitsArret;         ///< "1", "1.5", "2"
     int Echo = 0;              ///< 1: the transfer dialog shows the data as they pass
-    int ControleFlux = 0;      ///< 0 none, 1 XOn/XOff, 2 RTS/CTS, 3 both
-    int TypeFinTrans = 0;      ///< end of transfer: 0 XOFF (19), 1 EOT (4), 2 CarFinTrans
-    int TypeFinLig = 0;        ///< end of line: 0 LF, 1 CR, 2 LF CR, 3 CR LF, 4 CarFinLig
+    int ControleFlux = 0;      ///< handshake, see ControleFlux
+    int TypeFinTrans = 0;      ///< end of transfer: XOFF, EOT or CarFinTrans, see TypeFinTransfert
+    int TypeFinLig = 0;        ///< end of line: LF, CR, both or CarFinLig, see TypeFinLigne
     int NbCarLecture = 0;      ///< characters taken at each read, 0 (all that wait) to 9999
     QString CarRemplace;       ///< stands for a character with a parity error; at most one character
     int TailleTamponRecep = 0; ///< receive buffer, bytes, 0 to 9999
@@ -37,7 +52,7 @@ struct ConfigurationCom
     int LigneRTS = 0;          ///< 1: RTS on while the port is open
     int LigneDTR = 0;          ///< 1: DTR on while the port is open
     QString DosRecep;          ///< reception folder of CN programs; start-up first takes it from "Dorvanel.CFG"
-    int TypeRecep = 0;         ///< reception: 0 by line, 1 by characters, 2 by file
+    int TypeRecep = 0;         ///< reception: by line, by characters or by file, see TypeReception
     int TailleRecep = 0;       ///< fixed size of a bench measure, characters; 0: none
     QString LibDebProg;        ///< label of the beginning-of-program chain
     QString LibFinLig;         ///< label of the end-of-line chain
@@ -46,10 +61,10 @@ struct ConfigurationCom
     int NbCarFinLig = 0;       ///< codes in CarFinLig, 0 to 100
     int NbCarFinTrans = 0;     ///< codes in CarFinTrans, 0 to 100
     Codes CarDebProg{};        ///< beginning of program
-    Codes CarFinLig{};         ///< end of line when TypeFinLig is 4
-    Codes CarFinTrans{};       ///< end of transfer when TypeFinTrans is 2
-    int FinLigRecep = 0;       ///< line end added to received lines: 0 none, 1 LF, 2 CR, 3 CR + LF
-    int TypeEnvoi = 0;         ///< sending: 0 line by line, otherwise to the end of the file
+    Codes CarFinLig{};         ///< end of line when TypeFinLig is FinLigAutre
+    Codes CarFinTrans{};       ///< end of transfer when TypeFinTrans is FinTransAutre
+    int FinLigRecep = 0;       ///< line end added to received lines, see TypeFinLigneRecue
+    int TypeEnvoi = 0;         ///< sending: line by line or the whole file, see TypeEmission
 
     // Derived by BatirChaines(), never stored.
     QString ChaineFinTrans; ///< characters that end a transfer
@@ -111,6 +126,9 @@ void LireFichierPar(const QString &chemin);
 /// Creates or replaces the .par file at chemin with ParamCom; a double quote in a text goes out as an apostrophe, since
 /// the format cannot hold one. Raises what EcritFichierTexte raises.
 void EcrireFichierPar(const QString &chemin);
+
+/// The characters that end a line of the machine, by a value of TypeFinLigne.
+QString CaracteresFinLigne(TypeFinLigne type);
 
 /// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.
 void BatirChaines();

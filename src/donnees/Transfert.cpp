@@ -28,13 +28,16 @@ EnTransfert::~EnTransfert()
 
 void ChoisitChaineFinLigRecep()
 {
-    static const QString fins[] = {QString(), QStringLiteral("\n"), QStringLiteral("\r"), QStringLiteral("\r\n")};
+    const QString fins[] = {QString(), CaracteresFinLigne(FinLigLf), CaracteresFinLigne(FinLigCr),
+                            CaracteresFinLigne(FinLigCrLf)};
     Transfert.ChaineFinLigRecep = fins[Transfert.OptionFinLig];
 }
 
 void ChoisitFinLigneRecep()
 {
-    Transfert.OptionFinLig = ParamCom.FinLigRecep >= 0 && ParamCom.FinLigRecep <= 3 ? ParamCom.FinLigRecep : 0;
+    Transfert.OptionFinLig = ParamCom.FinLigRecep >= FinRecueAucune && ParamCom.FinLigRecep <= FinRecueCrLf
+                                 ? ParamCom.FinLigRecep
+                                 : FinRecueAucune;
 }
 
 QString CheminRecep()

@@ -6,12 +6,18 @@
 
 /// Values of TypeTransfert.
 enum ModeTransfert {
+    AucunTransfert = 0,
     EmissionProgramme = 1,
     EmissionJauges = 2,
     ReceptionProgramme = 3,
     ReceptionJauges = 4,
     ReceptionBanc = 5,
 };
+
+constexpr bool EstEmission(ModeTransfert mode)
+{
+    return mode == EmissionProgramme || mode == EmissionJauges;
+}
 
 /// True while a transfer routine stands on the stack. The dialog that it belongs to may be closed already; no other
 /// transfer may begin inside its last yields.
@@ -29,13 +35,13 @@ public:
 
 struct EtatTransfert
 {
-    int TypeTransfert = 0;     ///< mode of the transfer, set by the menu command
+    ModeTransfert TypeTransfert = AucunTransfert; ///< set by the menu command
     bool FinTransfert = false; ///< a reception has reached its end, and its file is written or being written
     bool AnnuleRECEPT = false; ///< the operator has cancelled; stays until the next reception
     bool ForceRECEPT = false;  ///< the operator ends the reception with what has come
     QString NomFicRecep;       ///< name of the file being received, with extension, in upper case
     QString DossierRecep;      ///< its folder
-    int OptionFinLig = 0;      ///< line ending chosen for received lines: 0 none, 1 LF, 2 CR, 3 CR + LF
+    int OptionFinLig = 0;      ///< line end chosen for received lines, a TypeFinLigneRecue
     QString ChaineFinLigRecep; ///< that line ending, as the running reception puts it behind each line
 };
 

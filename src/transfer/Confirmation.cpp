@@ -1,7 +1,6 @@
 #include "transfer/Confirmation.h"
 
 #include "donnees/ParamCom.h"
-#include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "platform/dialogues/Boites.h"
 #include "shell/Document.h"
@@ -45,16 +44,15 @@ constexpr Texte3 SurLePort{u" sur le port ", u" on the port ", u" sobre el puert
 
 } // namespace
 
-bool ConfirmeTransfert(int mode)
+bool ConfirmeTransfert(ModeTransfert mode)
 {
     for (const Question &question : Questions) {
         if (question.type != mode)
             continue;
-        const bool emission = question.type == EmissionProgramme || question.type == EmissionJauges;
         const QString titre = Texte(question.titre);
         // The title of the bench is too long to be said twice.
-        return Confirme((question.type == ReceptionBanc ? QString() : titre) + u'\r' + Texte(question.texte) +
-                            (emission ? Document.TitreFichier : Transfert.NomFicRecep) + Texte(SurLePort) +
+        return Confirme((mode == ReceptionBanc ? QString() : titre) + u'\r' + Texte(question.texte) +
+                            (EstEmission(mode) ? Document.TitreFichier : Transfert.NomFicRecep) + Texte(SurLePort) +
                             ParamCom.NomPort + QStringLiteral(" ?"),
                         Boite::Question | Boite::SecondBouton, titre);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "donnees/Transfert.h"
+
 /// Asks the operator to confirm a transfer: what, which file, on which port. No is the default button.
-/// mode: a value of ModeTransfert, 1 to 5; no other is confirmed.
-bool ConfirmeTransfert(int mode);
+/// AucunTransfert is never confirmed.
+bool ConfirmeTransfert(ModeTransfert mode);

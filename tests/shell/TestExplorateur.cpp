@@ -284,7 +284,7 @@ private Q_SLOTS:
             Operateur::Menu("Mnu_Ouvrir");
             QCOMPARE(frmPrinc->Text1->Text(), coche ? u"%3"_s : u"%4"_s);
             QCOMPARE(Reglages.DosDefaut, coche ? tour : atelier.Dossier());
-            for (const int type : {ReceptionProgramme, ReceptionJauges, ReceptionBanc}) {
+            for (const ModeTransfert type : {ReceptionProgramme, ReceptionJauges, ReceptionBanc}) {
                 Transfert.TypeTransfert = type;
                 QCOMPARE(Rc_Fic(frmPrinc).Label3->text() == tour, coche);
             }

@@ -158,7 +158,7 @@ void TestTransferts::Annonce()
     const QString question = titre + u"\rConfirme la emisión del fichero mide PIECE.iso sobre el puerto Com2 ?"_s;
     operateur.Repond(titre, question, Operateur::Demande, QMessageBox::No);
     Operateur::Barre(11);
-    QCOMPARE(Transfert.TypeTransfert, 0);
+    QCOMPARE(Transfert.TypeTransfert, AucunTransfert);
 
     operateur.Repond(titre, question, Operateur::Demande, QMessageBox::Yes);
     operateur.Fait(Dialogue, [](QWidget &fenetre) {
@@ -175,7 +175,7 @@ void TestTransferts::Annonce()
     frmPrinc->UpdateTimer.stop();
     frmPrinc->shpPortOpen->setFillColor(Lampe::Verte);
     Operateur::Menu("Mnu_EmisJauge");
-    QCOMPARE(Transfert.TypeTransfert, 2);
+    QCOMPARE(Transfert.TypeTransfert, EmissionJauges);
     QCOMPARE(frmPrinc->shpPortOpen->FillColor(), Lampe::Verte);
 }
 

@@ -82,13 +82,13 @@ Pilote::Pilote(const Poste &poste)
 
 void Pilote::Regle(Genre genre) const
 {
-    ParamCom.TypeEnvoi = genre == Genre::FichierEntier ? 1 : 0;
+    ParamCom.TypeEnvoi = genre == Genre::FichierEntier ? EnvoiFichier : EnvoiLignes;
     ParamCom.TypeRecep = genre == Genre::Fichier     ? RecepFichier
                          : genre == Genre::Caractere ? RecepCaracteres
                                                      : RecepLignes;
     ParamCom.NbCarLecture = genre == Genre::Caractere ? 1 : 512;
     ParamCom.SeuilRecep = genre == Genre::Fichier ? 1 : 0;
-    ParamCom.TypeFinLig = EstEmission(genre) ? 0 : 3;
+    ParamCom.TypeFinLig = EstEmission(genre) ? FinLigLf : FinLigCrLf;
     ParamCom.TailleRecep = int(Banc::TailleSalve);
     ParamCom.DosRecep = Reglages.DosJauge = m_poste.Dossier();
     BatirChaines();

@@ -107,8 +107,8 @@ void Poste::Charge(const QByteArray &programme) const
     ParamCom.Parite = QStringLiteral("n");
     ParamCom.BitsDonnees = QStringLiteral("8");
     ParamCom.BitsArret = QStringLiteral("1");
-    ParamCom.ControleFlux = 1;
-    ParamCom.TypeFinTrans = 1;
+    ParamCom.ControleFlux = static_cast<int>(ControleFlux::XonXoff);
+    ParamCom.TypeFinTrans = FinTransEot;
     ParamCom.TailleTamponRecep = 1024;
     ParamCom.TailleTamponEmis = 512;
     EcrireFichierPar(configuration);
