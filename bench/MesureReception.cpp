@@ -48,7 +48,7 @@ struct PosteReception
     }
 
     /// Runs a reception in a dialog on the screen; the machine sends once the port is open.
-    void Recoit(void (*reception)(Ui::Em_Rc &), int typeRecep, const Envoi &envoi)
+    void Recoit(RoutineReception reception, int typeRecep, const Envoi &envoi)
     {
         ParamCom.TypeRecep = typeRecep;
         Em_Rc dialogue(&fenetre);
@@ -61,7 +61,7 @@ struct PosteReception
             }
         });
         depart.start(1);
-        reception(dialogue);
+        reception(dialogue.Vue());
     }
 
     QTemporaryDir dossier;
@@ -100,7 +100,7 @@ struct Facon
 {
     const char *nom;
     int typeRecep;
-    void (*reception)(Ui::Em_Rc &);
+    RoutineReception reception;
     Pair::Logiciel pair;
 };
 constexpr Facon Facons[] = {{"by line", RecepLignes, ReceptionLigne, Pair::AsciiXfr},

@@ -3,6 +3,7 @@
 #include "donnees/Jauge.h"
 #include "donnees/Transfert.h"
 #include "gauges/ChoixMac.h"
+#include "gauges/ReceptionJauge.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
 #include "shell/FrmPrinc.h"
@@ -22,5 +23,5 @@ void Mnu_RecepBanc()
     Jauges = {};
     Transfert.FinTransfert = false;
     Transfert.ForceRECEPT = false;
-    Rc_Fic(frmPrinc).exec();
+    Rc_Fic(frmPrinc, ReceptionJauge).exec();
 }

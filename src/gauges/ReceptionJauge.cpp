@@ -8,20 +8,18 @@
 #include "gauges/CreFicJauge.h"
 #include "gauges/FiltreJauge.h"
 #include "locale/Langue.h"
-#include "locale/Legendes.h"
 #include "locale/TextesErreur.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
-#include "platform/controles/Clavier.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
-#include "transfer/Em_Rc.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/TextesReception.h"
+#include "transfer/VueTransfert.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -64,8 +62,8 @@ constexpr Texte3 Ailleurs{u"\rEnregistrer les jauges dans un autre fichier ?", u
 class Seance
 {
 public:
-    explicit Seance(Ui::Em_Rc &dialogue)
-        : m_dialogue(dialogue)
+    explicit Seance(VueTransfert &vue)
+        : m_vue(vue)
     {
     }
 
@@ -88,9 +86,8 @@ private:
     static qsizetype EnAttente();
     void DemandeSuivante();
     void AnnonceLimite();
-    void PermetSuite(bool permis);
 
-    Ui::Em_Rc &m_dialogue;
+    VueTransfert &m_vue;
     bool m_dansPane = false;   ///< the program pane shows the text of the bench
     QString m_brut;            ///< all that has come, as the file holds it
     QString m_compteMontre;    ///< what MontreRecus() shows
@@ -107,16 +104,16 @@ void Seance::Prepare()
     Jauges.NbJauges = 1;
     m_ligne = 1;
     VideLignes();
-    PermetSuite(false);
-    MontreLabelsEcho(m_dialogue);
+    m_vue.PermetSuite(false);
+    m_vue.MontreEcho();
     const int genre = ParamCom.TypeRecep;
-    if (ParamCom.Echo == 1 && genre >= 0 && genre < static_cast<int>(std::size(GenresReception)))
-        PoseTexte(m_dialogue.Label4, GenresReception[genre]);
+    if (genre >= 0 && genre < static_cast<int>(std::size(GenresReception)))
+        m_vue.EchoCaractere(GenresReception[genre]);
     OuvrePortCOM();
     if (!Controle().PortOpen())
-        m_dialogue.Label1->setText(PourAffichage(Texte(SansPort)));
+        m_vue.Consigne(Texte(SansPort));
     CreeFichierRecu();
-    PoseTexte(m_dialogue.Label2, Attente, TexteNombre(Jauges.NbJauges));
+    m_vue.Statut(Attente, TexteNombre(Jauges.NbJauges));
 }
 
 void Seance::PrendOutils()
@@ -136,7 +133,7 @@ void Seance::PrendOutils()
 /// Waits for one measure and stores it. False when the operator has cancelled meanwhile.
 bool Seance::Reception1Jauge()
 {
-    m_dialogue.Label3->clear();
+    m_vue.EchoLigne(QString());
     MontreRecus(Jauges.NbJauges, 0);
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     const QString recu = RecoitSalve();
@@ -149,15 +146,14 @@ bool Seance::Reception1Jauge()
     return true;
 }
 
-/// How many milliseconds the line is silent behind the last character of a burst: a few characters at its speed, and
-/// longer than an adapter holds characters back before it hands them over. Without it each character that the PC has
-/// read before the next one comes would be the end of a burst without a fixed size, and what follows the fixed size
-/// would begin the measure of the next tool.
+/// How many milliseconds the line is silent behind the last character of a burst: the time of a few characters, and at
+/// least as long as an adapter holds characters back. A shorter wait would end a burst without a fixed size between two
+/// of its characters. What follows the fixed size would begin the measure of the next tool.
 qint64 Silence()
 {
-    constexpr double Caracteres = 4;
-    constexpr double MinimumMs = 20;
-    return std::lround(std::max(MinimumMs, 1000 * Caracteres / Controle().CaracteresParSeconde()));
+    constexpr double caracteres = 4;
+    constexpr auto minimum = static_cast<double>(JeuAdaptateur.count());
+    return std::lround(std::max(minimum, 1000 * caracteres / Controle().CaracteresParSeconde()));
 }
 
 /// One burst: at least TailleRecep characters, and then silence. A bell that is read alone is not part of it. A closed
@@ -183,19 +179,18 @@ QString Seance::RecoitSalve()
         if (lu != cloche)
             recu += lu;
         MontreRecus(Jauges.NbJauges, recu.size());
-        if (ParamCom.Echo == 1)
-            EcritEcho(*m_dialogue.Label3, recu);
+        m_vue.EchoLigne(recu);
     }
 }
 
 void Seance::AnnonceMesure()
 {
     Jauges.JaugeSuivante = false;
-    PermetSuite(true);
+    m_vue.PermetSuite(true);
     frmPrinc->shpReceive->setFillColor(Lampe::Rouge);
     const QString recue = TexteNombre(Jauges.NbJauges) + Texte(RecueFin);
-    PoseTexte(m_dialogue.Label2, RecueDebut, recue);
-    m_dialogue.Label1->setText(PourAffichage(u'\r' + Texte(RecueDebut) + recue + Texte(RecueSuite)));
+    m_vue.Statut(RecueDebut, recue);
+    m_vue.Consigne(u'\r' + Texte(RecueDebut) + recue + Texte(RecueSuite));
 }
 
 /// What the bench sends meanwhile belongs to the next tool.
@@ -229,49 +224,34 @@ void Seance::MontreRecus(int outil, qsizetype recus)
     if (compte == m_compteMontre)
         return;
     m_compteMontre = compte;
-    m_dialogue.Progression->setRange(0, std::max(ParamCom.TailleRecep, nombre));
-    m_dialogue.Progression->setValue(nombre);
-    m_dialogue.Progression->setFormat(compte);
-    m_dialogue.Progression->setVisible(nombre > 0);
+    if (nombre > 0)
+        m_vue.Progression(nombre, std::max(ParamCom.TailleRecep, nombre), compte);
+    else
+        m_vue.CacheProgression();
 }
 
 void Seance::DemandeSuivante()
 {
     Jauges.JaugeSuivante = false;
     ++Jauges.NbJauges;
-    PermetSuite(false);
+    m_vue.PermetSuite(false);
     const QString numero = TexteNombre(Jauges.NbJauges);
-    m_dialogue.Label1->setText(
-        PourAffichage(u'\r' + Texte(OutilSuivant) + numero + QStringLiteral("\r\r") + Texte(TouchesBanc)));
-    PoseTexte(m_dialogue.Label2, Attente, numero);
+    m_vue.Consigne(u'\r' + Texte(OutilSuivant) + numero + QStringLiteral("\r\r") + Texte(TouchesBanc));
+    m_vue.Statut(Attente, numero);
 }
 
 void Seance::AnnonceLimite()
 {
     QApplication::beep();
     const QString fin = QString::number(ParamMac.NbCorrecteurs) + QStringLiteral(" !");
-    PoseTexte(m_dialogue.Label2, Limite, fin);
-    m_dialogue.Label1->clear(); // no further tool is to be preset
+    m_vue.Statut(Limite, fin);
+    m_vue.Consigne({}); // no further tool is to be preset
     MsgBox(Texte(Limite) + fin, Boite::Critique, Texte(LimiteTitre));
-}
-
-/// permis: a measure stands, so that the operator may ask for the next one or end the reception.
-void Seance::PermetSuite(bool permis)
-{
-    // The focus of a button that is disabled passes to the next one, which cancels: a second stroke of the space bar
-    // would throw the session away. It would pass there too when the dialog has no focus and comes back to the front.
-    m_dialogue.Frame4->window()->setFocus();
-    m_dialogue.Command5->setEnabled(permis);
-    m_dialogue.Command6->setEnabled(permis);
-    if (!permis)
-        return;
-    m_dialogue.Command5->setFocus();
-    RetientTouches(m_dialogue.Frame4->window());
 }
 
 void Seance::Termine()
 {
-    FermePortCOM(m_dialogue);
+    FermePortCOM(m_vue);
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     if (Transfert.AnnuleRECEPT) {
         Jauges.NbJauges = 0;
@@ -279,20 +259,20 @@ void Seance::Termine()
     }
     OuvreFichierRecu();
     m_dansPane = true;
-    m_dialogue.Progression->hide();
+    m_vue.CacheProgression();
     if (Jauges.FinJauges && Jauges.NbJauges >= 1) {
         FiltreJauge(m_enAttente);
         Transfert.FinTransfert = true;
-        BoutonFermer(*m_dialogue.Command4);
+        m_vue.OffreFermerBanc();
     }
     frmPrinc->ActualiseFichiers();
 }
 
 void Seance::MontreEchec(const Erreur &erreur) const
 {
-    m_dialogue.Label1->setText(PourAffichage(u'\r' + TexteErreur(erreur)));
-    m_dialogue.Label2->clear();
-    m_dialogue.Progression->hide();
+    m_vue.Consigne(u'\r' + TexteErreur(erreur));
+    m_vue.EffaceStatut();
+    m_vue.CacheProgression();
 }
 
 void Seance::SauveReste() const
@@ -324,18 +304,18 @@ OffreSauvegarde OffreJauges(const JaugesNonEcrites &erreur)
 
 } // namespace
 
-void ReceptionJauge(Ui::Em_Rc &dialogue)
+void ReceptionJauge(VueTransfert &vue)
 {
-    Seance seance(dialogue);
+    Seance seance(vue);
     try {
         seance.Prepare();
         seance.PrendOutils();
         seance.Termine();
     } catch (const JaugesNonEcrites &erreur) {
-        ErreurPortCOM(erreur, dialogue);
+        ErreurPortCOM(erreur, vue);
         seance.SauveAutrePart(erreur.TexteJauges(), OffreJauges(erreur)); // the dialog is closed by then
     } catch (const Erreur &erreur) {
-        ErreurPortCOM(erreur, dialogue);
+        ErreurPortCOM(erreur, vue);
         seance.MontreEchec(erreur);
         seance.SauveReste();
     }

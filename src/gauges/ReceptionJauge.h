@@ -1,8 +1,6 @@
 #pragma once
 
-namespace Ui {
-class Em_Rc;
-}
+class VueTransfert;
 
 /// Takes measures from the presetting bench, one burst for each tool, while the operator is guided from tool to tool.
 /// Each burst goes as it came into Lignes and, as a line of its own, into the file CheminRecep(). When the operator
@@ -12,5 +10,5 @@ class Em_Rc;
 ///
 /// It runs inside the dialog's activation; in its yields the buttons of the dialog run. Needs ParamMac and ParamCom.
 ///
-/// dialogue: the controls that show the reception; they have to live until the routine returns.
-void ReceptionJauge(Ui::Em_Rc &dialogue);
+/// vue: the controls that show the reception; they have to live until the routine returns.
+void ReceptionJauge(VueTransfert &vue);

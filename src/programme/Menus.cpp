@@ -4,7 +4,6 @@
 #include "comconfig/FrmConfDem.h"
 #include "gauges/CommandesBanc.h"
 #include "gauges/CommandesMac.h"
-#include "gauges/ReceptionJauge.h"
 #include "platform/controles/Clavier.h"
 #include "platform/controles/Molette.h"
 #include "platform/controles/UneLigne.h"
@@ -25,7 +24,6 @@
 #include "shell/Impression.h"
 #include "shell/Police.h"
 #include "transfer/CommandesTransfert.h"
-#include "transfer/Em_Rc.h"
 #include "transfer/EvenementsCom.h"
 #include "transfer/PortCom.h"
 
@@ -87,7 +85,6 @@ void Branche()
     BrancheClavier(frmPrinc);
     RendLeClavier(frmPrinc);
     BrancheMolette(frmPrinc);
-    Em_Rc::RoutineBanc = ReceptionJauge;
     for (const Commande &commande : Commandes) {
         QObject::connect(frmPrinc->*commande.entree, &QAction::triggered, frmPrinc, commande.routine);
         if (QAction *const bouton = frmPrinc->Bouton(commande.bouton))

@@ -10,7 +10,7 @@
 #include "transfer/Bilan.h"
 #include "transfer/Emission.h"
 #include "transfer/PortCom.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 #include <QStringList>
 
@@ -95,8 +95,7 @@ QString SansToutesLesLignes(const LignesEnvoyees &lignes)
     return Texte(TropDeLignes) + Texte(PartieSeule).arg(Compte(lignes.nombre, NomLignes), NombreEnClair(lignes.total));
 }
 
-/// largeur: pixels for the first line and the counts behind it.
-void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
+void RegardeTexte(Apercu &apercu, const VueTransfert &vue)
 {
     const QString texte = frmPrinc->Text1->Text();
     const QString lignes = Compte(NombreLignes(texte), NomLignes);
@@ -105,11 +104,11 @@ void RegardeTexte(Apercu &apercu, const QFontMetrics &police, int largeur)
     if (premiere.isEmpty()) {
         apercu.alertes << Texte(Vide).arg(lignes, caracteres);
     } else {
-        const int place = largeur - police.horizontalAdvance(Texte(Contenu).arg(QString(), lignes, caracteres));
-        apercu.contenu = Texte(Contenu).arg(police.elidedText(ControlesVisibles(premiere), Qt::ElideRight, place),
+        const QString comptes = Texte(Contenu).arg(QString(), lignes, caracteres);
+        apercu.contenu = Texte(Contenu).arg(vue.CoupePourBilan(ControlesVisibles(premiere), comptes, Qt::ElideRight),
                                             lignes, caracteres);
     }
-    if (const LignesEnvoyees envoi = CompteLignesEnvoyees(texte); ParamCom.TypeEnvoi == 0 && !envoi.Toutes())
+    if (const LignesEnvoyees envoi = CompteLignesEnvoyees(texte); ParamCom.TypeEnvoi == EnvoiLignes && !envoi.Toutes())
         apercu.alertes << SansToutesLesLignes(envoi);
 }
 
@@ -139,35 +138,35 @@ void RegardeConfiguration(Apercu &apercu)
         apercu.alertes << phrase;
 }
 
-Apercu Regarde(const Ui::Em_Rc &dialogue)
+Apercu Regarde(const VueTransfert &vue)
 {
     Apercu apercu;
-    if (Transfert.TypeTransfert == EmissionProgramme || Transfert.TypeTransfert == EmissionJauges)
-        RegardeTexte(apercu, dialogue.Bilan->fontMetrics(), dialogue.Bilan->contentsRect().width());
+    if (EstEmission(Transfert.TypeTransfert))
+        RegardeTexte(apercu, vue);
     RegardeConfiguration(apercu);
     return apercu;
 }
 
-void Montre(Ui::Em_Rc &dialogue, const Apercu &apercu)
+void Montre(VueTransfert &vue, const Apercu &apercu)
 {
     QStringList lignes = QStringList(apercu.contenu) + apercu.alertes + QStringList(apercu.avis);
     lignes.removeAll(QString());
-    EcritBilan(dialogue, lignes.join(u'\n'), !apercu.alertes.isEmpty() || !apercu.avis.isEmpty());
+    vue.Bilan(lignes.join(u'\n'), !apercu.alertes.isEmpty() || !apercu.avis.isEmpty());
 }
 
 } // namespace
 
-void MontreApercu(Ui::Em_Rc &dialogue)
+void MontreApercu(VueTransfert &vue)
 {
-    Montre(dialogue, Regarde(dialogue));
+    Montre(vue, Regarde(vue));
 }
 
-bool ConfirmeApercu(Ui::Em_Rc &dialogue)
+bool ConfirmeApercu(VueTransfert &vue)
 {
-    const Apercu apercu = Regarde(dialogue);
-    Montre(dialogue, apercu);
+    const Apercu apercu = Regarde(vue);
+    Montre(vue, apercu);
     if (apercu.alertes.isEmpty())
         return true;
     return Confirme(apercu.alertes.join(u'\r') + u'\r' + Texte(QuandMeme), Boite::Exclamation | Boite::SecondBouton,
-                    dialogue.Bilan->window()->windowTitle());
+                    vue.Titre());
 }

@@ -1,6 +1,7 @@
 #include "transfer/Avancement.h"
 
 #include "locale/Langue.h"
+#include "transfer/VueTransfert.h"
 
 #include <algorithm>
 
@@ -14,20 +15,25 @@ constexpr Texte3 Reste{u"%1  -  reste %2", u"%1  -  %2 left", u"%1  -  faltan %2
 
 } // namespace
 
-Avancement::Avancement(QProgressBar &barre, qint64 total)
-    : m_barre(barre)
+Avancement::Avancement(VueTransfert &vue, qint64 total)
+    : m_vue(vue)
     , m_total(total)
 {
-    m_barre.setRange(0, Pleine);
-    m_barre.setValue(0);
-    m_barre.setFormat(QStringLiteral("0 %"));
-    m_barre.setVisible(total > 0);
+    Affiche(EnPourCent());
     m_depuis.start();
 }
 
 Avancement::~Avancement()
 {
-    m_barre.setFormat(EnPourCent());
+    Affiche(EnPourCent());
+}
+
+void Avancement::Affiche(const QString &texte)
+{
+    if (m_total > 0)
+        m_vue.Progression(m_place, Pleine, texte);
+    else
+        m_vue.CacheProgression();
 }
 
 QString Avancement::EnPourCent() const
@@ -44,10 +50,9 @@ void Avancement::Montre(qint64 faits)
     if (m_total == 0 || (m_dernierAffichage >= 0 && maintenant - m_dernierAffichage < PasAffichage && !complet))
         return;
     m_dernierAffichage = maintenant;
-    m_barre.setValue(static_cast<int>(faits * Pleine / m_total));
-    m_barre.setFormat(complet || faits == 0 || maintenant < PremierTemps
-                          ? EnPourCent()
-                          : Texte(Reste).arg(EnPourCent(), TempsRestant()));
+    m_place = static_cast<int>(faits * Pleine / m_total);
+    Affiche(complet || faits == 0 || maintenant < PremierTemps ? EnPourCent()
+                                                               : Texte(Reste).arg(EnPourCent(), TempsRestant()));
 }
 
 QString Avancement::TempsRestant() const

@@ -1,15 +1,17 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QProgressBar>
+#include <QString>
 
-/// Shows how far a transfer is, in a progress bar with the time that it will still take at its pace so far. It repaints
-/// a few times a second at most, so that the line never waits for the screen.
+class VueTransfert;
+
+/// Shows how far a transfer is, with the time that it will still take at its pace so far. It repaints a few times a
+/// second at most, so that the line never waits for the screen.
 class Avancement
 {
 public:
     /// Shows the bar at 0. total: characters of the transfer; 0 hides the bar.
-    Avancement(QProgressBar &barre, qint64 total);
+    Avancement(VueTransfert &vue, qint64 total);
     /// The bar goes on saying how far it went; no time is left.
     ~Avancement();
     Q_DISABLE_COPY_MOVE(Avancement)
@@ -18,12 +20,14 @@ public:
     void Montre(qint64 faits);
 
 private:
+    void Affiche(const QString &texte);
     QString EnPourCent() const;
     QString TempsRestant() const;
 
-    QProgressBar &m_barre;
+    VueTransfert &m_vue;
     qint64 m_total;
     qint64 m_faits = 0;
+    int m_place = 0; // of the bar, 0 to Pleine
     qint64 m_dernierAffichage = -1;
     QElapsedTimer m_depuis;
 };

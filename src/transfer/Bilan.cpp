@@ -3,10 +3,9 @@
 #include "donnees/ParamCom.h"
 #include "donnees/Transfert.h"
 #include "locale/Comptes.h"
-#include "platform/controles/CouleurAlerte.h"
 #include "platform/serie/MSComm.h"
 #include "transfer/PortCom.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 #include <QElapsedTimer>
 
@@ -165,16 +164,6 @@ QString Passe(bool emission)
 
 } // namespace
 
-void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte)
-{
-    QPalette palette;
-    if (alerte)
-        palette.setColor(QPalette::WindowText, CouleurAlerte());
-    dialogue.Bilan->setPalette(palette);
-    dialogue.Bilan->setText(texte);
-    dialogue.BilanSigne->setVisible(alerte);
-}
-
 bool EstMuet(QStringView texte)
 {
     constexpr char16_t blanc = 32, efface = 127;
@@ -189,11 +178,11 @@ void DebuteBilan()
     Controle().RemetComptes();
 }
 
-void NotePort(Ui::Em_Rc &dialogue)
+void NotePort(VueTransfert &vue)
 {
     pertes.sansPort = !Controle().PortOpen();
     if (pertes.sansPort)
-        EcritBilan(dialogue, PortFerme(), true);
+        vue.Bilan(PortFerme(), true);
 }
 
 void NotePerte(Perte perte, const QString &caracteres)
@@ -214,7 +203,7 @@ void NoteFinCollee()
     pertes.finCollee = pertes.nouvelles = true;
 }
 
-void MontreFautes(Ui::Em_Rc &dialogue)
+void MontreFautes(VueTransfert &vue)
 {
     pertes.nouvelles = false;
     QStringList fautes = FautesEnClair();
@@ -222,16 +211,16 @@ void MontreFautes(Ui::Em_Rc &dialogue)
         fautes.prepend(Texte(FinCollee));
     if (pertes.finJetee)
         fautes.prepend(Texte(FinJetee));
-    EcritBilan(dialogue, fautes.join(u'\n'), !fautes.isEmpty());
+    vue.Bilan(fautes.join(u'\n'), !fautes.isEmpty());
 }
 
-void MontreNouvellesPertes(Ui::Em_Rc &dialogue)
+void MontreNouvellesPertes(VueTransfert &vue)
 {
     if (pertes.nouvelles)
-        MontreFautes(dialogue);
+        MontreFautes(vue);
 }
 
-void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques)
+void MontreBilan(VueTransfert &vue, Issue issue, const QStringList &manques)
 {
     const bool emission = issue == Issue::Emis || issue == Issue::EmissionRompue;
     const bool rompu = issue == Issue::EmissionRompue || issue == Issue::ReceptionRompue;
@@ -239,13 +228,11 @@ void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques)
     if (rompu && !(emission && pertes.sansPort))
         passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(Transfert.NomFicRecep));
     const QStringList alertes = manques + FautesEnClair();
-    EcritBilan(dialogue, (QStringList(passe) + alertes).join(u'\n'), rompu || pertes.sansPort || !alertes.isEmpty());
+    vue.Bilan((QStringList(passe) + alertes).join(u'\n'), rompu || pertes.sansPort || !alertes.isEmpty());
 }
 
-void MontreSauve(Ui::Em_Rc &dialogue, const QString &chemin)
+void MontreSauve(VueTransfert &vue, const QString &chemin)
 {
-    const QFontMetrics police = dialogue.Bilan->fontMetrics();
-    const int place = dialogue.Bilan->contentsRect().width() - police.horizontalAdvance(Texte(Sauve));
-    const QString lieu = Texte(Sauve) + police.elidedText(chemin, Qt::ElideMiddle, place);
-    EcritBilan(dialogue, (QStringList{lieu, Passe(false)} + FautesEnClair()).join(u'\n'), true);
+    const QString lieu = Texte(Sauve) + vue.CoupePourBilan(chemin, Texte(Sauve), Qt::ElideMiddle);
+    vue.Bilan((QStringList{lieu, Passe(false)} + FautesEnClair()).join(u'\n'), true);
 }

@@ -3,15 +3,10 @@
 #include <QString>
 #include <QStringList>
 
-namespace Ui {
-class Em_Rc;
-}
+class VueTransfert;
 
 // The line Bilan of the transfer dialog: before a transfer what will go out (see Apercu), behind it what has happened,
 // which Label2 does not know: it says "success" whatever was lost on the way.
-
-/// Writes texte there. alerte: in the colour and with the sign of a warning.
-void EcritBilan(Ui::Em_Rc &dialogue, const QString &texte, bool alerte);
 
 /// True when texte holds nothing that can be read: blanks and control characters.
 bool EstMuet(QStringView texte);
@@ -20,7 +15,7 @@ bool EstMuet(QStringView texte);
 void DebuteBilan();
 
 /// The port should be open by now. Where it is not, the line says so, at the end too.
-void NotePort(Ui::Em_Rc &dialogue);
+void NotePort(VueTransfert &vue);
 
 /// Why characters that have come are not in the file of a reception.
 enum class Perte {
@@ -38,17 +33,17 @@ void NotePerte(Perte perte, const QString &caracteres);
 void NoteFinCollee();
 
 /// What has gone wrong so far.
-void MontreFautes(Ui::Em_Rc &dialogue);
+void MontreFautes(VueTransfert &vue);
 /// Same, where a reception has dropped something since the last showing. It costs nothing where it has not.
-void MontreNouvellesPertes(Ui::Em_Rc &dialogue);
+void MontreNouvellesPertes(VueTransfert &vue);
 
 /// How a transfer has ended. A reception that failed has left no whole file, whatever came.
 enum class Issue { Emis, EmissionRompue, Recu, ReceptionRompue };
 
 /// How much has passed, in what time, whether the operator forced the end, and what went wrong, with what can be done
 /// about it. manques: sentences on what did not go out, the whole program above all.
-void MontreBilan(Ui::Em_Rc &dialogue, Issue issue, const QStringList &manques = {});
+void MontreBilan(VueTransfert &vue, Issue issue, const QStringList &manques = {});
 
 /// What a reception that failed had received stands in chemin now: MontreBilan() with that place, its middle cut where
 /// it is too long for a line.
-void MontreSauve(Ui::Em_Rc &dialogue, const QString &chemin);
+void MontreSauve(VueTransfert &vue, const QString &chemin);

@@ -42,7 +42,6 @@ constexpr Texte3 CaractereEcho{u"Caractère émis / reçu", u"Emitted / received
 struct Mode
 {
     ModeTransfert type;
-    bool emission; ///< the operator starts it by Command2; a reception starts by itself
     Texte3 titre;
     Texte3 consignes;
     Texte3 statut;
@@ -55,7 +54,6 @@ constexpr Texte3 AttenteReception{u"En attente de réception", u"On standby of r
 
 constexpr Mode Modes[] = {
     {EmissionProgramme,
-     true,
      {u"Emission d'un programme CN", u"Sending of a program", u"Emisión de un programa"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Chargement Programme\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Chargement mode Programs\r\rSupport on Departure of Cycle",
@@ -63,7 +61,6 @@ constexpr Mode Modes[] = {
       u"Apoyar en Salida de Ciclo"},
      PuisCliquez},
     {EmissionJauges,
-     true,
      {u"Emission des jauges outils", u"Sending of the gauges tools", u"Emisión de las Cabidas instrumentos"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Chargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Loading mode of the Gauges Tools\r\r"
@@ -72,7 +69,6 @@ constexpr Mode Modes[] = {
       u"Apoyar en Salida de Ciclo"},
      PuisCliquez},
     {ReceptionProgramme,
-     false,
      {u"Réception d'un programme CN", u"Receiving of a program", u"Recepción de un programa"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Déchargement Programme\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Déchargement mode Programs\r\rSupport on Departure of Cycle",
@@ -80,7 +76,6 @@ constexpr Mode Modes[] = {
       u"Apoyar en Salida de Ciclo"},
      AttenteReception},
     {ReceptionJauges,
-     false,
      {u"Réception des jauges outils", u"Receiving of the gauges tools", u"Recepción de las Cabidas instrumentos"},
      {u"\rSur CN faire une RàZ\r\rValider le mode Déchargement des Jauges Outils\r\rAppuyer sur Départ de Cycle",
       u"\rOn machine to make Restoring\r\rValidate the Unloading mode of the Gauges Tools\r\r"
@@ -89,7 +84,6 @@ constexpr Mode Modes[] = {
       u"Apoyar en Salida de Ciclo"},
      AttenteReception},
     {ReceptionBanc,
-     false,
      {u"Réception des jauges outils à partir du banc", u"Receiving of the gauges tools starting from the bench ",
       u"Recepción de las Cabidas instrumentos a partir del banco"},
      {u"\rPrérégler le premier outil\r\r", u"\rPreset the first tool\r\r",
@@ -112,10 +106,9 @@ constexpr Texte3 ArreterTexte{u"Le transfert n'est pas terminé !\rConfirmez l'a
 
 } // namespace
 
-Em_Rc::Reception Em_Rc::RoutineBanc = nullptr;
-
-Em_Rc::Em_Rc(QWidget *parent)
+Em_Rc::Em_Rc(QWidget *parent, RoutineReception banc)
     : QDialog(parent)
+    , m_banc(banc)
 {
     setupUi(this);
     AppliqueLegendes(this);
@@ -143,7 +136,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     Form_Activate();
     adjustSize(); // the mode has hidden some of its parts
     CentreFeuille(this);
-    MontreApercu(*this); // cut to the width that it has now
+    MontreApercu(m_vue); // cut to the width that it has now
 }
 
 void Em_Rc::Form_Activate()
@@ -154,9 +147,9 @@ void Em_Rc::Form_Activate()
     PoseTexte(Command4, AnnulerBanc);
     PoseTexte(Label3, LigneEcho);
     PoseTexte(Label4, CaractereEcho);
-    MontreLabelsEcho(*this);
-    Label1->clear();
-    Label2->clear();
+    m_vue.MontreEcho();
+    m_vue.Consigne({});
+    m_vue.EffaceStatut();
     MontreConfigurationChoisie();
     MontreMode();
 }
@@ -173,7 +166,7 @@ void Em_Rc::PrepareBilan()
     BilanSigne->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(cote, cote));
     connect(frmPrinc->MSComm1, &MSComm::OnComm, this, [this] {
         if (TransfertEnCours() && frmPrinc->MSComm1->CommEvent() >= EvenementPort::PremiereFaute)
-            MontreFautes(*this);
+            MontreFautes(m_vue);
     });
 }
 
@@ -184,29 +177,30 @@ void Em_Rc::MontreMode()
     if (mode == std::end(Modes))
         return;
     const bool banc = mode->type == ReceptionBanc;
+    const bool emission = EstEmission(mode->type); // a reception starts by itself
     PoseTexte(this, mode->titre);
-    Label1->setText(PourAffichage(Texte(mode->consignes) + (banc ? Texte(TouchesBanc) : QString())));
-    PoseTexte(Label2, mode->statut);
+    m_vue.Consigne(Texte(mode->consignes) + (banc ? Texte(TouchesBanc) : QString()));
+    m_vue.Statut(mode->statut);
     const QPixmap image = ImageTransfert();
     Picture1->setPixmap(image);
     Picture2->setPixmap(image);
-    Command2->setVisible(mode->emission);
-    Command7->setVisible(!mode->emission && !banc);
+    Command2->setVisible(emission);
+    Command7->setVisible(!emission && !banc);
     Frame1->setVisible(!banc);
     Frame4->setVisible(banc);
-    Frame2->setVisible(mode->emission);
+    Frame2->setVisible(emission);
     (banc ? Command5 : Command2)->setDefault(true);
-    if (mode->emission)
+    if (emission)
         Command2->setFocus();
     else
         QMetaObject::invokeMethod(this, &Em_Rc::CommenceReception, Qt::QueuedConnection);
 }
 
-Em_Rc::Reception Em_Rc::Routine()
+RoutineReception Em_Rc::Routine() const
 {
-    constexpr Reception receptions[] = {ReceptionLigne, ReceptionCar, ReceptionFichier};
+    constexpr RoutineReception receptions[] = {ReceptionLigne, ReceptionCar, ReceptionFichier};
     if (Transfert.TypeTransfert == ReceptionBanc)
-        return RoutineBanc;
+        return m_banc;
     const int type = ParamCom.TypeRecep;
     return type >= 0 && type < static_cast<int>(std::size(receptions)) ? receptions[type] : nullptr;
 }
@@ -215,13 +209,13 @@ void Em_Rc::CommenceReception()
 {
     const EnTransfert enTransfert;
     setFocus(); // or the button that cancels would have it when the box closes, and a second stroke would press it
-    if (!ConfirmeTransfert(Transfert.TypeTransfert) || !ConfirmeApercu(*this)) {
+    if (!ConfirmeTransfert(Transfert.TypeTransfert) || !ConfirmeApercu(m_vue)) {
         done(Rejected);
         return;
     }
     DebuteBilan();
     if (const auto routine = Routine())
-        routine(*this);
+        routine(m_vue);
     RetireDemande();
     if (Transfert.TypeTransfert == ReceptionBanc)
         return;
@@ -244,7 +238,7 @@ void Em_Rc::Command1_Click()
 
 void Em_Rc::Command2_Click()
 {
-    if (!ConfirmeApercu(*this))
+    if (!ConfirmeApercu(m_vue))
         return;
     const EnTransfert enTransfert;
     DebuteBilan();
@@ -252,10 +246,10 @@ void Em_Rc::Command2_Click()
     // to the cancel button, where a second stroke of the space bar would end the sending.
     setFocus();
     Command2->setEnabled(false);
-    if (ParamCom.TypeEnvoi == 0)
-        EnvoiFich_Lig_Lig(*this);
+    if (ParamCom.TypeEnvoi == EnvoiLignes)
+        EnvoiFich_Lig_Lig(m_vue);
     else
-        EnvoiFich_FinFich(*this);
+        EnvoiFich_FinFich(m_vue);
     RetireDemande();
     Command2->setEnabled(true);
     Command2->setFocus();
@@ -268,7 +262,7 @@ void Em_Rc::Command3_Click()
         MontreConfigurationChoisie();
         ChoisitFinLigneRecep();
     });
-    MontreApercu(*this); // a file that breaks off has changed the configuration too
+    MontreApercu(m_vue); // a file that breaks off has changed the configuration too
 }
 
 void Em_Rc::Command5_Click()
@@ -317,7 +311,7 @@ void Em_Rc::done(int resultat)
 void Em_Rc::Form_Unload()
 {
     frmPrinc->EteintTransfert();
-    CoupePortCOM(*this);
+    CoupePortCOM(m_vue);
     if (ParamCom.TypeRecep == RecepFichier)
         frmPrinc->Text2->hide();
 }

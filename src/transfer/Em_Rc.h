@@ -1,5 +1,6 @@
 #pragma once
 
+#include "transfer/VueTransfert.h"
 #include "ui_Em_Rc.h"
 
 #include <QDialog>
@@ -16,12 +17,11 @@ class Em_Rc : public QDialog, public Ui::Em_Rc
     Q_OBJECT
 
 public:
-    explicit Em_Rc(QWidget *parent);
+    /// banc: the routine that receives from the bench, which stands on a floor above; the mode ReceptionBanc needs it.
+    explicit Em_Rc(QWidget *parent, RoutineReception banc = nullptr);
 
-    /// A routine that receives. It may return long after the dialog has been closed.
-    using Reception = void (*)(Ui::Em_Rc &dialogue);
-    /// The one from the bench, which stands on a floor above and is tied here at the start.
-    static Reception RoutineBanc;
+    /// What a routine sees of the dialog.
+    VueTransfert &Vue() { return m_vue; }
 
     /// Closing, by whatever way: never on an open port. A routine of the dialog that still runs meets the closed port;
     /// the dialog lives, unseen, until that routine has returned.
@@ -46,9 +46,12 @@ private:
     void PrepareBilan();
     void MontreMode();
     /// By the mode and the configuration; nullptr where the configuration names none.
-    static Reception Routine();
+    RoutineReception Routine() const;
     /// Asks for confirmation and runs the reception; returns when the routine returns, perhaps long after the dialog
     /// has been closed.
     void CommenceReception();
     void MontreConfigurationChoisie();
+
+    VueTransfert m_vue{*this};
+    RoutineReception m_banc;
 };

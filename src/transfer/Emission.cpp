@@ -4,7 +4,6 @@
 #include "donnees/ParamCom.h"
 #include "locale/Comptes.h"
 #include "locale/Langue.h"
-#include "locale/Legendes.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
@@ -14,7 +13,7 @@
 #include "transfer/Bilan.h"
 #include "transfer/PortCom.h"
 #include "transfer/RythmeAffichage.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 #include <optional>
 
@@ -44,7 +43,7 @@ class Emission
 {
 public:
     /// total: characters that the body will send, for the progress bar.
-    Emission(Ui::Em_Rc &dialogue, qint64 total);
+    Emission(VueTransfert &vue, qint64 total);
     ~Emission();
     Q_DISABLE_COPY_MOVE(Emission)
 
@@ -62,7 +61,7 @@ private:
     void AttendLigne();
     void Montre();
 
-    Ui::Em_Rc &m_dialogue;
+    VueTransfert &m_vue;
     Avancement m_avancement;
     qint64 m_ecrits = 0;
     const Texte3 *m_statut = nullptr; // what is still to be shown
@@ -71,15 +70,11 @@ private:
     RythmeAffichage m_rythme;
 };
 
-Emission::Emission(Ui::Em_Rc &dialogue, qint64 total)
-    : m_dialogue(dialogue)
-    , m_avancement(*dialogue.Progression, total)
+Emission::Emission(VueTransfert &vue, qint64 total)
+    : m_vue(vue)
+    , m_avancement(vue, total)
 {
-    m_dialogue.Frame2->hide();
-    for (QLabel *const label : {m_dialogue.Label2, m_dialogue.Label3})
-        label->clear(); // they may tell of a sending before this one
-    m_dialogue.Label3->setVisible(ParamCom.Echo == 1);
-    m_dialogue.Label4->hide();
+    m_vue.DebuteEmission();
 }
 
 /// A failure leaves the last text to be read; a cancel has closed the port and said so.
@@ -92,7 +87,7 @@ Emission::~Emission()
 void Emission::Debut()
 {
     OuvrePortCOM();
-    NotePort(m_dialogue);
+    NotePort(m_vue);
     if (ParamCom.NbCarDebProg < 1)
         return;
     const QString debut = CaracteresDe(ChaineDebut) + ParamCom.ChaineFinLig;
@@ -142,7 +137,8 @@ void Emission::Attend()
     } while (restent != 0);
 }
 
-/// Waits until the system holds nothing any more. Nor does one whose device has gone, which the turn behind tells.
+/// Waits until the system holds nothing any more. An unplugged device holds nothing either; the check after the loop
+/// tells the two apart.
 void Emission::AttendLigne()
 {
     int enRoute = 0;
@@ -176,7 +172,7 @@ void Emission::Statut(const Texte3 &texte, const QString &suite)
 
 void Emission::Echo(const QString &texte)
 {
-    if (ParamCom.Echo == 1)
+    if (VueTransfert::AvecEcho())
         m_echo = texte;
 }
 
@@ -185,9 +181,9 @@ void Emission::Montre()
     if (m_statut == nullptr && !m_echo)
         return;
     if (m_statut != nullptr)
-        PoseTexte(m_dialogue.Label2, *m_statut, m_suite);
+        m_vue.Statut(*m_statut, m_suite);
     if (m_echo)
-        EcritEcho(*m_dialogue.Label3, *m_echo);
+        m_vue.EchoLigne(*m_echo);
     m_statut = nullptr;
     m_echo.reset();
     m_rythme.Note();
@@ -245,11 +241,11 @@ qint64 TailleLignes()
 }
 
 /// manques: see MontreBilan().
-void Termine(Ui::Em_Rc &dialogue, const QStringList &manques)
+void Termine(VueTransfert &vue, const QStringList &manques)
 {
-    FermePortCOM(dialogue);
-    PoseTexte(dialogue.Label2, Succes);
-    MontreBilan(dialogue, Issue::Emis, manques);
+    FermePortCOM(vue);
+    vue.Statut(Succes);
+    MontreBilan(vue, Issue::Emis, manques);
 }
 
 /// What a sending of texte has left undone that Label2 calls a success.
@@ -258,47 +254,48 @@ QStringList Manques(const QString &texte)
     QStringList manques;
     if (EstMuet(texte))
         manques << Texte(RienEnvoye);
-    if (const LignesEnvoyees lignes = CompteLignesEnvoyees(texte); ParamCom.TypeEnvoi == 0 && !lignes.Toutes())
+    if (const LignesEnvoyees lignes = CompteLignesEnvoyees(texte);
+        ParamCom.TypeEnvoi == EnvoiLignes && !lignes.Toutes())
         manques << Texte(EnvoyeEnPartie).arg(Compte(lignes.nombre, NomLignes), NombreEnClair(lignes.total));
     return manques;
 }
 
-void Echoue(const Erreur &erreur, Ui::Em_Rc &dialogue)
+void Echoue(const Erreur &erreur, VueTransfert &vue)
 {
-    MontreBilan(dialogue, Issue::EmissionRompue); // ahead of the box, for whose time nothing is sent
-    ErreurPortCOM(erreur, dialogue);
+    MontreBilan(vue, Issue::EmissionRompue); // ahead of the box, for whose time nothing is sent
+    ErreurPortCOM(erreur, vue);
 }
 
 } // namespace
 
-void EnvoiFich_FinFich(Ui::Em_Rc &dialogue)
+void EnvoiFich_FinFich(VueTransfert &vue)
 {
     try {
         const QString texte = frmPrinc->Text1->Text();
-        Emission emission(dialogue, texte.size());
+        Emission emission(vue, texte.size());
         emission.Debut();
         if (Controle().PortOpen())
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
         EnvoieBlocs(emission, texte);
         emission.Fin();
-        Termine(dialogue, Manques(texte));
+        Termine(vue, Manques(texte));
     } catch (const Erreur &erreur) {
-        Echoue(erreur, dialogue);
+        Echoue(erreur, vue);
     }
 }
 
-void EnvoiFich_Lig_Lig(Ui::Em_Rc &dialogue)
+void EnvoiFich_Lig_Lig(VueTransfert &vue)
 {
     try {
         const QString texte = frmPrinc->Text1->Text();
         CalculeLigne(texte);
-        Emission emission(dialogue, TailleLignes());
+        Emission emission(vue, TailleLignes());
         emission.Debut();
         EnvoieLignes(emission);
         emission.Fin();
-        Termine(dialogue, Manques(texte));
+        Termine(vue, Manques(texte));
     } catch (const Erreur &erreur) {
-        Echoue(erreur, dialogue);
+        Echoue(erreur, vue);
     }
 }
 

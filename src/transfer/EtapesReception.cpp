@@ -2,13 +2,12 @@
 
 #include "donnees/ParamCom.h"
 #include "donnees/Transfert.h"
-#include "locale/Legendes.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
 #include "transfer/Bilan.h"
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 namespace {
 
@@ -20,42 +19,41 @@ constexpr Texte3 Reussi{u"Transfert réalisé avec succès !", u"Transfer carrie
 
 } // namespace
 
-void DebuteReception(Ui::Em_Rc &dialogue, const Texte3 &genre)
+void DebuteReception(VueTransfert &vue, const Texte3 &genre)
 {
     Transfert.ForceRECEPT = false;
     Transfert.FinTransfert = false;
     Transfert.AnnuleRECEPT = false;
     OublieFichierRecu();
-    MontreLabelsEcho(dialogue);
-    if (ParamCom.Echo == 1)
-        PoseTexte(dialogue.Label4, genre);
+    vue.MontreEcho();
+    vue.EchoCaractere(genre);
     OuvrePortCOM();
-    NotePort(dialogue);
-    PoseTexte(dialogue.Label2, EnAttente);
+    NotePort(vue);
+    vue.Statut(EnAttente);
 }
 
-void RendFinTransfert(Ui::Em_Rc &dialogue)
+void RendFinTransfert(VueTransfert &vue)
 {
     if (!Controle().PortOpen())
         return;
     frmPrinc->shpSend->setFillColor(Lampe::Verte);
     Controle().Output(ParamCom.ChaineFinTrans);
-    PoseTexte(dialogue.Label2, FinDetectee);
+    vue.Statut(FinDetectee);
 }
 
-void AcheveReception(Ui::Em_Rc &dialogue)
+void AcheveReception(VueTransfert &vue)
 {
     Controle().VideEmission(ConfigurationCom::CapaciteChaine);
-    FermePortCOM(dialogue);
+    FermePortCOM(vue);
     frmPrinc->EteintTransfert();
-    PoseTexte(dialogue.Label2, Reussi);
+    vue.Statut(Reussi);
 }
 
-void EchoueReception(const Erreur &erreur, Ui::Em_Rc &dialogue, const QString &recu)
+void EchoueReception(const Erreur &erreur, VueTransfert &vue, const QString &recu)
 {
     Transfert.FinTransfert = false; // the end may have come, but the file has not: the name is asked for once more
-    MontreBilan(dialogue, Issue::ReceptionRompue);
-    ErreurPortCOM(erreur, dialogue);
+    MontreBilan(vue, Issue::ReceptionRompue);
+    ErreurPortCOM(erreur, vue);
     if (const QString chemin = SauveAilleurs(recu); !chemin.isEmpty())
-        MontreSauve(dialogue, chemin);
+        MontreSauve(vue, chemin);
 }

@@ -3,14 +3,12 @@
 #include "comconfig/ReglagesCom.h"
 #include "donnees/ParamCom.h"
 #include "locale/Langue.h"
-#include "locale/Legendes.h"
 #include "locale/TextesErreur.h"
 #include "platform/base/Nombres.h"
-#include "platform/base/PageCode1252.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 namespace {
 
@@ -25,7 +23,6 @@ constexpr Texte3 SansDroit{
     u"    sudo adduser $USER dialout\rthen log out and in again.",
     u"\rLos puertos serie están reservados al grupo dialout. Inscribirse una vez, en un terminal:\r"
     u"    sudo adduser $USER dialout\rluego cerrar la sesión y volver a abrirla."};
-constexpr Texte3 Fermer{u"&Fermer", u"&Close", u"&Cerrarse"};
 
 /// Closes the port for an operator who has turned away from the transfer.
 void FermeSansMessage()
@@ -65,7 +62,7 @@ void OuvrePortCOM()
     }
 }
 
-void FermePortCOM(Ui::Em_Rc &dialogue)
+void FermePortCOM(VueTransfert &vue)
 {
     MSComm &controle = Controle();
     try {
@@ -76,39 +73,21 @@ void FermePortCOM(Ui::Em_Rc &dialogue)
         frmPrinc->PortOuvert = false;
     } catch (const Erreur &erreur) {
         MontreErreur(erreur, TexteErreur(erreur));
-        BoutonFermer(*dialogue.Command1);
+        vue.OffreFermer();
     }
 }
 
-void BoutonFermer(QPushButton &bouton)
-{
-    PoseTexte(&bouton, Fermer);
-}
-
-void MontreLabelsEcho(Ui::Em_Rc &dialogue)
-{
-    dialogue.Label3->setVisible(ParamCom.Echo == 1);
-    dialogue.Label4->setVisible(ParamCom.Echo == 1);
-}
-
-void EcritEcho(QLabel &label, const QString &texte)
-{
-    // A program without the line ends of the configuration is one line, and laying it out would hold up its transfer.
-    constexpr int place = 2000; // characters
-    label.setText(ControlesVisibles(texte.left(place)));
-}
-
-void ErreurPortCOM(const Erreur &erreur, Ui::Em_Rc &dialogue)
+void ErreurPortCOM(const Erreur &erreur, VueTransfert &vue)
 {
     MontreErreur(erreur, TexteErreur(erreur));
-    FermePortCOM(dialogue);
+    FermePortCOM(vue);
 }
 
-void CoupePortCOM(Ui::Em_Rc &dialogue)
+void CoupePortCOM(VueTransfert &vue)
 {
     if (!Controle().PortOpen())
         return;
-    PoseTexte(dialogue.Label2, Fermeture);
+    vue.Statut(Fermeture);
     FermeSansMessage();
 }
 

@@ -67,8 +67,9 @@ constexpr Texte3 DossierDeJauges{u"Choix du dossier de réception des Jauges Out
 
 } // namespace
 
-Rc_Fic::Rc_Fic(QWidget *parent)
+Rc_Fic::Rc_Fic(QWidget *parent, RoutineReception banc)
     : QDialog(parent)
+    , m_banc(banc)
 {
     setupUi(this);
     AppliqueLegendes(this);
@@ -163,7 +164,7 @@ void Rc_Fic::Command2_Click()
     Transfert.DossierRecep = SansBlancs(Label3->text());
     if (FichierExiste(CheminRecep()) && !ConfirmeRemplacement())
         return;
-    Em_Rc(this).exec();
+    Em_Rc(this, m_banc).exec();
     if (Transfert.FinTransfert)
         accept();
     else

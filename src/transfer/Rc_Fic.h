@@ -1,5 +1,6 @@
 #pragma once
 
+#include "transfer/VueTransfert.h"
 #include "ui_Rc_Fic.h"
 
 #include <QDialog>
@@ -15,7 +16,8 @@ class Rc_Fic : public QDialog, public Ui::Rc_Fic
     Q_OBJECT
 
 public:
-    explicit Rc_Fic(QWidget *parent);
+    /// banc: see Em_Rc.
+    explicit Rc_Fic(QWidget *parent, RoutineReception banc = nullptr);
 
 private:
     void Form_Load();
@@ -29,4 +31,6 @@ private:
     void MontreFinLigne();
     bool ConfirmeRemplacement() const;
     static QString &Dossier();
+
+    RoutineReception m_banc;
 };

@@ -4,7 +4,6 @@
 #include "donnees/ParamCom.h"
 #include "donnees/Transfert.h"
 #include "locale/Langue.h"
-#include "locale/Legendes.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Nombres.h"
@@ -16,7 +15,7 @@
 #include "transfer/PortCom.h"
 #include "transfer/RythmeAffichage.h"
 #include "transfer/TextesReception.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 namespace {
 
@@ -41,8 +40,8 @@ constexpr TexteLigne FinLigneLigne{
 class Remplissage
 {
 public:
-    explicit Remplissage(Ui::Em_Rc &dialogue)
-        : m_dialogue(dialogue)
+    explicit Remplissage(VueTransfert &vue)
+        : m_vue(vue)
     {
     }
 
@@ -67,7 +66,7 @@ public:
     QString Ligne; ///< what has come of the line under way
 
 private:
-    Ui::Em_Rc &m_dialogue;
+    VueTransfert &m_vue;
     int m_compteur = 1;        // the line under way
     RythmeAffichage m_rythme;  // of the echo
     RythmeAffichage m_silence; // since the last character
@@ -88,15 +87,13 @@ void Remplissage::ExigePlace() const
 
 void Remplissage::MontreFinLigne(const TexteLigne &texte)
 {
-    PoseTexte(m_dialogue.Label2, texte.avant, TexteNombre(m_compteur - 1 + texte.suivante) + Texte(texte.apres));
+    m_vue.Statut(texte.avant, TexteNombre(m_compteur - 1 + texte.suivante) + Texte(texte.apres));
 }
 
 void Remplissage::MontreEcho(const QString &ligne, const QString &lu)
 {
-    if (ParamCom.Echo != 1)
-        return;
-    EcritEcho(*m_dialogue.Label3, ligne);
-    EcritEcho(*m_dialogue.Label4, lu.right(ParamCom.ChaineFinLig.size()));
+    m_vue.EchoLigne(ligne);
+    m_vue.EchoCaractere(lu.right(ParamCom.ChaineFinLig.size()));
 }
 
 void Remplissage::Guette(const QString &lu)
@@ -104,7 +101,7 @@ void Remplissage::Guette(const QString &lu)
     if (!lu.isEmpty())
         m_silence.Note();
     else if (m_silence.Permet())
-        MontreNouvellesPertes(m_dialogue);
+        MontreNouvellesPertes(m_vue);
 }
 
 bool Remplissage::EchoSuperflu()
@@ -123,14 +120,14 @@ void Remplissage::Termine()
     NotePerte(Perte::SansFin, Ligne);
     Transfert.FinTransfert = true;
     Lignes.NbLignes = m_compteur;
-    RendFinTransfert(m_dialogue);
-    AcheveReception(m_dialogue);
+    RendFinTransfert(m_vue);
+    AcheveReception(m_vue);
     Ligne.clear();
     EcritFichierRecu(Recu());
-    MontreBilan(m_dialogue, Issue::Recu);
+    MontreBilan(m_vue, Issue::Recu);
     OuvreFichierRecu();
     if (Transfert.FinTransfert)
-        BoutonFermer(*m_dialogue.Command1);
+        m_vue.OffreFermer();
 }
 
 QString Remplissage::Recu() const
@@ -147,16 +144,14 @@ enum class EffetFinLigne { Aucun, Avale, Termine };
 /// The characters that end a line, as the character reception looks for them.
 QString FinLigneCherchee()
 {
-    static const QString deuxCaracteres[] = {QStringLiteral("\n\r"), QStringLiteral("\r\n")};
-    if (ParamCom.TypeFinLig == 2 || ParamCom.TypeFinLig == 3)
-        return deuxCaracteres[ParamCom.TypeFinLig - 2];
-    return ParamCom.TypeFinLig == 4 ? CaracteresDe(ChaineLigne) : ParamCom.ChaineFinLig;
+    const bool plusieurs = ParamCom.TypeFinLig >= FinLigLfCr && ParamCom.TypeFinLig <= FinLigAutre;
+    return plusieurs ? CaracteresFinLigne(static_cast<TypeFinLigne>(ParamCom.TypeFinLig)) : ParamCom.ChaineFinLig;
 }
 
 /// Of a line end of several characters the last one ends the line; their order on the line is not looked at.
 EffetFinLigne Effet(const QString &car, const QString &fin)
 {
-    const bool unSeul = ParamCom.TypeFinLig == 0 || ParamCom.TypeFinLig == 1;
+    const bool unSeul = ParamCom.TypeFinLig == FinLigLf || ParamCom.TypeFinLig == FinLigCr;
     if (car.isEmpty() || (unSeul ? car != fin : !fin.contains(car)))
         return EffetFinLigne::Aucun;
     return fin.endsWith(car) ? EffetFinLigne::Termine : EffetFinLigne::Avale;
@@ -268,27 +263,27 @@ void EmplitParLigne(Remplissage &table)
     }
 }
 
-void Mene(Ui::Em_Rc &dialogue, const Texte3 &genre, void (*corps)(Remplissage &))
+void Mene(VueTransfert &vue, const Texte3 &genre, void (*corps)(Remplissage &))
 {
-    Remplissage table(dialogue);
+    Remplissage table(vue);
     try {
         VideLignes();
-        DebuteReception(dialogue, genre);
+        DebuteReception(vue, genre);
         corps(table);
     } catch (const Erreur &erreur) {
-        EchoueReception(erreur, dialogue, table.Recu());
+        EchoueReception(erreur, vue, table.Recu());
     }
 }
 
 } // namespace
 
-void ReceptionCar(Ui::Em_Rc &dialogue)
+void ReceptionCar(VueTransfert &vue)
 {
-    Mene(dialogue, GenresReception[RecepCaracteres], EmplitParCaractere);
+    Mene(vue, GenresReception[RecepCaracteres], EmplitParCaractere);
 }
 
-void ReceptionLigne(Ui::Em_Rc &dialogue)
+void ReceptionLigne(VueTransfert &vue)
 {
     ChoisitChaineFinLigRecep();
-    Mene(dialogue, GenresReception[RecepLignes], EmplitParLigne);
+    Mene(vue, GenresReception[RecepLignes], EmplitParLigne);
 }

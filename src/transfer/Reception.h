@@ -1,8 +1,6 @@
 #pragma once
 
-namespace Ui {
-class Em_Rc;
-}
+class VueTransfert;
 
 // The two ways of receiving that fill the line table. Each opens the port, takes what the machine sends until the
 // end-of-transfer string or the operator's forced end, sends that string back, closes the port, and writes the file
@@ -10,11 +8,11 @@ class Em_Rc;
 // the dialog's activation; in their yields its buttons run. A failure ends in ErreurPortCOM, and the operator may then
 // save what had come.
 //
-// dialogue: the controls that show the transfer; they have to live until the routine returns.
+// vue: the controls that show the transfer; they have to live until the routine returns.
 
 /// Character by character: lines end by TypeFinLig. What has arrived behind a line end is dropped.
-void ReceptionCar(Ui::Em_Rc &dialogue);
+void ReceptionCar(VueTransfert &vue);
 
 /// By line: a line is all that was read when it ends with ChaineFinLig; ChaineFinLigRecep is put behind it. What the
 /// port holds beyond it is dropped.
-void ReceptionLigne(Ui::Em_Rc &dialogue);
+void ReceptionLigne(VueTransfert &vue);

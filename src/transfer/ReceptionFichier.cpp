@@ -16,7 +16,7 @@
 #include "transfer/FichierRecu.h"
 #include "transfer/PortCom.h"
 #include "transfer/RythmeAffichage.h"
-#include "ui_Em_Rc.h"
+#include "transfer/VueTransfert.h"
 
 #include <QScopedValueRollback>
 
@@ -42,8 +42,8 @@ constexpr Texte3 AttenteFin{u"En attente du caractère de fin de transfert...",
                             u"On standby of the character of end of transfer...",
                             u"En espera del carácter de final de transferencia..."};
 
-Ui::Em_Rc *enAttente = nullptr; // dialog of the reception that waits for its events
-bool enRecolte = false;         // that reception is being gathered further down the stack
+VueTransfert *enAttente = nullptr; // view of the reception that waits for its events
+bool enRecolte = false;            // that reception is being gathered further down the stack
 
 /// Takes what one reading gives into Text2. A closed port gives nothing; a device that has gone ends the gathering, and
 /// the routine below meets the same failure and tells it.
@@ -70,13 +70,11 @@ void PrendReste()
         Prend();
 }
 
-void MontrePasse(Ui::Em_Rc &dialogue, qint64 passe)
+void MontrePasse(VueTransfert &vue, qint64 passe)
 {
-    PoseTexte(dialogue.Label2, EnCoursPasse, QString::number(passe));
-    if (ParamCom.Echo != 1)
-        return;
-    PoseTexte(dialogue.Label3, Analyse, QString::number(passe));
-    PoseTexte(dialogue.Label4, AttenteFin);
+    vue.Statut(EnCoursPasse, QString::number(passe));
+    vue.EchoLigne(Analyse, QString::number(passe));
+    vue.EchoCaractere(AttenteFin);
 }
 
 /// True when the text gathered so far ends with the end-of-transfer string, which is then cut off.
@@ -89,11 +87,11 @@ bool FinTrouvee()
     return true;
 }
 
-void Recolte(Ui::Em_Rc &dialogue)
+void Recolte(VueTransfert &vue)
 {
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
     Prend();
-    PoseTexte(dialogue.Label2, EnCours);
+    vue.Statut(EnCours);
     RythmeAffichage rythme;
     bool vivante = true;
     qint64 passe = 0;
@@ -101,7 +99,7 @@ void Recolte(Ui::Em_Rc &dialogue)
         ++passe;
         CedeLaMain();
         if (rythme.Permet()) {
-            MontrePasse(dialogue, passe);
+            MontrePasse(vue, passe);
             rythme.Note();
         }
         // The end is looked for behind each reading, since what the machine sends behind it would hide it.
@@ -109,25 +107,24 @@ void Recolte(Ui::Em_Rc &dialogue)
             vivante = Prend();
         } while (!FinTrouvee() && CaracteresEnAttente());
     } while (!Transfert.FinTransfert && vivante && !Transfert.AnnuleRECEPT && !Transfert.ForceRECEPT);
-    MontrePasse(dialogue, passe);
+    MontrePasse(vue, passe);
     if (Transfert.AnnuleRECEPT)
-        CoupePortCOM(dialogue);
+        CoupePortCOM(vue);
 }
 
-void PrepareFichier(Ui::Em_Rc &dialogue)
+void PrepareFichier(VueTransfert &vue)
 {
     ChoisitChaineFinLigRecep();
     frmPrinc->Text2->setText(QString());
-    frmPrinc->Text2->setVisible(ParamCom.Echo == 1);
-    if (ParamCom.Echo == 1)
-        PoseTexte(dialogue.Label3, Attente3);
-    DebuteReception(dialogue, Attente4);
+    frmPrinc->Text2->setVisible(VueTransfert::AvecEcho());
+    vue.EchoLigne(Attente3);
+    DebuteReception(vue, Attente4);
 }
 
 /// The events gather the text inside this wait's yield, perhaps for the whole of the reception.
-void AttendFichier(Ui::Em_Rc &dialogue)
+void AttendFichier(VueTransfert &vue)
 {
-    const QScopedValueRollback<Ui::Em_Rc *> ecoute(enAttente, &dialogue);
+    const QScopedValueRollback<VueTransfert *> ecoute(enAttente, &vue);
     while (true) {
         CedeLaMain();
         if (Transfert.FinTransfert || Transfert.AnnuleRECEPT)
@@ -149,14 +146,12 @@ void AttendFichier(Ui::Em_Rc &dialogue)
     }
 }
 
-void TermineFichier(Ui::Em_Rc &dialogue)
+void TermineFichier(VueTransfert &vue)
 {
-    RendFinTransfert(dialogue);
-    if (ParamCom.Echo == 1) {
-        PoseTexte(dialogue.Label3, Termine3);
-        PoseTexte(dialogue.Label4, Termine4);
-    }
-    AcheveReception(dialogue);
+    RendFinTransfert(vue);
+    vue.EchoLigne(Termine3);
+    vue.EchoCaractere(Termine4);
+    AcheveReception(vue);
     frmPrinc->Text2->hide();
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
     // A file that was too large to be shown may have hidden the pane and its commands.
@@ -166,44 +161,42 @@ void TermineFichier(Ui::Em_Rc &dialogue)
     try {
         EcritFichierRecu(frmPrinc->Text1->Text());
     } catch (const Erreur &erreur) {
-        EchoueReception(erreur, dialogue, frmPrinc->Text1->Text());
+        EchoueReception(erreur, vue, frmPrinc->Text1->Text());
         return;
     }
-    MontreBilan(dialogue, Issue::Recu);
+    MontreBilan(vue, Issue::Recu);
     TitreFenetre(Transfert.NomFicRecep);
     MontreDonnee(frmPrinc->Label2, Transfert.NomFicRecep);
     Document.FichierModifie = false;
 }
 
-void AnnuleFichier(Ui::Em_Rc &dialogue)
+void AnnuleFichier(VueTransfert &vue)
 {
     Transfert.FinTransfert = false; // the end may have been found just before
     MsgBox(QStringLiteral("AnnuleRECEPT% = 1"), 0, Texte(BoiteAnnulation));
-    FermePortCOM(dialogue);
-    PoseTexte(dialogue.Label2, Annule2);
+    FermePortCOM(vue);
+    vue.Statut(Annule2);
     frmPrinc->Text2->setText(QString());
     frmPrinc->Text2->hide();
-    if (ParamCom.Echo != 1)
-        return;
-    PoseTexte(dialogue.Label3, Annule3);
-    dialogue.Label4->setText(QStringLiteral("..."));
+    vue.EchoLigne(Annule3);
+    vue.EchoCaractere(QStringLiteral("..."));
 }
 
 } // namespace
 
-void ReceptionFichier(Ui::Em_Rc &dialogue)
+void ReceptionFichier(VueTransfert &vue)
 {
     try {
-        PrepareFichier(dialogue);
-        AttendFichier(dialogue);
+        PrepareFichier(vue);
+        AttendFichier(vue);
         if (Transfert.AnnuleRECEPT)
-            AnnuleFichier(dialogue);
+            AnnuleFichier(vue);
         else
-            TermineFichier(dialogue);
+            TermineFichier(vue);
     } catch (const Erreur &erreur) {
         if (!Transfert.FinTransfert)
             PrendReste();
-        EchoueReception(erreur, dialogue, frmPrinc->Text2->Text());
+        EchoueReception(erreur, vue, frmPrinc->Text2->Text());
     }
 }
 

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Ouvert"_s);
 
         Em_Rc dialogue(frmPrinc);
-        FermePortCOM(dialogue);
+        FermePortCOM(dialogue.Vue());
         LangIndex = 2;
         LireFichierPar(Donnees(u"Complet.par"_s));
         ParamCom.BitsDonnees = u"5"_s; // which alone go with 1.5 stop bits
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(atelier.ligne->dtr);
         QCOMPARE(atelier.ligne->reglages.constLast().demiBitsArret, 3);
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Abierto"_s);
-        FermePortCOM(dialogue);
+        FermePortCOM(dialogue.Vue());
         QCOMPARE(frmPrinc->lblPortOpen->text(), u"Port Cerrado"_s);
         QVERIFY(!frmPrinc->PortOuvert);
         QVERIFY(!atelier.ligne->ouverte);
@@ -157,7 +157,7 @@ private Q_SLOTS:
               {1005, EPROTO, u"/dev/x\rCausa desconocida, número 71."_s}}) {
             atelier.operateur.Repond(u"Error N°:  %1Cierre del puerto de comunicación"_s.arg(numero), texte,
                                      Boite::Critique, QMessageBox::Ok);
-            ErreurPortCOM(Erreur(numero, u"/dev/x"_s, cause), dialogue);
+            ErreurPortCOM(Erreur(numero, u"/dev/x"_s, cause), dialogue.Vue());
         }
         QVERIFY(!atelier.controle.PortOpen());
         QVERIFY(!frmPrinc->PortOuvert);
@@ -203,7 +203,7 @@ private Q_SLOTS:
         machine.start(1);
         if (numero != 0)
             atelier.operateur.LitErreur(numero, texte);
-        EnvoiFich_FinFich(dialogue);
+        EnvoiFich_FinFich(dialogue.Vue());
         QVERIFY(coups >= 60);
         QVERIFY(!frmPrinc->PortOuvert);
         QVERIFY(!ligne.ouverte);
@@ -227,7 +227,7 @@ private Q_SLOTS:
         });
         machine.start(1);
         Em_Rc dialogue(frmPrinc);
-        EnvoiFich_FinFich(dialogue);
+        EnvoiFich_FinFich(dialogue.Vue());
         QCOMPARE(atelier.ligne->ecrits, programme + '\x04');
     }
 
@@ -245,7 +245,7 @@ private Q_SLOTS:
         atelier.controle.Output(QString(5000, u'N'));
         atelier.operateur.LitErreur(8020, u"Erreur de lecture du périphérique de communication"_s);
         Em_Rc dialogue(frmPrinc);
-        FermePortCOM(dialogue);
+        FermePortCOM(dialogue.Vue());
         QCOMPARE(dialogue.Command1->text(), u"&Fermer"_s);
         QVERIFY(!atelier.controle.PortOpen());
         QVERIFY(!atelier.ligne->ouverte);
