@@ -46,7 +46,7 @@ constexpr Texte3 Suite{u"ce qui suit dans la même salve n'est pas écrit : ",
                        u"what follows in the same burst is not written: ",
                        u"lo que sigue en la misma ráfaga no se escribe: "};
 
-/// texte as it came, its control characters by their names; what is longer than any burst is cut.
+/// texte with the names of its control characters. A text that is longer than any burst is cut.
 QString Visible(const QString &texte)
 {
     constexpr qsizetype place = 120; // characters
@@ -59,14 +59,14 @@ QString EntreGuillemets(const QString &texte)
     return u'"' + Visible(texte) + u'"';
 }
 
-/// How a row of the box begins.
+/// The beginning of a row of the box.
 QString Rang(int place)
 {
     return QStringLiteral("    N° ") + QString::number(place);
 }
 
-/// Whether a field is anything else than one number with blanks around it: where the line has spoilt a digit, what is
-/// read is another number than the bench has sent.
+/// True if a field is not exactly one number with blanks around it. If the line has garbled a digit, the number read is
+/// not the one that the bench has sent.
 bool EstDouteux(const QString &champ)
 {
     static const QRegularExpression nombre(
@@ -75,28 +75,28 @@ bool EstDouteux(const QString &champ)
     return !nombre.match(champ).hasMatch() || EstTropGrand(champ);
 }
 
-/// What a burst begins with, control characters and blanks left away: its columns count from there.
+/// The burst without the control characters and blanks before it. Columns count from there.
 QString DepuisMarque(const QString &recue)
 {
     const auto debut = std::find_if(recue.begin(), recue.end(), [](QChar c) { return c > u' '; });
     return recue.mid(debut - recue.begin());
 }
 
-/// Where in a burst a second mark stands, which a measure begins with that came unasked; -1 for none.
+/// The place in a burst of a second mark, where a further measure begins that was not asked for. -1 for none.
 qsizetype SecondeMarque(const QString &salve)
 {
     return salve.indexOf(QStringView(MarqueMesure), 1);
 }
 
-/// A second measure that begins before the first one can have ended: the bench was made to print again.
+/// True if a second measure begins before the first one is complete: someone has pressed PRINT again at the bench.
 bool EstCoupee(const QString &salve)
 {
     const qsizetype seconde = SecondeMarque(salve);
     return seconde > 0 && seconde < std::max(ParamCom.TailleRecep, ColonneMode.debut);
 }
 
-/// What stands in a burst behind its measure: a second one, and where the line has spoilt its mark, what is behind the
-/// characters of a whole one. Less than a mark is no measure.
+/// What follows the measure in its burst. That is the second measure or, if the line has garbled its mark, what follows
+/// the characters of a whole measure. A text that is shorter than a mark does not count.
 QString DerriereMesure(const QString &salve)
 {
     qsizetype debut = SecondeMarque(salve);
@@ -106,7 +106,8 @@ QString DerriereMesure(const QString &salve)
     return suite.size() < QStringView(MarqueMesure).size() ? QString() : suite;
 }
 
-/// The fields of a measure that are doubtful, and what they are taken for; all of them where it broke off.
+/// The doubtful fields of a measure, and the values that they are taken for. If the measure broke off, all its fields
+/// are doubtful.
 QStringList DoutesChamps(const QString &salve, const JaugeOutil &jauge)
 {
     const std::tuple<QString, Colonnes, QString> champs[] = {
@@ -125,7 +126,7 @@ QStringList DoutesChamps(const QString &salve, const JaugeOutil &jauge)
     return doutes;
 }
 
-/// The doubts about a measure, none for a sound one.
+/// The doubts about a measure. Empty for a sound one.
 QStringList Doutes(const QString &salve, const JaugeOutil &jauge)
 {
     QStringList doutes = DoutesChamps(salve, jauge);
@@ -137,8 +138,8 @@ QStringList Doutes(const QString &salve, const JaugeOutil &jauge)
     return doutes;
 }
 
-/// The lines of a row. One that is too long for the box goes on under its text: at the margin it would read as the next
-/// tool's.
+/// Cuts a row that is too long for the box into lines. The further lines are indented: at the margin they would look
+/// like the row of another tool.
 QStringList Replie(QString rang)
 {
     constexpr qsizetype largeur = 88; // characters
@@ -156,7 +157,7 @@ QStringList Replie(QString rang)
     return lignes << rang;
 }
 
-/// A heading and its rows, as many as a screen has room for, with a blank line behind them.
+/// A heading, as many of its rows as a screen has room for, and a blank line.
 QString Paragraphe(const Texte3 &entete, const QStringList &rangs)
 {
     constexpr qsizetype place = 20; // lines

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// The file dialogs for machine configurations. NomCompletMac and NomMac name the choice. Both raise DialogueAnnule; the
-// dialog's CancelError is reset afterwards, whatever came of it.
+// The file dialogs for machine configurations. Both leave the file chosen in NomCompletMac and NomMac, and raise
+// DialogueAnnule if the operator cancels. They always reset CancelError of the dialog.
 
 /// Asks for a .mac file and reads it into ParamMac. Also raises what LitMac raises.
 void DemandeFichierMac();

@@ -1,5 +1,5 @@
 #pragma once
 
 /// Asks for the machine configuration (.mac), then for the gauge file, and takes the measures of the presetting bench.
-/// Without a configuration that can be read the command ends, and nothing is said.
+/// If no configuration is chosen, or if it cannot be read, the command ends without a message.
 void Mnu_RecepBanc();

@@ -4,8 +4,9 @@
 
 // The commands through which the operator reaches the machine configurations.
 
-void Mn_CreeConfMac();  ///< a new configuration, from the ordinary values
-void Mn_ModifConfMac(); ///< one from a file
+void Mn_CreeConfMac();  ///< edits a new configuration, which begins with the usual values
+void Mn_ModifConfMac(); ///< edits one from a file that the operator chooses
 
-/// The one from the file chemin. It came without the menu, so when it is no machine configuration the operator is told.
+/// Edits the one in the file chemin, which the operator has not chosen by the menu. If the file is no machine
+/// configuration, he is told.
 void ModifieConfMac(const QString &chemin);

@@ -136,7 +136,8 @@ void ConfMac::MontreNom()
         PoseTexte(this, PrefixeTitre, ParamMac.NomMac);
 }
 
-/// Any key may be typed as the extension; what is wrong with it would be seen only when the gauges are to be written.
+/// Warns of an extension that file names cannot have. The box takes any character, and the fault would otherwise be
+/// seen only when the gauges are written.
 void ConfMac::AnnonceExtension()
 {
     if (const QStringList signes = SignesInterdits(ParamMac.ExtJauge); !signes.isEmpty())
@@ -153,7 +154,7 @@ void ConfMac::Command2_Click()
         const QString saisie = ParamMac.ExtJauge + ParamMac.NumProgJauge;
         DemandeNomMac(m_chemin);
         EcritMac(ParamMac.NomCompletMac);
-        LitMac(ParamMac.NomCompletMac); // a quote, which the file cannot hold, has become an apostrophe
+        LitMac(ParamMac.NomCompletMac); // shows what the file holds: a double quote has become an apostrophe
         MontreTextes();
         m_chemin = ParamMac.NomCompletMac;
         MontreNom();

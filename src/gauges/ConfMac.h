@@ -3,7 +3,7 @@
 #include "platform/dialogues/DialogueCentre.h"
 #include "ui_ConfMac.h"
 
-/// Shows and edits ParamMac. Choices reach it at once, typed values only when they are saved; Command1 (close) takes
+/// Shows and edits ParamMac. Options change it at once, typed values only when they are saved. Command1 (close) takes
 /// nothing back.
 ///
 /// OptMac: machine, OptTour: turret, OptJauge: kind of gauge file, OptionX: X in radius or diameter, OptionRAZ: reset

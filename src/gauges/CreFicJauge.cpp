@@ -36,15 +36,15 @@ constexpr Alarme AlarmeZ{
 
 constexpr double Micrometres = 1000; // in a millimetre
 
-/// Micrometres to the nearest whole one, a tie to the even one, as mm. The work is done in double precision; what a
-/// gauge keeps is single.
+/// Rounds to whole micrometres, a tie to the even one, and gives them in mm. The calculation is done in double
+/// precision; a gauge keeps single precision.
 float EnMillimetres(double micrometres)
 {
     return static_cast<float>(std::nearbyint(micrometres) / Micrometres);
 }
 
-/// What turns the X of the bench into micrometres as the machine wants X. A letter that says neither radius nor
-/// diameter is taken for the machine's own mode.
+/// The factor between the X of the bench, in mm, and the radius or diameter that the machine wants, in micrometres. A
+/// letter that says neither radius nor diameter counts as the machine's own mode.
 double FacteurX(const JaugeOutil &jauge)
 {
     if (jauge.ModeMesure == u'D' && ParamMac.ModeX == 0)
@@ -56,7 +56,7 @@ double FacteurX(const JaugeOutil &jauge)
 
 void NormaliseX(JaugeOutil &jauge)
 {
-    constexpr double surplus = 0.001; // micrometres: lifts a value that single precision holds a trifle too low
+    constexpr double surplus = 0.001; // micrometres: lifts a value that single precision holds slightly too low
     jauge.JaugeX = EnMillimetres(static_cast<double>(jauge.JaugeX) * FacteurX(jauge) + surplus);
 }
 
@@ -68,7 +68,8 @@ void CorrigePoche(JaugeOutil &jauge)
     jauge.JaugeX = EnMillimetres(static_cast<double>(somme) * Micrometres);
 }
 
-/// The limit counts in single precision like the measure: in double precision 100.3 mm would be above a limit of 100.3.
+/// Warns of a value above its limit. The limit is compared in single precision like the measure: in double precision a
+/// measure of 100.3 mm would be above a limit of 100.3.
 void Verifie(float valeur, double maxi, int correcteur, const Alarme &alarme)
 {
     const auto limite = static_cast<float>(maxi);
@@ -90,7 +91,7 @@ void Prepare(JaugeOutil &jauge)
     Verifie(jauge.JaugeZ, ParamMac.JaugeMaxiZ, jauge.NumCorr, AlarmeZ);
 }
 
-/// A field of a line: its letter or parameter, and its value.
+/// A field of a line: its letter or E parameter, and its value.
 QString Champ(const char *nom, const QString &valeur)
 {
     return QLatin1String(nom) + valeur;
@@ -107,7 +108,8 @@ QString LigneD(const JaugeOutil &jauge)
            Champ(" C", QString::number(jauge.Localisateur));
 }
 
-/// Corrector number with zeros before it up to three digits; a negative one gets the two of a number below 10.
+/// The corrector number with leading zeros up to three digits. A negative number gets two zeros, like any number below
+/// 10.
 QString Correcteur(int numero)
 {
     const int zeros = numero < 10 ? 2 : numero < 100 ? 1 : 0;
@@ -130,14 +132,14 @@ QString LigneE(const JaugeOutil &jauge)
            Champ(" E55", egal + QString::number(jauge.Localisateur));
 }
 
-/// Sets the dynamic correctors of a corrector to zero.
+/// The line that sets the dynamic correctors of a corrector to zero.
 QString LigneRaz(const JaugeOutil &jauge)
 {
     const QString zero = Correcteur(jauge.NumCorr) + QStringLiteral("=0");
     return ParamMac.EstTour() ? Champ("E53", zero) + Champ(" E54", zero) : Champ("E54", zero) + Champ(" E53", zero);
 }
 
-/// The lines ahead of the measures; the entry behind them.
+/// Puts the lines before the measures into Lignes. Returns the number of the next entry.
 int Entete()
 {
     if (!ParamMac.EnParametresE()) {
@@ -151,7 +153,7 @@ int Entete()
     return 3;
 }
 
-/// What stands on the disk; an empty text where it cannot be read.
+/// The content of CheminRecep(); empty if it cannot be read.
 QString SurDisque()
 {
     QString texte;

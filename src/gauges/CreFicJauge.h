@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// The gauge file could not be written. It holds what the operator has typed, which stands nowhere else.
+/// The gauge file could not be written. This error carries its text, with what the operator has typed, which stands
+/// nowhere else.
 class JaugesNonEcrites : public Erreur
 {
 public:
@@ -19,10 +20,10 @@ private:
     bool m_intact;
 };
 
-/// Makes the gauge file of ParamMac's machine from Jauge(1) to Jauge(NbJauges): brings X and Z to whole micrometres, X
-/// to the radius or diameter that the machine wants and to its pocket, warns of what is above the limits, writes the
-/// file over CheminRecep() and makes it the document. Jauge holds the new X and Z afterwards, so that it works once on
-/// a set of measures; Lignes holds the file.
-/// Raises JaugesNonEcrites when the file cannot be written, and Depassement for a measure that is no finite number; the
-/// file then stays as it was.
+/// Makes the gauge file of ParamMac's machine from Jauge(1) to Jauge(NbJauges). It rounds X and Z to whole micrometres,
+/// brings X to the radius or diameter that the machine wants, corrects it for the pocket, and warns of values above the
+/// limits. It writes the file over CheminRecep() and makes it the document. Jauge holds the new X and Z afterwards, so
+/// it must be called only once for a set of measures. Lignes holds the lines of the file. Raises JaugesNonEcrites when
+/// the file cannot be written, and Depassement for a measure that is no finite number; in the latter case the file
+/// stays as it was.
 void CreFicJauge();

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The mid tones of the icons: they hold on light and dark themes.
+// The mid tones of the icons, which show up on light and dark themes.
 constexpr QColor Acier(0xc3, 0xcc, 0xd6);
 constexpr QColor Contour(0x6b, 0x7d, 0x90);
 constexpr QColor Plaquette(0xeb, 0xa9, 0x37);
@@ -112,7 +112,7 @@ void TuileOutil::Dessine(QPainter &dessin) const
     dessin.drawEllipse(localisateur == 0 ? QPointF() : QPointF(-19, 0), 3, 3);
 }
 
-/// The tools of locators 2 and 6 stand on X, those of 4 and 8 on Z: their noses point along the axes.
+/// Where the axes cross. The tools of locators 2 and 6 stand on X, those of 4 and 8 on Z.
 QPointF Cadran::Croisement() const
 {
     QPointF croisement = QRectF(rect()).center();

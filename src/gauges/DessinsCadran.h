@@ -2,10 +2,10 @@
 
 #include <QAbstractButton>
 
-// The pictures of the dial dialog (JauTour), drawn for any size and any theme. A tile is clicked or, with the keyboard,
-// stepped to and pressed with the space bar; a click leaves the keyboard where it is.
+// The pictures of the dial dialog (JauTour), drawn for any size and any theme. A tile is pressed with the mouse, or
+// with Tab and the space bar. The mouse leaves the keyboard focus where it is.
 
-/// A tile that gives a value to a box. It is checked while its value stands there.
+/// A tile that gives a value to a box. It is checked while the box holds that value.
 class Tuile : public QAbstractButton
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void nextCheckState() override {} // the box says which tile is checked, not the click
+    void nextCheckState() override {} // the content of the box checks a tile, not the click
     void paintEvent(QPaintEvent *) override;
     /// Draws the figure, in a square of Cote units around (0, 0).
     virtual void Dessine(QPainter &dessin) const = 0;
@@ -30,7 +30,7 @@ private:
     QString m_valeur;
 };
 
-/// A cutting plate with its nose radius, in mm, written on it: the rounder the larger.
+/// A cutting plate with its nose radius, in mm, written on it. The larger the radius, the rounder its corners.
 class TuilePlaquette : public Tuile
 {
     Q_OBJECT
@@ -42,8 +42,8 @@ protected:
     void Dessine(QPainter &dessin) const override;
 };
 
-/// A tool at work in the quadrant of its locator: the holder comes from outside the dial, the nose points at the
-/// crossing of the axes. Locator 0 is a round plate, which cuts on every side.
+/// A tool in the quadrant of its locator. The holder comes from outside the dial, and the nose points at the crossing
+/// of the axes. Locator 0 is a round plate, which cuts on every side.
 class TuileOutil : public Tuile
 {
     Q_OBJECT
@@ -59,8 +59,8 @@ private:
     bool m_avant = false;
 };
 
-/// A dial: the axes X and Z, crossing in the midst of its tiles and behind them. X points away from the operator for a
-/// back turret and towards him for a front one.
+/// A dial: the axes X and Z, which cross in the middle of its tiles and are drawn under them. X points away from the
+/// operator for a back turret, and towards him for a front turret.
 class Cadran : public QWidget
 {
     Q_OBJECT

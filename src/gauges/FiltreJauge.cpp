@@ -33,7 +33,7 @@ constexpr Texte3 NouveauTitre{u"Valeur du correcteur", u"Value of the corrector"
 constexpr Texte3 NouveauTexte{u"Nouvelle valeur du correcteur (0 - ", u"New value of the corrector (0 - ",
                               u"Nuevo valor del corrector (0 - "};
 
-/// The hourglass, as long as it lives.
+/// Shows the hourglass as long as it lives.
 class Sablier
 {
 public:
@@ -42,7 +42,7 @@ public:
     Q_DISABLE_COPY_MOVE(Sablier)
 };
 
-/// Takes blank lines out. Of two in a row the second stays: it has moved to a place that is done.
+/// Removes blank lines. Of two in a row the second stays: it moves to a place that the loop has already passed.
 void ResserreLignes()
 {
     CalculeMaxi();
@@ -54,13 +54,13 @@ void ResserreLignes()
     CalculeMaxi();
 }
 
-/// True when a whole number can be a corrector's: up to NbCorrecteurs, and not below 16 bits.
+/// True if a whole number can be that of a corrector: not above NbCorrecteurs, and not below the range of 16 bits.
 bool EstPermis(double numero)
 {
     return numero <= ParamMac.NbCorrecteurs && numero >= std::numeric_limits<qint16>::min();
 }
 
-/// Tells the operator that a number is out of range, then asks him until one fits. Cancelling gives 0.
+/// Tells the operator that a number is out of range, then asks him until one is in it. Cancelling gives 0.
 double DemandeCorrecteur(double interdit, int outil)
 {
     QApplication::beep();
@@ -73,8 +73,8 @@ double DemandeCorrecteur(double interdit, int outil)
     return numero;
 }
 
-/// Reads a measure from its burst, the one at this place of the session.
-JaugeOutil LisMesure(const QString &salve, int place)
+/// Reads a measure from its burst. place: number of the burst in the session, from 1.
+JaugeOutil LitMesure(const QString &salve, int place)
 {
     JaugeOutil jauge;
     const double numero = std::nearbyint(Val(Champ(salve, ColonnesCorrecteur)));
@@ -85,10 +85,10 @@ JaugeOutil LisMesure(const QString &salve, int place)
     return jauge;
 }
 
-/// Reads the measures, one behind the other, from the bursts that hold one, and tells the operator what the others
-/// held. NbJauges is then the number of measures read: nothing stands in a gauge file that the bench has not measured.
-/// recues: the bursts as they came.
-void LisMesures(const TableLignes &recues, qsizetype enAttente)
+/// Reads the measures into Jauge from the bursts that hold one, and tells the operator about the others. NbJauges
+/// becomes the number of measures read, so that the gauge file holds nothing that the bench has not measured. recues:
+/// the bursts as they came. enAttente: see FiltreJauge().
+void LitMesures(const TableLignes &recues, qsizetype enAttente)
 {
     AvisMesures avis;
     int lues = 0;
@@ -99,11 +99,11 @@ void LisMesures(const TableLignes &recues, qsizetype enAttente)
             continue;
         }
         JaugeOutil &jauge = Jauges.Jauge(++lues);
-        jauge = LisMesure(salve, place);
+        jauge = LitMesure(salve, place);
         jauge.NonLuesAvant = place - lues;
         avis.Lue(place, recues(place), jauge);
     }
-    if (enAttente >= QStringView(MarqueMesure).size()) // less is no measure but the bell
+    if (enAttente >= QStringView(MarqueMesure).size()) // a shorter text is no measure, but the bell
         avis.NonDemandee(Jauges.NbJauges + 1, enAttente);
     Jauges.NbJauges = lues;
     avis.Montre(lues);
@@ -116,7 +116,7 @@ void FiltreJauge(qsizetype enAttente)
     std::optional<Sablier> sablier(std::in_place);
     const TableLignes recues = Lignes;
     Filtrage();
-    LisMesures(recues, enAttente); // while a burst still stands at its place of the session
+    LitMesures(recues, enAttente); // before the blank lines go: the entry is the number of the burst in the session
     ResserreLignes();
     if (Lignes.LigneMaxi == 0) {
         CreeFichierRecu(); // nothing but blanks has come

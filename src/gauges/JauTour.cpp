@@ -61,10 +61,11 @@ void JauTour::BrancheTuiles()
     EcritAuClic(Picture21, Text1);
     EcritAuClic(Picture1, Text2);
     EcritAuClic(Picture11, Text2);
-    // The captions cover the axes with the window's colour: that of buttons differs from it on a dark theme.
+    // The labels of the tiles cover the axes, so they take the colour of the window. That of buttons differs on a dark
+    // theme.
     for (QToolButton *const legende : findChildren<QToolButton *>())
         legende->setBackgroundRole(QPalette::Window);
-    // A round plate has no nose: on the front dial its locator takes the radius back as well.
+    // A round plate has no nose: on the front dial its locator also sets the radius to 0.
     for (const QAbstractButton *bouton : std::initializer_list<QAbstractButton *>{Picture20, Label8})
         connect(bouton, &QAbstractButton::clicked, Text1, [this] { Text1->setText(QStringLiteral("0")); });
     connect(Text1, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
@@ -80,7 +81,7 @@ void JauTour::Form_Activate()
     MontreMesure(QStringLiteral("   "));
 }
 
-/// intervalle: the blanks between the two parts of the caption.
+/// Shows the current measure and sets both boxes to 0. intervalle: the blanks between the two parts of the caption.
 void JauTour::MontreMesure(const QString &intervalle)
 {
     const JaugeOutil &jauge = Jauges.Jauge(OutilCadran);
@@ -96,7 +97,7 @@ void JauTour::MontreMesure(const QString &intervalle)
     Text1->selectAll();
 }
 
-/// The tiles whose values stand in the boxes, however the operator put them there.
+/// Checks the tiles whose values stand in the boxes, whichever way they came there.
 void JauTour::DesigneTuiles()
 {
     const auto tuiles = findChildren<Tuile *>();
@@ -107,8 +108,8 @@ void JauTour::DesigneTuiles()
     }
 }
 
-/// Enter goes from box to box and validates from the last one. Escape would leave tools with neither radius nor
-/// quadrant, which the machine would then use; so would a second stroke on Enter.
+/// Enter goes from the first box to the second, and there validates. Escape does nothing, and Enter held down counts
+/// once: either would otherwise leave tools without radius and quadrant, which the machine would use.
 void JauTour::keyPressEvent(QKeyEvent *touche)
 {
     if (touche->key() == Qt::Key_Escape)
@@ -123,7 +124,7 @@ void JauTour::keyPressEvent(QKeyEvent *touche)
     RetientTouches(this);
 }
 
-/// The close box leaves the tools that are not validated without radius and quadrant.
+/// Asks before the close box leaves tools without radius and quadrant.
 void JauTour::reject()
 {
     if (Confirme(Texte(FermerReste) + QString::number(Jauges.NbJauges - OutilCadran + 1) + Texte(FermerTexte),

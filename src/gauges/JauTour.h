@@ -3,9 +3,9 @@
 #include "platform/dialogues/DialogueCentre.h"
 #include "ui_JauTour.h"
 
-/// The dial of a lathe: for each measure, one after another, the operator gives what the bench cannot measure, the
-/// radius of the tool's nose and the quadrant in which it works. JauTourFait becomes true behind the last one. Closed
-/// before that, which it asks about, it leaves the measures that are not validated as they were.
+/// The dial of a lathe. For each measure, one after another, the operator gives what the bench cannot measure: the
+/// radius of the tool's nose and the quadrant in which it works. JauTourFait becomes true after the last one. If the
+/// operator closes it earlier, he is asked, and the measures that he has not validated stay as they were.
 ///
 /// Frame1: the current measure, whose number is its place in the session; ValeursMesure: its X and Z as the bench gave
 /// them, in mm, named by LabelMesure; Text1: radius, named by Label5; Text2: locator, named by Label6; Command1:

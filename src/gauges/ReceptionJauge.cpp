@@ -70,11 +70,12 @@ public:
     void Prepare();
     void PrendOutils();
     void Termine();
-    /// After a failure: the operator is no longer told what to do at the bench, the failure stays to be read.
+    /// After a failure: shows it in place of what the operator had to do at the bench.
     void MontreEchec(const Erreur &erreur) const;
-    /// Then what the disk does not hold may be saved elsewhere.
+    /// After a failure: offers to save elsewhere what the disk does not hold.
     void SauveReste() const;
-    /// The same for texte. The pane then shows what was saved, and never bears the name of a file that is not there.
+    /// Offers to save texte elsewhere. The pane then shows what was saved, and never bears the name of a file that does
+    /// not exist.
     void SauveAutrePart(const QString &texte, const OffreSauvegarde &offre = OffreLignesRecues()) const;
 
 private:
@@ -92,7 +93,7 @@ private:
     QString m_brut;            ///< all that has come, as the file holds it
     QString m_compteMontre;    ///< what MontreRecus() shows
     int m_ligne = 1;           ///< next free entry of Lignes
-    qsizetype m_enAttente = 0; ///< characters that wait for the operator to ask for their tool
+    qsizetype m_enAttente = 0; ///< characters that have come for a tool that was not asked for yet
 };
 
 void Seance::Prepare()
@@ -130,7 +131,7 @@ void Seance::PrendOutils()
     AnnonceLimite();
 }
 
-/// Waits for one measure and stores it. False when the operator has cancelled meanwhile.
+/// Waits for one measure and stores it. Returns false if the operator has cancelled meanwhile.
 bool Seance::Reception1Jauge()
 {
     m_vue.EchoLigne(QString());
@@ -146,9 +147,9 @@ bool Seance::Reception1Jauge()
     return true;
 }
 
-/// How many milliseconds the line is silent behind the last character of a burst: the time of a few characters, and at
-/// least as long as an adapter holds characters back. A shorter wait would end a burst without a fixed size between two
-/// of its characters. What follows the fixed size would begin the measure of the next tool.
+/// How many milliseconds of silence end a burst: the time of a few characters, and at least as long as an adapter holds
+/// characters back. A shorter silence would cut a burst without a fixed size between two of its characters. In a burst
+/// of a fixed size, the characters beyond that size would begin the measure of the next tool.
 qint64 Silence()
 {
     constexpr double caracteres = 4;
@@ -156,8 +157,8 @@ qint64 Silence()
     return std::lround(std::max(minimum, 1000 * caracteres / Controle().CaracteresParSeconde()));
 }
 
-/// One burst: at least TailleRecep characters, and then silence. A bell that is read alone is not part of it. A closed
-/// port gives none: the operator cancels.
+/// Waits for one burst: at least TailleRecep characters, and then silence. A bell that is read alone is no part of it.
+/// While the port is closed nothing comes, and the operator has to cancel.
 QString Seance::RecoitSalve()
 {
     const QString cloche(QChar(7));
@@ -193,7 +194,8 @@ void Seance::AnnonceMesure()
     m_vue.Consigne(u'\r' + Texte(RecueDebut) + recue + Texte(RecueSuite));
 }
 
-/// What the bench sends meanwhile belongs to the next tool.
+/// Waits until the operator asks for the next tool, ends or cancels. What the bench sends meanwhile belongs to the next
+/// tool.
 void Seance::AttendOperateur()
 {
     m_enAttente = 0;
@@ -206,7 +208,7 @@ void Seance::AttendOperateur()
     }
 }
 
-/// Characters that nobody has read yet. A bench that was unplugged behind its measure is no failure.
+/// The number of characters that wait to be read. A bench that was unplugged after its measure is no failure.
 qsizetype Seance::EnAttente()
 {
     qsizetype recus = 0;
@@ -214,7 +216,7 @@ qsizetype Seance::EnAttente()
     return recus;
 }
 
-/// Counts the characters of the measure under way beside those of a whole one, so that a burst that breaks off is seen.
+/// Shows how many characters of the measure have come, out of how many, so that a burst that breaks off can be seen.
 void Seance::MontreRecus(int outil, qsizetype recus)
 {
     const auto nombre = static_cast<int>(recus);
@@ -245,7 +247,7 @@ void Seance::AnnonceLimite()
     QApplication::beep();
     const QString fin = QString::number(ParamMac.NbCorrecteurs) + QStringLiteral(" !");
     m_vue.Statut(Limite, fin);
-    m_vue.Consigne({}); // no further tool is to be preset
+    m_vue.Consigne({}); // there is no further tool to preset
     MsgBox(Texte(Limite) + fin, Boite::Critique, Texte(LimiteTitre));
 }
 
@@ -294,7 +296,7 @@ void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) 
         PerdNomRecu();
 }
 
-/// What the operator is asked when the gauges, with all that he typed at the dial, stand on no disk.
+/// What the operator is asked when the gauges, with all that he has typed at the dial, could not be written.
 OffreSauvegarde OffreJauges(const JaugesNonEcrites &erreur)
 {
     return {Texte(JaugesTitre),

@@ -2,7 +2,7 @@
 
 #include "locale/Langue.h"
 
-/// Beside a box in mm in which a comma was typed.
+/// Shown beside a box in mm in which a comma was typed.
 inline constexpr Texte3 VirguleRefusee{u"Les décimales s'écrivent derrière un point : 0.4",
                                        u"Decimals are written behind a point: 0.4",
                                        u"Los decimales se escriben detrás de un punto: 0.4"};

@@ -33,7 +33,7 @@ constexpr Texte3 RienNePart{u" Rien du programme ne partirait.", u" Nothing of t
 constexpr Texte3 PartieSeule{u" Partiraient seulement : %1 sur %2.", u" Only this would go out: %1 of %2.",
                              u" Saldrían solamente: %1 de %2."};
 
-// The port and the speed stand behind these.
+// PortUtilise follows each of these.
 constexpr Texte3 Incomplete{u"Configuration incomplète : la charger ou l'enregistrer de nouveau. ",
                             u"Incomplete configuration: load or save it again. ",
                             u"Configuración incompleta: cargarla o registrarla de nuevo. "};
@@ -66,7 +66,7 @@ bool EstFin(QChar c)
     return c == u'\r' || c == u'\n';
 }
 
-/// Lines as an operator counts them, whatever ends them.
+/// The number of lines as an operator counts them: CR, LF and CR LF each end a line.
 qint64 NombreLignes(const QString &texte)
 {
     qint64 lignes = 0;
@@ -77,17 +77,17 @@ qint64 NombreLignes(const QString &texte)
     return lignes + (texte.isEmpty() || EstFin(texte.back()) ? 0 : 1);
 }
 
-/// The first line of texte that is not mute; empty when there is none.
+/// The first line of texte with something to read, from its first visible character on. Empty if there is none.
 QString PremiereLigne(const QString &texte)
 {
-    constexpr qsizetype place = 200; // characters; more than any window shows of it
+    constexpr qsizetype place = 200; // characters, more than any window shows
     const auto *const debut =
         std::find_if(texte.begin(), texte.end(), [](QChar c) { return !EstMuet(QStringView(&c, 1)); });
     const auto *const fin = std::find_if(debut, texte.end(), EstFin);
     return QString(debut, std::min<qsizetype>(fin - debut, place));
 }
 
-/// The sending line by line would leave out some of the text: why, and what would go out.
+/// The warning that the sending line by line would leave out some of the text: why, and what would go out.
 QString SansToutesLesLignes(const LignesEnvoyees &lignes)
 {
     if (lignes.nombre == 0)
@@ -117,8 +117,8 @@ const Texte3 &Defaut(const EtatConfiguration &etat)
     return etat.fiche == EtatConfiguration::Incomplete ? Incomplete : etat.neuve ? Neuve : NonAppliquee;
 }
 
-/// What is in force is one configuration, applied, which the file that is shown does not hold, also where the labels
-/// go on naming a former one.
+/// The warning that a whole and applied configuration does not stand in the file that the labels name. Empty if it
+/// does.
 QString SansFichierEntier(const EtatConfiguration &etat)
 {
     return etat.malEcrite ? Texte(MalEcrite) : etat.neuve ? Texte(SansFichier) : QString();

@@ -2,11 +2,13 @@
 
 class VueTransfert;
 
-// What stands in the line Bilan of the transfer dialog before a transfer of the mode TypeTransfert: of a sending, what
-// will go out; of any transfer, whether the configuration is one. It is looked at anew each time.
+// What the line Bilan of the transfer dialog says before a transfer of the mode TypeTransfert. Before a sending it says
+// what will go out. Before any transfer it warns of a configuration that is not what it seems. Each call looks at the
+// text and at the configuration anew.
 
 void MontreApercu(VueTransfert &vue);
 
-/// Shows it, and asks the operator whether to go on where something in it is a warning: an empty text, more lines than
-/// the sending line by line takes, a configuration in pieces. No is the default. True when he may go on.
+/// Shows it. If it warns of an empty text, of more lines than the sending line by line takes, or of a configuration
+/// that is incomplete or was not applied, the operator is asked whether to go on; the default is No. Returns true if
+/// the transfer may go on.
 bool ConfirmeApercu(VueTransfert &vue);

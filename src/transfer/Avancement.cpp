@@ -8,8 +8,8 @@
 namespace {
 
 constexpr qint64 PasAffichage = 200;  // milliseconds between two repaints
-constexpr qint64 PremierTemps = 1000; // milliseconds before the pace tells anything
-constexpr int Pleine = 1000;
+constexpr qint64 PremierTemps = 1000; // milliseconds; before that the pace says too little about the time left
+constexpr int Pleine = 1000;          // the full bar
 
 constexpr Texte3 Reste{u"%1  -  reste %2", u"%1  -  %2 left", u"%1  -  faltan %2"};
 

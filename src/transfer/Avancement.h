@@ -5,18 +5,18 @@
 
 class VueTransfert;
 
-/// Shows how far a transfer is, with the time that it will still take at its pace so far. It repaints a few times a
+/// Shows in the progress bar how far a transfer is, and the time left at its pace so far. It repaints a few times a
 /// second at most, so that the line never waits for the screen.
 class Avancement
 {
 public:
     /// Shows the bar at 0. total: characters of the transfer; 0 hides the bar.
     Avancement(VueTransfert &vue, qint64 total);
-    /// The bar goes on saying how far it went; no time is left.
+    /// The bar keeps the percentage reached. The time left goes.
     ~Avancement();
     Q_DISABLE_COPY_MOVE(Avancement)
 
-    /// faits: characters that have gone. Nothing of total but 0 to total counts.
+    /// faits: characters sent so far. A number outside 0 to total counts as the nearer of the two.
     void Montre(qint64 faits);
 
 private:
@@ -27,7 +27,7 @@ private:
     VueTransfert &m_vue;
     qint64 m_total;
     qint64 m_faits = 0;
-    int m_place = 0; // of the bar, 0 to Pleine
+    int m_place = 0; // position of the bar, 0 to Pleine
     qint64 m_dernierAffichage = -1;
     QElapsedTimer m_depuis;
 };

@@ -16,15 +16,15 @@ namespace {
 
 using Lignes = CompteursLigne;
 
-/// What the transfer under way has cost so far, beside what the port counts.
+/// What the running transfer has lost so far, apart from what the port counts.
 struct Pertes
 {
     QElapsedTimer depuis;
     std::array<qint64, 3> caracteres{}; ///< by Perte
     bool finCollee = false;             ///< see NoteFinCollee()
-    bool finJetee = false;              ///< the end of transfer was dropped, and no line has come behind it
+    bool finJetee = false;              ///< the end of transfer was dropped, and no line has come since
     bool sansPort = false;              ///< see NotePort()
-    bool nouvelles = false;             ///< since they were shown
+    bool nouvelles = false;             ///< something was lost since the last showing
 
     qint64 &operator[](Perte perte) { return caracteres[static_cast<std::size_t>(perte)]; }
 };
@@ -38,7 +38,7 @@ struct Faute
     Nom3 nom;
 };
 
-/// Faults that have one remedy.
+/// Faults that have the same remedy.
 struct Remede
 {
     std::array<Faute, 3> fautes;
@@ -110,7 +110,7 @@ constexpr Texte3 SansPort{u"Le port Com%1 n'est pas ouvert !", u"Port Com%1 is n
                           u"¡El puerto Com%1 no está abierto!"};
 constexpr Texte3 DeuxPoints{u" : ", u": ", u": "};
 
-/// Each line drops what stands behind it, be it nothing: what the last one dropped counts.
+/// Each line end reports what was dropped after it, even if that is nothing. Only the last report counts.
 void NoteFinJetee(const QString &caracteres)
 {
     const bool jetee = !ParamCom.ChaineFinTrans.isEmpty() && caracteres.contains(ParamCom.ChaineFinTrans);
@@ -118,7 +118,7 @@ void NoteFinJetee(const QString &caracteres)
     pertes.finJetee = jetee;
 }
 
-/// The faults of a remedy that have occurred, counted, and the remedy; nothing when there are none.
+/// The faults of a remedy that have occurred, with their counts, and then the remedy. Empty if there are none.
 QString EnClair(const Remede &remede, const Lignes &comptes)
 {
     QStringList fautes;
@@ -149,7 +149,7 @@ QString PortFerme()
     return Texte(SansPort).arg(ParamCom.NumPort);
 }
 
-/// How much has passed, in what time.
+/// How much has passed in what time, or that the port is not open.
 QString Passe(bool emission)
 {
     if (pertes.sansPort)

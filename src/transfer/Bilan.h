@@ -5,45 +5,45 @@
 
 class VueTransfert;
 
-// The line Bilan of the transfer dialog: before a transfer what will go out (see Apercu), behind it what has happened,
-// which Label2 does not know: it says "success" whatever was lost on the way.
+// The line Bilan of the transfer dialog. Before a transfer it says what will go out (see Apercu), afterwards what has
+// happened. The status does not tell that: it says "success" whatever was lost on the way.
 
-/// True when texte holds nothing that can be read: blanks and control characters.
+/// True if texte holds nothing but blanks and control characters.
 bool EstMuet(QStringView texte);
 
-/// A transfer begins: what is counted from here on is its own.
+/// A transfer begins: all counts start at zero.
 void DebuteBilan();
 
-/// The port should be open by now. Where it is not, the line says so, at the end too.
+/// To be called when the port should be open. If it is not, the line says so, now and at the end.
 void NotePort(VueTransfert &vue);
 
-/// Why characters that have come are not in the file of a reception.
+/// Why received characters are not in the file of a reception.
 enum class Perte {
-    Jetes,      ///< they stood behind a line end, where the reception empties the port
-    SansFin,    ///< the line under way had no end
-    Debordement ///< the port was emptied since the system had lost some already
+    Jetes,      ///< they came after a line end, where the reception empties the port
+    SansFin,    ///< they belong to a line without an end
+    Debordement ///< the port was emptied after the system had lost characters
 };
 
-/// The reception drops caracteres. What no program misses does not count: the end of transfer or its tail, and what is
-/// mute. An end of transfer among them is told as long as the reception waits for it.
+/// The reception drops caracteres. Blanks, control characters, the end of transfer and its tail are not counted, since
+/// no program misses them. If an end of transfer is among them, the line says so as long as the reception waits for it.
 void NotePerte(Perte perte, const QString &caracteres);
 
-/// The end of transfer has come in one reading with a line, where the reception by line does not see it: it waits on,
-/// and the operator has to force the end.
+/// The end of transfer has come in the same reading as a line. The reception by line does not recognize it there: it
+/// goes on waiting, and the operator has to force the end.
 void NoteFinCollee();
 
-/// What has gone wrong so far.
+/// Shows what has gone wrong so far.
 void MontreFautes(VueTransfert &vue);
-/// Same, where a reception has dropped something since the last showing. It costs nothing where it has not.
+/// Same, but only if a reception has dropped something since the last showing. Otherwise the call costs nothing.
 void MontreNouvellesPertes(VueTransfert &vue);
 
-/// How a transfer has ended. A reception that failed has left no whole file, whatever came.
+/// How a transfer has ended. After ReceptionRompue there is no whole file, whatever was received.
 enum class Issue { Emis, EmissionRompue, Recu, ReceptionRompue };
 
-/// How much has passed, in what time, whether the operator forced the end, and what went wrong, with what can be done
-/// about it. manques: sentences on what did not go out, the whole program above all.
+/// Shows how much has passed in what time, whether the operator forced the end, and what went wrong, with its remedy.
+/// manques: sentences about what was not sent.
 void MontreBilan(VueTransfert &vue, Issue issue, const QStringList &manques = {});
 
-/// What a reception that failed had received stands in chemin now: MontreBilan() with that place, its middle cut where
-/// it is too long for a line.
+/// What a failed reception had received was saved as chemin: MontreBilan() with that path before it. A path that is too
+/// long for a line is cut in its middle.
 void MontreSauve(VueTransfert &vue, const QString &chemin);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The menu commands that transfer. A sending asks for confirmation and opens the transfer dialog; a reception first
-// asks for the file, the folder and the line ending.
+// The menu commands that start a transfer. A sending asks for confirmation and opens the transfer dialog. A reception
+// first asks for the file, the folder and the line end.
 
 void Mnu_EmisProgCN(); ///< sends the program in the pane
 void Mnu_EmisJauge();  ///< sends the gauge file in the pane

@@ -112,11 +112,13 @@ Em_Rc::Em_Rc(QWidget *parent, RoutineReception banc)
 {
     setupUi(this);
     AppliqueLegendes(this);
-    GardePlaces({Progression, Label3, Label4, Frame2, BilanSigne}); // lines above the buttons
-    Label2->setMinimumHeight(Label2->fontMetrics().lineSpacing());  // empty, it would let the others move up
+    // The buttons must not move when one of these is hidden, nor when the status is empty.
+    GardePlaces({Progression, Label3, Label4, Frame2, BilanSigne});
+    Label2->setMinimumHeight(Label2->fontMetrics().lineSpacing());
     PrepareBilan();
-    UnClic(Command2); // a short program has gone between the two strokes of a double click
-    UnClic(Command5); // and so has a measure that was waiting; behind the last tool only a further one could end it
+    // A double click would send a short program twice, and at the bench it would ask for two tools if a measure waits.
+    UnClic(Command2);
+    UnClic(Command5);
     connect(Command1, &QPushButton::clicked, this, &Em_Rc::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &Em_Rc::Command2_Click);
     connect(Command3, &QPushButton::clicked, this, &Em_Rc::Command3_Click);
@@ -126,8 +128,8 @@ Em_Rc::Em_Rc(QWidget *parent, RoutineReception banc)
     connect(Command7, &QPushButton::clicked, this, &Em_Rc::Command7_Click);
 }
 
-/// The activation that starts things comes once, when the dialog is on the screen: coming back from a message box or
-/// from another program is none. What it starts runs from the event loop, with the dialog shown.
+/// Form_Activate() runs once, when the dialog comes onto the screen, and not when the operator comes back from a
+/// message box or another program. A reception that it starts runs from the event loop, when the dialog can be seen.
 void Em_Rc::showEvent(QShowEvent *evenement)
 {
     QDialog::showEvent(evenement);
@@ -136,7 +138,7 @@ void Em_Rc::showEvent(QShowEvent *evenement)
     Form_Activate();
     adjustSize(); // the mode has hidden some of its parts
     CentreFeuille(this);
-    MontreApercu(m_vue); // cut to the width that it has now
+    MontreApercu(m_vue); // last, since it cuts its text to the width of the dialog
 }
 
 void Em_Rc::Form_Activate()
@@ -154,8 +156,9 @@ void Em_Rc::Form_Activate()
     MontreMode();
 }
 
-/// Room for what most transfers have to say, so that nothing moves: what is more can be scrolled, with the keys too.
-/// And the errors of the line as they come, which the main window shows only for a moment.
+/// The line Bilan has a fixed height, enough for most transfers, so that nothing moves. A longer text can be scrolled,
+/// with the keys too. Errors of the line are shown there as they come, since the main window shows them only for a
+/// moment.
 void Em_Rc::PrepareBilan()
 {
     constexpr int lignes = 4;
@@ -208,7 +211,7 @@ RoutineReception Em_Rc::Routine() const
 void Em_Rc::CommenceReception()
 {
     const EnTransfert enTransfert;
-    setFocus(); // or the button that cancels would have it when the box closes, and a second stroke would press it
+    setFocus(); // not on the cancel button, which a second stroke would press when the box has closed
     if (!ConfirmeTransfert(Transfert.TypeTransfert) || !ConfirmeApercu(m_vue)) {
         done(Rejected);
         return;
@@ -220,7 +223,7 @@ void Em_Rc::CommenceReception()
     if (Transfert.TypeTransfert == ReceptionBanc)
         return;
     Command1->setFocus();
-    Command7->setEnabled(false); // there is no end left to be forced
+    Command7->setEnabled(false); // the reception is over
     RetientTouches(this);
 }
 
@@ -242,8 +245,8 @@ void Em_Rc::Command2_Click()
         return;
     const EnTransfert enTransfert;
     DebuteBilan();
-    // A second click would start a second sending inside the first. The focus of a button that is disabled would pass
-    // to the cancel button, where a second stroke of the space bar would end the sending.
+    // A second click would start a second sending inside the first, so the button is disabled. Its focus would then
+    // pass to the cancel button, where a second stroke of the space bar would end the sending.
     setFocus();
     Command2->setEnabled(false);
     if (ParamCom.TypeEnvoi == EnvoiLignes)
@@ -253,7 +256,7 @@ void Em_Rc::Command2_Click()
     RetireDemande();
     Command2->setEnabled(true);
     Command2->setFocus();
-    RetientTouches(this); // a short program would go many times over while a hand leans on Enter
+    RetientTouches(this); // Enter held down would send a short program again and again
 }
 
 void Em_Rc::Command3_Click()
@@ -262,7 +265,7 @@ void Em_Rc::Command3_Click()
         MontreConfigurationChoisie();
         ChoisitFinLigneRecep();
     });
-    MontreApercu(m_vue); // a file that breaks off has changed the configuration too
+    MontreApercu(m_vue); // a file that could not be read to its end has changed the configuration too
 }
 
 void Em_Rc::Command5_Click()
@@ -278,15 +281,16 @@ void Em_Rc::Command6_Click()
 
 void Em_Rc::Command7_Click()
 {
-    // The reception stands still until the box is answered; it must not begin on top of it.
+    // The reception waits until the box is answered. No receive event may start the gathering on top of the box.
     const MSComm::SansEvenements sansEvenements(*frmPrinc->MSComm1);
     setFocus(); // a second stroke would ask again
     if (Confirme(Texte(ForcerTexte), Boite::Question | Boite::SecondBouton, Texte(ForcerTitre)))
         Transfert.ForceRECEPT = true;
 }
 
-/// Escape and the window's close box lie near and end what no one can bring back. The buttons say what they do. The
-/// machine sends on while the question stands, and the routine goes on taking what comes.
+/// Escape and the close box are easily hit by mistake, and a transfer that has ended cannot be resumed; so they ask
+/// first. The buttons say what they do, and do not ask. The machine goes on sending while the question is open, and the
+/// routine goes on receiving.
 void Em_Rc::reject()
 {
     if (TransfertEnCours())
@@ -298,7 +302,7 @@ void Em_Rc::reject()
 
 void Em_Rc::done(int resultat)
 {
-    // The end of a bench reception is the one close that does not cancel.
+    // Every way of closing cancels but one: the end of a bench reception.
     if (resultat == Rejected)
         Transfert.AnnuleRECEPT = true;
     RetireDemande();

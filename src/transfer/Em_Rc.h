@@ -23,11 +23,11 @@ public:
     /// What a routine sees of the dialog.
     VueTransfert &Vue() { return m_vue; }
 
-    /// Closing, by whatever way: never on an open port. A routine of the dialog that still runs meets the closed port;
-    /// the dialog lives, unseen, until that routine has returned.
+    /// Closes the port and then the dialog, whichever way the operator has chosen. A routine that still runs finds the
+    /// port closed. The dialog stays alive, unseen, until that routine has returned.
     void done(int resultat) override;
 
-    /// Escape, the close box and the window manager close so: a transfer under way ends only if the operator says Yes.
+    /// Called for Escape, the close box and the window manager. A running transfer ends only if the operator says Yes.
     void reject() override;
 
 protected:
@@ -45,10 +45,10 @@ private:
 
     void PrepareBilan();
     void MontreMode();
-    /// By the mode and the configuration; nullptr where the configuration names none.
+    /// The routine that receives, by the mode and the configuration; nullptr if the configuration names none.
     RoutineReception Routine() const;
-    /// Asks for confirmation and runs the reception; returns when the routine returns, perhaps long after the dialog
-    /// has been closed.
+    /// Asks for confirmation and runs the reception. Returns when the routine returns, perhaps long after the dialog
+    /// was closed.
     void CommenceReception();
     void MontreConfigurationChoisie();
 

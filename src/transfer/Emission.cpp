@@ -35,10 +35,10 @@ constexpr Texte3 EnvoyeEnPartie{u"Le programme n'est pas parti en entier : %1 su
                                 u"The program has not gone out whole: %1 of %2 !",
                                 u"El programa no ha salido entero: ¡%1 de %2!"};
 
-constexpr int BlocParDefaut = 512; // for a configuration whose transmit buffer holds nothing
+constexpr int BlocParDefaut = 512; // characters, for a configuration whose transmit buffer has the size 0
 
-/// One sending: the steps that both ways share, and the progress that the operator sees. What the next text would
-/// replace before he has read it is not shown; the last one is, as soon as none follows.
+/// One sending: the steps that both ways share, and the progress that the operator sees. A text that the next one would
+/// replace before he can read it is not shown. The last text is always shown.
 class Emission
 {
 public:
@@ -52,7 +52,7 @@ public:
     void Ecrit(const QString &texte);
     void Attend();
     void Fin();
-    /// texte has to live as long as this.
+    /// texte: has to live as long as this object.
     void Statut(const Texte3 &texte, const QString &suite = {});
     void Echo(const QString &texte);
 
@@ -77,7 +77,7 @@ Emission::Emission(VueTransfert &vue, qint64 total)
     m_vue.DebuteEmission();
 }
 
-/// A failure leaves the last text to be read; a cancel has closed the port and said so.
+/// After a failure the last text is shown. After a cancel the port is closed, and the text that says so stays.
 Emission::~Emission()
 {
     if (Controle().PortOpen())
@@ -106,8 +106,8 @@ void Emission::Ecrit(const QString &texte)
     m_ecrits += texte.size();
 }
 
-/// What a machine says during a sending, an echo above all, is for nobody. In full buffers it would stand before an XON
-/// or XOFF, and make us hold the machine back in turn.
+/// Throws away what the machine sends meanwhile, mostly an echo. In a full receive buffer it would keep an XON or XOFF
+/// from being read, and the control would hold the machine back.
 void EcarteReponses()
 {
     MSComm &controle = Controle();
@@ -117,7 +117,7 @@ void EcarteReponses()
     }
 }
 
-/// One turn of a wait, which lasts for as long as the machine holds the line or until the operator cancels.
+/// One turn of a wait. The wait lasts as long as the machine holds the line, or until the operator cancels.
 void Emission::Tourne()
 {
     CedeLaMain();
@@ -137,8 +137,8 @@ void Emission::Attend()
     } while (restent != 0);
 }
 
-/// Waits until the system holds nothing any more. An unplugged device holds nothing either; the check after the loop
-/// tells the two apart.
+/// Waits until the system has sent everything. An unplugged device also reports nothing pending; the check after the
+/// loop tells the two apart.
 void Emission::AttendLigne()
 {
     int enRoute = 0;
@@ -207,7 +207,8 @@ void EnvoieBlocs(Emission &emission, const QString &texte)
     }
 }
 
-/// The entry as it goes out. Every entry but the first has at its head the LF that the cut before it left.
+/// Brings an entry into the form in which it is sent. Every entry but the first begins with the LF of the line end
+/// before it, see CalculeLigne().
 void PrepareLigne(int numero)
 {
     QString &ligne = Lignes(numero);
@@ -231,7 +232,8 @@ void EnvoieLignes(Emission &emission)
     }
 }
 
-/// Characters that the lines of the table will send, but for blanks at the ends of the text.
+/// The number of characters that the lines of the table will send. Blanks at the ends of the text count, though they
+/// are not sent.
 qint64 TailleLignes()
 {
     qint64 total = 0;
@@ -248,7 +250,7 @@ void Termine(VueTransfert &vue, const QStringList &manques)
     MontreBilan(vue, Issue::Emis, manques);
 }
 
-/// What a sending of texte has left undone that Label2 calls a success.
+/// What of texte was not sent, although the status says success.
 QStringList Manques(const QString &texte)
 {
     QStringList manques;
@@ -262,7 +264,7 @@ QStringList Manques(const QString &texte)
 
 void Echoue(const Erreur &erreur, VueTransfert &vue)
 {
-    MontreBilan(vue, Issue::EmissionRompue); // ahead of the box, for whose time nothing is sent
+    MontreBilan(vue, Issue::EmissionRompue); // before the box, since its time is no part of the transfer
     ErreurPortCOM(erreur, vue);
 }
 

@@ -51,7 +51,7 @@ void AcheveReception(VueTransfert &vue)
 
 void EchoueReception(const Erreur &erreur, VueTransfert &vue, const QString &recu)
 {
-    Transfert.FinTransfert = false; // the end may have come, but the file has not: the name is asked for once more
+    Transfert.FinTransfert = false; // the end may have come, but there is no file: Rc_Fic asks for a name once more
     MontreBilan(vue, Issue::ReceptionRompue);
     ErreurPortCOM(erreur, vue);
     if (const QString chemin = SauveAilleurs(recu); !chemin.isEmpty())

@@ -27,7 +27,7 @@ struct TexteEvenement
 namespace E = EvenementPort;
 
 // The control does not raise all of them, see EvenementPort. The texts of the others stay, since the operators' papers
-// list them by number; a code without a text would be told as unknown.
+// list them by number. A code without a text would be shown as unknown.
 constexpr TexteEvenement Textes[] = {
     {E::Reception,
      Evenement,

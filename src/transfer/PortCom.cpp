@@ -24,7 +24,7 @@ constexpr Texte3 SansDroit{
     u"\rLos puertos serie están reservados al grupo dialout. Inscribirse una vez, en un terminal:\r"
     u"    sudo adduser $USER dialout\rluego cerrar la sesión y volver a abrirla."};
 
-/// Closes the port for an operator who has turned away from the transfer.
+/// Closes the port after the operator has cancelled. A failure is not told.
 void FermeSansMessage()
 {
     Saute([] { Controle().setPortOpen(false); });
@@ -56,7 +56,7 @@ void OuvrePortCOM()
         frmPrinc->MontrePort(true);
         frmPrinc->PortOuvert = true;
     } catch (const Erreur &erreur) {
-        // The failure names the device; here stands how to get the right to it.
+        // The text of the failure names the device. The advice says how to get access to it.
         const QString conseil = erreur.Numero() == Erreur::AccesRefuse ? Texte(SansDroit) : QString();
         MontreErreur(erreur, TexteErreur(erreur) + conseil);
     }

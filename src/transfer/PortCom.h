@@ -5,16 +5,16 @@
 class MSComm;
 class VueTransfert;
 
-// The session on the serial port: a transfer opens it with the settings of ParamCom, runs, and closes it.
+// The session on the serial port. A transfer opens the port with the settings of ParamCom, runs, and closes it.
 
 /// The serial control of the main window.
 MSComm &Controle();
 
-/// Gives the control the settings of ParamCom and opens the port if it is closed. A failure is told to the operator and
-/// leaves the steps behind it undone; the routine that follows meets the closed port at its first operation.
+/// Gives the control the settings of ParamCom and opens the port if it is closed. A failure is told to the operator,
+/// and the remaining steps are left out. The transfer routine then finds the port closed.
 void OuvrePortCOM();
 
-/// Closes the port if it is open. A failure is told to the operator and has its cancelling button read "Close".
+/// Closes the port if it is open. A failure is told to the operator, and the cancel button then reads "Close".
 void FermePortCOM(VueTransfert &vue);
 
 /// The end of a transfer routine that failed: tells the operator and closes the port.

@@ -41,7 +41,7 @@ constexpr Mode Modes[] = {
      {u"Réception d'un fichier jauges outils", u"Receiving of a file gauges tools",
       u"Recepción de un fichero Cabidas instrumentos"}},
     {ReceptionBanc,
-     nullptr, // that of the machine's configuration
+     nullptr, // the extension of the machine's configuration
      {u"Création d'un fichier jauges outils", u"Creation of a file gauges tools",
       u"Creación de un fichero Cabidas instrumentos"}},
 };
@@ -116,8 +116,9 @@ void Rc_Fic::MontreFinLigne()
     options[Transfert.OptionFinLig]->setChecked(true);
 }
 
-/// What the mode and the configuration say, whenever the dialog has come back from another one. The extension was
-/// offered when it was loaded, and is the operator's from then on: a second try must not go to another name.
+/// Shows what depends on the mode and the configuration, at first and whenever a dialog on top of this one has closed.
+/// The extension is no part of it: Form_Load() offers one, and what the operator makes of it holds for a second try
+/// too.
 void Rc_Fic::Form_Activate()
 {
     Label4->setText(ConfigurationEnClair());
@@ -145,7 +146,7 @@ void Rc_Fic::Command3_Click()
 {
     const bool programmes = Transfert.TypeTransfert == ReceptionProgramme;
     DosProg dialogue(programmes ? DossierProgrammes : DossierJauges, this);
-    MontreDossier(); // one that has gone has been replaced
+    MontreDossier(); // DosProg has replaced a folder that no longer exists
     PoseTexte(&dialogue, programmes ? DossierDeProgrammes : DossierDeJauges);
     connect(&dialogue, &DosProg::DossierChoisi, this, &Rc_Fic::MontreDossier);
     dialogue.exec();

@@ -5,8 +5,7 @@
 
 #include <QDialog>
 
-/// The modal dialog that stands before every reception: name, extension and folder of the file, configuration, line
-/// ending.
+/// The modal dialog that precedes every reception: name, extension and folder of the file, configuration, line end.
 ///
 /// Label1 and Label2 name Text1 (file name) and Combo1 (extension); Label3: folder; Label4: current configuration;
 /// Option1_0 to Option1_3: line ending; Command1: give up; Command2: receive; Command3: other folder; Command4: other

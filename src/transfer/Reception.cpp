@@ -22,7 +22,7 @@ namespace {
 constexpr Texte3 TropDeLignes{u"La réception dépasse 25000 lignes.", u"The reception exceeds 25000 lines.",
                               u"La recepción sobrepasa 25000 líneas."};
 
-/// The label of a line end: what stands before the number and behind it.
+/// The status at a line end: the texts before and behind the number.
 struct TexteLigne
 {
     Texte3 avant;
@@ -30,7 +30,7 @@ struct TexteLigne
     int suivante; ///< 1: the number is that of the next line
 };
 
-// Reception by line has no blank of its own before the number.
+// The text of the reception by line has no blank of its own before the number.
 constexpr TexteLigne FinLigneCar{
     {u"Fin de ligne ", u"End of line ", u"Final de línea "}, {u" détectée", u" detected", u" detectada"}, 0};
 constexpr TexteLigne FinLigneLigne{
@@ -45,19 +45,20 @@ public:
     {
     }
 
-    /// Puts Ligne, with fin behind it, into the table, empties it and goes on to the next.
+    /// Puts Ligne, with fin behind it, into the table, and begins the next line.
     void Range(const QString &fin = QString());
-    /// What no longer fits the table ends the reception: raises IndiceHorsPlage.
+    /// Raises IndiceHorsPlage when the table is full.
     void ExigePlace() const;
     void MontreFinLigne(const TexteLigne &texte);
     void MontreEcho(const QString &ligne, const QString &lu);
-    /// True for a character that others follow already and whose echo the eye could not read.
+    /// True if the echo of a character can be left out: further characters wait, and the last echo has only just been
+    /// drawn.
     bool EchoSuperflu();
-    /// A turn of the wait has brought lu. What was lost is shown once the line is silent: drawn while characters come,
-    /// it would let more of them gather behind the next line end.
+    /// To be called at each turn of a wait, with what was read. Losses are shown when the line is silent: drawing takes
+    /// time, in which further characters would gather behind the next line end and be lost too.
     void Guette(const QString &lu);
 
-    /// The machine gets its end string back, the port closes, and the file is written and stands in the pane.
+    /// Sends the machine its end-of-transfer string, closes the port, writes the file and opens it in the pane.
     void Termine();
 
     /// All that has been received, an unfinished line included.
@@ -115,7 +116,7 @@ bool Remplissage::EchoSuperflu()
 void Remplissage::Termine()
 {
     const QString reste = Controle().VideReception();
-    if (Transfert.ForceRECEPT) // else it stands behind the end
+    if (Transfert.ForceRECEPT) // otherwise it came after the end of transfer
         NotePerte(Perte::Jetes, reste);
     NotePerte(Perte::SansFin, Ligne);
     Transfert.FinTransfert = true;
@@ -148,7 +149,8 @@ QString FinLigneCherchee()
     return plusieurs ? CaracteresFinLigne(static_cast<TypeFinLigne>(ParamCom.TypeFinLig)) : ParamCom.ChaineFinLig;
 }
 
-/// Of a line end of several characters the last one ends the line; their order on the line is not looked at.
+/// In a line end of several characters the last one ends the line, and the others are swallowed, in whatever order they
+/// come.
 EffetFinLigne Effet(const QString &car, const QString &fin)
 {
     const bool unSeul = ParamCom.TypeFinLig == FinLigLf || ParamCom.TypeFinLig == FinLigCr;
@@ -157,7 +159,8 @@ EffetFinLigne Effet(const QString &car, const QString &fin)
     return fin.endsWith(car) ? EffetFinLigne::Termine : EffetFinLigne::Avale;
 }
 
-/// Reads of one character, whatever NbCarLecture says: the tests compare a read with single characters.
+/// While it lives, Input() gives one character at a time, whatever NbCarLecture says: Effet() looks at single
+/// characters.
 class LectureParCaractere
 {
 public:
@@ -167,7 +170,7 @@ public:
     LectureParCaractere &operator=(const LectureParCaractere &) = delete;
 };
 
-/// Waits for the next character; an empty one when the operator has cancelled or forced the end.
+/// Waits for the next character. Returns an empty text when the operator has cancelled or forced the end.
 QString AttendCaractere(Remplissage &table)
 {
     QString car;
@@ -211,7 +214,7 @@ void EmplitParCaractere(Remplissage &table)
     }
 }
 
-/// Reads until the buffer ends with a line end or the end of transfer, or the operator ends the wait.
+/// Reads until the line under way ends with a line end or the end of transfer, or the operator ends the wait.
 void AttendLigne(Remplissage &table)
 {
     QString &recu = table.Ligne;
@@ -227,7 +230,8 @@ void AttendLigne(Remplissage &table)
              !Transfert.AnnuleRECEPT && !Transfert.ForceRECEPT);
 }
 
-/// What is cut is a line end only where it was not the end of transfer behind a line that ended the wait.
+/// Cuts as many characters as a line end has. If the wait was ended by an end of transfer that came together with a
+/// line, these are characters of that line, and count as lost.
 void RetireFinLigne(QString &recu)
 {
     if (recu.endsWith(ParamCom.ChaineFinTrans) && !ParamCom.ChaineFinLig.endsWith(ParamCom.ChaineFinTrans))

@@ -22,19 +22,21 @@
 
 namespace {
 
-constexpr Texte3 Attente3{u"En attente de réception...", u"On standby of receiving...", u"En espera de recepción..."};
-constexpr Texte3 Attente4{u"Réception jusqu'à caractère de fin de transfert...",
-                          u"Receiving until character of end of transfer...",
-                          u"Recepción hasta carácter de final de transferencia..."};
-constexpr Texte3 Termine3{u"Réception terminée...", u"Finished receiving...", u"Recepción terminada..."};
-constexpr Texte3 Termine4{u"Caractère de fin de transfert détecté...", u"Character of end of detected transfer...",
-                          u"Carácter de final de transferencia detectada..."};
+constexpr Texte3 EchoAttente{u"En attente de réception...", u"On standby of receiving...",
+                             u"En espera de recepción..."};
+constexpr Texte3 EchoGenre{u"Réception jusqu'à caractère de fin de transfert...",
+                           u"Receiving until character of end of transfer...",
+                           u"Recepción hasta carácter de final de transferencia..."};
+constexpr Texte3 EchoTermine{u"Réception terminée...", u"Finished receiving...", u"Recepción terminada..."};
+constexpr Texte3 EchoFinTrouvee{u"Caractère de fin de transfert détecté...",
+                                u"Character of end of detected transfer...",
+                                u"Carácter de final de transferencia detectada..."};
 constexpr Texte3 BoiteAnnulation{u"Bouton Annuler cliqué", u"Button Cancel Clicked", u"Botón cancelar pulsado"};
-constexpr Texte3 Annule2{u"Transfert annulé !", u"Cancelled transfer !", u"Transferencia cancelada !"};
-constexpr Texte3 Annule3{u"Réception annulée...", u"Cancelled receiving...", u"Recepción cancelada..."};
+constexpr Texte3 Annule{u"Transfert annulé !", u"Cancelled transfer !", u"Transferencia cancelada !"};
+constexpr Texte3 EchoAnnule{u"Réception annulée...", u"Cancelled receiving...", u"Recepción cancelada..."};
 
 constexpr Texte3 EnCours{u"Transfert en cours...", u"Transfer in progress...", u"Transferencia en curso..."};
-// French alone has a blank before the number.
+// Only the French text has a blank before the number.
 constexpr Texte3 EnCoursPasse{u"Transfert en cours... ", u"Transfer in progress...", u"Transferencia en curso..."};
 constexpr Texte3 Analyse{u"Réception en cours... Analyse : ", u"Receiving in progress... Analyze : ",
                          u"Recepción en curso... Análisis : "};
@@ -42,11 +44,11 @@ constexpr Texte3 AttenteFin{u"En attente du caractère de fin de transfert...",
                             u"On standby of the character of end of transfer...",
                             u"En espera del carácter de final de transferencia..."};
 
-VueTransfert *enAttente = nullptr; // view of the reception that waits for its events
-bool enRecolte = false;            // that reception is being gathered further down the stack
+VueTransfert *enAttente = nullptr; // shows the reception that waits for its events
+bool enRecolte = false;            // RecolteFichier() runs further down the stack
 
-/// Takes what one reading gives into Text2. A closed port gives nothing; a device that has gone ends the gathering, and
-/// the routine below meets the same failure and tells it.
+/// Appends what one reading gives to Text2; a closed port gives nothing. Returns false when the device has gone: the
+/// gathering then ends, and AttendFichier() meets the same failure and tells the operator.
 bool Prend()
 {
     try {
@@ -102,7 +104,7 @@ void Recolte(VueTransfert &vue)
             MontrePasse(vue, passe);
             rythme.Note();
         }
-        // The end is looked for behind each reading, since what the machine sends behind it would hide it.
+        // The end is looked for after each reading: behind further characters it would not be found any more.
         do {
             vivante = Prend();
         } while (!FinTrouvee() && CaracteresEnAttente());
@@ -117,11 +119,11 @@ void PrepareFichier(VueTransfert &vue)
     ChoisitChaineFinLigRecep();
     frmPrinc->Text2->setText(QString());
     frmPrinc->Text2->setVisible(VueTransfert::AvecEcho());
-    vue.EchoLigne(Attente3);
-    DebuteReception(vue, Attente4);
+    vue.EchoLigne(EchoAttente);
+    DebuteReception(vue, EchoGenre);
 }
 
-/// The events gather the text inside this wait's yield, perhaps for the whole of the reception.
+/// Waits for the end. The receive events gather the text inside CedeLaMain(), one of them perhaps the whole reception.
 void AttendFichier(VueTransfert &vue)
 {
     const QScopedValueRollback<VueTransfert *> ecoute(enAttente, &vue);
@@ -130,7 +132,7 @@ void AttendFichier(VueTransfert &vue)
         if (Transfert.FinTransfert || Transfert.AnnuleRECEPT)
             return;
         if (Transfert.ForceRECEPT) {
-            // What is too little to raise an event has come all the same.
+            // Characters too few to raise an event may wait.
             PrendReste();
             Controle().VideReception();
             FinTrouvee();
@@ -140,7 +142,7 @@ void AttendFichier(VueTransfert &vue)
         if (!Controle().PortOpen())
             continue;
         Controle().ExigeVivant();
-        // The event of characters that came before this wait has gone by.
+        // The event of characters that came before this wait was ignored.
         if (Controle().SeuilReceptionAtteint())
             RecolteFichier();
     }
@@ -149,8 +151,8 @@ void AttendFichier(VueTransfert &vue)
 void TermineFichier(VueTransfert &vue)
 {
     RendFinTransfert(vue);
-    vue.EchoLigne(Termine3);
-    vue.EchoCaractere(Termine4);
+    vue.EchoLigne(EchoTermine);
+    vue.EchoCaractere(EchoFinTrouvee);
     AcheveReception(vue);
     frmPrinc->Text2->hide();
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
@@ -175,10 +177,10 @@ void AnnuleFichier(VueTransfert &vue)
     Transfert.FinTransfert = false; // the end may have been found just before
     MsgBox(QStringLiteral("AnnuleRECEPT% = 1"), 0, Texte(BoiteAnnulation));
     FermePortCOM(vue);
-    vue.Statut(Annule2);
+    vue.Statut(Annule);
     frmPrinc->Text2->setText(QString());
     frmPrinc->Text2->hide();
-    vue.EchoLigne(Annule3);
+    vue.EchoLigne(EchoAnnule);
     vue.EchoCaractere(QStringLiteral("..."));
 }
 

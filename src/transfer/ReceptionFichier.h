@@ -2,15 +2,16 @@
 
 class VueTransfert;
 
-/// Reception of a file until its end: while this routine waits, the receive events gather the text in Text2, without
-/// lines or limit (SeuilRecep has to be above 0). At the end-of-transfer string, or at the operator's forced end, it
-/// sends that string back, closes the port and writes the file CheminRecep(); the text then stands in the program pane.
-/// Cancelled, it drops what had come. A failure ends in ErreurPortCOM, and the operator may then save what had come.
+/// Receives a file until its end. While this routine waits, the receive events gather the text in Text2, whatever its
+/// lines and its length; SeuilRecep has to be above 0 for that. At the end-of-transfer string, or at the operator's
+/// forced end, it sends that string back, closes the port and writes the file CheminRecep(). The text then stands in
+/// the program pane. A cancelled reception drops what had come. A failure ends in ErreurPortCOM(), and the operator may
+/// then save what had come.
 ///
-/// vue: the controls that show the transfer; they have to live until the routine returns.
+/// vue: what shows the transfer; it has to live until the routine returns.
 void ReceptionFichier(VueTransfert &vue);
 
-/// A receive event has come: gathers all that arrives until the end-of-transfer string, a forced end or a cancel, and
-/// returns. It does nothing unless ReceptionFichier() waits, nor while it is already gathering further down the stack,
-/// nor behind the end: what a machine sends after its end-of-transfer string is no part of the file.
+/// Called at a receive event. Gathers all that arrives until the end-of-transfer string, a forced end or a cancel. It
+/// does nothing unless ReceptionFichier() waits, or while it already runs further down the stack. After the
+/// end-of-transfer string it does nothing either: what a machine sends then is no part of the file.
 void RecolteFichier();

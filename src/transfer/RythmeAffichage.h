@@ -2,8 +2,8 @@
 
 #include <QElapsedTimer>
 
-/// How often a transfer shows what its next step would replace at once. A label that changes lays the dialog out anew,
-/// which takes as long as a fast line takes for a line of text, and the eye could not read more.
+/// Limits how often a transfer shows a text that its next step replaces. Each change of a label lays out the dialog
+/// anew, which takes as long as a line of text takes on a fast line, and the eye could not read more.
 class RythmeAffichage
 {
 public:

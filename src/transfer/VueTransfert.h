@@ -29,26 +29,27 @@ public:
     static bool AvecEcho();
     /// Shows the lines of the echo if the configuration asks for them. Otherwise they are hidden.
     void MontreEcho();
-    /// Data that pass, with the names of their control characters, or a text in their place. Nothing without an echo.
+    /// Show data that pass, with the names of their control characters, or a text in their place. Without the echo they
+    /// do nothing.
     void EchoLigne(const QString &donnees);
     void EchoLigne(const Texte3 &texte, const QString &suite = {});
     void EchoCaractere(const QString &donnees);
     void EchoCaractere(const Texte3 &texte);
 
-    /// The bar at fait of total, with texte in it. total: above 0.
+    /// Shows the progress bar at fait of total, with texte in it. total: above 0.
     void Progression(int fait, int total, const QString &texte);
     void CacheProgression();
 
-    /// What will go out, and afterwards what has passed and what was lost. alerte: in the colour and with the sign of a
-    /// warning.
+    /// Says before a transfer what will go out, and afterwards what has passed and what was lost. alerte: in the colour
+    /// and with the sign of a warning.
     void Bilan(const QString &texte, bool alerte);
     /// texte, elided at the place ou where a line of Bilan() has no room for it beside the text voisin.
     QString CoupePourBilan(const QString &texte, const QString &voisin, Qt::TextElideMode ou) const;
 
-    /// A sending begins: nothing of an earlier one is shown any more, and no other configuration can be chosen.
+    /// A sending begins: what an earlier one has shown goes, and no other configuration can be chosen any more.
     void DebuteEmission();
-    /// At the bench a measure has been taken: the operator may ask for the next tool or end the reception. permis
-    /// false: he may not, since the measure is still awaited.
+    /// permis: a measure of the bench was received, so the operator may ask for the next tool or end the reception.
+    /// While a measure is awaited he may not.
     void PermetSuite(bool permis);
     /// The button that cancels a transfer reads "Close" from now on.
     void OffreFermer();
