@@ -177,8 +177,9 @@ void TestSessions::SansPause()
     });
     const QByteArray recu = poste.Lit("PIECE.ISO").chopped(2);
     qint64 perdus = 0;
-    for (const QString &perte : joue.bilan.section(u'\n', 1).section(u" : "_s, 0, 0).split(u", "_s))
-        perdus += QString(perte.section(u' ', 0, 0)).remove(QChar(0x202F)).toInt();
+    for (const QString &pertes : joue.bilan.split(u'\n').mid(1))
+        for (const QString &perte : pertes.section(u" : "_s, 0, 0).split(u", "_s))
+            perdus += QString(perte.section(u' ', 0, 0)).remove(QChar(0x202F)).toInt();
     QCOMPARE(joue.bilan.section(u" en "_s, 0, 0), u"18\u202F887 caractères reçus"_s);
     if (genre == Genre::Fichier)
         QCOMPARE(recu, programme);
