@@ -6,8 +6,10 @@ set(POSE)
 
 # pose_bibliotheque(NOM DE [DOSSIER]): NOM is the file name in the program folder or its DOSSIER.
 function(pose_bibliotheque NOM DE)
-    list(APPEND POSE COMMAND ${CMAKE_STRIP} -o ${DOSSIER_APPLICATION}/${ARGN}/${NOM} ${DE})
+    set(COPIE ${DOSSIER_APPLICATION}/${ARGN}/${NOM})
+    list(APPEND POSE COMMAND ${CMAKE_STRIP} -o ${COPIE} ${DE})
     set(POSE ${POSE} PARENT_SCOPE)
+    install(FILES ${COPIE} DESTINATION ./${ARGN})
 endfunction()
 
 foreach(BIBLIOTHEQUE Core Gui Widgets PrintSupport)
@@ -23,6 +25,7 @@ endforeach()
 
 # Qt looks for its plugins and translations here, and not in the folder where it was built.
 file(CONFIGURE OUTPUT ${DOSSIER_APPLICATION}/qt.conf CONTENT "[Paths]\nPrefix=.\nPlugins=.\nTranslations=.\n")
+install(FILES ${DOSSIER_APPLICATION}/qt.conf ${TRADUCTIONS_QT}/qtbase_fr.qm ${TRADUCTIONS_QT}/qtbase_es.qm DESTINATION .)
 
 set(POSEE ${PROJECT_BINARY_DIR}/bibliotheques_posees)
 add_custom_command(OUTPUT ${POSEE} DEPENDS ${CMAKE_CURRENT_LIST_FILE}
