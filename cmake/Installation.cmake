@@ -47,7 +47,7 @@ install(FILES ${FABRIQUE}/example.dorvanel.Dorvanel.metainfo.xml DESTINATION ${C
 # Documents
 set(DOCS ${CMAKE_INSTALL_DATADIR}/doc/dorvanel)
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md ${PAQUET}/copyright DESTINATION ${DOCS})
-install(FILES docs/fenetre.png docs/branchement.md docs/architecture.md DESTINATION ${DOCS}/docs)
+install(FILES docs/fenetre.png docs/branchement.md docs/essai_windows.md docs/architecture.md DESTINATION ${DOCS}/docs)
 install(FILES docs/70-dorvanel.rules DESTINATION ${DOCS}/examples)
 foreach(DOCUMENT changelog dorvanel.1)
     list(APPEND COMPRIMES ${FABRIQUE}/${DOCUMENT}.gz)
