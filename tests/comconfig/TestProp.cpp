@@ -142,6 +142,7 @@ private Q_SLOTS:
         EtabliProp etabli;
         const Prop prop(frmPrinc);
         for (QLineEdit *const boite : {prop.Text2, prop.Text4, prop.Text5, prop.Text6, prop.Text7, prop.Text8}) {
+            const auto passe = Passe(boite->objectName());
             QTest::keyClick(boite, Qt::Key_A, Qt::ControlModifier); // what stood there gives way
             QTest::keyClicks(boite, u"1a-2. "_s);
             QInputMethodEvent methode;
@@ -153,6 +154,7 @@ private Q_SLOTS:
         }
         for (const auto &[colle, valeur] :
              {std::pair{"12a4", 12}, {" 7", 7}, {"abc", 0}, {"-5", 0}, {"1e3", 1}, {"", 0}}) {
+            const auto passe = Passe(QLatin1String(colle));
             prop.Text6->setText(QLatin1String(colle));
             etabli.Ferme("CommonDialog");
             prop.Command1->click();
@@ -161,6 +163,7 @@ private Q_SLOTS:
         }
         for (const auto &[boite, legende] :
              {std::pair{prop.Text5, prop.Label14}, {prop.Text7, prop.Label16}, {prop.Text8, prop.Label18}}) {
+            const auto passe = Passe(boite->objectName());
             boite->setText(u"32768"_s);
             ParamCom.Commentaire = u"ancien"_s;
             etabli.Prevenu(legende->text() + u"\r32768 ne convient pas (32767 au plus)."_s);
@@ -415,6 +418,7 @@ private Q_SLOTS:
                                            {Qt::Key_Right, 32},
                                            {Qt::Key_Home, 32},
                                            {Qt::Key_Left, 31}}) {
+            const auto passe = Passe(QKeySequence(touche).toString());
             QTest::keyClick(dialogue.focusWidget(), touche);
             QCOMPARE(dialogue.focusWidget()->objectName(), u"Car_%1"_s.arg(vers));
         }
@@ -454,6 +458,7 @@ private Q_SLOTS:
                                                        {u"&&&LF&&"_s, u"&&\n&"_s, u"&&LF&"_s},
                                                        {u"R&&D"_s, u"RD"_s, u"R&D"_s},
                                                        {u"\u0019"_s, u"\u0019"_s, u"&lt;EM&gt;"_s}}) {
+            const auto passe = Passe(visible);
             dialogue.Label1->MontreChaine(libelle, chaine);
             QCOMPARE(dialogue.Label1->toolTip(), visible);
         }
@@ -478,6 +483,7 @@ private Q_SLOTS:
                                                   {cadran.Text1, u"0\n4"_s, {}},
                                                   {reception.Combo1->lineEdit(), u"a\nb"_s, u"a b"_s},
                                                   {demande.findChild<QLineEdit *>(), u"a\nb"_s, u"a b"_s}}) {
+            const auto passe = Passe(boite->window()->objectName() + boite->objectName());
             boite->clear();
             QGuiApplication::clipboard()->setText(texte);
             boite->paste();

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void EcritCommeLu()
     {
         for (const QString &chemin : {Donnees(u"Court.par"_s), m_complet}) {
+            const auto passe = Passe(chemin);
             QCOMPARE(Lit(chemin), 0);
             EcrireFichierPar(m_copie);
             QCOMPARE(LitOctets(m_copie), LitOctets(chemin));

@@ -147,6 +147,7 @@ private Q_SLOTS:
         Jauges.Jauge(2).Rayon = 8; // of the session before
         atelier.Nomme();
         for (int i = 0; i < 4; ++i) {
+            const auto passe = Passe(etapes[i].second);
             const auto verifie = [i, consigne = etapes[i].first, &atelier](QWidget &fenetre) {
                 const auto bouton = [&](const char *nom) {
                     return fenetre.findChild<QPushButton *>(QLatin1String(nom));

@@ -233,6 +233,7 @@ private Q_SLOTS:
             entrees[entree] = entree->text();
         QVERIFY(entrees.size() > 20);
         for (const int langue : {1, 2, 9, -1}) {
+            const auto passe = Passe(QString::number(langue));
             LangIndex = langue;
             AppliqueLangue();
             QCOMPARE(montre(), avant);

@@ -176,7 +176,7 @@ private Q_SLOTS:
         QCOMPARE(EtatConf.FicConf, chemin);
         OuvreDocument(etabli.Ecrit("P.iso", "G0"));
         for (const int bouton : {9, 10, 11, 12, 13})
-            QVERIFY(!frmPrinc->Bouton(bouton)->isEnabled());
+            QVERIFY2(!frmPrinc->Bouton(bouton)->isEnabled(), qPrintable(QString::number(bouton)));
         QVERIFY(!Operateur::Offre("Mnu_RecepProg"));
         QVERIFY(!Operateur::Offre("Mnu_EmisProgCN"));
         QCOMPARE((QStringList{frmPrinc->Label4->text(), frmPrinc->Label6->text()}),

@@ -69,7 +69,7 @@ private Q_SLOTS:
             QCOMPARE(Noms(), Ouvert(chemin, u"Pièce n° 1.iso"_s));
             QVERIFY(!Document.FichierModifie);
             for (const char *entree : {"Mnu_EditProg", "Mnu_EnregistrerSous", "Mnu_Imprim"})
-                QVERIFY(Operateur::Offre(entree));
+                QVERIFY2(Operateur::Offre(entree), entree);
 
             atelier.Choisit("Mnu_EnregistrerSous", atelier.Chemin("copie.iso"));
             QVERIFY(atelier.Lit("copie.iso") == octets + "\r\n");

@@ -168,6 +168,7 @@ private Q_SLOTS:
              {std::pair{lien, u"Supprimer ce lien ? Le dossier auquel il mène reste en place.\r%1"_s},
               {atelier.Chemin("Pieces"), u"Supprimer définitivement ce dossier et tout ce qu'il contient ?\r%1\r"
                                          u"Sous-dossiers : 1, fichiers : 3"_s}}) {
+            const auto passe = Passe(choisi);
             QCOMPARE(atelier.Lit("Pieces/Tour/b.cn"), QByteArray("%3"));
             arbre.setSelectedFolder(choisi);
             atelier.Repond("Supprimer un dossier", demande.arg(choisi), question, QMessageBox::Yes);

@@ -149,6 +149,7 @@ private Q_SLOTS:
             auto *const onglets = fenetre.findChild<QTabWidget *>();
             for (const auto &[onglet, page] :
                  {std::pair{1, u"Prop_divers"_s}, {2, u"Prop_dossiers"_s}, {0, u"Prop"_s}}) {
+                const auto passe = Passe(page);
                 onglets->setCurrentIndex(onglet);
                 Mnu_Aide();
                 QCOMPARE(Ouverte(&fenetre)->TextBrowser1->source().fragment(), page);

@@ -97,6 +97,7 @@ private Q_SLOTS:
         QCOMPARE(atelier.Lit("P_2.pdf"), "mine");
         const QList<QStringList> attendu{QStringList{u"Programme : "_s + Document.NomFichier, u"N10"_s, u"N20"_s}};
         for (const char *const fichier : {"P.pdf", "P_3.pdf", "P_4.pdf"}) {
+            const auto passe = Passe(QLatin1String(fichier));
             QCOMPARE(Pages(atelier.Chemin(fichier)), attendu);
             QVERIFY(atelier.Lit(fichier).contains("DejaVuSerif-Bold"));
         }

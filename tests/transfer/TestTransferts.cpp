@@ -351,6 +351,7 @@ void TestTransferts::Emissions()
     ParamCom.TailleTamponEmis = 8;
     essai.charge.texte = texte;
     for (int fois = 1; fois <= 2; ++fois) {
+        const auto passe = Passe(QString::number(fois));
         QCOMPARE(essai.Joue().statut, u"Transfert terminé avec succès !"_s);
         QCOMPARE(essai.ligne->ecrits, attendu.repeated(fois));
         QCOMPARE(frmPrinc->Text1->Text().size(), texte.size());
@@ -557,6 +558,7 @@ void TestTransferts::TropDeLignes()
         EssaiTransfert essai(Genre::LigneParLigne);
         essai.charge.texte = pleine;
         for (const int avant : {3, 0}) { // by what the table held before
+            const auto passe = Passe(QString::number(avant));
             Lignes.NbLignes = avant;
             essai.ligne->ecrits.clear();
             const auto joue = essai.Joue();

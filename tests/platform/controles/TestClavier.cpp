@@ -149,6 +149,7 @@ private Q_SLOTS:
         QComboBox &liste = *prop.cboSpeed;
         const int choix = liste.currentIndex();
         for (const bool foyer : {false, true}) {
+            const auto passe = Passe(foyer ? u"with the keyboard"_s : u"without"_s);
             (foyer ? &liste : static_cast<QWidget *>(prop.cmdOK))->setFocus();
             QWheelEvent tour({5, 5}, liste.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(&liste, &tour);

@@ -1,3 +1,4 @@
+#include "Essais.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/texte/RichTextBox.h"
 
@@ -6,7 +7,6 @@
 #include <QMimeData>
 #include <QRandomGenerator>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -59,6 +59,7 @@ private Q_SLOTS:
         RichTextBox volet;
         QString modele;
         for (int i = 0; i < 4000; ++i) {
+            const auto passe = Passe(QString::number(i));
             if (i % 250 == 0) {
                 volet.setText(QString());
                 modele.clear();
