@@ -1,5 +1,6 @@
 #include "donnees/Chemins.h"
 #include "locale/Langue.h"
+#include "platform/base/Console.h"
 #include "platform/base/FinDemandee.h"
 #include "platform/controles/Polices.h"
 #include "platform/controles/StyleContraste.h"
@@ -55,6 +56,7 @@ int main(int nombre, char *arguments[])
 {
     Presente();
     if (VeutDesMots(nombre, arguments)) { // without a display too: a graphic application would end the process there
+        RelieConsole();
         const QCoreApplication application(nombre, arguments);
         FichiersDemandes();
     }
