@@ -10,7 +10,7 @@ struct Aide
 {
     QPushButton *Ui_Prop::*bouton;
     Texte3 titre;
-    Texte3 texte; // a line of the source is a line of the box
+    Texte3 texte; // each line of the source is a line of the box
 };
 
 constexpr Aide Aides[] = {

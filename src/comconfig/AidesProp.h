@@ -4,5 +4,6 @@ namespace Ui {
 class Prop;
 }
 
-/// Ties the fourteen help buttons of the properties dialog to their texts: what each setting means to the machine.
+/// Connects the fourteen help buttons of the properties dialog with their texts, which say what each setting means for
+/// the machine.
 void BrancheAides(const Ui::Prop &dialogue);

@@ -2,14 +2,14 @@
 
 #include "platform/base/Erreur.h"
 
-// What Apply of the properties dialog does to the serial control. A step that fails does not stop the next one: it
-// stays pending, and is told where the road ends.
+// What "Apply" of the properties dialog does to the serial control.
 
-/// Gives the control the port number, the line settings and the flow control of ParamCom. A port that is open on
-/// another number is closed, moved and opened again; if that fails, or a failure was pending already, the control goes
-/// back to its old number and stays closed. The road ends at the first group of steps that leaves a failure pending.
+/// Sets port number, line settings and flow control of the control from ParamCom, in this order; after each of the
+/// three it stops if a failure is pending. A port open under another number is closed, changed and opened again. When
+/// that fails, or when a failure was pending before, the control returns to its old number and stays closed. enAttente:
+/// the first failure, which the caller tells.
 void AppliqueAuPort(ErreurEnAttente &enAttente);
 
-/// Gives it all of ParamCom but the port number, and with that the line settings and the flow control once more. What
-/// it refuses, as an open port does with the sizes of its buffers, is passed over.
+/// Sets everything else of the control from ParamCom, and line settings and flow control once more. What the control
+/// refuses is passed over: an open port, for example, refuses new sizes of its buffers.
 void AppliqueResteAuPort();

@@ -30,20 +30,20 @@ constexpr Texte3 AbsentTitre{u"Erreur de chargement de fichier de configuration 
 constexpr Texte3 AbsentAvant{u"Le fichier ", u"The file does not exist ", u"El fichero  "};
 constexpr Texte3 AbsentApres{u" n'existe pas !", u" !", u" no existe !"};
 
-/// Message of a failed read: A from the menu, B from the dialogs that transfer.
+/// A message for a configuration that cannot be read.
 struct MessagePar
 {
     Texte3 titre;
     Texte3 texte;
 };
 
-constexpr MessagePar MessageA{{u"Fichier de configuration erroné ou de version antérieure !",
-                               u"Erroneous file of configuration or former version !",
-                               u"Fichero de configuración erróneo o versión previa !"},
-                              {u"Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
-                               u"File of configuration of former version !\rModify and record again.",
-                               u"Fichero de configuración de versión previa !\rModificarse de nuevo y registrar."}};
-constexpr MessagePar MessageB{
+constexpr MessagePar MessageMenu{
+    {u"Fichier de configuration erroné ou de version antérieure !",
+     u"Erroneous file of configuration or former version !", u"Fichero de configuración erróneo o versión previa !"},
+    {u"Fichier de configuration de version antérieure !\rModifier et enregistrer de nouveau.",
+     u"File of configuration of former version !\rModify and record again.",
+     u"Fichero de configuración de versión previa !\rModificarse de nuevo y registrar."}};
+constexpr MessagePar MessageTransfert{
     {u"Fichier de configuration erroné", u"Erroneous file of configuration", u"Fichero de configuración erróneo"},
     {u"Fichier de configuration de version antérieure !\rModifier en enregistrer de nouveau.",
      u"File of configuration of former version !\rModify to record some again.",
@@ -61,7 +61,7 @@ void MontreConfiguration()
     MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
 }
 
-/// Reads FicConf and makes it the configuration in force, with all that follows from it on the main window.
+/// Reads FicConf, makes it the current configuration and updates the main window.
 void MetEnService()
 {
     LireFichierPar(EtatConf.FicConf);
@@ -71,7 +71,8 @@ void MetEnService()
     BatirChaines();
 }
 
-/// What MetEnService() does, but for toolbar and derived strings, which follow when the operator applies his changes.
+/// Same as MetEnService(), except for the toolbar and the derived strings: these follow when the operator applies his
+/// changes.
 void PrepareModification()
 {
     LireFichierPar(EtatConf.FicConf);
@@ -86,8 +87,8 @@ void PrepareModification()
     MontreConfiguration();
 }
 
-/// The settings of a configuration that nobody has made yet. Its chains are empty; the codes behind them, FinLigRecep,
-/// TypeEnvoi and the derived strings stay as they were.
+/// Sets the fields of a new configuration. Its chains are empty. The codes behind them, FinLigRecep, TypeEnvoi and the
+/// derived strings keep their values.
 void MetConfigurationNeuve()
 {
     ConfigurationCom &p = ParamCom;
@@ -117,7 +118,7 @@ void MetConfigurationNeuve()
     p.NbCarDebProg = p.NbCarFinLig = p.NbCarFinTrans = 0;
     EtatConf.neuve = true;
     EtatConf.malEcrite = false;
-    // What a reading that broke off has left stays in the fields that are not set here.
+    // Fields that are not set here may still come from a failed reading.
     if (EtatConf.fiche == EtatConfiguration::Entiere)
         EtatConf.fiche = EtatConfiguration::EnAttente;
 }
@@ -156,7 +157,7 @@ void Mnu_ChargeConf()
 {
     AppliqueLangue();
     QDir::setCurrent(Reglages.DosAppli);
-    Saute([] { ChargeConf(ChoisitFichierPar(Reglages.DosConf)); }); // the choice given up
+    Saute([] { ChargeConf(ChoisitFichierPar(Reglages.DosConf)); }); // when he cancels
 }
 
 void ChargeConf(const QString &fichier)
@@ -165,7 +166,7 @@ void ChargeConf(const QString &fichier)
     try {
         MetEnService();
     } catch (const Erreur &erreur) {
-        MontreEchec(erreur, MessageA);
+        MontreEchec(erreur, MessageMenu);
     }
 }
 
@@ -178,7 +179,8 @@ void Mnu_CreConf()
     dialogue.exec();
 }
 
-/// A file that breaks off is told, and opened all the same: the operator completes it and saves it again.
+/// A file that cannot be read to its end is told and opened all the same, so that the operator can complete it and save
+/// it again.
 void Mnu_ModifConf()
 {
     AppliqueLangue();
@@ -186,7 +188,7 @@ void Mnu_ModifConf()
         NommeConfiguration(ChoisitFichierPar(Reglages.DosConf, FiltreParModif));
         PrepareModification();
     } catch (const Erreur &erreur) {
-        MontreEchec(erreur, MessageA);
+        MontreEchec(erreur, MessageMenu);
         if (erreur.Numero() == Erreur::DialogueAnnule)
             return;
     }
@@ -213,7 +215,7 @@ void ChargeAutreConfiguration(const std::function<void()> &montre)
         BatirChaines();
         montre();
     } catch (const Erreur &erreur) {
-        MontreEchec(erreur, MessageB);
+        MontreEchec(erreur, MessageTransfert);
     }
 }
 

@@ -6,34 +6,35 @@
 
 #include <functional>
 
-// The commands through which the operator reaches the communication configuration.
+// The commands of the operator for the communication configuration.
 
-/// Loads the .par file fichier as the current configuration at the start; "" loads nothing. A missing file is told to
-/// the operator. Raises what LireFichierPar raises, with the transfer commands still disabled.
+/// Loads the .par file fichier as the current configuration, at the start; "" loads nothing. The operator is told when
+/// the file is missing. Raises what LireFichierPar raises; the transfer commands are then still disabled.
 void ConfDefaut(const QString &fichier);
 
-/// Asks the operator for a .par file, first in dossier, and gives its full path. filtre: "label|pattern" of the dialog.
-/// Raises DialogueAnnule.
+/// Asks the operator for a .par file and gives its full path. dossier: folder first shown; filtre: "label|pattern" of
+/// the dialog. Raises DialogueAnnule when he cancels.
 QString ChoisitFichierPar(const QString &dossier, const Texte3 &filtre = FiltrePar);
 
 /// Asks the operator for a .par file and makes it the current configuration.
 void Mnu_ChargeConf();
 
-/// Makes the .par file fichier the current configuration; a file that cannot be read is told as Mnu_ChargeConf() does.
+/// Makes the .par file fichier the current configuration. Tells the operator when it cannot be read, as
+/// Mnu_ChargeConf() does.
 void ChargeConf(const QString &fichier);
 
-/// Makes a new configuration, in the record only, and opens the properties dialog on it.
+/// Makes a new configuration, without a file, and opens the properties dialog on it.
 void Mnu_CreConf();
 
 /// Asks the operator for a .par file, makes it the current configuration and opens the properties dialog on it.
 void Mnu_ModifConf();
 
-/// Opens the properties dialog on its folders and editor, and nothing else of it.
+/// Opens the properties dialog limited to the reception folders and the editor.
 void Mnu_DosRecep();
 
-/// Mnu_ChargeConf() from inside a dialog that transfers, without touching the menus. montre: shows the new
-/// configuration in that dialog, once it is in force.
+/// Mnu_ChargeConf() for a transfer dialog: the menus stay as they are. montre: called when the new configuration is in
+/// force, to show it in that dialog.
 void ChargeAutreConfiguration(const std::function<void()> &montre);
 
-/// The current configuration as the dialogs that transfer name it: its file, two blanks, its comment.
+/// The current configuration as the transfer dialogs show it: its file, two blanks, its comment.
 QString ConfigurationEnClair();

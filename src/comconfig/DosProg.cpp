@@ -51,7 +51,8 @@ DosProg::DosProg(TypeDossier type, QWidget *parent)
     connect(Command4, &QPushButton::clicked, this, &DosProg::Command4_Click);
 }
 
-/// Looking at a folder changes nothing: one that a configuration names beside the program stays so.
+/// Shows the folder without a change to it: a configuration may name it relative to the application folder, and must
+/// keep it so.
 void DosProg::Form_Load()
 {
     try {
@@ -71,14 +72,14 @@ QString &DosProg::Dossier() const
 void DosProg::FolderTreeview1_SelectionChange()
 {
     const QString choisi = FolderTreeview1->SelectedFolder();
-    if (choisi.isEmpty()) // its volume has been taken out, and another folder will be selected
+    if (choisi.isEmpty()) // its volume has been taken out; another selection follows
         return;
     Dossier() = choisi;
     Q_EMIT DossierChoisi();
 }
 
-/// The folder follows the selection to the nearest one that is left, or where its volume has gone to the application
-/// folder.
+/// The tree has selected the nearest folder that is left, or the application folder when the volume has been taken out.
+/// That becomes the reception folder.
 void DosProg::FolderTreeview1_Disparu(const QString &dossier)
 {
     if (FolderTreeview1->SelectedFolder().isEmpty())
@@ -96,7 +97,7 @@ void DosProg::DitDisparu(const QString &dossier)
            Boite::Exclamation, Texte(AbsentTitre));
 }
 
-/// A file that cannot be written is told; the folder is in force for this run all the same.
+/// When the file cannot be written the operator is told, and the folder holds for this run.
 void DosProg::Command1_Click()
 {
     FolderTreeview1_SelectionChange();
@@ -117,14 +118,14 @@ void DosProg::Command3_Click()
     Text1->selectAll();
 }
 
-/// Enter creates the folder whose name is being typed; otherwise it applies the choice.
+/// While a name is being typed, Enter creates that folder; otherwise it applies the choice.
 void DosProg::MontreNouveau(bool montre)
 {
     Frame1->setVisible(montre);
     (montre ? Command4 : Command1)->setDefault(true);
 }
 
-/// The explorer of the main window, once it has been opened, goes to the new folder too.
+/// The explorer column of the main window, if it has been made, selects the new folder too.
 void DosProg::Command4_Click()
 {
     if (FolderTreeview1->SelectedFolder().isEmpty())
@@ -135,7 +136,7 @@ void DosProg::Command4_Click()
         Montre(*FolderTreeview1, nouveau);
         if (frmPrinc->Frame1 != nullptr)
             Montre(*frmPrinc->Frame1->FolderTreeview1, nouveau);
-        FolderTreeview1->setFocus(); // or the button that asks for a folder would have it, and Enter make another
+        FolderTreeview1->setFocus(); // otherwise Enter would press the button that makes another folder
         MontreNouveau(false);
     } catch (const Erreur &) {
         MsgBox(Texte(NonCreeAvant) + nouveau + Texte(NonCreeApres), Boite::Critique, Texte(NonCreeTitre));

@@ -11,8 +11,8 @@ enum TypeDossier {
 };
 
 /// The modal dialog in which the operator chooses a reception folder in the tree of this PC's folders, or creates a
-/// sub-folder there. The folder follows the selection at once; "Dorvanel.CFG" follows when it is applied. Closing
-/// brings nothing back.
+/// sub-folder. The reception folder changes with each selection. "Dorvanel.CFG" changes when the operator applies it.
+/// Closing restores nothing.
 ///
 /// FolderTreeview1: the tree; Command1: apply; Command2: close; Command3: asks for a sub-folder in Frame1, where Label1
 /// names Text1 (its name) and Command4 creates it.
@@ -21,13 +21,13 @@ class DosProg : public QDialog, public Ui::DosProg
     Q_OBJECT
 
 public:
-    /// Selects the folder that type names. When that has gone the operator is told at once, and the application folder
-    /// takes its place. The caption is for programs; whoever opens the dialog for more writes his own.
+    /// Selects the folder that type names. When it is missing the operator is told, and the application folder is
+    /// selected. The title is for programs; a caller with another purpose sets his own.
     DosProg(TypeDossier type, QWidget *parent);
 
 Q_SIGNALS:
-    void DossierChoisi();   ///< another folder has been selected, and is the reception folder now
-    void DossierApplique(); ///< it has been applied, for this run alone when "Dorvanel.CFG" could not be written
+    void DossierChoisi();   ///< another folder has been selected and is the reception folder now
+    void DossierApplique(); ///< the choice has been applied; for this run only when "Dorvanel.CFG" cannot be written
 
 private:
     void Form_Load();

@@ -3,6 +3,6 @@
 class LabelElide;
 class QString;
 
-/// Shows the path of a folder in label, as a warning with its reason where this PC has no such folder. dossier: a full
-/// path, or one beside the program.
+/// Shows the path of a folder in label; when this PC has no such folder, as a warning with the reason. dossier: an
+/// absolute path, or one relative to the application folder.
 void MontreDossier(LabelElide *label, const QString &dossier);

@@ -11,13 +11,13 @@
 namespace {
 
 constexpr int NombreCaracteres = 128;
-constexpr int ParRangee = 16; // one row for each first digit of the code in base 16, as tables of characters have it
+constexpr int ParRangee = 16; // codes with the same first hexadecimal digit, as in printed tables
 constexpr int RangeesControle = 2;
 constexpr int Stx = 2;
 constexpr int Etx = 3;
 
-// What the buttons of the codes 0 to 32 bear. The chain's label is made of them; those of 30 and 31 have always stood
-// the other way round in stored labels, and a button's code is its place whatever it bears.
+// Captions of the buttons for the codes 0 to 32; the chain's label is made of them. The names of 30 and 31 are swapped,
+// and stay so because stored labels hold them. A button's code is its place, whatever its caption.
 constexpr const char16_t *Legendes[] = {u"Nul", u"soh",  u"stx", u"etx", u"eot", u"enq", u"ack", u"bel", u"bs",
                                         u"ht",  u"LF",   u"vt",  u"ff",  u"CR",  u"so",  u"si",  u"dle", u"Xon",
                                         u"dc2", u"Xoff", u"dc4", u"nak", u"syn", u"etb", u"Can", u"em",  u"eof",
@@ -44,7 +44,8 @@ constexpr Texte3 HorsPage{u"Ce caractère n'existe pas sur la ligne série (page
                           u"This character does not exist on the serial line (code page 1252).",
                           u"Este carácter no existe en la línea serie (página de códigos 1252)."};
 
-/// What the button of a code bears, and what it adds to the label. A "&" is doubled so that a caption shows it.
+/// The caption of the button of a code, which is also added to the label. A "&" is doubled, since a caption takes a
+/// single one for the mark of a shortcut.
 QString Legende(int code)
 {
     if (code < static_cast<int>(std::size(Legendes)))
@@ -52,7 +53,7 @@ QString Legende(int code)
     return code == '&' ? QStringLiteral("&&") : QString(QChar(code));
 }
 
-/// The code as manuals write it, decimal and in base 16, and the name of a character that shows nothing.
+/// The tool tip: the code as manuals write it, decimal and hexadecimal, and the name of an invisible character.
 QString Bulle(int code)
 {
     constexpr int base = 16;
@@ -60,8 +61,8 @@ QString Bulle(int code)
     return QStringLiteral("%1 = %2h  %3").arg(code).arg(hexa, NomCaractere(code)).trimmed();
 }
 
-/// Where a key leads from a character of the table; outside of it beyond its edges, and the same where the key is none
-/// of these.
+/// The place in the table that a key leads to from the character code. It may lie outside the table; any other key
+/// gives code itself.
 int Voisin(int code, int touche)
 {
     const int debut = code - code % ParRangee;
@@ -98,7 +99,7 @@ FrmCaract::FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent)
 
 void FrmCaract::Form_Load()
 {
-    constexpr int lignes = 4; // a full chain
+    constexpr int lignes = 4; // room for a full chain
     Label1->ReserveLignes(lignes);
     Text1->setAccessibleName(Frame3->title());
     PoseCaracteres();
@@ -114,7 +115,7 @@ void FrmCaract::Form_Load()
     connect(Command1, &QPushButton::clicked, this, &FrmCaract::accept);
 }
 
-/// The control characters stand apart, above the printable ones.
+/// Lays out the buttons: the control characters apart, above the printable ones.
 void FrmCaract::PoseCaracteres()
 {
     constexpr int ecart = 10; // pixels
@@ -129,14 +130,14 @@ void FrmCaract::PoseCaracteres()
     ordre << Text1 << Command6 << Command7 << Command2 << Command3 << Command1;
     for (qsizetype i = 1; i < ordre.size(); ++i)
         setTabOrder(ordre[i - 1], ordre[i]);
-    Command1->setFocus(); // a blank bar touched by accident must not add a character
+    Command1->setFocus(); // a stray space bar must not add a character
 }
 
 QPushButton *FrmCaract::CreeBouton(int code)
 {
     auto *const bouton = new QPushButton(Frame1);
     bouton->setObjectName(QStringLiteral("Car_%1").arg(code));
-    // As wide as the longest caption asks, not as wide as a style makes its buttons: there are sixteen in a row.
+    // The width follows the captions and not the style's usual width: sixteen buttons stand in a row.
     bouton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     bouton->installEventFilter(this);
     ChoisitBouton(bouton, code, Legende(code));
@@ -154,7 +155,7 @@ bool FrmCaract::eventFilter(QObject *objet, QEvent *evenement)
     return vers != code;
 }
 
-/// A click on bouton adds that character. One that shows nothing is shown by its name.
+/// Makes a click on bouton add the character code. An invisible character is shown by its name.
 void FrmCaract::ChoisitBouton(QPushButton *bouton, int code, const QString &legende)
 {
     constexpr int marge = 16; // pixels
@@ -166,7 +167,7 @@ void FrmCaract::ChoisitBouton(QPushButton *bouton, int code, const QString &lege
     m_caracteres << bouton;
 }
 
-/// Once the codes stand.
+/// To be called when the codes are in the record.
 void FrmCaract::MontreLibelle(const QString &libelle)
 {
     Label1->MontreChaine(libelle, CaracteresDe(m_type));
@@ -208,7 +209,8 @@ void FrmCaract::RefuseCaractere()
     Text1->selectAll();
 }
 
-/// A full chain takes no more. Enter adds the free character, where there is one, and otherwise closes.
+/// Disables the characters while the chain is full. Enter adds the free character if there is one, and otherwise
+/// closes.
 void FrmCaract::SuitChaine()
 {
     const bool place = Nombre() < ConfigurationCom::CapaciteChaine;
@@ -227,7 +229,7 @@ void FrmCaract::Command3_Click()
     SuitChaine();
 }
 
-/// After it there is nothing to undo.
+/// Empties the chain. This cannot be undone.
 void FrmCaract::Command2_Click()
 {
     for (; Nombre() > 0; --Nombre())

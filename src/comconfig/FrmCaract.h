@@ -6,9 +6,9 @@
 #include <QDialog>
 #include <QList>
 
-/// The modal dialog in which the operator composes a chain, one click for each character: controls expect characters
-/// there that no keyboard has. Each click changes the codes in ParamCom at once; Label1 is the chain's label, which
-/// whoever opened the dialog takes when it closes, however it was closed.
+/// The modal dialog in which the operator composes a chain, one click for each character: machines expect characters
+/// there that no keyboard has. Each click changes the codes in ParamCom at once. Label1 shows the chain's label, which
+/// the caller reads when the dialog has closed, in whatever way.
 ///
 /// Car_0 to Car_127: a character each, by its code; Command4, Command5: the codes 2 and 3; Text1 with Command6: a free
 /// character; Command7: its help; Command1: close; Command2: clear; Command3: undo the last insertion.
@@ -17,11 +17,11 @@ class FrmCaract : public QDialog, public Ui::FrmCaract
     Q_OBJECT
 
 public:
-    /// type: the chain to compose; libelle: its label as it stands. New characters come behind the old ones.
+    /// type: the chain to compose; libelle: its label so far. New characters are added at its end.
     FrmCaract(TypeChaine type, const QString &libelle, QWidget *parent);
 
 protected:
-    /// The arrows go through the table of characters as they are seen, Home and End to the ends of a row.
+    /// Arrow keys move through the table of characters as it is seen, Home and End to the ends of a row.
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:

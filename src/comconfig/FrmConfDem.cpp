@@ -39,7 +39,7 @@ void FrmConfDem::Form_Activate()
     MontreDossier(LabelDosConf, Reglages.DosConf);
 }
 
-/// ligne: how "Dorvanel.ini" holds the folder.
+/// ligne: how "Dorvanel.ini" writes the folder.
 void FrmConfDem::ChoisitDossier(LabelElide *montre, LigneNom ligne)
 {
     const QString choisi = ChoixDossier(this, QStringLiteral("Choix du dossier"), montre->text());
@@ -57,7 +57,7 @@ void FrmConfDem::Command2_Click()
     });
 }
 
-/// The language starts the settings anew, so what stood here unsaved gives way to them.
+/// Opens the language dialog. It resets the settings, so choices that were not saved here are lost.
 void FrmConfDem::Command6_Click()
 {
     FrmLangue(this).exec();

@@ -5,12 +5,12 @@
 
 #include <QDialog>
 
-/// The start-up options: what the next start does. The controls are a working copy: the settings and "Dorvanel.ini"
-/// take it when it is saved, and the running program goes on as it is.
+/// The dialog of the start-up options, which say what the next start does. The controls are a working copy: saving
+/// writes them to Reglages and "Dorvanel.ini". The running program does not change.
 ///
-/// Check1, LblDos, Command1: default folder of programs, in use or not, and its choice; Check2, LblNomConf, Command2:
-/// default configuration; Check3: explorer shown; LabelDosConf, Command5: folder of the configurations; Command3:
-/// close; Command4: save; Command6: language.
+/// Check1, LblDos, Command1: default folder of programs (used or not, its path, its choice); Check2, LblNomConf,
+/// Command2: default configuration; Check3: explorer shown; LabelDosConf, Command5: folder of the configurations;
+/// Command3: close; Command4: save; Command6: language.
 class FrmConfDem : public QDialog, public Ui::FrmConfDem
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The lines, each as its place in texte and its length, into which a width cuts it.
+/// Breaks texte into lines of at most largeur pixels. Each line is given as its start in texte and its length.
 QList<std::pair<int, int>> Lignes(const QString &texte, const QFont &police, int largeur)
 {
     QTextLayout page(texte, police);
@@ -28,8 +28,8 @@ QList<std::pair<int, int>> Lignes(const QString &texte, const QFont &police, int
     return lignes;
 }
 
-/// libelle with as many "&" one behind the other as the chain has there: its button adds two for one, the free
-/// character one. A label whose chain has none is a caption, in which two stand for one.
+/// libelle with each run of "&" as long as in the chain: the button of "&" adds two to the label for one character, the
+/// free character adds one. When the chain has no "&" the label is a caption, and two stand for one.
 QString EsperluettesVraies(const QString &libelle, const QString &caracteres)
 {
     static const QRegularExpression suite(QStringLiteral("&+"));
@@ -58,10 +58,10 @@ void LabelChaine::MontreChaine(const QString &libelle, const QString &caracteres
 {
     m_visible = ControlesVisibles(EsperluettesVraies(libelle, caracteres));
     setText(libelle);
-    // A tool tip would take names such as <EM> and <SUB> for tags.
+    // A tool tip would take names such as <EM> and <SUB> for HTML tags.
     setToolTip(Qt::mightBeRichText(m_visible) ? m_visible.toHtmlEscaped() : m_visible);
     setAccessibleDescription(m_visible);
-    update(); // the same label may stand for another chain
+    update(); // the chain may have changed under the same label
 }
 
 void LabelChaine::ReserveLignes(int nombre)
@@ -75,7 +75,7 @@ QSize LabelChaine::sizeHint() const
     return minimumSizeHint();
 }
 
-/// The length of a chain does not count: the window that shows it keeps its size.
+/// Does not depend on the chain's length, so that the window keeps its size.
 QSize LabelChaine::minimumSizeHint() const
 {
     const int bords = 2 * (margin() + frameWidth());

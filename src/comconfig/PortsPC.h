@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Which device of this PC a port number stands for, and whether it is there, for the operator who chooses a port.
-/// numPort: 1 to 16.
+/// Text for the operator who chooses a port: the device of this PC that stands behind a port number, and whether it is
+/// there. numPort: 1 to 16.
 QString DecritPort(int numPort);

@@ -54,7 +54,7 @@ constexpr char16_t TitreEditeur[] = u"Choix de l'éditeur de programmes CN";
 constexpr char16_t FiltreEditeur[] = u"Fichiers EXE |*.exe|Fichiers COM |*.com|Fichiers BAT |*.bat|Fichiers PIF |*.pif";
 constexpr char16_t FiltreSansExtension[] = u"|*|*.*";
 
-/// The button that opens the chooser on a chain, and its title.
+/// A button that opens the chooser of characters, its chain, and the chooser's title.
 struct EditionChaine
 {
     QPushButton *U::*bouton;
@@ -78,7 +78,7 @@ constexpr EditionChaine Editions[] = {{&U::Command20,
                                         u"Affect a caratère or a chain of caratères at the beginning of program",
                                         u"Afectar del caratère o una cadena de caratères al principio de programa "}}};
 
-/// The button that opens the tree on a reception folder, and its title.
+/// A button that opens the choice of a reception folder, and that dialog's title.
 struct ChoixReception
 {
     QPushButton *U::*bouton;
@@ -130,7 +130,7 @@ void Prop::BrancheCommandes()
         regarde->installEventFilter(this);
     connect(SSTab1, &QTabWidget::currentChanged, this, [this] {
         if (auto *const boite = qobject_cast<QLineEdit *>(focusWidget()))
-            boite->selectAll(); // the tab has given it the focus, and the caret the middle of its value
+            boite->selectAll(); // the tab has given it the focus, with the caret inside the number
     });
     connect(cmdOK, &QPushButton::clicked, this, &Prop::cmdOK_Click);
     for (QPushButton *const enregistre : {Command1, Command17})
@@ -140,7 +140,7 @@ void Prop::BrancheCommandes()
     connect(Command5, &QPushButton::clicked, this, &Prop::Command5_Click);
 }
 
-/// The label that the chooser leaves fits the codes, however it was closed.
+/// The chooser's label is taken over however it was closed, since it belongs to the codes.
 void Prop::BrancheChaines()
 {
     for (const EditionChaine &edition : Editions)
@@ -172,7 +172,7 @@ void Prop::Form_Load()
     MontreChoixInitiaux(*this);
 }
 
-/// Also when a dialog that this one opened has closed.
+/// Called when the window becomes active, also after a dialog that it opened has closed.
 void Prop::Form_Activate()
 {
     ParamDefaut(*this);
@@ -197,7 +197,7 @@ void Prop::LimiteAuxDossiers()
         SSTab1->setTabEnabled(SSTab1->indexOf(onglet), false);
 }
 
-/// Boxes whose caption is that of their frame say it to an assistive program.
+/// Gives the boxes whose caption is their frame's title that title as accessible name.
 void Prop::changeEvent(QEvent *evenement)
 {
     if (evenement->type() == QEvent::LanguageChange)
@@ -234,8 +234,8 @@ void Prop::cmdOK_Click()
         EtatConf.fiche = EtatConfiguration::Entiere;
 }
 
-/// A number that the file cannot hold is refused before anything is taken. Giving the dialog up, and a file that cannot
-/// be written, end the command without a word.
+/// Saves under a name. A number that the file cannot hold is refused before anything is read from the controls. When
+/// the operator cancels, or when the file cannot be written, the command ends without a message.
 void Prop::Command1_Click()
 {
     if (const auto refus = NombreTropGrand(*this, true)) {
@@ -258,7 +258,7 @@ void Prop::Command1_Click()
     });
 }
 
-/// What the file does not keep, and what the line will not bring.
+/// Warns of letters that the file cannot keep, and of an end of transfer that will never be received.
 void Prop::AnnoncePertes()
 {
     const QString titre = QString::fromUtf16(TitreBoites);
@@ -270,14 +270,14 @@ void Prop::AnnoncePertes()
 
 void Prop::done(int resultat)
 {
-    m_validee.DosRecep = ParamCom.DosRecep; // chosen at once, and in no way the machine's
+    m_validee.DosRecep = ParamCom.DosRecep; // a choice of folder holds at once, and does not concern the machine
     const bool sue = ParamCom == m_validee && ChainesAJour();
     if (!sue && EtatConf.fiche == EtatConfiguration::Entiere)
         EtatConf.fiche = EtatConfiguration::EnAttente;
     QDialog::done(resultat);
 }
 
-/// To a number that was refused.
+/// Puts the keyboard into the box of a refused number.
 void Prop::VaA(QLineEdit *boite)
 {
     SSTab1->setCurrentWidget(divers);
@@ -285,7 +285,7 @@ void Prop::VaA(QLineEdit *boite)
     boite->selectAll();
 }
 
-/// A "Dorvanel.CFG" that cannot be written is told; the editor is in force for this run all the same.
+/// When "Dorvanel.CFG" cannot be written the operator is told, and the editor holds for this run.
 void Prop::Command5_Click()
 {
     QString filtre = QString::fromUtf16(FiltreEditeur);

@@ -7,8 +7,8 @@
 
 class CommonDialog;
 
-/// The modal dialog of the communication settings: a view on ParamCom in three tabs. An option is in the record from
-/// the click on; lists and text boxes are read by Apply and by Save As. Closing reverts nothing.
+/// The modal dialog of the communication settings: a view of ParamCom in three tabs. A click on an option changes the
+/// record at once. Lists and text boxes are read by "Apply" and "Save as". Closing reverts nothing.
 ///
 /// First tab: Text1: comment; Label6: name of the configuration; Command20, Command21, Command22: chains of the end of
 /// transfer, end of line, beginning of program; cmdOK: apply; Command1: save as; cmdCancel: close.
@@ -23,19 +23,19 @@ class Prop : public QDialog, public Ui::Prop
 public:
     explicit Prop(QWidget *parent);
 
-    /// The dialog is about a configuration that has no file yet, or about the .par file of that name.
+    /// Shows the name of the configuration: one that has no file yet, or the .par file nom.
     void NommeNouvelle();
     void Nomme(const QString &nom);
-    /// Only the folders and the editor can be reached.
+    /// Leaves only the tab of the folders and the editor enabled.
     void LimiteAuxDossiers();
 
-    /// Closing, by whatever way, with choices in the record that were neither applied nor saved: the transfers are to
-    /// know of it.
+    /// Every way of closing comes through here. Options that were clicked but neither applied nor saved mark the
+    /// configuration as such, so that the transfers warn of it.
     void done(int resultat) override;
 
 protected:
     void changeEvent(QEvent *evenement) override;
-    /// What the list of ports says of this PC is looked up as it is looked at: adapters come and go.
+    /// Describes the ports again whenever their list opens or a tool tip is asked for, since adapters come and go.
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
@@ -51,6 +51,6 @@ private:
     static void AnnoncePertes();
     void VaA(QLineEdit *boite);
 
-    CommonDialog *const CommonDialog1; ///< file dialog of Save As and of the editor
+    CommonDialog *const CommonDialog1; ///< file dialog of "Save as" and of the editor
     ConfigurationCom m_validee;        // the record when the dialog opened, or was last applied or saved
 };

@@ -6,14 +6,15 @@
 
 class MSComm;
 
-// What of ParamCom the serial control takes.
+// The settings that the serial control takes from ParamCom.
 
-/// Gives one setting to the control. Raises what the control refuses.
+/// Sets one property of the control from ParamCom. Raises what the control raises.
 using EtapeReglage = void (*)(MSComm &controle);
 
-/// All of them but the port number, in their order: the lines take their state before the port opens.
+/// The steps that set all properties but the port number, in their order: the lines RTS and DTR get their state before
+/// the port opens.
 std::span<const EtapeReglage> EtapesReglage();
 
-/// Speed, parity, data bits and stop bits as one text. parite: the letter, in the case in which the control is to have
-/// it.
+/// The property Settings: speed, parity, data bits and stop bits in one text. parite: the letter for the parity, in
+/// upper or lower case as wanted there.
 QString TexteReglage(const QString &parite);

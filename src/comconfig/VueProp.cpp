@@ -17,7 +17,7 @@ namespace {
 
 using C = ConfigurationCom;
 using U = Ui_Prop;
-using Boutons = std::array<QRadioButton * U::*, 5>; // the places behind the last one are empty
+using Boutons = std::array<QRadioButton * U::*, 5>; // unused places are nullptr
 
 constexpr const char16_t *Vitesses[] = {u"110",   u"150",   u"300",    u"600",    u"1200",  u"2400",
                                         u"4800",  u"9600",  u"14400",  u"19200",  u"28800", u"38400",
@@ -26,7 +26,7 @@ constexpr const char16_t *BitsDonnees[] = {u"4", u"5", u"6", u"7", u"8"};
 constexpr const char16_t *Parites[] = {u"Even", u"Odd", u"None", u"Mark", u"Space"};
 constexpr const char16_t *BitsArret[] = {u"1", u"1.5", u"2"};
 
-/// A list and the field that holds the text of its item. The parity's field holds only the first letter.
+/// A drop-down list and the field that holds the text of its item. Of a parity the field holds only the first letter.
 struct Liste
 {
     QComboBox *U::*liste;
@@ -38,7 +38,7 @@ constexpr Liste Listes[] = {{&U::cboSpeed, &C::Vitesse},
                             {&U::cboDataBits, &C::BitsDonnees},
                             {&U::cboStopBits, &C::BitsArret}};
 
-/// A box of digits, its caption and its field.
+/// A box for a number, its caption and its field.
 struct CaseNombre
 {
     QLineEdit *U::*boite;
@@ -72,7 +72,7 @@ void MontreFinLig(const Ui::Prop &dialogue, int index)
     dialogue.Command21->setVisible(index == FinLigAutre);
 }
 
-/// Receiving by characters takes them one at a time; the other two ways go back to the usual number.
+/// Sets the number of characters for each read: one for a reception by characters, the usual number for the other two.
 void AccordeLecture(const Ui::Prop &dialogue, int index)
 {
     if (index == RecepCaracteres)
@@ -89,7 +89,8 @@ void MontreTaille(const Ui::Prop &dialogue, int index)
         dialogue.Text8->setText(QStringLiteral("0"));
 }
 
-/// A group of options: the field that takes the number of the one clicked (none: nothing is kept), and what follows.
+/// A group of options: the field that takes the number of the selected one (none: it is not stored at once), and the
+/// routine that updates the dependent controls.
 struct GroupeOptions
 {
     Boutons boutons;
@@ -123,7 +124,7 @@ void Selectionne(const Ui::Prop &dialogue, const Boutons &boutons, int index)
         bouton->setChecked(true);
 }
 
-/// The number of the option selected.
+/// The number of the selected option in its group.
 int Selection(const Ui::Prop &dialogue, const Boutons &boutons)
 {
     int index = 0;
@@ -137,7 +138,7 @@ void Remplit(QComboBox *liste, const char16_t *const (&articles)[N])
 {
     for (const char16_t *const article : articles)
         liste->addItem(QString::fromUtf16(article));
-    liste->setCurrentIndex(-1); // until a value of the record chooses
+    liste->setCurrentIndex(-1); // nothing selected before the record is shown
 }
 
 void MontreArticle(QComboBox *liste, const QString &article)
@@ -154,8 +155,7 @@ void MontreParite(QComboBox *liste)
     }
 }
 
-/// The value of the digits at the beginning of what stands in the box, typed or pasted. Raises Depassement, in words
-/// for the operator.
+/// The number at the beginning of the box's text. Raises Depassement with a message for the operator.
 int NombreSaisi(const Ui::Prop &dialogue, const CaseNombre &champ)
 {
     const QString saisie = SansBlancs((dialogue.*champ.boite)->text());
@@ -168,7 +168,7 @@ int NombreSaisi(const Ui::Prop &dialogue, const CaseNombre &champ)
     }
 }
 
-/// The box then shows the number that was taken.
+/// Reads a box into its field, and shows in the box the number that was read.
 void PrendNombre(const Ui::Prop &dialogue, const CaseNombre &champ)
 {
     ParamCom.*champ.champ = NombreSaisi(dialogue, champ);
@@ -206,7 +206,7 @@ void BrancheOptions(const Ui::Prop &dialogue)
                     groupe.suite(dialogue, i);
             };
             QObject::connect(bouton, &QRadioButton::toggled, bouton, choisit);
-            // Also on the option that stands there already: the record may hold a value that no option shows.
+            // A click on the selected option counts too: the record may hold a value that no option shows.
             QObject::connect(bouton, &QRadioButton::clicked, bouton, choisit);
         }
         if (groupe.suite != nullptr)
@@ -236,7 +236,7 @@ void ParamDefaut(const Ui::Prop &dialogue)
         if (groupe.champ != nullptr)
             Selectionne(dialogue, groupe.boutons, ParamCom.*groupe.champ);
     }
-    // One character at a time goes with reception by characters alone, also where that option already stood.
+    // Reading one character at a time belongs to reception by characters only, even in a record that says otherwise.
     if (ParamCom.TypeRecep == RecepLignes || ParamCom.TypeRecep == RecepFichier)
         AccordeLecture(dialogue, ParamCom.TypeRecep);
     const int fixe = ParamCom.TailleRecep != 0 ? 1 : 0;

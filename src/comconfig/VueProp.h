@@ -10,41 +10,42 @@ namespace Ui {
 class Prop;
 }
 
-// The road between ParamCom and the controls of the properties dialog, in both directions.
+// Moves values between ParamCom and the controls of the properties dialog, in both directions.
 
-/// Fills the lists, in their order.
+/// Fills the drop-down lists.
 void RemplitListes(const Ui::Prop &dialogue);
 
-/// Has each port of the list, and the one chosen, say which device of this PC it stands for in this moment.
+/// Writes the device of this PC behind each port into the tool tips of the list of ports, as of now.
 void DecritPorts(const Ui::Prop &dialogue);
 
-/// From now on a click on an option writes its number to its field; the group's other controls follow, and do so at
-/// once for the option that stands there.
+/// Makes a click on an option write its number into its field and update the controls that depend on it. They are
+/// updated at once for the options that are selected now.
 void BrancheOptions(const Ui::Prop &dialogue);
 
-/// The options that only the opening shows, FinLigRecep and TypeEnvoi.
+/// Selects the options of FinLigRecep and TypeEnvoi, which are shown only when the dialog opens.
 void MontreChoixInitiaux(const Ui::Prop &dialogue);
 
-/// Shows all the rest of the record. What was typed and not taken is overwritten. A value that a list or group does not
-/// have leaves it as it is.
+/// Shows all other fields of the record. Text that was typed and not applied is lost. A value that a list or a group of
+/// options does not have leaves its control as it is.
 void ParamDefaut(const Ui::Prop &dialogue);
 
 /// Shows the reception folders and the editor.
 void MontreDossiers(const Ui::Prop &dialogue);
 
-/// A number that does not fit its field: its box, and what the operator is told.
+/// A typed number too large for its field: its box, and the message for the operator.
 struct SaisieRefusee
 {
     QLineEdit *boite;
     QString raison;
 };
 
-/// The first one, if there is one, of those that an Apply takes; of the others too where aSauver is true.
+/// The first such number among those that "Apply" reads; with aSauver also among those that only a saving reads.
 std::optional<SaisieRefusee> NombreTropGrand(const Ui::Prop &dialogue, bool aSauver);
 
-/// Takes lists and boxes into the record. A number that does not fit leaves its field as it was and is the failure that
-/// stays pending. A list in which nothing is chosen leaves its field as it was too.
+/// Reads lists and boxes into the record. A number too large for its field, or a list without a choice, leaves the
+/// field as it was; the number is the failure that stays pending.
 ErreurEnAttente PrendControles(const Ui::Prop &dialogue);
 
-/// Takes what only a saving takes: TailleRecep and TypeEnvoi. Raises Depassement, which NombreTropGrand foretells.
+/// Reads what only a saving reads: TailleRecep and TypeEnvoi. Raises Depassement for a number that NombreTropGrand()
+/// would report.
 void PrendTransferts(const Ui::Prop &dialogue);

@@ -11,9 +11,9 @@ namespace {
 
 QString DossierFixe;
 
-/// Copies what the program was shipped with, over nothing that is there. Each sample comes whole or, where the disk is
-/// full or the start is broken off, not at all: nobody sends half a program. The user may change his copies even of
-/// samples that belong to nobody.
+/// Copies the samples that the program was shipped with, and never overwrites a file. A sample is copied whole or not
+/// at all, even when the disk is full or the start is broken off, so that nobody sends half a program. The user gets
+/// the right to write to his copies, which the installed originals do not give.
 void CopieExemples(const QString &de, const QString &vers)
 {
     for (const QLatin1String nom : {QLatin1String("/Conf"), QLatin1String("/Programmes")}) {
@@ -21,14 +21,15 @@ void CopieExemples(const QString &de, const QString &vers)
         const QFileInfoList exemples = QDir(de + nom).entryInfoList(QDir::Files);
         for (const QFileInfo &exemple : exemples) {
             QFile copie(vers + nom + u'/' + exemple.fileName());
-            if (QFile::copy(exemple.filePath(), copie.fileName())) // under its name only when it is whole
+            if (QFile::copy(exemple.filePath(), copie.fileName())) // QFile::copy gives the name only to a whole copy
                 copie.setPermissions(copie.permissions() | QFile::WriteUser);
         }
     }
 }
 
-/// A start that finds no settings is the first one, even where the folder is there: the operator may have tied his
-/// adapter to a port in it before. Later starts bring back nothing that he has deleted.
+/// The user's application folder. It gets the samples on the first start, which is one without a settings file: the
+/// folder alone may already exist, because the operator has linked an adapter in it. Later starts restore no sample
+/// that he has deleted.
 QString DossierUtilisateur(const QString &dossierProgramme)
 {
     QString dossier = DonneesUtilisateur() + QStringLiteral("/Dorvanel");

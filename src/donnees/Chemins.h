@@ -4,23 +4,23 @@
 
 // Paths. The folder separator is the platform's: "\" on Windows, "/" elsewhere.
 
-/// The folder that holds the settings and the samples: the folder of the program file or, where that cannot be written
-/// or lies below /usr or Program Files (an installed program), the folder Dorvanel in the user's own data, which gets a
-/// copy of the samples on the first start. Which of the two it is stays the same for the whole run.
+/// The application folder, which holds the settings and the samples. It is the folder of the program file. When that
+/// cannot be written or lies below /usr or Program Files (an installed program), it is the folder Dorvanel in the
+/// user's data folder, and gets a copy of the samples on the first start. It stays the same for the whole run.
 QString DossierApplication();
 
-/// Puts another folder in its place; a test gives itself one. "" goes back to the ordinary one.
+/// Makes dossier the application folder, for a test. "" goes back to the ordinary one.
 void FixeDossierApplication(const QString &dossier);
 
-/// chemin with a final separator, added only when there is none.
+/// chemin with a separator at its end; one that is there already is not doubled.
 QString AjouteAntislash(const QString &chemin);
 
-/// What follows the last separator; the whole of chemin when there is none.
+/// The part of chemin behind the last separator, or the whole when there is none.
 QString NomSeul(const QString &chemin);
 
-/// chemin in full. A settings or configuration file may name a folder beside the program, wherever that has been laid.
+/// chemin as an absolute path. A relative one, which settings and configurations may hold, counts from the application
+/// folder.
 QString DepuisDossierApplication(const QString &chemin);
 
-/// chemin in upper case where the file system takes that for the same folder, else as it stands: on a file system that
-/// tells case apart the upper-case form names nothing.
+/// chemin in upper case, if the file system takes that for the same folder; otherwise chemin as it is.
 QString EnMajuscules(const QString &chemin);

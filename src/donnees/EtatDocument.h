@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The one CN program that the main window holds: where it came from, and whether it has changed. Its text stands in
-/// the pane and nowhere else.
+/// What the program knows of the CN program in the main window: its file, and whether it has changed. The text itself
+/// stands in the pane and nowhere else.
 struct EtatDocument
 {
     QString NomFichier;          ///< full path of the file; a bare name after Mnu_Nouveau; "" before the first file

@@ -13,12 +13,12 @@ struct JaugeOutil
     float Rayon = 0;         ///< radius of the tool's nose, mm; lathe only
     int Localisateur = 0;    ///< quadrant in which the nose cuts, 0 to 8; lathe only
     QChar ModeMesure = u' '; ///< 'R': the bench gave JaugeX as a radius, 'D': as a diameter
-    int NonLuesAvant = 0;    ///< bursts of the session ahead of it that hold no measure
+    int NonLuesAvant = 0;    ///< bursts without a measure that came before it in this reception
 };
 
 constexpr int CapaciteJauges = 300; ///< measures that one reception can hold, and the highest corrector number
 
-/// The measures of the bench, and the reception that takes them.
+/// The measures from the bench, and how far their reception has come.
 struct EtatJauges
 {
     TableNumerotee<JaugeOutil> Jauge = TableNumerotee<JaugeOutil>(CapaciteJauges); ///< of the last reception

@@ -23,16 +23,16 @@ extern TableLignes Lignes; ///< the one table
 /// Empties the entries 1 to 25000.
 void VideLignes();
 
-/// Cuts texte into Lignes at each CR LF. An entry cut so keeps its CR, and the LF stays at the head of the next: the
-/// first reads text CR, those between LF text CR, the last LF text without its blanks at both ends.
-/// A text of more than 25000 lines fills the table and leaves NbLignes as it was.
+/// Cuts texte into Lignes between the CR and the LF of each CR LF: an entry keeps its CR, and the LF begins the next
+/// one. The last entry also loses the blanks at both its ends. A text of more than 25000 lines fills the table and
+/// leaves NbLignes as it was.
 void CalculeLigne(const QString &texte);
 
-/// True for a line without anything but blanks.
+/// True for a line that is empty or holds only blanks.
 bool EstBlanche(const QString &ligne);
 
-/// Finds the last entry that holds more than blanks; LigneMaxi is 0 when there is none.
+/// Sets LigneMaxi to the last entry that holds more than blanks, 0 when there is none.
 void CalculeMaxi();
 
-/// The entries 1 to LigneMaxi as one text: without the blanks at their ends, with a CR LF between them.
+/// The entries 1 to LigneMaxi as one text, with CR LF between them. Blanks at the end of an entry are left out.
 QString TexteLignes();

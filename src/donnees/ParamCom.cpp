@@ -20,7 +20,8 @@ namespace {
 
 constexpr int CodeMax = 255; // of a character of code page 1252
 
-/// A field of the lines 1 to 29: the member that holds it, which is a number or a text.
+/// A field of the lines 1 to 29 of a .par file: the member of the record that holds it, a number or a text. The other
+/// pointer is null.
 struct Champ
 {
     int ConfigurationCom::*nombre;
@@ -49,7 +50,7 @@ constexpr Champ Champs[] = {
     Chaine(&C::LibFinLig),    Chaine(&C::LibFinTrans),       Nombre(&C::NbCarDebProg),     Nombre(&C::NbCarFinLig),
     Nombre(&C::NbCarFinTrans)};
 
-/// Whatever a file holds, no count of the record reaches beyond its chain.
+/// Holds the counts of the three chains to 0 to 100, whatever the file says.
 void TientNombres()
 {
     for (const ChampsChaine &chaine : Chaines)
@@ -89,7 +90,7 @@ void LireFichierPar(const QString &chemin)
 {
     EtatConf.fiche = EtatConfiguration::Incomplete;
     LecteurChamps champs(LitFichierTexte(chemin));
-    const auto tenus = qScopeGuard(TientNombres); // also when the reading breaks off
+    const auto tenus = qScopeGuard(TientNombres); // also when an exception ends the reading
     for (const Champ &champ : Champs) {
         if (champ.texte != nullptr)
             ParamCom.*champ.texte = champs.LigneChaine();

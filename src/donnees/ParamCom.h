@@ -43,7 +43,7 @@ struct ConfigurationCom
     int TypeFinTrans = 0;      ///< end of transfer: XOFF, EOT or CarFinTrans, see TypeFinTransfert
     int TypeFinLig = 0;        ///< end of line: LF, CR, both or CarFinLig, see TypeFinLigne
     int NbCarLecture = 0;      ///< characters taken at each read, 0 (all that wait) to 9999
-    QString CarRemplace;       ///< stands for a character with a parity error; at most one character
+    QString CarRemplace;       ///< replaces a character with a parity error; at most one character
     int TailleTamponRecep = 0; ///< receive buffer, bytes, 0 to 9999
     int TailleTamponEmis = 0;  ///< transmit buffer, characters; also the block of a whole-file sending
     int SeuilRecep = 0;        ///< characters that raise a receive event; 0: none
@@ -80,7 +80,7 @@ enum TypeChaine {
     ChaineTransfert = 2 ///< end of transfer
 };
 
-/// A chain in the record: its count, its codes, its label.
+/// The members of the record that make up a chain: its count, its codes, its label.
 struct ChampsChaine
 {
     int ConfigurationCom::*nombre;
@@ -94,50 +94,52 @@ inline constexpr ChampsChaine Chaines[] = {
     {&ConfigurationCom::NbCarFinLig, &ConfigurationCom::CarFinLig, &ConfigurationCom::LibFinLig},
     {&ConfigurationCom::NbCarFinTrans, &ConfigurationCom::CarFinTrans, &ConfigurationCom::LibFinTrans}};
 
-/// The code of a chain at place, 1 to CapaciteChaine, in ParamCom.
+/// The code at place (1 to CapaciteChaine) of a chain of ParamCom.
 int &CodeDe(const ChampsChaine &chaine, int place);
 
 extern ConfigurationCom ParamCom; ///< the one configuration in force
 
-/// Where ParamCom comes from, and whether it holds one configuration or pieces of several: a reading that breaks off
-/// takes nothing back.
+/// Where ParamCom comes from, and whether it is whole: a reading that fails in the middle leaves fields of two
+/// configurations in it.
 struct EtatConfiguration
 {
     enum Fiche {
-        Incomplete, ///< nothing was read yet, or the last reading broke off
-        EnAttente,  ///< made or changed by the operator, neither applied nor saved
+        Incomplete, ///< nothing has been read yet, or the last reading failed in the middle
+        EnAttente,  ///< made or changed by the operator, and neither applied nor saved yet
         Entiere     ///< read or saved whole, or applied
     };
     Fiche fiche = Incomplete;
     bool neuve = false;     ///< made by the operator, and no file holds it yet
-    bool malEcrite = false; ///< its last saving broke off: the file that bears its name is not whole
+    bool malEcrite = false; ///< its last saving failed: the file of its name may be incomplete
     bool lue = false;       ///< a configuration has been read whole since the program started
     QString FicConf;        ///< full path of the .par file of ParamCom; "" when there is none
     QString NomConf;        ///< that file's name without its folder
 };
 
-extern EtatConfiguration EtatConf; ///< kept by whatever changes ParamCom as a whole
+extern EtatConfiguration EtatConf; ///< kept up to date by every routine that replaces ParamCom
 
-/// Reads the .par file at chemin into ParamCom. Raises what the file system, LecteurChamps and a count above 100
-/// (IndiceHorsPlage) raise; the fields ahead of the failure then hold the file's values and the others their former
-/// ones. The counts of the chains are held to 0 to 100 in any case.
+/// Reads the .par file at chemin into ParamCom. Raises what LitFichierTexte and LecteurChamps raise, IndiceHorsPlage
+/// for a chain count above 100, Depassement for a code outside 0 to 255. The fields before the failure then hold the
+/// file's values and the others their former ones. The counts of the chains are held to 0 to 100 in any case.
 void LireFichierPar(const QString &chemin);
 
-/// Creates or replaces the .par file at chemin with ParamCom; a double quote in a text goes out as an apostrophe, since
-/// the format cannot hold one. Raises what EcritFichierTexte raises.
+/// Creates or replaces the .par file at chemin with ParamCom. A double quote in a text is written as an apostrophe,
+/// since the format cannot hold one. Raises what EcritFichierTexte raises.
 void EcrireFichierPar(const QString &chemin);
 
 /// The characters that end a line of the machine, by a value of TypeFinLigne.
 QString CaracteresFinLigne(TypeFinLigne type);
 
-/// Rebuilds ChaineFinTrans and ChaineFinLig; a type outside its range leaves its string as it was.
+/// Rebuilds ChaineFinTrans and ChaineFinLig from the fields. A type outside its range leaves its string as it was.
 void BatirChaines();
 
-/// True when XON/XOFF takes a character of the chosen end of transfer out of what is received: the end never arrives.
+/// True when the flow control XON/XOFF would remove a character of the chosen end of transfer from what is received, so
+/// that a reception would never see its end.
 bool FinTransfertPerdue();
 
-/// True when BatirChaines() would change nothing. Reading and saving a file do not rebuild them.
+/// True when BatirChaines() would change nothing. It may be false after a reading or a saving, which do not rebuild
+/// them.
 bool ChainesAJour();
 
-/// The characters of a chain, whatever TypeFinLig and TypeFinTrans say.
+/// The characters of a chain as composed by the operator, also when TypeFinLig or TypeFinTrans does not use it.
 QString CaracteresDe(TypeChaine type);

@@ -13,10 +13,10 @@ ConfigurationMac ParamMac;
 
 namespace {
 
-/// Eleven short lines; a file beyond this size, in bytes, is no configuration.
+/// A configuration is eleven short lines; a file larger than this, in bytes, is none.
 constexpr qint64 TailleMaxMac = qint64{64} * 1024;
 
-/// The next value, which must be a number and nothing else.
+/// Reads the next value. Raises TypeIncompatible when it is anything but a number.
 double LitReel(LecteurChamps &champs)
 {
     const QString valeur = champs.Chaine();

@@ -35,8 +35,9 @@ bool DejaEcrit(const QString &chemin, const QString &texte)
     return pareil;
 }
 
-/// Writes a settings file whole. Of a new one that finds no room nothing is left: the next start would take it for
-/// settings that cannot be read, and say nothing. A link of the user's stays, also while the drive behind it is away.
+/// Writes a settings file whole. When a new one fails half way it is removed: the next start would take the rest for
+/// settings that cannot be read, and would say nothing. A link made by the user stays, even when the drive behind it is
+/// away.
 void EcritReglages(const QString &chemin, const QString &texte)
 {
     const bool neuf = !QFileInfo::exists(chemin) && !QFileInfo(chemin).isSymLink();
@@ -49,8 +50,8 @@ void EcritReglages(const QString &chemin, const QString &texte)
     }
 }
 
-/// The language is the one number that may be a text: a comma in the line before it pushes half a path into its place.
-/// Raises Depassement.
+/// The language, read from its field. A field that is no number gives LangAucune: a comma in the line before pushes
+/// half a path into this place. Raises Depassement.
 int LangueLue(const QString &champ)
 {
     static const QRegularExpression debutDeNombre(QStringLiteral(R"(^\s*([+-]?\.?\d|$))"));
@@ -87,7 +88,7 @@ void SauveIni()
                           LigneNombre(Reglages.OptConfDefaut) + LigneCitee(Reglages.FicConfDefaut) +
                           LigneNombre(Reglages.OptExplorateur) + Reglages.DosConf + QStringLiteral("\r\n") +
                           LigneNombre(LangIndex);
-    // Every start saves, and a slow disk would keep the operator waiting for what stands there already.
+    // Every start saves. On a slow disk the operator would wait for a file that would not change.
     if (!DejaEcrit(CheminIni(), texte))
         EcritReglages(CheminIni(), texte);
 }

@@ -2,10 +2,9 @@
 
 #include <QString>
 
-// The settings that the program carries from one run to the next, in two small files of the application folder:
-// "Dorvanel.ini" (with LangIndex as its last line) and "Dorvanel.CFG" (with the reception folder of programs as its
-// first). That folder is a field of ParamCom, which is built on the settings and not below them: so whoever reads the
-// file hands it in.
+// The settings that the program keeps from one run to the next, in two small files of the application folder:
+// "Dorvanel.ini", with LangIndex as its last line, and "Dorvanel.CFG", with the reception folder of programs as its
+// first. That folder is a field of ParamCom, of which this unit knows nothing, so the caller passes it.
 
 struct ReglagesProgramme
 {
@@ -22,25 +21,25 @@ struct ReglagesProgramme
 
 extern ReglagesProgramme Reglages; ///< the settings in force
 
-/// Path of "Dorvanel.ini" / "Dorvanel.CFG".
+/// Paths of "Dorvanel.ini" and "Dorvanel.CFG".
 QString CheminIni();
 QString CheminCfg();
 
-/// Reads "Dorvanel.ini" field by field into its variables. Raises what LitFichierTexte and LecteurChamps raise; the
-/// fields ahead of the failure are then already in their variables.
+/// Reads "Dorvanel.ini" into Reglages and LangIndex, field by field. Raises what LitFichierTexte and LecteurChamps
+/// raise; the fields before the failure then hold the file's values.
 void LitIni();
 
-/// Writes "Dorvanel.ini" whole, unless it stands so already. Raises what EcritFichierTexte raises.
+/// Writes "Dorvanel.ini", unless the file already holds the same. Raises what EcritFichierTexte raises.
 void SauveIni();
 
-/// The values of a first run, which has no "Dorvanel.ini" yet. LangIndex stays: the operator is asked for it.
+/// Sets the values of a first run, which has no "Dorvanel.ini" yet. LangIndex stays: the operator is asked for it.
 void IniParDefaut();
 
-/// Reads "Dorvanel.CFG" into dosRecep (the reception folder of programs), DosJauge and EditeurCN. Raises as LitIni().
+/// Reads "Dorvanel.CFG" into DosJauge, EditeurCN and dosRecep (the reception folder of programs). Raises as LitIni().
 void LitCfg(QString &dosRecep);
 
-/// Writes "Dorvanel.CFG" whole. dosRecep: the reception folder of programs. Raises as SauveIni().
+/// Writes "Dorvanel.CFG". dosRecep: the reception folder of programs. Raises as SauveIni().
 void SauveCfg(const QString &dosRecep);
 
-/// The values of a run without "Dorvanel.CFG".
+/// Sets the values of a run without "Dorvanel.CFG". dosRecep: takes the reception folder of programs.
 void CfgParDefaut(QString &dosRecep);

@@ -18,7 +18,7 @@ constexpr qint64 TailleMax = 200'000'000; ///< bytes of all that is kept
 
 std::function<void(const Erreur &)> ecouteur;
 
-/// Bytes that the name of a program may have, so that with date and rank it stays a name that a file system takes.
+/// Bytes that the name of a program may have. With date and rank it then still fits into a file name.
 constexpr int LongueurNom = 220;
 
 struct NomCoupe
@@ -35,14 +35,15 @@ NomCoupe Coupe(const QString &nom)
     return {avecFin ? nom.left(point) : nom, avecFin ? nom.mid(point) : QString()};
 }
 
-/// The date that a kept file bears, and its ending.
+/// Matches the date in the name of a kept file, and the ending behind it.
 const QRegularExpression &FormeDate()
 {
     static const QRegularExpression forme(QStringLiteral(R"(_\d{4}-\d\d-\d\d_\d{6}(?: \(\d+\))?(\.[^.]*)?$)"));
     return forme;
 }
 
-/// The name alone of a path, cut where it would be too long. What comes from the folder itself bears a date already.
+/// The name of the file at chemin without its folder, shortened when it is too long. A file of this folder loses the
+/// date in its name, since it gets a new one.
 QString NomCourt(const QString &chemin)
 {
     QString nom = NomSeul(chemin);
@@ -54,7 +55,8 @@ QString NomCourt(const QString &chemin)
     return racine + fin;
 }
 
-/// Makes an empty file under the first name of nom that is free; another copy of the program may look for one too.
+/// Creates an empty file under the first free name made of nom and date, so that no other copy of the program takes the
+/// same name. Gives its path.
 QString Reserve(const QString &nom, const QDateTime &date)
 {
     const auto &[racine, fin] = Coupe(nom);
@@ -74,8 +76,8 @@ QString Reserve(const QString &nom, const QDateTime &date)
     }
 }
 
-/// The oldest go. What was kept last stays, whatever the clock of this PC said when the others were written; so do the
-/// file that is open and files that the operator has laid here.
+/// Removes the oldest files beyond NombreMax files or TailleMax bytes. derniere, the file kept last, stays even if the
+/// clock of this PC makes it look old. The open file and files that the operator has put here himself stay too.
 void Limite(const QString &derniere)
 {
     int nombre = 1;
@@ -92,7 +94,8 @@ void Limite(const QString &derniere)
     }
 }
 
-/// ecrit: writes what is kept to the path that it is given.
+/// Keeps something under the name nom and gives its path; "" when it failed. taille: bytes; ecrit: writes it to the
+/// path that it is given.
 template <typename Ecriture>
 QString Garde(const QString &nom, qint64 taille, Ecriture ecrit)
 {

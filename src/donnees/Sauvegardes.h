@@ -6,35 +6,36 @@
 
 class Erreur;
 
-// The folder "Sauvegardes" of the application folder. In it stand the texts that have left the pane unsaved, and files
-// as they were before something else was written over them, each as "<name>_<yyyy-MM-dd_HHmmss><ending>". What is
-// kept here is found again by the operator in an ordinary file dialog.
+// The folder "Sauvegardes" of the application folder. It keeps texts that have left the pane unsaved, and copies of
+// files made before something else was written over them. Their names are "<name>_<yyyy-MM-dd_HHmmss><ending>", and the
+// operator finds them in any file dialog.
 
 QString DossierSauvegardes();
 
-/// True for a path in this folder. What lies here goes one day: it is no place to save a program in.
+/// True for a path in this folder. No program should be saved here: old files are removed.
 bool EstGarde(const QString &chemin);
 
-/// The name alone of what lies at chemin; without the date when that is this folder.
+/// The name of the file at chemin without its folder. For a file of this folder also without the date.
 QString NomDOrigine(const QString &chemin);
 
-/// The name under which a text of the program nom is kept, before its date. A text of the pane is plain: under the
-/// ending of a rich one the pane would refuse it, so that another ending follows. nom: path or name, or "".
+/// The name under which a text of the program nom is kept, before the date is added. The pane's text is plain, so a
+/// name with the ending of a rich text gets another ending: the pane would refuse to open it as rich text. nom: path or
+/// name, or "".
 QString NomPourTexte(const QString &nom);
 
-/// Keeps texte, the bytes of the pane and nothing more, and gives the path. nom: path or name of the program, "" for
-/// one without a name. "" when it could not be written, of which EcouteSauvegardes() tells.
+/// Keeps texte, the text of the pane without anything added, and gives its path. nom: path or name of the program, ""
+/// for one without a name. The result is "" when it could not be written; EcouteSauvegardes() is then told.
 QString GardeTexte(const QString &nom, const QString &texte);
 
-/// Keeps a copy of the file at chemin, as GardeTexte(). A file that is missing or empty is nothing to keep.
+/// Keeps a copy of the file at chemin. The result is as for GardeTexte(). A missing or empty file is not kept.
 QString GardeCopie(const QString &chemin);
 
-/// Gives the file at chemin, which stands in this folder already, its place among what is kept: the text of the program
-/// nom as it was last written. The new path, or chemin itself when it could not be renamed.
+/// Renames the file at chemin, which lies in this folder already, as a kept text of the program nom, dated by its last
+/// change. Gives the new path, or chemin when it could not be renamed.
 QString GardeTelQuel(const QString &chemin, const QString &nom);
 
-/// echec hears of each thing that could not be kept.
+/// echec is called with each failure to keep something.
 void EcouteSauvegardes(std::function<void(const Erreur &)> echec);
 
-/// For what writes here beside the functions above: tells of a failure.
+/// Reports a failure to the function given to EcouteSauvegardes(). For other units that write into this folder.
 void DitEchecSauvegarde(const Erreur &cause);

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-/// A table of capacite entries that count from 1, as operators and machines count lines and tools.
+/// A table of capacite entries numbered from 1, as operators and machines number lines and tools.
 template <typename Entree>
 class TableNumerotee
 {

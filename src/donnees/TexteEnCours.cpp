@@ -20,18 +20,18 @@ namespace {
 const QString Prefixe = QStringLiteral("En cours_");
 constexpr qsizetype LongueurNumero = 8;
 
-/// What the two threads share, under the lock.
+/// Shared by the two threads. Guarded by the lock.
 struct
 {
     std::mutex verrou;
-    QString chemin; ///< where the text stands, "" for nowhere
+    QString chemin; ///< file that holds the text, "" for none
     std::unique_ptr<FichierTenu> tenu;
     bool voulu = false; ///< the text is still to be kept
 } place;
 
 std::future<void> ecriture;
 
-/// Of this run, "" for none yet.
+/// The number of this run in file names, "" before the first file.
 QString numero;
 
 QString Debut()
@@ -52,12 +52,12 @@ void Pose(const QString &partiel, const QString &chemin, std::unique_ptr<Fichier
         place.tenu.reset(); // and is held again a moment later, as the new one
     RemplaceFichier(partiel, chemin);
     if (!place.chemin.isEmpty() && place.chemin != chemin)
-        QFile::remove(place.chemin); // the program was given another name meanwhile
+        QFile::remove(place.chemin); // the program has got another name meanwhile
     place.chemin = chemin;
     place.tenu = std::move(tenu);
 }
 
-/// Under the lock.
+/// Needs the lock.
 void Oublie()
 {
     place.voulu = false;
@@ -65,8 +65,8 @@ void Oublie()
     place.tenu.reset();
 }
 
-/// On the thread of its own. The text stands beside its place until it is whole, so that a death while it is written
-/// takes nothing away.
+/// Runs on the writing thread. The text is written to a second file first, which replaces the old one when it is whole:
+/// a crash in between loses nothing.
 void Ecrit(const QString &debut, const QString &nom, const QString &texte)
 {
     const QString partiel = debut + QStringLiteral(".partiel");
@@ -92,7 +92,7 @@ void EcritEnCours(const QString &nom, const QString &texte)
         const std::lock_guard garde(place.verrou);
         place.voulu = true;
     }
-    // The text is not to lie in memory until the next one comes.
+    // std::async keeps the lambda until the next writing, so the lambda gives its text away.
     ecriture =
         std::async(std::launch::async, [debut = Debut(), nom = NomPourTexte(nom), texte = QString(texte)]() mutable {
             Ecrit(debut, nom, std::exchange(texte, {}));
@@ -116,7 +116,7 @@ void LaisseEnCours()
 {
     const std::lock_guard garde(place.verrou);
     Oublie();
-    numero.clear(); // or the next text of the same name would be written over it
+    numero.clear(); // otherwise the next text of the same name would overwrite it
 }
 
 void FinitEnCours()

@@ -2,33 +2,34 @@
 
 #include <QStringList>
 
-// The one file, in the folder "Sauvegardes", in which the text that is being changed stands until it is saved. Its name
-// bears a number of this run of the program, which holds it: what a run that died has left is told from what another
-// copy of the program is writing.
+// The file in the folder "Sauvegardes" that holds the text being changed, until that is saved. Its name has a number of
+// this run of the program, and the run keeps the file locked. So the file of a crashed run can be told from the file of
+// another running copy.
 
-/// Writes texte in the place of what was written last, on a thread of its own, whole or not at all. nom: path or name
-/// of the program, "" for one without. What fails is told as by GardeTexte(), from the event loop. Does nothing while
-/// EcritureEnRoute().
+/// Replaces the content of that file by texte, whole or not at all, on a thread of its own. nom: path or name of the
+/// program, "" for one without a name. A failure is reported as by GardeTexte(), from the event loop. Does nothing
+/// while EcritureEnRoute().
 void EcritEnCours(const QString &nom, const QString &texte);
 
-/// True while an EcritEnCours() has not come to its end.
+/// True while an EcritEnCours() is still writing.
 bool EcritureEnRoute();
 
-/// The text was saved, or has left the pane: the file goes, and what is on its way does not come. Waits for no disk.
+/// Removes the file, because the text was saved or has left the pane. A writing under way is dropped. Does not wait for
+/// the disk.
 void RetireEnCours();
 
-/// The text could not be kept: what was written of it last stays, for the next start to find.
+/// Leaves the file as it was last written, because the text could not be kept elsewhere. The next start finds it.
 void LaisseEnCours();
 
-/// Same as RetireEnCours(), at the end of the program: waits until nothing writes any more.
+/// Same as RetireEnCours(), and waits until the writing thread has ended. At the end of the program.
 void FinitEnCours();
 
-/// The files that other runs have left, or hold, the newest first. What one of them did not write to its end is
+/// The files of other runs, crashed or still running, the newest first. A file that was not written to its end is
 /// removed.
 QStringList TextesDAutrui();
 
-/// Gives such a file, which is held, its place among what is kept, and tells where it stands then.
+/// Turns such a file, which the caller holds locked, into a kept text of "Sauvegardes" and gives its new path.
 QString ClasseTexte(const QString &chemin);
 
-/// The name of the program in such a file.
+/// The name of the program, from the name of such a file.
 QString NomDuTexteEnCours(const QString &chemin);

@@ -19,8 +19,8 @@ constexpr bool EstEmission(ModeTransfert mode)
     return mode == EmissionProgramme || mode == EmissionJauges;
 }
 
-/// True while a transfer routine stands on the stack. The dialog that it belongs to may be closed already; no other
-/// transfer may begin inside its last yields.
+/// True while a transfer routine is running. Its dialog may be closed already, but the routine still returns from its
+/// last yields: no other transfer may begin until then.
 bool TransfertEnCours();
 
 /// Makes TransfertEnCours() true as long as it lives.
@@ -47,10 +47,10 @@ struct EtatTransfert
 
 extern EtatTransfert Transfert; ///< the transfer under way, or the last one
 
-/// The line ending of the configuration becomes the choice; what is none of the four counts as 0.
+/// Sets OptionFinLig to the line ending of the configuration. A value that is none of the four counts as 0.
 void ChoisitFinLigneRecep();
 
-/// ChaineFinLigRecep becomes the line ending of OptionFinLig.
+/// Sets ChaineFinLigRecep to the characters of OptionFinLig.
 void ChoisitChaineFinLigRecep();
 
 /// Full path of the file being received.

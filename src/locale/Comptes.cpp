@@ -11,7 +11,7 @@ QLocale Ecriture()
     return LangIndex == 1 ? QLocale::English : LangIndex == 2 ? QLocale::Spanish : QLocale::French;
 }
 
-/// French alone says "0 ligne".
+/// French alone counts zero as singular: "0 ligne".
 bool EstSingulier(qint64 nombre)
 {
     return nombre == 1 || (nombre == 0 && Ecriture().language() == QLocale::French);

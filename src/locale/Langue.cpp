@@ -30,7 +30,8 @@ void AppliqueLangueSysteme()
     if (fichier == pris)
         return;
     pris = fichier;
-    // For what the toolkit shows by itself, as sizes and dates of files: the program's own numbers depend on no locale.
+    // This locale serves what the toolkit shows by itself, such as sizes and dates of files. The program's own numbers
+    // depend on no locale.
     QLocale::setDefault(QLocale(Texte({u"fr", u"en_GB", u"es"})));
     QCoreApplication::removeTranslator(traducteur);
     if (traducteur->load(fichier, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

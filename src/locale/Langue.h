@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// Language of the operator: 0 French, 1 English, 2 Spanish. It lives for the run and in "Dorvanel.ini". Any other
-/// value, which only a damaged file brings, chooses no text: what stands on the screen stays, and boxes come in French.
+/// Language of the operator: 0 French, 1 English, 2 Spanish. It is kept in "Dorvanel.ini". Any other value comes from a
+/// damaged file and chooses no language: captions stay as they are, and boxes are in French.
 extern int LangIndex;
 
-/// Value of LangIndex when the settings file holds something that is no number.
+/// Value of LangIndex when the settings file holds no number there.
 constexpr int LangAucune = -1;
 
 /// A text for the operator in the three languages.
@@ -17,12 +17,11 @@ struct Texte3
     const char16_t *espagnol;
 };
 
-/// The text in the language of LangIndex; in French when LangIndex is none of the three, since no box may come without
-/// words.
+/// The text in the language of LangIndex, or in French when LangIndex is none of the three: a box must not be empty.
 QString Texte(const Texte3 &texte);
 
-/// Same for a text that takes the place of another one: a null string when LangIndex is none of the three.
+/// Same, for a text that replaces one on the screen: a null string when LangIndex is none of the three.
 QString TexteChoisi(const Texte3 &texte);
 
-/// Gives the standard buttons of boxes and the file dialogs the language of LangIndex.
+/// Puts the toolkit's own texts (standard buttons, file dialogs) into the language of LangIndex.
 void AppliqueLangueSysteme();

@@ -12,7 +12,7 @@
 
 namespace {
 
-// What the entries of the language menu read.
+// The entries of the language menu, by LangIndex.
 constexpr Texte3 NomsLangues[] = {
     {u"Français", u"French", u"Francés"}, {u"Anglais", u"English", u"Inglés"}, {u"Espagnol", u"Spanish", u"Español"}};
 
@@ -23,8 +23,8 @@ constexpr const LegendesFenetre *Fenetres[] = {
     &LegendesFrmCaract, &LegendesDosProg, &LegendesFrmConfDem, &LegendesConfMac, &LegendesJauTour,
 };
 
-/// Writes what a control bears. Frames and menus keep it in "title", labels, buttons and entries in "text", windows and
-/// toolbars in "windowTitle".
+/// Sets the caption of a control. Frames and menus keep it in the property "title", labels, buttons and menu entries in
+/// "text", windows and toolbars in "windowTitle".
 void EcritTitre(QObject *controle, const QString &texte)
 {
     for (const char *const propriete : {"title", "text", "windowTitle"})
@@ -49,9 +49,9 @@ void EcritLegende(QObject *controle, Endroit endroit, const QString &texte)
     }
 }
 
-/// The control of that name in a window, "" for the window itself. A toolbar button bears the name of its action, which
-/// is what holds its texts. An open dialog is a child of the main window and has names of the same kind; its controls
-/// are its own.
+/// The control of that name in a window; "" is the window itself. For a toolbar button it is its action, which holds
+/// its texts. Controls of an open dialog are left out, though the dialog is a child of the main window: their names may
+/// be the same.
 QObject *ObjetNomme(QWidget *fenetre, QLatin1String nom)
 {
     if (nom.isEmpty())
@@ -69,8 +69,9 @@ QObject *ObjetNomme(QWidget *fenetre, QLatin1String nom)
     return nullptr;
 }
 
-/// Of two buttons of a window with one letter the toolkit presses the one that is enabled: Alt would throw the work
-/// away where the operator has asked for something else. A button that cancels gives its letter up to the other one.
+/// When two buttons of a window share a shortcut letter and one of them is disabled, the toolkit presses the other one.
+/// That could cancel the work when the operator asked for something else, so a cancel button gives up a letter that
+/// another button has.
 void LibereLettres(const QWidget *fenetre)
 {
     const auto boutons = fenetre->findChildren<QAbstractButton *>();

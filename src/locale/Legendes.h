@@ -4,25 +4,26 @@
 
 struct Texte3;
 
-/// Writes the captions of LangIndex to every open window. In French it does nothing: the windows are made in French, so
-/// it only goes away from French, never back to it. It also turns the standard buttons to the language, and each window
-/// hears of it by a LanguageChange event.
+/// Puts every open window and the standard buttons into the language of LangIndex, and sends each window a
+/// LanguageChange event. Captions can change away from French but not back: windows are made in French, and there are
+/// no French rows in the tables.
 void AppliqueLangue();
 
 /// Checks the entry of LangIndex in the language menu and names the three languages in that language.
 void MontreLangue();
 
-/// Same for one window, which calls it as it is made. fenetre: a window whose objectName is a key of the table.
+/// Writes the captions of LangIndex to one window, which calls this in its constructor. fenetre: its objectName is a
+/// key of the table of captions.
 void AppliqueLegendes(QWidget *fenetre);
 
-/// Gives a control without a caption of its own (a toolbar button, a button with a picture) its tool tip, which is also
-/// its name for an assistive program. Nothing for a null text.
+/// Gives a control without a caption (a toolbar button, a button with a picture) a tool tip, which is also its
+/// accessible name. Does nothing for a null text.
 void PoseBulle(QObject *controle, const QString &texte);
 
-/// Shows a piece of data in a label, or in a window's title, in the place of its caption: from then on the captions of
-/// a language leave it alone.
+/// Shows donnee in a label or in a window's title, in place of its caption. From then on a change of language leaves
+/// that text alone.
 void MontreDonnee(QWidget *controle, const QString &donnee);
 
-/// Writes texte and then suite to what a label or button bears, or a window's title; nothing when LangIndex chooses no
-/// text.
+/// Sets the text of a label or button, or the title of a window, to texte followed by suite. Does nothing when
+/// LangIndex is none of the three languages.
 void PoseTexte(QWidget *controle, const Texte3 &texte, const QString &suite = QString());

@@ -2,12 +2,12 @@
 
 #include <span>
 
-// The captions that change with the language, window by window. French is not here: the windows are made in French.
+// The English and Spanish captions, window by window. French is not here: windows are made with their French captions.
 
 enum class Endroit {
-    Titre, ///< what the control bears: caption, entry, window title
-    Bulle, ///< its tool tip
-    Nom    ///< its name for an assistive program, where it bears nothing
+    Titre, ///< caption of a control, text of a menu entry, title of a window
+    Bulle, ///< tool tip
+    Nom    ///< accessible name of a control without a caption
 };
 
 struct Legende

@@ -12,15 +12,15 @@
 
 namespace {
 
-/// The text of a number of the serial control.
+/// A number of the serial control and its text.
 struct TextePort
 {
     int numero;
     Texte3 texte;
 };
 
-// The control raises those of ErreurPort. The texts of the others stay, since the operators' papers list them by
-// number.
+// The control raises only the numbers of ErreurPort. The texts of the others stay because the operators' papers list
+// them by number.
 constexpr TextePort TextesPort[] = {
     {EvenementPort::Pause,
      {u"Réception d'un signal d'interruption.", u"Receiving of a signal of interruption.",
@@ -107,11 +107,11 @@ constexpr TextePort TextesPort[] = {
       u"Número del Puerto de comunicación inválida."}},
 };
 
-/// The text of one of the other numbers.
+/// Any other number and its text.
 struct TexteSysteme
 {
     int numero;
-    bool avecDetails; ///< the object says something to an operator: a file, a device, a value; and so does the cause
+    bool avecDetails; ///< the object (file, device, value) and the cause are shown below the text
     Texte3 texte;
 };
 
@@ -156,11 +156,11 @@ constexpr TexteSysteme TextesSysteme[] = {
      {u"L'opérateur a annulé.", u"The operator has cancelled.", u"El operador ha cancelado."}},
 };
 
-/// A cause in the operator's words.
+/// A cause, and its text for the operator.
 struct TexteCause
 {
     Cause cause;
-    int dit; ///< the number of Erreur whose text says as much already, else 0
+    int dit; ///< number of Erreur whose text already says the same; 0: none
     Texte3 texte;
 };
 
@@ -236,7 +236,7 @@ constexpr TexteCause TextesCause[] = {
 constexpr Texte3 CauseInconnue{u"Cause inconnue, numéro %1.", u"Unknown cause, number %1.",
                                u"Causa desconocida, número %1."};
 
-/// The row of the number in one of the tables, or nullptr.
+/// The row of a table that has this number; nullptr when none has.
 template <typename Table>
 const auto *Ligne(const Table &table, int numero)
 {
@@ -245,7 +245,7 @@ const auto *Ligne(const Table &table, int numero)
     return trouve == std::end(table) ? nullptr : &*trouve;
 }
 
-/// The cause in the operator's words; empty where there is none, or where the text of the failure tells it.
+/// The text of the cause; empty when there is no cause or the text of the failure already says it.
 QString TexteDeCause(const Erreur &erreur)
 {
     if (erreur.Cause() == 0)

@@ -2,12 +2,12 @@
 
 #include "platform/base/Erreur.h"
 
-// What the operator reads of a failure. Each number of Erreur.h and ErreurPort.h has a text in the three languages.
+// The operator's texts for failures. Each number of Erreur.h and ErreurPort.h has a text in the three languages.
 
-/// The text of a failure. Below it stand, where they say more, the file, device or value and the system's cause; a
-/// number without a text of ours bears these alone. No word of the system's own reaches the operator, whose language it
-/// may not be: a cause without a text of ours is told by its number.
+/// The text of a failure, followed on lines of their own by the file, device or value and by the system's cause, where
+/// these help. A number without a text gives only those lines. The system's own words never appear, since they may be
+/// in another language: a cause without a text of ours appears as its number.
 QString TexteErreur(const Erreur &erreur);
 
-/// Same, and for a failure of the port too these stand below: the device or the setting refused, and the cause.
+/// Same, but with these lines for a failure of the port as well: the device or the refused setting, and the cause.
 QString TexteErreurDetaille(const Erreur &erreur);

@@ -54,14 +54,14 @@ void LitReglages()
 {
     if (FichierExiste(CheminIni())) {
         LitIni();
-        AppliqueLangueSysteme(); // for the buttons of a box that the start itself may show
+        AppliqueLangueSysteme(); // for the buttons of boxes during the start
         return;
     }
     IniParDefaut();
     LangIndex = 0;
     FrmLangue dialogue;
     QObject::connect(&dialogue, &FrmLangue::LangueChoisie, AnnonceDossierPerdu);
-    if (dialogue.exec() == QDialog::Rejected) // the settings are written all the same
+    if (dialogue.exec() == QDialog::Rejected) // the settings will be written without a choice too
         AnnonceDossierPerdu();
     AppliqueLangue();
 }
@@ -82,7 +82,7 @@ void LitDossiers()
         CfgParDefaut(ParamCom.DosRecep);
 }
 
-/// Nothing more is asked when the window closes: a stroke of Escape must not be what loses the text.
+/// Asks whether to save. Escape gives no answer: this is the last question, and a stray key must not lose the text.
 bool DemandeEnregistrement(const QuestionFin &question)
 {
     return Confirme(Texte(FichierAvant) + Document.NomFichier + Texte(FichierApres) + QStringLiteral("\r\n") +
@@ -120,8 +120,8 @@ void Form_Load()
 
 void AnnonceDossierFerme()
 {
-    // With a file that nobody sees: settings that could not be read are not written over. A full disk makes the file
-    // and has no room for what it holds.
+    // Tried with a temporary file, since settings that could not be read must not be overwritten. On a full disk the
+    // file can be made and not filled, so one character is written.
     QTemporaryFile essai(AjouteAntislash(DossierApplication()) + QStringLiteral("XXXXXX"));
     if (!essai.open() || !essai.putChar(' ') || !essai.flush())
         MsgBox(Texte(DossierFermeTexte).arg(DossierApplication()), Boite::Exclamation, Texte(DossierFermeTitre));

@@ -2,18 +2,19 @@
 
 // The start and the end of the program.
 
-/// The start-up: settings, language, default configuration, explorer, captions. The main window exists and is not shown
-/// yet. A settings file that cannot be read leaves the window in its design state, without a message.
+/// The start-up: settings, language, default configuration, explorer column, captions. The main window exists and is
+/// not shown yet. When the settings file cannot be read, the start ends here without a message, and the window keeps
+/// its design state.
 void Form_Load();
 
-/// Tells the operator when the application folder takes no files. Behind the start-up, which passes over that so that
-/// programs can be sent all the same.
+/// Tells the operator when nothing can be written in the application folder. After the start-up, which goes on in that
+/// case: programs can still be sent.
 void AnnonceDossierFerme();
 
-/// The ordered end: offers to save a changed text, asks for confirmation and ends the process. A text that is still
-/// unsaved then stands in "Sauvegardes".
+/// The command that ends the program: offers to save a changed text, asks for confirmation and ends the process. A text
+/// that is still unsaved is kept in "Sauvegardes".
 void Mnu_Quitter();
 
-/// The main window is being closed: offers to save a changed text, which is kept in "Sauvegardes" otherwise. The
-/// closing cannot be refused.
+/// The main window is closing, which cannot be refused: offers to save a changed text, and keeps it in "Sauvegardes" if
+/// it stays unsaved.
 void Form_Unload();

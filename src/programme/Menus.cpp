@@ -29,7 +29,7 @@
 
 namespace {
 
-/// A command: the menu entry that gives it, the toolbar button that repeats it (0: none), the routine that serves it.
+/// A command: its menu entry, its toolbar button (0: none), the routine that handles it.
 struct Commande
 {
     QAction *Ui_FrmPrinc::*entree;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Ties everything that the operator or the machine does to the routine that serves it: menu entries and toolbar
-/// buttons, the program pane, the explorer column, the events of the line, a dropped file, the closing. Once, when the
-/// main window exists.
+/// Connects everything that the operator or the machine does with the routine that handles it: menu entries, toolbar
+/// buttons, program pane, explorer column, events of the line, a dropped file, the closing of the window. Once, when
+/// the main window exists.
 void Branche();

@@ -34,7 +34,8 @@ bool VeutDesMots(int nombre, char *arguments[])
                        [&](std::string_view argument) { return std::ranges::count(mots, argument) > 0; });
 }
 
-/// The files named on the command line: a file manager starts the program so. --help and --version end it.
+/// The files named on the command line, as a file manager starts the program. --help and --version end the process
+/// here.
 QStringList FichiersDemandes()
 {
     QCommandLineParser ligne;
@@ -55,15 +56,15 @@ QStringList FichiersDemandes()
 int main(int nombre, char *arguments[])
 {
     Presente();
-    if (VeutDesMots(nombre, arguments)) { // without a display too: a graphic application would end the process there
+    if (VeutDesMots(nombre, arguments)) { // works without a display, where a QApplication would abort
         RelieConsole();
         const QCoreApplication application(nombre, arguments);
         FichiersDemandes();
     }
     const std::future<void> polices = LitPolices();
     QApplication application(nombre, arguments);
-    QApplication::setStyle(new StyleContraste);         // not earlier: the desktop says its style to the application
-    QApplication::setApplicationDisplayName(QString()); // or each title would end in the program's name
+    QApplication::setStyle(new StyleContraste);         // after the application has got the desktop's style
+    QApplication::setApplicationDisplayName(QString()); // otherwise every title would end in the program's name
     QGuiApplication::setDesktopFileName(QStringLiteral("dorvanel")); // the desktop's icon for the window
     const QStringList fichiers = FichiersDemandes();                 // before the start changes the current folder
     AppliqueLangueSysteme();
@@ -72,8 +73,8 @@ int main(int nombre, char *arguments[])
     FrmPrinc fenetre;
     fenetre.MSComm1->setDossierPorts(AjouteAntislash(DossierApplication()) + QStringLiteral("Ports"));
     Branche();
-    // The operator has been asked for his text by then. Another window that stands open does not keep the program
-    // alive.
+    // By then the operator has been asked whether to save. Another open window (the help) must not keep the program
+    // running.
     QObject::connect(&fenetre, &FrmPrinc::Form_Unload, &application, [] { QCoreApplication::exit(); });
     RemetDisposition(fenetre);
     Form_Load();
@@ -82,7 +83,8 @@ int main(int nombre, char *arguments[])
         RetientTexte();
         GardeDisposition(fenetre);
     });
-    // One behind the other: the box or the dialog of one would let the next ones in on top of it.
+    // In one queued call, one after the other: separate calls would run inside the first box and open dialogs on top of
+    // it.
     const auto arrivees = [&fichiers] {
         AnnonceDossierFerme();
         ProposeTextesRetrouves();

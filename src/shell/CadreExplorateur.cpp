@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The filters offered; the first is in force when the column is made.
+/// The filters offered. The first one is active at the beginning.
 const QStringList Motifs =
     QStringLiteral("*.* *.iso *.rub *.cn *.xcn *.txt *.asc *.xpi *.jau *.cor *.prg *.cnc *.rrr *.qqq *.h *.rtf")
         .split(u' ');
@@ -24,7 +24,7 @@ CadreExplorateur::CadreExplorateur(QWidget *parent)
     for (const auto &[bouton, icone] : icones)
         bouton->setIcon(Icone(QStringLiteral(":/icones/%1").arg(QLatin1String(icone))));
     Combo1->addItems(Motifs);
-    // A completion would put a filter in force that the operator has not typed.
+    // A completion would activate a filter that the operator has not typed.
     Combo1->setCompleter(nullptr);
-    Combo1->lineEdit()->setAcceptDrops(false); // a file is for the window; its path is no filter
+    Combo1->lineEdit()->setAcceptDrops(false); // a file dropped here is for the window; its path is no filter
 }

@@ -2,10 +2,9 @@
 
 #include "ui_CadreExplorateur.h"
 
-/// The explorer column of the main window, Frame1: the tree of folders FolderTreeview1, the files File1 of its selected
-/// folder that pass the filter Combo1 (captioned Label7), and the buttons that create (Command1), delete (Command2) and
-/// rename (Command4) a folder and close the column (Command3). CheckDOS applies the selected folder to the opening and
-/// the reception of programs.
+/// The explorer column of the main window, Frame1. FolderTreeview1: the tree of folders; File1: the files of its
+/// selected folder that pass the filter Combo1, whose caption is Label7; Command1, Command2, Command4: create, delete,
+/// rename a folder; Command3: close the column; CheckDOS: use the selected folder for opening and receiving programs.
 class CadreExplorateur : public QGroupBox, public Ui::CadreExplorateur
 {
     Q_OBJECT

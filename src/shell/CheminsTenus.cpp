@@ -16,15 +16,15 @@ struct Variables
     QList<QString *> autres;
 } variables;
 
-/// A path kept, with what it is to be.
+/// A registered path, and its new value.
 struct Suite
 {
     QString *chemin;
     QString nouveau;
 };
 
-/// What the paths kept will be once dossier is called nouveau. It has to be asked beforehand: a link that leads into
-/// dossier leads nowhere once that is renamed.
+/// The new values of the registered paths, when dossier gets the name nouveau. Has to be called before the renaming:
+/// afterwards a link that leads into dossier leads nowhere.
 QList<Suite> Suites(const QString &dossier, const QString &nouveau)
 {
     QList<Suite> suites;
@@ -48,7 +48,7 @@ void TientChemins(const QList<QString *> &receptions, const QList<QString *> &au
 
 void RenommeEtSuit(const QString &ancien, const QString &nouveau)
 {
-    // In full at once: the current folder may be the one that is renamed.
+    // nouveau is made absolute before the renaming, since the current folder may be the renamed one.
     const QList<Suite> suites = Suites(ancien, QDir::cleanPath(QFileInfo(nouveau).absoluteFilePath()));
     RenommeDossier(ancien, nouveau);
     const bool enTitre = !Document.NomFichier.isEmpty() && frmPrinc->windowTitle().endsWith(Document.NomFichier);

@@ -15,15 +15,15 @@ const QString Registre = QStringLiteral("Disposition");
 constexpr QLatin1String Fenetre("Fenetre");
 constexpr QLatin1String Explorateur("LargeurExplorateur");
 
-/// Where the window's content can lie on its screen.
+/// The part of the screen that the window's content can take.
 QRect PlaceLibre(const FrmPrinc &fenetre)
 {
     return fenetre.screen()->availableGeometry().adjusted(0, fenetre.style()->pixelMetric(QStyle::PM_TitleBarHeight), 0,
                                                           0);
 }
 
-/// Brings a window that sticks out of its screen wholly onto it; of a maximised one the place that it will go back to.
-/// The screen may have become smaller since the last run; Qt itself moves only a window of which nothing at all would
+/// Brings a window that sticks out of its screen wholly onto it; for a maximised window the place that it will return
+/// to. The screen may have become smaller since the last run, and Qt itself only moves a window of which nothing could
 /// be seen.
 void RentreDansEcran(FrmPrinc &fenetre)
 {
@@ -45,11 +45,11 @@ void RentreDansEcran(FrmPrinc &fenetre)
 void RemetDisposition(FrmPrinc &fenetre)
 {
     const QSettings registre(Organisation, Registre);
-    // Of a cut one Qt would take what is missing for zeros.
+    // Qt would read what is missing of a truncated value as zeros, so the length is compared.
     const QByteArray place = registre.value(Fenetre).toByteArray();
     if (place.size() == fenetre.saveGeometry().size() && fenetre.restoreGeometry(place))
         RentreDansEcran(fenetre);
-    else // the desktop finds it a place
+    else // the desktop chooses the place
         fenetre.resize(fenetre.size().boundedTo(PlaceLibre(fenetre).size()));
     fenetre.setLargeurExplorateur(registre.value(Explorateur, fenetre.LargeurExplorateur()).toInt());
 }

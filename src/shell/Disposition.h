@@ -2,14 +2,14 @@
 
 class FrmPrinc;
 
-// Where the operator has put the main window, how large it is and how wide its explorer column: kept from one run to
-// the next where the desktop keeps such things (on Linux $XDG_CONFIG_HOME/Dorvanel/Disposition.conf), apart from the
-// program's own settings, which travel with its folder from one PC to another.
+// Place and size of the main window and width of its explorer column, kept from one run to the next. They are kept by
+// the desktop (on Linux in $XDG_CONFIG_HOME/Dorvanel/Disposition.conf) and not with the program's own settings, which
+// may travel with their folder to another PC.
 
-/// Puts the window as the last run left it, wholly on a screen that there is now; before the start, which may make the
-/// explorer column. Without a last run, with something unreadable or on a much smaller screen the desktop places it as
-/// it is made, and no larger than the screen.
+/// Gives the window the place of the last run, wholly within a screen that exists now. To be called before Form_Load(),
+/// which may make the explorer column. After no last run, or with unreadable values or a much smaller screen, the
+/// desktop places the window, and it is no larger than the screen.
 void RemetDisposition(FrmPrinc &fenetre);
 
-/// Keeps the window as it is, for the next run.
+/// Saves the window's place and the column's width for the next run.
 void GardeDisposition(const FrmPrinc &fenetre);

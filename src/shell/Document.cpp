@@ -56,8 +56,7 @@ constexpr Texte3 OuvertureSuite{u". \r Format non reconnu ou fichier déja ouver
                                 u" - Abrir el fichero con Worpad.\r - Registrar el fichero al formato TXT.\r"
                                 u"  Quieren utilizar a WordPad para leer este fichero ?"};
 
-/// True when a listing of chemin with plain-file attributes gives something: a file, or a folder with a final separator
-/// that holds one.
+/// True when listing chemin gives a plain file: chemin is one, or ends in a separator and is a folder that holds one.
 bool ListeUnFichier(const QString &chemin)
 {
     if (!chemin.endsWith(QDir::separator()))
@@ -65,8 +64,8 @@ bool ListeUnFichier(const QString &chemin)
     return !QDir(chemin).entryList(QDir::Files).isEmpty();
 }
 
-/// Folder where the open dialog starts; a folder that lists nothing is given up for the application folder. The folder
-/// selected in the explorer goes before both, where its box is ticked.
+/// Chooses the folder where the open dialog starts: the folder selected in the explorer, if its box is ticked, else the
+/// default folder, else the application folder. A default folder without any file is passed over.
 void ChoisitDosDefaut()
 {
     if (Reglages.OptDosDefaut == 0)
@@ -87,31 +86,30 @@ void ProposeTraitementDeTexte(const QString &chemin)
         OuvreAvecTraitementDeTexte(chemin);
 }
 
-/// False when the operator wanted the text saved and it could not be: he has been told.
+/// Offers to save a changed text. False when the operator wanted that and it failed; he has been told.
 bool ProposeEnregistrement()
 {
     if (Document.NomFichier.isEmpty())
         Document.NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
     const QString question = Texte(ModifieAvant) + Document.NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") +
                              Texte(ModifieQuestion);
-    // A stroke of Escape must not be what gives the text up for a dropped file.
+    // The question takes no Escape: a stray key must not lose the text to a dropped file.
     return !Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)) || EnregistreSurPlace();
 }
 
-/// The text has a file: it can be printed, and edited elsewhere.
+/// Enables the commands for a text that has a file: print and external editor.
 void ActiveNomme()
 {
     for (QAction *action : {frmPrinc->Mnu_EditProg, frmPrinc->Mnu_Imprim, frmPrinc->Bouton(5)})
         action->setEnabled(true);
 }
 
-/// Asks for the name and saves. False when the operator cancels, or when it failed, of which he was told.
+/// Asks for a name and saves. False when the operator cancels, or when saving failed, which he has been told.
 bool EnregistreSous()
 {
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
     dialogue.FileName = EstGarde(Document.NomFichier) ? NomDOrigine(Document.NomFichier) : Document.NomFichier;
-    dialogue.InitDir =
-        Reglages.DosDefaut; // for a name without a folder; the last choice may have been a configuration's
+    dialogue.InitDir = Reglages.DosDefaut; // the shared dialog may still have a folder of configurations
     dialogue.CancelError = true;
     dialogue.DialogTitle = Texte(TitreEnregistrer);
     dialogue.Filter = Texte(FiltreEnregistrer);
@@ -122,8 +120,8 @@ bool EnregistreSous()
     } catch (const Erreur &) {
         return false; // cancelled
     }
-    // The text bears this name even when it cannot be written, of which SaveFile has told: what the program asks or
-    // offers next must not lead to the former file, which the operator wanted to keep.
+    // The text gets the new name even when saving failed: the program must not offer to save it into the former file,
+    // which the operator wanted to keep.
     Document.NomFichier = dialogue.FileName;
     Document.TitreFichier = dialogue.FileTitle;
     ActiveNomme();
@@ -165,7 +163,7 @@ void Mnu_Nouveau()
                   Texte(NouveauTitre)))
         return;
     frmPrinc->Text1->setText(QString());
-    frmPrinc->Text1->show(); // a reception too large for it may have put the pane away
+    frmPrinc->Text1->show(); // a reception too large for the pane may have hidden it
     frmPrinc->Mnu_Annuler->setEnabled(false);
     TitreFenetre(Texte(NomNouveau));
     Document.FichierModifie = false;
@@ -217,7 +215,7 @@ void OpenFile(const QString &path)
     Document.NomFichier = path;
     Document.TitreFichier = NomSeul(path);
     TitreFenetre(Document.NomFichier);
-    // FicConf names also a default configuration that is missing or cut.
+    // FicConf alone is not enough: it may name a default configuration that is missing or damaged.
     frmPrinc->ActiveEmission(EtatConf.lue && !EtatConf.FicConf.isEmpty() && !Document.NomFichier.isEmpty());
     frmPrinc->ActiveFichier(true);
     MontreDonnee(frmPrinc->Label2, Document.TitreFichier);

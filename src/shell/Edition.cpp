@@ -9,7 +9,7 @@
 
 namespace {
 
-std::function<void()> reprendAspect; // none unless the last command changed the look
+std::function<void()> reprendAspect; // empty unless the last command changed the look
 
 void OublieAnnulation()
 {
@@ -43,9 +43,9 @@ void RetientAspect(std::function<void()> reprend)
 
 void Mnu_Edition()
 {
-    const QMimeData *const copie = QGuiApplication::clipboard()->mimeData(); // nullptr when nothing was ever copied
+    const QMimeData *const copie = QGuiApplication::clipboard()->mimeData(); // nullptr before the first copy
     frmPrinc->Mnu_Coller->setEnabled(copie != nullptr && copie->hasText());
-    const bool choisi = frmPrinc->Text1->textCursor().hasSelection(); // its length takes time in a long program
+    const bool choisi = frmPrinc->Text1->textCursor().hasSelection(); // quick, unlike the length of a long selection
     for (QAction *action : {frmPrinc->Mnu_Couper, frmPrinc->Mnu_Copier, frmPrinc->Mnu_Supprimer})
         action->setEnabled(choisi);
 }
@@ -54,7 +54,7 @@ void Mnu_Annuler()
 {
     const QString avant = Document.TexteAnnuler;
     const auto aspect = reprendAspect;
-    if (frmPrinc->Text1->Text() != avant) // what changes nothing leaves a saved text a saved one
+    if (frmPrinc->Text1->Text() != avant) // an undo without effect does not count as a change
         frmPrinc->Text1->setText(avant);
     OublieAnnulation();
     if (aspect)

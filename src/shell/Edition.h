@@ -2,20 +2,20 @@
 
 #include <functional>
 
-// The edit menu: it works on the selection of Text1 and the clipboard, with one level of undo that restores the whole
-// text. What is kept for it belongs to the program in the pane, and goes with it.
+// The edit menu. Its commands work on the selection of Text1 and on the clipboard. There is one level of undo, which
+// restores the whole text; loading another program clears it.
 
-/// Ties the pane to the edit menu: its right mouse button, and the text that gives way to another. Once, when the main
-/// window exists.
+/// Connects the pane with the edit menu: its right mouse button opens the menu, and loading another text clears the
+/// undo. Once, when the main window exists.
 void BrancheEdition();
 
-/// A command is about to change the text or its look: keeps the text for Mnu_Annuler.
+/// Keeps the text for Mnu_Annuler. To be called by a command before it changes the text or its look.
 void RetientPourAnnuler();
 
-/// The command changes the look: reprend gives the pane the former one back, behind the text.
+/// Same, when the look changes: reprend restores the former look, after the text has been restored.
 void RetientAspect(std::function<void()> reprend);
 
-void Mnu_Edition(); ///< the menu opens: its entries are enabled by the clipboard and the selection
+void Mnu_Edition(); ///< enables the entries by clipboard and selection, as the menu opens
 void Mnu_Annuler();
 void Mnu_Couper();
 void Mnu_Copier();

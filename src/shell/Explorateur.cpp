@@ -64,7 +64,7 @@ constexpr Texte3 NonRenommable{u"Ce dossier ne peut pas être renommé ! ou doss
 constexpr Texte3 NonRenomme{u"Erreur ! Le dossier ne peut être renommé.", u"Error ! The repertory cannot be famous.",
                             u"Error ! El directorio no puede reelegirse."};
 
-/// Waits for the moment to tell the operator of a lost folder, and lives until he has read it. Another loss in between
+/// Waits until a lost folder can be told, and exists until the operator has read that. A further loss in the meantime
 /// gets no message of its own.
 QPointer<QTimer> annonce;
 
@@ -73,14 +73,13 @@ QString SansSeparateur(const QString &dossier)
     return QDir::toNativeSeparators(QDir::cleanPath(dossier));
 }
 
-/// Shows the files of the selected folder, read anew; where that cannot be listed, the files shown stay.
+/// Reads and shows the files of the selected folder. When it cannot be listed, the former list stays.
 void FolderTreeview1_Click()
 {
     Saute([] { frmPrinc->Frame1->File1->setPath(frmPrinc->Frame1->FolderTreeview1->SelectedFolder()); });
 }
 
-/// The column starts in the folder where programs are opened; when that has gone (a USB key), in the application
-/// folder.
+/// Selects the folder where programs are opened, or the application folder when that is missing (a USB key).
 void PointeDossier()
 {
     if (Reglages.DosDefaut.isEmpty())
@@ -95,7 +94,7 @@ void PointeDossier()
     FolderTreeview1_Click();
 }
 
-/// Shows texte as soon as no dialog and no menu is open: a box over a running transfer would stop the transfer.
+/// Shows texte once no dialog and no menu is open: a box would stop a running transfer.
 void AnnonceDisparu(const QString &texte)
 {
     using namespace std::chrono_literals;
@@ -114,9 +113,9 @@ void AnnonceDisparu(const QString &texte)
     annonce->start(200ms);
 }
 
-/// The selected folder has gone: it was deleted, or its USB key pulled out, and another is selected in its place. The
-/// operator has not chosen that one, so CheckDOS is cleared. He is told, unless the column is closed and CheckDOS was
-/// clear already: then nothing changes for him.
+/// The selected folder has disappeared (deleted, or its USB key pulled out), and the tree has selected another one. The
+/// operator has not chosen that one, so CheckDOS is cleared. He is told, except when the column is closed and CheckDOS
+/// was clear: then nothing changes for him.
 void FolderTreeview1_Disparu(const QString &dossier)
 {
     FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
@@ -142,8 +141,8 @@ void Combo1_Change()
     }
 }
 
-/// Opens the file chosen in the list. The folder is the list's own: when the folder selected in the tree cannot be
-/// listed, the list still shows the one before.
+/// Opens the file chosen in the list. Its folder is the list's own: the list may still show the former folder when the
+/// one selected in the tree cannot be listed.
 void File1_DblClick()
 {
     OuvreDocument(AjouteAntislash(frmPrinc->Frame1->File1->Path()) + frmPrinc->Frame1->File1->FileName());
@@ -169,8 +168,7 @@ void Command1_Click()
     }
 }
 
-/// True when dossier is the application folder or holds it, where the settings and the samples lie. The operator is
-/// then told that it stays.
+/// True when dossier is the application folder or contains it. The operator is then told that it must stay.
 bool PorteApplication(const QString &dossier)
 {
     if (!ResteDerriere(dossier, DossierApplication()))
@@ -179,7 +177,7 @@ bool PorteApplication(const QString &dossier)
     return true;
 }
 
-/// Deletes the selected folder. The folder above is selected afterwards, whatever the operator answered.
+/// Deletes the selected folder. The folder above it is selected afterwards, even when the operator answers No.
 void Command2_Click()
 {
     FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
@@ -203,7 +201,7 @@ void Command2_Click()
     }
 }
 
-/// Renames the selected folder: the operator edits its whole path. The open program and the settings go with it.
+/// Renames the selected folder. The operator edits its whole path; the paths that the program remembers follow.
 void Command4_Click()
 {
     FolderTreeview &arbre = *frmPrinc->Frame1->FolderTreeview1;
@@ -227,14 +225,14 @@ void Command4_Click()
     }
 }
 
-/// Programs are opened in the selected folder and received there from now on.
+/// Uses the selected folder for opening and receiving programs from now on.
 void CheckDOS_Click()
 {
     if (const auto dossier = frmPrinc->DossierApplique())
         AnnonceNomPerdu(*dossier, LigneNom::Citee, Texte(RacineTitre));
 }
 
-/// Makes the column and ties its controls to its commands.
+/// Makes the column and connects its controls with their handlers.
 void CreeColonne()
 {
     const CadreExplorateur *const colonne = frmPrinc->CreeExplorateur();

@@ -24,11 +24,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto ReposClavier = 1s;     ///< after a change, before the text is written
-constexpr auto EntreDeuxEcrits = 30s; ///< at least
-constexpr auto Tranche = 2ms;         ///< of reading the pane, between which a key finds its way
+constexpr auto ReposClavier = 1s;     ///< without a change, before the text is written
+constexpr auto EntreDeuxEcrits = 30s; ///< between two writings, at least
+constexpr auto Tranche = 2ms;         ///< of reading the pane; keys are handled between two of them
 constexpr auto EntreDeuxTranches = 5ms;
-constexpr auto AttenteVoieLibre = 1s; ///< until it is looked again whether a dialog is open
+constexpr auto AttenteVoieLibre = 1s; ///< before it looks again whether a dialog is open
 
 constexpr Texte3 EchecTitre{u"Dossier Sauvegardes", u"Folder Sauvegardes", u"Carpeta Sauvegardes"};
 constexpr Texte3 EchecTexte{
@@ -63,7 +63,7 @@ public:
 
     QString Retient();
     void RetientFinal(bool nonEnregistre);
-    /// The text of the pane stands at chemin as it is.
+    /// Tells that the file chemin holds the text of the pane as it is.
     void setGarde(const QString &chemin) { m_garde = chemin; }
 
 private:
@@ -78,11 +78,11 @@ private:
     QTimer m_tranche{this}; ///< runs while the pane is read
     QTimer m_voie{this};    ///< runs while a failure waits to be told
     QElapsedTimer m_dernierEcrit;
-    QString m_releve;   ///< what was read of the pane so far
-    int m_ligne = 0;    ///< the next one
-    QString m_garde;    ///< where the text stands as it is now, "" for nowhere
-    QString m_echec;    ///< what is told of the last failure
-    bool m_dit = false; ///< a failure was told, or waits
+    QString m_releve;   ///< text read from the pane so far
+    int m_ligne = 0;    ///< next line to read
+    QString m_garde;    ///< file that holds the text as it is now, "" for none
+    QString m_echec;    ///< message for the last failure
+    bool m_dit = false; ///< a failure has been told, or waits to be told
 };
 
 QPointer<Filet> filet;
@@ -112,7 +112,7 @@ Filet::~Filet()
 QString Filet::Retient()
 {
     if (!TexteModifie()) {
-        RetireEnCours(); // of a text that the operator has emptied himself
+        RetireEnCours(); // the file of a text that the operator has emptied himself
         return {};
     }
     if (m_garde.isEmpty() || !FichierExiste(m_garde))
@@ -134,7 +134,7 @@ void Filet::RetientFinal(bool nonEnregistre)
         Annonce();
 }
 
-/// Another text takes the place of this one.
+/// Another text is about to replace this one.
 void Filet::Part()
 {
     Retient();
@@ -151,7 +151,7 @@ void Filet::Change()
     m_repos.start(attente);
 }
 
-/// The keyboard rests.
+/// Nothing has changed for a while: begins to read the text.
 void Filet::Repose()
 {
     if (!TexteModifie() || !m_garde.isEmpty())
@@ -166,7 +166,7 @@ void Filet::Repose()
     Releve();
 }
 
-/// Reads the pane slice by slice. A text that changes meanwhile is read anew when the keyboard rests again.
+/// Reads the pane in slices. When the text changes meanwhile, Repose() begins again later.
 void Filet::Releve()
 {
     constexpr int LignesEnUneFois = 100;
@@ -193,7 +193,7 @@ void Filet::Echoue(const Erreur &cause)
         m_voie.start(0);
 }
 
-/// Behind the command that met the failure, and not on top of a dialog, in which a transfer may be running.
+/// Tells the failure, after the command that met it and not on top of a dialog: a transfer may be running in it.
 void Filet::Annonce()
 {
     m_voie.stop();
@@ -211,7 +211,7 @@ bool VeutOuvrir(const QString &chemin)
                     Texte(RetrouveTitre));
 }
 
-/// False when it cannot be read, of which the operator was told.
+/// False when the file cannot be read; the operator has been told.
 bool OuvreRetrouve(const QString &chemin)
 {
     OuvreDocument(chemin);
@@ -242,9 +242,9 @@ void RetientTexteFinal(bool nonEnregistre)
 void ProposeTextesRetrouves()
 {
     bool ouvert = false;
-    int autres = 0; // there is one pane
+    int autres = 0; // only one text can be opened
     for (const QString &chemin : TextesDAutrui()) {
-        const FichierTenu tenu(chemin); // by another copy it is held; from here on none takes it up beside this one
+        const FichierTenu tenu(chemin); // a running copy holds its own file; once held here, no other copy offers it
         if (!tenu.Tenu())
             continue;
         autres += ouvert ? 1 : 0;

@@ -3,7 +3,8 @@
 #include "locale/Langue.h"
 
 // File filters of the open and save dialogs: pairs "label|pattern". French and Spanish have a shorter list for saving,
-// in another order; English has one list for both. A filter is remembered by its place in the list of the open dialog.
+// in another order; English has the same list for both. The filter last used is remembered by its place in the list of
+// the open dialog.
 
 inline constexpr char16_t FiltreAnglais[] = u"CN Files(*.iso)|*.iso|"
                                             u"CN-RUB Files (*.rub)|*.rub|"

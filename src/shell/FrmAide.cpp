@@ -35,10 +35,10 @@ constexpr Texte3 ResultatSuivant{u"Résultat suivant (F3)", u"Next match (F3)", 
 constexpr Texte3 Introuvable{u"Introuvable", u"Not found", u"No encontrado"};
 constexpr Texte3 Sommaire{u"Sommaire", u"Contents", u"Índice"};
 
-/// Letters that count as one in a search: who looks for "reception" need not find the accents on the keyboard.
+/// Letters that count as the same in a search: "reception" finds "réception".
 constexpr const char16_t *LettresEgales[] = {u"aàâäá", u"cç", u"eéèêë", u"iîïí", u"nñ", u"oôöó", u"uùûüú"};
 
-/// The pattern of a text to search, with any blanks between its words.
+/// The pattern that finds cherche, with any blanks or line ends between its words.
 QRegularExpression Motif(const QString &cherche)
 {
     QString motif;
@@ -53,24 +53,25 @@ QRegularExpression Motif(const QString &cherche)
                                          QRegularExpression::UseUnicodePropertiesOption);
 }
 
-/// The id of a heading; its first letters bear it.
+/// The id of a heading. The toolkit keeps it in the format of its first letters.
 QString Ancre(const QTextBlock &bloc)
 {
     return bloc.begin().atEnd() ? QString() : bloc.begin().fragment().charFormat().anchorNames().value(0);
 }
 
-/// Where a stretch of that length begins on the screen; one that is too long begins with the screen.
+/// voulu, moved so that a stretch of longueur stays on the screen. A stretch longer than the screen begins where the
+/// screen does.
 int Dans(int debutEcran, int longueurEcran, int voulu, int longueur)
 {
     return std::max(debutEcran, std::min(voulu, debutEcran + longueurEcran - longueur));
 }
 
-/// Puts a window beside the one that it explains, on the side with more room, and narrower where that lets both be
-/// seen. It stands within the screen with its frame. As long as it is not shown, the frame is taken to be the other
-/// one's.
+/// Puts fenetre beside the window that it explains, on the side with more room, narrower if both can then be seen, and
+/// within the screen together with its frame. Before it is shown its frame is unknown and taken to be as large as the
+/// other window's.
 void PlaceACote(QWidget *fenetre, const QWidget *appelante)
 {
-    constexpr int largeurMin = 890; // pixels; narrower it would cut the pictures: it covers the other one instead
+    constexpr int largeurMin = 890; // pixels; below this the pictures would be cut, so it covers the other window
     const QRect ecran = appelante->screen()->availableGeometry();
     const QRect occupe = appelante->frameGeometry();
     const QWidget *const encadree = fenetre->isVisible() ? fenetre : appelante;
@@ -78,7 +79,7 @@ void PlaceACote(QWidget *fenetre, const QWidget *appelante)
     const int gauche = occupe.left() - ecran.left();
     const int droite = ecran.right() - occupe.right();
     const int place = std::min(std::max({gauche, droite, largeurMin}), ecran.width());
-    // Its captions may need more than that, and the window would grow to it as it is shown.
+    // Its captions may need more room; the toolkit would then enlarge the window as it is shown.
     fenetre->resize(
         fenetre->size().boundedTo(QSize(place, ecran.height()) - cadre).expandedTo(fenetre->minimumSizeHint()));
     const QSize entier = fenetre->size() + cadre;
@@ -87,7 +88,7 @@ void PlaceACote(QWidget *fenetre, const QWidget *appelante)
                   Dans(ecran.top(), ecran.height(), occupe.top(), entier.height()));
 }
 
-/// Where the manual lies: in the application folder, or beside the program where that is another place.
+/// Path of the manual: in the application folder, or in the folder of the program when it is only there.
 QString CheminManuel()
 {
     const QString voulu = AjouteAntislash(Reglages.DosAppli) + Texte(Manuel);
@@ -95,7 +96,7 @@ QString CheminManuel()
     return !QFileInfo::exists(voulu) && QFileInfo::exists(livre) ? livre : voulu;
 }
 
-/// The page of the manual on dialogs that share a name.
+/// Section of the manual for dialogs known by their class only.
 constexpr struct
 {
     const char *classe;
@@ -103,7 +104,8 @@ constexpr struct
 } PagesDesClasses[] = {
     {"QAbstractPrintDialog", u"impression"}, {"DialogueImprimante", u"impression"}, {"QFontDialog", u"impression"}};
 
-/// The page on a window: that of the tab which it shows, its own, or else that of the window which asks through it.
+/// Section of the manual for a window: that of the tab shown, or its own, or for a dialog of the toolkit that of the
+/// window which opened it.
 QString PageDe(const QWidget *fenetre)
 {
     const auto enfants = fenetre->findChildren<QWidget *>();
@@ -152,7 +154,7 @@ void Mnu_Aide()
         MsgBox(Texte(ManuelAbsent) + manuel, Boite::Exclamation, Texte(TitreAide));
         return;
     }
-    // A modal dialog blocks every window but its own: its help belongs to it.
+    // A modal dialog blocks all other windows but its children, so the help becomes one of them.
     QWidget *const modale = QApplication::activeModalWidget();
     QWidget *const appelante = modale == nullptr ? frmPrinc : modale;
     if (ouverte != nullptr && ouverte->parent() != appelante)
@@ -175,7 +177,7 @@ FrmAide::FrmAide(QWidget *parent)
     Command1->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     Command2->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     disposition_aide->setStretchFactor(1, 1);
-    disposition_aide->setSizes({TreeView1->minimumWidth(), width()}); // the page has what the contents do not need
+    disposition_aide->setSizes({TreeView1->minimumWidth(), width()}); // the page takes the rest
     PoseRaccourcis();
     connect(Command1, &QPushButton::clicked, TextBrowser1, &QTextBrowser::backward);
     connect(Command2, &QPushButton::clicked, TextBrowser1, &QTextBrowser::forward);
@@ -221,7 +223,7 @@ void FrmAide::Montre(const QString &manuel, const QString &section)
         Va(section);
     const bool premiere = !isVisible();
     if (premiere) {
-        TextBrowser1->clearHistory(); // the page that it opens at is the first
+        TextBrowser1->clearHistory(); // "back" stops at the page that it opens with
         PlaceACote(this, parentWidget());
         TreeView1->setFocus();
     }
@@ -244,7 +246,7 @@ void FrmAide::PoseTextes()
     TextBrowser1->setAccessibleName(Texte(TitreAide));
 }
 
-/// The contents are the headings of the text: a heading stands below the last one of a higher level.
+/// Fills the contents with the headings of the text. A heading goes below the last one of a higher level.
 void FrmAide::DresseSommaire()
 {
     m_titres.clear();
@@ -257,7 +259,7 @@ void FrmAide::DresseSommaire()
         QTreeWidgetItem *const parent = parents[niveau - 1];
         auto *const ligne = parent == nullptr ? new QTreeWidgetItem(TreeView1) : new QTreeWidgetItem(parent);
         ligne->setText(0, bloc.text());
-        ligne->setToolTip(0, bloc.text()); // a long one is cut at the edge of the contents
+        ligne->setToolTip(0, bloc.text()); // a long heading is cut in the contents
         ligne->setData(0, Qt::UserRole, Ancre(bloc));
         std::fill(std::begin(parents) + niveau, std::end(parents), ligne);
         m_titres.append({bloc.position(), ligne});
@@ -265,7 +267,7 @@ void FrmAide::DresseSommaire()
     TreeView1->expandToDepth(0);
 }
 
-/// The contents show where the reader is: at the heading that begins the page, or the last one above it.
+/// Selects in the contents the heading that begins the visible page, or the last one above it.
 void FrmAide::SuitLecture()
 {
     constexpr int unTitre = 24; // pixels; about the height of a heading
@@ -275,8 +277,8 @@ void FrmAide::SuitLecture()
     Designe(TextBrowser1->cursorForPosition({0, unTitre}).position());
 }
 
-/// Another width breaks the lines elsewhere, and what the reader has before him would move away. On the screen the
-/// window has its frame, which may be larger than the one that it was placed for.
+/// Keeps the reader's place when the size changes: another width breaks the lines elsewhere. When the window is shown,
+/// it is placed once more, since its frame is known only now.
 bool FrmAide::eventFilter(QObject *objet, QEvent *evenement)
 {
     if (objet == windowHandle() && evenement->type() == QEvent::Expose) {
@@ -286,7 +288,7 @@ bool FrmAide::eventFilter(QObject *objet, QEvent *evenement)
     }
     if (objet == TextBrowser1->viewport() && evenement->type() == QEvent::Resize && !m_retaille) {
         m_retaille = true;
-        QMetaObject::invokeMethod(this, &FrmAide::RemetLecture, Qt::QueuedConnection); // once the lines are broken
+        QMetaObject::invokeMethod(this, &FrmAide::RemetLecture, Qt::QueuedConnection); // after the new line breaks
     }
     return QDialog::eventFilter(objet, evenement);
 }
@@ -317,7 +319,7 @@ void FrmAide::Va(const QString &section)
         lieu.setFragment(section);
         TextBrowser1->setSource(lieu);
         TreeView1->setCurrentItem(titre.ligne);
-        m_lecture = titre.position; // also where the end of the text leaves it below the top of the page
+        m_lecture = titre.position; // even when the end of the text keeps it below the top of the page
     }
 }
 
@@ -341,14 +343,14 @@ void FrmAide::Text1_Change()
     MontreResultat(premier);
 }
 
-/// Where the reader is: at the match that he sees, or at the top of what he has scrolled to.
+/// Where the search begins: at the match shown if it is visible, else at the top of the visible page.
 int FrmAide::PositionLecture() const
 {
     const bool voit = TextBrowser1->viewport()->rect().intersects(TextBrowser1->cursorRect());
     return voit ? TextBrowser1->textCursor().position() : TextBrowser1->cursorForPosition({0, 0}).position();
 }
 
-/// Shows a match. numero: from 0; past either end it goes on at the other.
+/// Shows a match. numero: from 0; -1 is the last match, and the number behind the last match is the first one.
 void FrmAide::MontreResultat(qsizetype numero)
 {
     const qsizetype nombre = m_resultats.size();
@@ -358,15 +360,15 @@ void FrmAide::MontreResultat(qsizetype numero)
         return;
     Label2->setText(QStringLiteral("%1 / %2").arg(m_resultat + 1).arg(nombre));
     QTextCursor debut = m_resultats[m_resultat];
-    debut.setPosition(debut.selectionStart()); // a selection would hide the mark
+    debut.setPosition(debut.selectionStart()); // without a selection, which would hide the mark
     TextBrowser1->setTextCursor(debut);
-    // Not at the edge: what stands around it is to be read.
+    // The match goes to a quarter of the page's height, so that the text around it can be read.
     QScrollBar *const ascenseur = TextBrowser1->verticalScrollBar();
     ascenseur->setValue(ascenseur->value() + TextBrowser1->cursorRect().top() - TextBrowser1->viewport()->height() / 4);
     Designe(debut.position());
 }
 
-/// Marks all matches, and most the one that is shown; readable on light and dark themes.
+/// Marks all matches, the one shown more strongly; readable on light and dark themes.
 void FrmAide::MarqueResultats()
 {
     QList<QTextEdit::ExtraSelection> marques;

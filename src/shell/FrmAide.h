@@ -7,8 +7,8 @@
 
 class QTreeWidgetItem;
 
-/// The help window: the manual of the language, its contents, a search through the whole of it, back and forward. It is
-/// not modal: it stays readable beside the window that it belongs to, and goes with that one.
+/// The help window: the manual in the operator's language with its contents, a search, back and forward. It is not
+/// modal, so it can be read beside the window that it belongs to, and closes with that window.
 ///
 /// Command1, Command2: back, forward; Text1 with its caption Label1: what is searched; Command3, Command4: previous and
 /// next match; Label2: which match of how many; TreeView1: contents; TextBrowser1: the text.
@@ -19,9 +19,9 @@ class FrmAide : public QDialog, public Ui::FrmAide
 public:
     explicit FrmAide(QWidget *parent);
 
-    /// Shows a manual in the language of LangIndex. manuel: path of an HTML file that exists, in UTF-8, whose headings
-    /// bear an id; its pictures lie beside it. section: id of the heading to begin at; one that the manual does not
-    /// have begins at the top.
+    /// Shows a manual, in a window with captions of LangIndex. manuel: path of an existing HTML file in UTF-8, whose
+    /// headings have an id and whose pictures lie beside it. section: id of the heading to show first; an unknown one
+    /// shows the top.
     void Montre(const QString &manuel, const QString &section);
 
 protected:
@@ -41,7 +41,7 @@ private:
     void MontreResultat(qsizetype numero);
     void MarqueResultats();
 
-    /// A heading: where it stands in the text, and its line of the contents.
+    /// A heading: its position in the text, and its line in the contents.
     struct Titre
     {
         int position;
@@ -50,15 +50,15 @@ private:
 
     QList<Titre> m_titres;          // in the order of the text
     QList<QTextCursor> m_resultats; // what the search has found, in the order of the text
-    qsizetype m_resultat = 0;       // the one that is shown
-    int m_lecture = 0;              // the place of the text that stands at the top of the page
-    bool m_retaille = false;        // the page has another size, and does not stand at that place yet
+    qsizetype m_resultat = 0;       // index of the match shown
+    int m_lecture = 0;              // position in the text of the top of the visible page
+    bool m_retaille = false;        // the size has changed, and the page is not back at m_lecture yet
 };
 
-/// Opens the manual of the language, at the section of the dialog that is open if there is one. A missing manual is
-/// told to the operator.
+/// Opens the manual in the operator's language, at the section of the dialog that is open, if there is one. A missing
+/// manual is told to the operator.
 void Mnu_Aide();
 
-/// Makes F1 give the help inside dialogs, where the entries of the main window are out of reach. Once, when the main
-/// window exists.
+/// Makes F1 open the help inside dialogs as well, where the menu entry of the main window is blocked. Once, when the
+/// main window exists.
 void BrancheAide();

@@ -12,7 +12,8 @@ namespace {
 
 constexpr QSize Drapeau(36, 24); // pixels
 
-/// French stands in the windows as they are made: only a new start brings it back to those already written over.
+/// Tells that the language changes at the next start: windows that show another language cannot go back to French, in
+/// which they are made.
 void AvertitRelance()
 {
     if (LangIndex == 0)

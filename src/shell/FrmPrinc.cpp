@@ -26,7 +26,7 @@ constexpr Texte3 PortFermeTexte{u"Port Fermé", u"Closed Port", u"Port Ferrado"}
 constexpr Texte3 AllumeeTexte{u" : actif", u": on", u": activo"};
 constexpr Texte3 EteinteTexte{u" : inactif", u": off", u": inactivo"};
 
-// The pictures of the toolbar buttons, from the first position on: each bears that of the menu entry that it repeats.
+// The icons of the toolbar buttons, from position 1 on. Each is the icon of the menu entry with the same command.
 constexpr const char *IconesBoutons[] = {"Mnu_Ouvrir",     "Mnu_EnregistrerSous",
                                          "Mnu_Police",     "Mnu_EditProg",
                                          "Mnu_Imprim",     "Mnu_Quitter",
@@ -47,7 +47,7 @@ int Couleur(bool active)
     return active ? Lampe::Verte : Lampe::Rouge;
 }
 
-/// What is being dragged, if it is one thing and lies on this PC; else "". The window holds one program.
+/// The path of the dragged file, or "" when it is more than one or not on this PC: the window holds one program.
 QString CheminTire(const QMimeData &donnees)
 {
     const QList<QUrl> adresses = donnees.urls();
@@ -56,7 +56,7 @@ QString CheminTire(const QMimeData &donnees)
 
 } // namespace
 
-/// The icons lie in a library, and the linker would leave them there.
+/// Links the icons, which the linker would otherwise leave in their library.
 static void PrendIcones()
 {
     Q_INIT_RESOURCE(icones);
@@ -69,7 +69,7 @@ FrmPrinc::FrmPrinc()
     PrendIcones();
     setupUi(this);
     setWindowTitle(QStringLiteral("Dorvanel Pro version " DORVANEL_VERSION));
-    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar is not for hiding
+    setContextMenuPolicy(Qt::NoContextMenu); // no menu that hides the toolbar
     NommeControles();
     PoseIcones();
     GardePlaces({Etat});
@@ -80,7 +80,7 @@ FrmPrinc::FrmPrinc()
     DitLampes();
     for (RichTextBox *const volet : {Text1, Text2})
         volet->setFormatCopie(QStringLiteral("application/x-dorvanel-programme"));
-    Text1->setFocus(); // or the keys would first go to the explorer's buttons, and the space bar to the first of them
+    Text1->setFocus(); // otherwise the explorer's first button would have the keyboard
     frmPrinc = this;
 }
 
@@ -103,7 +103,8 @@ void FrmPrinc::NommeControles()
 
 void FrmPrinc::PoseIcones()
 {
-    // That of every window. The system asks for it in many sizes; they are drawn while it makes the window's place.
+    // The icon of every window. Delayed, because the system asks for many sizes: they are drawn while it places the
+    // window.
     QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(IconeProgramme("Dorvanel")); });
     int position = 0;
     for (const char *const icone : IconesBoutons) {
@@ -142,7 +143,7 @@ CadreExplorateur *FrmPrinc::CreeExplorateur()
     Frame1 = new CadreExplorateur(Centre);
     milieu->insertWidget(0, Frame1);
     milieu->setStretchFactor(1, 1);
-    milieu->setSizes({m_largeurExplorateur, 1}); // the pane takes all that is left
+    milieu->setSizes({m_largeurExplorateur, 1}); // the pane takes the rest
     connect(milieu, &QSplitter::splitterMoved, this, &FrmPrinc::setLargeurExplorateur);
     AppliqueLegendes(this);
     return Frame1;
@@ -177,7 +178,7 @@ void FrmPrinc::MontreEtat(const QString &message)
 {
     Etat->setText(QStringLiteral("État : ") + message);
     Etat->show();
-    // Already running, the timer keeps the first message's time.
+    // A running timer is not restarted: the time of the first message counts.
     if (!Timer2.isActive())
         Timer2.start();
 }
@@ -225,7 +226,7 @@ void FrmPrinc::DitLampes()
                                                    {shpRTS, lblRTS},           {shpCTS, lblCTS},
                                                    {shpSend, lblSend},         {shpReceive, lblReceive}};
     for (const auto &[lampe, nom] : paires) {
-        // The words beside the port's lamp tell its state already.
+        // The words beside the port's lamp already tell its state.
         const bool dit = lampe == shpPortOpen;
         lampe->setTextes(nom->text(), nom->text() + (dit ? QString() : allumee),
                          nom->text() + (dit ? QString() : eteinte));
@@ -237,7 +238,7 @@ void FrmPrinc::changeEvent(QEvent *evenement)
     QMainWindow::changeEvent(evenement);
     if (evenement->type() != QEvent::LanguageChange)
         return;
-    // The captions of a language say that the port is closed.
+    // The new captions say that the port is closed.
     if (PortOuvert)
         MontrePort(true);
     else
@@ -252,21 +253,20 @@ void FrmPrinc::closeEvent(QCloseEvent *evenement)
 
 void FrmPrinc::dragEnterEvent(QDragEnterEvent *evenement)
 {
-    // A dialog stands open: a transfer may be sending the text of the pane.
+    // Nothing is dropped while a dialog is open: a transfer may be sending the text of the pane.
     evenement->setAccepted(QApplication::activeModalWidget() == nullptr &&
                            QFileInfo(CheminTire(*evenement->mimeData())).isFile());
     evenement->setDropAction(Qt::CopyAction);
 }
 
-/// The program that the file was dragged from keeps it, even where it offers to move it. On an X display it goes by the
+/// Accepts a copy only, so that the other program keeps its file even when it offers to move it. An X display uses the
 /// last answer before the drop.
 void FrmPrinc::dragMoveEvent(QDragMoveEvent *evenement)
 {
     evenement->setDropAction(Qt::CopyAction);
 }
 
-/// The file is opened when the drop is over: a question that comes with it must not hold up the program that it was
-/// dragged from.
+/// Opens the file after the drop has ended: a question must not block the program that the file comes from.
 void FrmPrinc::dropEvent(QDropEvent *evenement)
 {
     const QString chemin = CheminTire(*evenement->mimeData());

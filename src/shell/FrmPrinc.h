@@ -11,11 +11,11 @@ class CadreExplorateur;
 class CommonDialog;
 class MSComm;
 
-/// The main window as a view: toolbar, program pane, explorer column, status panel with its lamps, and the two timers.
-/// Its commands are tied to it from above (Menus). Its controls are read by name from the whole program.
+/// The main window as a view: toolbar, program pane, explorer column, status panel with its lamps, and two timers.
+/// Menus.cpp connects its commands. The whole program uses its controls by name.
 ///
 /// Label1, Label3, Label5 are the captions of Label2 (file), Label4 (configuration) and Label6 (its comment); Text1 is
-/// the program, Text2 what a reception by file has gathered; Picture11 is the status panel.
+/// the program, Text2 what a reception by file has received so far; Picture11 is the status panel.
 class FrmPrinc : public QMainWindow, public Ui::FrmPrinc
 {
     Q_OBJECT
@@ -26,15 +26,15 @@ public:
 
     MSComm *const MSComm1;              ///< the one serial line
     CommonDialog *const CommonDialog1;  ///< the file dialog that all commands share
-    CadreExplorateur *Frame1 = nullptr; ///< the explorer column; none before CreeExplorateur
-    bool PortOuvert = false; ///< what the lamps believe: set where the port opens and closes, and by the timer
-    QTimer UpdateTimer;      ///< 1000 ms: the lamps follow the port
-    QTimer Timer2;           ///< 5000 ms, once: clears Etat
+    CadreExplorateur *Frame1 = nullptr; ///< the explorer column; nullptr before CreeExplorateur()
+    bool PortOuvert = false;            ///< what the lamps show; set when the port opens or closes, and by UpdateTimer
+    QTimer UpdateTimer;                 ///< 1000 ms: the lamps follow the port
+    QTimer Timer2;                      ///< 5000 ms, once: clears Etat
 
     /// Shows a state of the port in Etat; Timer2 clears it.
     void MontreEtat(const QString &message);
 
-    /// Shows the port as open or closed in its lamp, with texte beside it; a null text gives the ordinary words.
+    /// Shows the port as open or closed by its lamp, with texte beside it; a null text shows the usual words.
     void MontrePort(bool ouvert, const QString &texte = {});
 
     /// Enables or disables the commands that work on the file in the pane: edit, save, print; entries and buttons 2,
@@ -50,27 +50,27 @@ public:
     /// Enables the commands that receive, with their menu and the buttons 10, 12 and 13.
     void ActiveReception();
 
-    /// The toolbar button at a position, 1 to 17; nullptr for the separators 7 and 14 and for any other number.
+    /// The toolbar button at position 1 to 17; nullptr for the separators 7 and 14 and for any other number.
     QAction *Bouton(int position) const;
 
-    /// Width of the explorer column in pixels: its own while it has been made, else the one that it will be made with.
+    /// Width of the explorer column in pixels, or the width that it will get when it is made.
     int LargeurExplorateur() const { return m_largeurExplorateur; }
     void setLargeurExplorateur(int largeur) { m_largeurExplorateur = largeur; }
 
-    /// Makes the explorer column, in the language. Its first opening does so, since many operators never open it and
-    /// the program starts the sooner without it.
+    /// Makes the explorer column, with its captions. Its first opening does this: many operators never open it, and the
+    /// program starts faster without it.
     CadreExplorateur *CreeExplorateur();
 
     bool ExplorateurMontre() const;
 
-    /// The folder of the column that the operator applies to the opening and the reception of programs (CheckDOS); none
-    /// while he applies none, or when the volume that held it has been taken out.
+    /// The folder selected in the column, if the operator uses it for opening and receiving programs (CheckDOS). None
+    /// otherwise, or when its volume has been taken out.
     std::optional<QString> DossierApplique() const;
 
-    /// Reads the files of the column anew: a program has come in.
+    /// Reads the list of files in the column again, because a program has been received.
     void ActualiseFichiers();
 
-    /// Shows or hides the explorer column, which has been made, with the menu entry and button 15 that follow it.
+    /// Shows or hides the explorer column, together with its menu entry and button 15. The column has been made.
     void MontreExplorateur(bool montre);
 
 Q_SIGNALS:

@@ -28,7 +28,7 @@ QFont PoliceDuTexte()
     return police;
 }
 
-/// Where a printing has got to, for the operator, once it lasts. While it is on the screen the main window waits.
+/// The progress of a printing, shown when it takes long. The main window is blocked meanwhile.
 class AvancementImpression : public QProgressDialog
 {
 public:
@@ -45,7 +45,8 @@ public:
         setValue(0);
     }
 
-    /// copie: from 0; faits: characters of it that are printed. Raises DialogueAnnule when the operator gives up.
+    /// copie: number of the copy, from 0; faits: characters of it printed so far. Raises DialogueAnnule when the
+    /// operator stops the printing.
     void Montre(int copie, qsizetype faits)
     {
         setValue(copie * Pas + static_cast<int>(faits * Pas / m_caracteres));
@@ -54,7 +55,7 @@ public:
     }
 
 private:
-    static constexpr int Pas = 1000; // of the bar, for one copy
+    static constexpr int Pas = 1000; // steps of the progress bar for one copy
 
     qsizetype m_caracteres;
 };
@@ -87,7 +88,7 @@ void Mnu_Imprim()
     Saute([&dialogue] {
         dialogue.Imprimante().setDocName(Document.TitreFichier);
         dialogue.ShowPrinter();
-        frmPrinc->Text1->setSelLength(0); // whatever was chosen, the whole text is printed
+        frmPrinc->Text1->setSelLength(0); // the whole text is printed, whatever was selected
         Imprime(dialogue.Imprimante(), dialogue.Copies);
     });
 }

@@ -2,8 +2,8 @@
 
 // Printing the program, and the choice of the printer.
 
-/// Prints the whole text in the look that it has at the insertion point, under a heading with the file's name, as many
-/// times as the operator wants, each copy a job of its own. Cancelling and a failure end it without a message.
+/// Prints the whole text under a heading with the file's name, in the font at the insertion point. Each copy that the
+/// operator wants is a job of its own. When he cancels, or when printing fails, it ends without a message.
 void Mnu_Imprim();
 
 void Mnu_ConfigIMP(); ///< asks for printer and paper

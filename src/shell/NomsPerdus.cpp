@@ -54,10 +54,11 @@ constexpr Texte3 DossierTexte{
     u"Los próximos arranques perderían carpetas o el idioma.\r"
     u"Dejar Dorvanel, y después dar a la carpeta un nombre sin esos signos."};
 
-/// The names of which the operator was told in this run.
+/// The names that the operator has been warned of in this run.
 QSet<QString> dits;
 
-/// The signs of nom that its line cannot hold, each once, as they are read; separateurs: those that end the value.
+/// The characters of nom that its line cannot hold, each once, in their order. separateurs: characters that end a value
+/// on that line.
 QString SignesPerdus(const QString &nom, QStringView separateurs)
 {
     QStringList perdus;

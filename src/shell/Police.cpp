@@ -17,14 +17,14 @@ struct Aspect
     QColor couleur;
 };
 
-/// Of the selected text, by its beginning.
+/// The look of the selected text, as at its beginning.
 Aspect AspectDe(const RichTextBox &volet)
 {
     return {volet.SelFontName(),   volet.SelFontSize(),  volet.SelBold(), volet.SelItalic(),
             volet.SelStrikeThru(), volet.SelUnderline(), volet.SelColor()};
 }
 
-/// What the dialog offers first.
+/// Sets what the dialog offers first.
 void Offre(CommonDialog &dialogue, const Aspect &aspect)
 {
     dialogue.FontName = aspect.police;
@@ -48,7 +48,7 @@ void ChoisitTout(RichTextBox &volet)
     volet.setSelLength(std::numeric_limits<int>::max());
 }
 
-/// Gives the selected text an aspect, and selects nothing any more.
+/// Gives the selected text a look, and clears the selection.
 void Habille(RichTextBox &volet, const Aspect &aspect)
 {
     volet.setSelFontName(aspect.police);

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Asks for the font of the text in the pane, with its effects and colour, and gives it to the whole text. It is kept
-/// in no file. Cancelling leaves the whole text selected.
+/// Asks for font, effects and colour of the text in the pane and gives them to the whole text. They are not saved. When
+/// the operator cancels, the whole text stays selected.
 void Mnu_Police();

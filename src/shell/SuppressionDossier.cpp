@@ -46,7 +46,7 @@ bool Accepte(const QString &chemin, const ContenuDossier &contenu)
 
 void EffaceEnMontrant(const QString &chemin, const ContenuDossier &contenu)
 {
-    constexpr int delai = 500; // milliseconds: what is quicker shows no progress
+    constexpr int delai = 500; // milliseconds; a quicker deletion shows no progress
     const qint64 entrees = contenu.dossiers + contenu.fichiers + 1;
     QProgressDialog avancement(FenetreAppelante());
     avancement.setObjectName(QStringLiteral("Avancement"));

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Deletes the folder (or the link) at chemin, without final separator, with all it holds, for good: tells the operator
-/// what it holds and asks, shows the progress of a long deletion, which he can stop, and says how it ended. Where
-/// something resists, he is told what, and what is left. Raises nothing.
+/// Deletes the folder (or link) at chemin for good, with everything in it. chemin has no separator at its end. The
+/// operator is told what it holds and is asked first. A long deletion shows its progress and can be stopped. At the end
+/// he is told how it went, and what could not be deleted. Raises nothing.
 void SupprimeDossier(const QString &chemin);

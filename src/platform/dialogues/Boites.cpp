@@ -37,10 +37,11 @@ QMessageBox::Icon Icone(int drapeaux)
     }
 }
 
-constexpr int LargeurMax = 760;    // pixels of a box; a longer line, with a long path in it, is broken
+constexpr int LargeurMax = 760;    // pixels of a box; a longer line is broken
 constexpr int IconeEtMarges = 110; // pixels
 
-/// texte, in which a word that no line has room for, as a long file name, may be broken anywhere.
+/// texte with invisible break points in each word too long for one line, such as a long file name. metrique: the box's
+/// font; largeur: pixels of a line.
 QString AvecCesures(const QString &texte, const QFontMetrics &metrique, int largeur)
 {
     static const QRegularExpression motOuBlancs(QStringLiteral("\\S+|\\s+"));
@@ -49,7 +50,7 @@ QString AvecCesures(const QString &texte, const QFontMetrics &metrique, int larg
     for (auto piece = motOuBlancs.globalMatch(texte); piece.hasNext();) {
         QString mot = piece.next().captured();
         if (metrique.horizontalAdvance(mot) > largeur)
-            mot.replace(signe, QStringLiteral("\\1\u200B")); // which has no width, and is not seen
+            mot.replace(signe, QStringLiteral("\\1\u200B")); // a space without width, which nobody sees
         coupe += mot;
     }
     return coupe;
@@ -89,7 +90,7 @@ void Prepare(QMessageBox &boite, const QString &texte, int drapeaux, const QStri
     Elargit(boite);
 }
 
-QPointer<QMessageBox> demande; // the question that stands without waiting
+QPointer<QMessageBox> demande; // the question of DemandeSansAttendre(), while it stands
 
 } // namespace
 
@@ -160,7 +161,7 @@ QString InputBox(const QString &invite, const QString &titre, const QString &val
     QInputDialog boite(FenetreAppelante());
     boite.setObjectName(QStringLiteral("InputBox"));
     boite.setWindowTitle(titre);
-    // An ampersand in the name of a folder is no shortcut.
+    // A label takes a single ampersand for the mark of a shortcut; the name of a folder may hold one.
     const QString lignes = AvecCesures(PourAffichage(invite), boite.fontMetrics(), largeur);
     boite.setLabelText(QString(lignes).replace(u'&', QLatin1String("&&")));
     boite.setTextValue(valeur);
@@ -170,7 +171,7 @@ QString InputBox(const QString &invite, const QString &titre, const QString &val
     texte->setMinimumWidth(largeur);
     auto *const saisie = boite.findChild<QLineEdit *>();
     const auto debut = static_cast<int>(valeur.lastIndexOf(QDir::separator())) + 1;
-    // Once the box is shown: showing it selects the whole.
+    // This has to wait until the box is shown, since showing it selects the whole text.
     QTimer::singleShot(0, saisie, [=] { saisie->setSelection(debut, saisie->maxLength()); });
     return boite.exec() == QDialog::Accepted ? boite.textValue() : QString();
 }

@@ -7,11 +7,11 @@
 class QMessageBox;
 class QWidget;
 
-// Message and input boxes. A box is modal; while it is open the event loop runs, and the routine that shows it stands
-// still, but for DemandeSansAttendre(). Its standard buttons stand in the language of the translator that the program
+// Message and input boxes. A box is modal: while it is open the event loop runs and the routine that shows it waits.
+// DemandeSansAttendre() is the exception. The standard buttons are in the language of the translator that the program
 // has installed.
 
-/// What a message box bears: buttons, icon and default button are added up.
+/// Flags of a message box, added up: buttons, icon, default button.
 namespace Boite {
 constexpr int OuiNon = 4;         ///< Yes and No instead of OK
 constexpr int Critique = 16;      ///< critical icon
@@ -31,15 +31,17 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre);
 /// True when the operator answers Yes to a box with Yes and No. drapeaux: icon and default button.
 bool Confirme(const QString &texte, int drapeaux, const QString &titre);
 
-/// Asks what Confirme() asks, over fenetre, and returns at once: what runs goes on while the operator reads. siOui is
-/// called when he answers Yes. One such question stands at a time; a further one is not asked. It goes unanswered with
-/// fenetre, by RetireDemande(), and when a box of the other kind comes: what it asked about has moved on.
+/// Asks like Confirme() in a box over fenetre, but returns at once: the running routine goes on while the operator
+/// reads. siOui is called when the operator answers Yes. Only one such question stands at a time; a further one is not
+/// asked. The question goes away unanswered with fenetre, by RetireDemande(), and when MsgBox() or Confirme() shows a
+/// box.
 void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, const QString &titre,
                          const std::function<void()> &siOui);
+/// Takes the question of DemandeSansAttendre() away, if one stands. It counts as a No.
 void RetireDemande();
 
-/// Answers in place of MsgBox() and InputBox(), with their parameters, for a fuzzer or a test that reads many boxes.
-/// Where a function is empty, as in the program, the box is shown.
+/// Answers instead of MsgBox() and InputBox(), with their parameters, for a fuzzer or a test that reads many boxes. When
+/// a function is empty, as in the program, the box is shown.
 struct Suppleant
 {
     std::function<Reponse(const QString &texte, int drapeaux, const QString &titre)> message;
@@ -47,13 +49,13 @@ struct Suppleant
 };
 Suppleant &SuppleantBoites();
 
-/// Gives a box, before it is shown, the width of its title and of its lines, as far as the screen has it: the toolkit
-/// cuts the one and breaks the others.
+/// Makes a box, before it is shown, wide enough for its title and its lines, up to a limit. By itself the toolkit cuts
+/// the title and breaks the lines.
 void Elargit(QMessageBox &boite);
 
 /// Asks for a text in a box named "InputBox". invite: the prompt, with line ends as in MsgBox; valeur: the text first
-/// offered. Typing replaces it, or of a path only the last name. Cancelling gives "".
+/// offered. Typing replaces the offered text, or only the last name of an offered path. Cancelling gives "".
 QString InputBox(const QString &invite, const QString &titre, const QString &valeur = {});
 
-/// Text with the line ends of a label or box (CR LF or CR) made into those that a control shows.
+/// texte with its line ends (CR LF or CR) made into LF, which is what a control shows.
 QString PourAffichage(const QString &texte);

@@ -4,6 +4,7 @@
 
 class QWidget;
 
-/// Asks the operator for a folder of the disk, in a dialog of that titre owned by fenetre, which opens on depart (see
-/// DossierDeDepart). The result is its path without a final separator, but for a root; "" when nothing was chosen.
+/// Asks the operator for a folder on the disk. titre: of the dialog; fenetre: its owner; depart: the folder that it
+/// opens on (see DossierDeDepart). The result is the folder's path without a final separator, except for a root. It is
+/// "" when nothing was chosen.
 QString ChoixDossier(QWidget *fenetre, const QString &titre, const QString &depart);

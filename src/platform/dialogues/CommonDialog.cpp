@@ -19,8 +19,8 @@
 
 namespace {
 
-/// The dialog's own form of "label|pattern|label|pattern": a label keeps the words in brackets that it has, and the
-/// pattern stands in brackets of its own, which the dialog hides.
+/// The toolkit's form of the pairs "label|pattern|label|pattern": each is a label followed by the pattern in brackets,
+/// which the dialog hides. Brackets inside a label stay.
 QStringList Filtres(const QString &paires)
 {
     const QStringList pieces = paires.split(u'|');
@@ -33,7 +33,7 @@ QStringList Filtres(const QString &paires)
     return filtres;
 }
 
-/// Place of the filter that the dialog says was chosen, from 1. Where it hides the pattern it names the label alone.
+/// Place of the filter that the dialog says was chosen, from 1. A dialog that hides the patterns names the label alone.
 int Place(const QStringList &filtres, const QString &choisi)
 {
     const auto trouve = std::find_if(filtres.begin(), filtres.end(), [&choisi](const QString &filtre) {
@@ -42,8 +42,8 @@ int Place(const QStringList &filtres, const QString &choisi)
     return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
 }
 
-/// Proposes a PDF file that bears the document's name, in the folder of the last one: the toolkit proposes no name, or
-/// that of the document printed before.
+/// Proposes a PDF file with the document's name, in the folder of the last one. The toolkit itself proposes no name, or
+/// the one of the document printed before.
 void ProposeFichier(QPrintDialog &dialogue, const QString &document)
 {
     auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
@@ -53,13 +53,13 @@ void ProposeFichier(QPrintDialog &dialogue, const QString &document)
     fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
 }
 
-/// The file dialog behind the printing dialog's button is to be ours too.
+/// Replaces the toolkit's file dialog, which the printing dialog's button opens, by ours.
 void DemandeFichierPdf(QLineEdit &fichier)
 {
     CommonDialog choix;
     choix.PrepareFichier(QPrintDialog::tr("Print To File ..."), QStringLiteral("PDF|*.pdf"), {}, fichier.text());
     choix.CancelError = false;
-    choix.Flags = 0; // the printing dialog asks itself before it overwrites
+    choix.Flags = 0; // the printing dialog asks by itself before it overwrites a file
     choix.DefaultExt = QStringLiteral("pdf");
     choix.ShowSave();
     fichier.setText(choix.FileName);
@@ -75,8 +75,8 @@ void PrendBoutonFichier(const QPrintDialog &dialogue)
     QObject::connect(bouton, &QToolButton::clicked, fichier, [fichier] { DemandeFichierPdf(*fichier); });
 }
 
-/// Leaves the whole and the selection to choose: the toolkit shows ranges of pages even where they are not wanted,
-/// under a title that in French speaks of the selection alone.
+/// Leaves the choice between the whole text and the selection. The toolkit shows ranges of pages even where they are
+/// not offered, under a title that in French speaks of the selection alone.
 void CacheEtendues(QPrintDialog &dialogue)
 {
     auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
@@ -190,8 +190,8 @@ void CommonDialog::ShowFont()
     const QFont offerte = dialogue.currentFont();
     if (!Accepte(dialogue))
         return;
-    // The dialog offers another name, whole points or the nearest style for a font that it does not list as it stands;
-    // what the operator leaves as it was offered stays as it was.
+    // For a font that it does not list exactly, the dialog offers the nearest one: another name, whole points, another
+    // style. So what the operator leaves as it was offered keeps its former value.
     const auto prend = [](auto &voulu, const auto &choisi, const auto &offert) {
         if (choisi != offert)
             voulu = choisi;

@@ -9,9 +9,9 @@
 class QDialog;
 class QPrinter;
 
-/// The common dialog: asks the operator for a file, a printer or a font. One object serves many commands; each sets
-/// what it needs first. Each of the dialogs raises DialogueAnnule when CancelError is set and the operator cancels;
-/// without CancelError nothing changes then.
+/// The common dialog: asks the operator for a file, a printer or a font. One object serves many commands; each command
+/// sets the fields that it needs before it shows a dialog. When the operator cancels, the dialog raises DialogueAnnule
+/// if CancelError is set; otherwise nothing changes.
 class CommonDialog : public QObject
 {
     Q_OBJECT
@@ -28,13 +28,13 @@ public:
     QString Filter;      ///< pairs "label|pattern", separated by "|"
     int FilterIndex = 0; ///< pair first selected, from 1; after: the pair chosen
     int Flags = 0;       ///< one of the constants below, by dialog
-    QString DefaultExt;  ///< saving: ending, without its point, of a name typed without one; "" gives none
+    QString DefaultExt;  ///< saving: ending given to a name typed without one, no point in it; "" gives none
 
     static constexpr int EcrasementDemande = 2;    ///< saving: ask before an existing file is chosen
     static constexpr int Selection = 1;            ///< printing: the selection is offered beside the whole
     static constexpr int ReglageImprimante = 0x40; ///< printing: printer and paper are chosen, and nothing else
 
-    int Copies = 1; ///< after: how many the operator wants, from 1
+    int Copies = 1; ///< after: how many copies the operator wants, from 1
 
     // The font: before, what is offered first; after, the choice.
     QString FontName;
@@ -45,8 +45,9 @@ public:
     bool FontUnderline = false;
     QColor Color;
 
-    /// Sets all that concerns a file: titre, filtre (as in Filter) with its first pair selected, the folder first shown
-    /// and the name first offered, "" for none. Cancelling raises, and a file is not overwritten unasked.
+    /// Sets all the fields for a file. titre: of the dialog; filtre: as Filter, its first pair is selected; dossier:
+    /// folder first shown; nom: name first offered, "" for none. Cancelling then raises, and the dialog asks before an
+    /// existing file is overwritten.
     void PrepareFichier(const QString &titre, const QString &filtre, const QString &dossier = {},
                         const QString &nom = {});
 
@@ -56,15 +57,15 @@ public:
     /// Asks for a file to write, existing or not.
     void ShowSave();
 
-    /// Asks for a printer and the number of copies, or for printer and paper as Flags says. A PDF file is one of the
-    /// printers, and the only one where none is installed. What was chosen stands in Imprimante() for the rest of the
-    /// run; the copies do not, each is for the caller to print.
+    /// Asks for a printer and the number of copies, or for printer and paper when Flags is ReglageImprimante. A PDF
+    /// file is always among the printers. The choice stands in Imprimante() until the program ends. The number of
+    /// copies stands in Copies; the caller prints each copy by itself.
     void ShowPrinter();
 
     /// Asks for a font with its effects and colour.
     void ShowFont();
 
-    /// The printer as it was last chosen; before that the system's ordinary one. It lives as long as the dialog.
+    /// The printer as it was last chosen, at first the system's default one. It lives as long as the dialog.
     QPrinter &Imprimante();
 
 private:

@@ -7,6 +7,6 @@
 void DialogueCentre::showEvent(QShowEvent *evenement)
 {
     QDialog::showEvent(evenement);
-    if (!evenement->spontaneous()) // which is a window put away that comes back
+    if (!evenement->spontaneous()) // spontaneous: a minimised window that comes back
         CentreFeuille(this);
 }

@@ -15,7 +15,7 @@ QString Mot(const char *contexte, const char *mot)
     return QCoreApplication::translate(contexte, mot);
 }
 
-/// The sheets that a PDF file is offered: those of an office's printers.
+/// The papers offered for a PDF file: those of an office's printers.
 QList<QPageSize> PapiersPdf()
 {
     return {QPageSize(QPageSize::A4), QPageSize(QPageSize::A3),     QPageSize(QPageSize::A5),
@@ -63,7 +63,7 @@ void DialogueImprimante::DonneImprimantes()
     m_nom->setCurrentIndex(m_nom->findData(pdf ? QString() : m_imprimante.printerName()));
 }
 
-/// The sheets that the chosen printer has, with the present one chosen where it is among them.
+/// Lists the papers of the chosen printer. The present paper stays chosen where that printer has it.
 void DialogueImprimante::DonnePapiers()
 {
     const QPrinterInfo choisie = QPrinterInfo::printerInfo(m_nom->currentData().toString());

@@ -6,17 +6,17 @@ class QComboBox;
 class QPrinter;
 class QRadioButton;
 
-/// Asks for the printer, its paper and how the sheet lies. PDF stands among the printers. The words are the toolkit's
-/// own, in the language of the translator that the program has installed.
+/// Asks for the printer, its paper and the orientation of the sheet. A PDF file is among the printers. The words are
+/// the toolkit's own, in the language of the translator that the program has installed.
 class DialogueImprimante : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// imprimante: what is shown first, and what Applique() changes.
+    /// imprimante: its settings are shown first, and Applique() changes them.
     DialogueImprimante(QPrinter &imprimante, QWidget *parent);
 
-    /// Makes the choice the printer's own.
+    /// Gives the operator's choice to the printer.
     void Applique() const;
 
 private:

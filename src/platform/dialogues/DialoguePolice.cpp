@@ -9,8 +9,8 @@
 
 namespace {
 
-/// police under the names that it and its style have in the list of fonts: "monospace" and the like are names for
-/// another one, and the toolkit finds no "Normal" in a family that calls it "Book".
+/// police with the family and style names that the list of fonts shows. "monospace" and the like only stand for another
+/// family, and the toolkit does not find the style "Normal" in a family that calls it "Book".
 QFont Nommee(QFont police)
 {
     const QFontInfo listee(police);
@@ -25,7 +25,7 @@ DialoguePolice::DialoguePolice(const QFont &police, const QColor &couleur, QWidg
     : QFontDialog(Nommee(police), parent)
     , m_bouton(new QPushButton(QColorDialog::tr("Select Color")))
 {
-    // The system's own dialog would speak the system's language, and has no room for the colour.
+    // The system's own dialog would stand in the system's language, and it has no room for the colour.
     setOption(DontUseNativeDialog);
     m_bouton->setObjectName(QStringLiteral("Couleur"));
     m_bouton->setAutoDefault(false);

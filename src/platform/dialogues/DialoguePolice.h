@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QFontDialog>
 
-/// The toolkit's font dialog with a choice of the colour beside the other effects, which it lacks.
+/// The toolkit's font dialog with a colour button added to its effects.
 class DialoguePolice : public QFontDialog
 {
     Q_OBJECT

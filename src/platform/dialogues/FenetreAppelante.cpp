@@ -23,7 +23,7 @@ public:
         const auto *const dialogue = qobject_cast<QWidget *>(objet);
         if (dialogue == nullptr || !dialogue->isModal() || dialogue->parentWidget() == nullptr)
             return false;
-        // Not before the dialog below has gone too.
+        // Queued, so that a dialog below, which closes in the same moment, has gone too.
         const QPointer<QWidget> appelante = dialogue->parentWidget()->window();
         QTimer::singleShot(0, qApp, [appelante] {
             QWidget *const modale = QApplication::activeModalWidget();

@@ -3,13 +3,12 @@
 class QObject;
 class QWidget;
 
-/// The window that owns the next dialog: the modal one that is open, else the one with the focus, else, while another
-/// program has it, any that is shown. nullptr before the first window. A dialog without an owner could disappear behind
-/// the window that it blocks.
+/// The window to own the next dialog, since a dialog without an owner could disappear behind the window that it blocks.
+/// It is the modal window that is open, else the active one, else (another program is active) any window that is shown.
+/// nullptr before the first window.
 QWidget *FenetreAppelante();
 
-/// Has the keyboard come back, as long as proprietaire lives, from each modal dialog that closes to the one that is
-/// left, or to the window that it belonged to. Where a box and the dialog below it close in the same moment, a window
-/// manager may hand it to the dialog that is going, and then to nobody. While the operator works in another program it
-/// stays there.
+/// Gives the keyboard back when a modal dialog closes: to the modal dialog that is left, or else to the window that
+/// owned the closed one. Works as long as proprietaire lives. Some window managers give the keyboard to no window when
+/// a box and the dialog below it close at the same moment. While another program is active nothing is changed.
 void RendLeClavier(QObject *proprietaire);

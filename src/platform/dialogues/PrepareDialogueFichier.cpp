@@ -22,7 +22,7 @@ constexpr int ColonneTaille = 1;
 constexpr int ColonneType = 2;
 constexpr int ColonneDate = 3;
 
-/// Writes sizes and dates in the operator's language, where the toolkit writes them in the system's.
+/// Shows sizes and dates in the operator's language; the toolkit shows them in the system's.
 class EcritColonne : public QStyledItemDelegate
 {
 public:
@@ -55,7 +55,7 @@ void DemandeNouveauDossier(QFileDialog &dialogue)
         MsgBox(dossier.filePath(nom), Boite::Exclamation, QFileSystemModel::tr("Invalid filename"));
 }
 
-/// Its own boxes, such as the question before a file is written over, bear the dialog's title.
+/// Makes the dialog's own boxes, such as the question before a file is overwritten, wide enough for their title.
 class PlaceAuxBoites : public QObject
 {
 public:
@@ -83,7 +83,7 @@ QString DossierDeDepart(const QString &dossier)
 
 void DansLaLangue(QFileDialog &dialogue)
 {
-    constexpr int largeur = 70; // characters of name, size and date together
+    constexpr int largeur = 70; // characters: room for name, size and date together
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
     dialogue.installEventFilter(new PlaceAuxBoites(&dialogue));
     if (auto *const lieux = dialogue.findChild<QListView *>(QStringLiteral("sidebar")))
@@ -94,7 +94,8 @@ void DansLaLangue(QFileDialog &dialogue)
     liste->hideColumn(ColonneType);
     for (const int colonne : {ColonneTaille, ColonneDate})
         liste->setItemDelegateForColumn(colonne, new EcritColonne(liste));
-    // The toolkit leaves sizes and dates cut, with room beside them. Here a name gives way, whose end stays seen.
+    // By default sizes and dates are cut although there is room beside them. Here they are shown whole, and the name
+    // takes what is left.
     liste->header()->setStretchLastSection(false);
     liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     liste->header()->setSectionResizeMode(ColonneNom, QHeaderView::Stretch);
@@ -108,7 +109,8 @@ void NeFaitQueChoisir(QFileDialog &dialogue, bool nouveauDossier)
         if (auto *const liste = dialogue.findChild<QAbstractItemView *>(QLatin1String(nom)))
             liste->setDragDropMode(QAbstractItemView::NoDragDrop);
     }
-    // The toolkit's button makes a folder first and lets its name be changed then.
+    // The toolkit's button makes a folder first and lets its name be changed afterwards, which a read-only dialog
+    // forbids.
     auto *const bouton = dialogue.findChild<QToolButton *>(QStringLiteral("newFolderButton"));
     if (bouton == nullptr)
         return;

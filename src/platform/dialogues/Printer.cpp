@@ -25,7 +25,7 @@ Printer::Printer(QPrinter &reglages)
     : m_reglages(reglages)
     , m_fichier(reglages.outputFileName())
 {
-    m_option.setWrapMode(QTextOption::WrapAnywhere); // of a line that is too long only its first piece is drawn
+    m_option.setWrapMode(QTextOption::WrapAnywhere); // only the first piece of a broken line is drawn
 }
 
 Printer::~Printer()
@@ -46,13 +46,13 @@ void Printer::Print(const QString &texte)
     CommenceTravail();
     const QFontMetricsF metrique(Font, &m_reglages);
     m_hauteur = metrique.lineSpacing();
-    // The layout of text wants its tab stops in the screen's dots and makes them the printer's itself.
+    // QTextLayout takes tab stops in dots of the screen and converts them to the printer's.
     const double echelle = QGuiApplication::primaryScreen()->logicalDotsPerInchY() / m_reglages.logicalDpiY();
     m_option.setTabStopDistance(colonnesTabulation * metrique.horizontalAdvance(u' ') * echelle);
     const QString lignes = PourAffichage(texte);
     int numero = 0;
     for (const QStringView ligne : qTokenize(lignes, u'\n')) {
-        Ligne(ligne.toString());
+        ImprimeLigne(ligne.toString());
         if (Suivi && ++numero % pas == 0)
             Suivi(ligne.data() + ligne.size() - lignes.constData());
     }
@@ -77,7 +77,7 @@ void Printer::CommenceTravail()
     m_pagesDues = 0;
 }
 
-void Printer::Ligne(const QString &ligne)
+void Printer::ImprimeLigne(const QString &ligne)
 {
     const QRectF page = m_reglages.pageRect(QPrinter::DevicePixel);
     if (m_y > 0 && m_y + m_hauteur > page.height()) {

@@ -9,8 +9,8 @@
 
 class QPrinter;
 
-/// The printer: it takes lines of text and turns the pages by itself, with no margins but the printer's own. A job
-/// begins with the first line and goes out with EndDoc(); one that was not ended when the object goes is given up.
+/// Prints lines of text, and turns the pages by itself. The only margins are the printer's own. A job begins with the
+/// first line and goes out with EndDoc(); a job that was not ended when the object is destroyed is given up.
 class Printer
 {
 public:
@@ -19,24 +19,24 @@ public:
     ~Printer();
     Q_DISABLE_COPY_MOVE(Printer)
 
-    QFont Font; ///< of the lines to come
+    QFont Font; ///< font of the lines to come
 
-    /// Called every now and then while a text is printed, with how many of its characters are done. What it raises
-    /// leaves Print().
+    /// Called now and then while a text is printed. faits: characters of it that are done. An exception from it leaves
+    /// Print().
     std::function<void(qsizetype faits)> Suivi;
 
-    /// Prints texte and goes to the next line. A line ends at CR LF, CR or LF; what does not fit beside the others is
-    /// cut off, and a tabulator goes to the next eighth column. Raises ErreurFichier when the printer or its file
-    /// cannot be written.
+    /// Prints texte and goes to the next line. A line ends at CR LF, CR or LF. A line too long for the page is cut at
+    /// its right edge, and a tabulator goes to the next eighth column. Raises ErreurFichier when the printer or its
+    /// file cannot be written.
     void Print(const QString &texte = {});
 
-    /// Ends the job. The next line begins another one; in PDF each has a file of its own, and those behind the first
-    /// bear a number in their names that is still free.
+    /// Ends the job; the next line begins another one. In PDF each job has a file of its own: the second and later ones
+    /// get the first free number added to the name. Raises ErreurFichier as Print().
     void EndDoc();
 
 private:
     void CommenceTravail();
-    void Ligne(const QString &ligne);
+    void ImprimeLigne(const QString &ligne);
     QString FichierSuivant() const;
 
     QPrinter &m_reglages;
@@ -44,7 +44,7 @@ private:
     int m_travaux = 0;       ///< jobs begun
     QPainter m_peintre;
     QTextOption m_option;
-    double m_hauteur = 0; ///< of a line, in the printer's dots
+    double m_hauteur = 0; ///< height of a line, in the printer's dots
     double m_y = 0;       ///< where the next line goes
-    int m_pagesDues = 0;  ///< pages to turn before the next character: lines without any at the end waste no sheet
+    int m_pagesDues = 0;  ///< pages to turn before the next character: blank lines at the end use no sheet
 };
