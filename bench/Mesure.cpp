@@ -88,7 +88,7 @@ void ConfigureMachine(int vitesse)
     ParamCom.TailleTamponRecep = 1024;
     ParamCom.TailleTamponEmis = 512;
     ParamCom.Echo = 1;
-    EtatConf.fiche = EtatConfiguration::Entiere; // or the sending would ask, and nobody is there to answer
+    EtatConf.fiche = EtatConfiguration::Entiere; // a sending asks about any other, and nobody answers here
     BatirChaines();
 }
 

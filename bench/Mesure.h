@@ -6,56 +6,56 @@
 
 #include <functional>
 
-/// One figure of a benchmark with its bound, and the peer that it stands beside.
+/// One measured figure with its bound, and the same figure of another program (the peer) beside it.
 struct Mesure
 {
     QString quoi;
-    double programme; ///< what the program needs
-    double pair;      ///< what the peer needs for the same, NaN where there is nothing to compare
+    double programme; ///< figure of this program
+    double pair;      ///< figure of the peer, NaN where there is no peer
     QString nomPair;
-    double jugee; ///< the figure that the bound is on
-    double borne; ///< the most that it may be
+    double jugee; ///< figure compared with the bound
+    double borne; ///< largest allowed value of jugee
 };
 
-/// Prints the figure in the table; false when it passes its bound.
+/// Prints the row of the table; false when the figure exceeds its bound.
 bool Montre(const Mesure &mesure);
 
-/// Seconds of processor that the calling thread has used so far.
+/// Processor seconds that the calling thread has used so far.
 double TempsProcesseur();
 
-/// Memory of this process in bytes, as the system counts it, after unused memory has been given back.
+/// Resident memory of this process in bytes, after unused memory has been given back to the system.
 qint64 MemoireResidente();
 
-/// The middle one of the values.
+/// The median of the values.
 double Mediane(QList<double> valeurs);
 
-/// The middle one of the values that mesure gives in fois runs.
+/// The median of fois results of mesure.
 double Mediane(int fois, const std::function<double()> &mesure);
 
 /// Seconds that action takes.
 double SecondesDe(const std::function<void()> &action);
 
-/// A CN program of that many lines of about 25 characters, CR LF behind each.
+/// A CN program of lignes lines of about 25 characters, each ended by CR LF.
 QString ProgrammeCN(int lignes);
 
 /// Seconds that a bare text pane of Qt takes to show texte.
 double DureeVoletNu(const QString &texte);
 
-/// ParamCom becomes a configuration for a simulated machine on Com2 with XON/XOFF and EOT. vitesse: bits per second.
+/// Sets ParamCom for a simulated machine on Com2 with XON/XOFF and EOT. vitesse: bits per second.
 void ConfigureMachine(int vitesse);
 
-/// A run of this same benchmark in a process of its own, with its role and the rest as arguments. It starts with the
-/// construction, so that several may run side by side.
+/// A run of the same benchmark in another process, with its role and further values as arguments. It starts in the
+/// constructor, so that several can run side by side.
 class Enfant
 {
 public:
     explicit Enfant(const QStringList &arguments);
-    /// Waits for its end and gives the figures that it has printed with Rend(); infinite ones when it has failed.
+    /// Waits for its end and returns the nombre figures that it printed with Rend(); infinite ones when it failed.
     QList<double> Chiffres(qsizetype nombre);
 
 private:
     QProcess m_processus;
 };
 
-/// Prints the figures for the process that waits for them.
+/// Prints the figures for the process that started this one.
 void Rend(const QList<double> &chiffres);

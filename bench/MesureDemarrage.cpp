@@ -1,5 +1,5 @@
-// From the start of the process to the main window painted, against an empty window of Qt. Each start is a process of
-// its own that ends with its first painting.
+// Measures the time from the start of the process until the main window is painted, compared with an empty window of
+// Qt. Each start is a process of its own, which ends after its first painting.
 
 #include "Mesure.h"
 
@@ -77,7 +77,7 @@ int main(int nombre, char *arguments[])
     const QTemporaryDir dossier;
     FixeDossierApplication(dossier.path());
     SauveIni();
-    // The two are started in turn, so that whatever else the machine does weighs on both.
+    // The two are started alternately, so that other load on the PC affects both alike.
     constexpr int fois = 61;
     QList<double> vides;
     const double rapport = Mediane(fois, [&] {

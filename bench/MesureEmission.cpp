@@ -1,7 +1,7 @@
-// Sends programs to the simulated machine in both ways of sending and measures the line: how long a program of 20 kB
-// took against what the line needs, what still comes after an XOFF, what the processor does while the line is held.
-// Each sending is a process of its own, and the peer sends the same on a line of its own at the same time. The slow
-// line is measured once more beside two busy processes on the same two cores.
+// Sends programs to the simulated machine in both ways of sending. Measures how long 20 kB take compared with the time
+// that the line needs, how many characters still come after an XOFF, and the processor time used while the line is
+// held. Each sending is a process of its own; the peer sends the same on another line at the same time. The slowest
+// line is measured once more next to two busy processes on the same two cores.
 
 #include "Mesure.h"
 #include "Pair.h"
@@ -37,7 +37,7 @@ constexpr auto Calme = 500ms;        // before what a held sending costs is meas
 constexpr auto DureeRetenue = 3s;
 constexpr int AttenteMax = 60000; // milliseconds
 
-/// A way of sending, and who else sends like that.
+/// A way of sending, and the peer that sends in the same way.
 struct Envoi20k
 {
     int typeEnvoi;
@@ -52,15 +52,15 @@ QString Intitule(int vitesse, const Envoi20k &envoi, const char *quoi)
         .arg(QString::number(vitesse), QLatin1String(envoi.nom), QLatin1String(quoi));
 }
 
-/// What the machine may get after an XOFF.
+/// How many characters the machine may still get after an XOFF.
 struct BorneXoff
 {
     int vitesse;
     double suite;
-    int lignes; // enough for the line to be busy from the beginning to the last hold, and not much longer behind it
+    int lignes; // length of the program: the line is busy until the last hold, and not much longer
 };
 constexpr BorneXoff BornesXoff[] = {{9600, 8, 130}, {19200, 8, 260}, {115200, 60, Lignes20k}};
-constexpr double BorneOccupe = 10; // and from a busy PC: more, and some controls raise an alarm
+constexpr double BorneOccupe = 10; // the same from a busy PC; with more, some machines raise an alarm
 
 int LignesRetenue(int vitesse)
 {
@@ -85,7 +85,7 @@ double DureeRecue(const MachineSimulee &machine)
 
 // ---- The program, in a process of its own
 
-/// The program with a CN program in its pane and a machine on Com2.
+/// The program with a text in its pane and a machine on Com2.
 class PosteEmission
 {
 public:
@@ -102,7 +102,7 @@ public:
         BatirChaines();
     }
 
-    /// Runs one sending in a dialog on the screen, as the operator sees it.
+    /// Runs one sending in a visible dialog, as the operator sees it.
     void Emet()
     {
         Transfert.TypeTransfert = EmissionProgramme;
@@ -162,7 +162,7 @@ void RendRepos(QWidget &fenetre)
     Rend({(TempsProcesseur() - debut) / secondes});
 }
 
-/// Wants a core whole until it is killed, or for two minutes should nobody be left to do that.
+/// Keeps a core busy until it is killed, or for two minutes if nobody is left to kill it.
 void RendOccupe()
 {
     std::minstd_rand nombres;
@@ -231,7 +231,7 @@ private:
     Pair m_pair;
 };
 
-/// What the bound is on, and how the row is told apart.
+/// The bound, and the words that tell its row from the others.
 struct Borne
 {
     const char *quoi;
@@ -246,7 +246,7 @@ bool MontreTemps(int vitesse, const Envoi20k &envoi, const Course::Temps &temps,
                    QLatin1String(Pair::NomDe(envoi.pair)), temps.programme / temps.ligne, borne.rapport});
 }
 
-/// A slow line leaves the PC idle: all go at once.
+/// Slow lines leave the PC idle, so all are measured at once.
 bool MesureTempsLents(std::initializer_list<int> vitesses, const Borne &borne, const QTemporaryDir &dossier)
 {
     struct EnCours
@@ -266,7 +266,7 @@ bool MesureTempsLents(std::initializer_list<int> vitesses, const Borne &borne, c
     return tenu;
 }
 
-/// Two cores for all of this benchmark, and two processes that want them whole, as long as it lives.
+/// As long as it lives, the whole benchmark runs on two cores, next to two processes that keep both busy.
 class DeuxCoeursOccupes
 {
 public:
@@ -303,7 +303,7 @@ bool MesureTemps115200(const Envoi20k &envoi, const QTemporaryDir &dossier)
     return MontreTemps(115200, envoi, temps, BorneCalme);
 }
 
-/// What the peer does when the machine holds the line: characters that come all the same, processor.
+/// How the peer behaves when the machine holds the line: characters that still come, processor time used.
 struct RetenuePair
 {
     double suite;
@@ -337,7 +337,7 @@ bool MesureRetenue(const BorneXoff &borne, const Envoi20k &envoi, const QTempora
     return suite && processeur;
 }
 
-/// The slow line beside other programs: how long it takes, and whether the machine that says XOFF keeps its peace.
+/// Measures the slow line next to busy programs: the time of a program, and the characters that come after an XOFF.
 bool MesureOccupe(const QTemporaryDir &dossier)
 {
     const DeuxCoeursOccupes occupes;

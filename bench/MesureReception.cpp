@@ -1,6 +1,7 @@
-// Receives programs from the simulated machine in the three ways and measures: a large file against a bare text pane
-// that is given the same text, its memory, one endless line with the echo on, what waiting for a silent machine costs,
-// and the characters lost by character. Each memory, each waiting and each endless line is a process of its own.
+// Receives programs from the simulated machine in the three ways. Measures a large file, in time and memory, compared
+// with a bare text pane that gets the same text; one endless line with the echo on; the processor time of waiting for a
+// silent machine; and the characters lost when receiving by character. Each memory figure, each waiting and each
+// endless line is a process of its own.
 
 #include "Mesure.h"
 #include "Pair.h"
@@ -43,11 +44,11 @@ struct PosteReception
         ParamCom.SeuilRecep = 256;
         Transfert.DossierRecep = dossier.path();
         Transfert.NomFicRecep = QStringLiteral("RECU.ISO");
-        Transfert.TypeTransfert = AucunTransfert; // the dialog shows the transfer and starts nothing by itself
+        Transfert.TypeTransfert = AucunTransfert; // the dialog starts nothing by itself
         fenetre.show();
     }
 
-    /// Runs a reception in a dialog on the screen; the machine sends once the port is open.
+    /// Runs a reception in a visible dialog. The machine sends once the port is open.
     void Recoit(RoutineReception reception, int typeRecep, const Envoi &envoi)
     {
         ParamCom.TypeRecep = typeRecep;
@@ -79,7 +80,7 @@ double DureeFichier(int lignes)
 
 // ---- Roles of a process of its own
 
-/// Peak of this process's memory, bytes.
+/// Peak memory of this process, bytes.
 double Pointe()
 {
     QFile etat(QStringLiteral("/proc/self/status"));
@@ -95,7 +96,7 @@ double Pointe()
 constexpr auto AvantAttente = std::chrono::seconds(1);
 constexpr auto DureeAttente = std::chrono::seconds(3);
 
-/// A way of receiving, and who else waits like that.
+/// A way of receiving, and the peer that waits in the same way.
 struct Facon
 {
     const char *nom;
@@ -123,8 +124,8 @@ double ProcesseurEnAttente(const Facon &facon)
     return (fin - debut) / std::chrono::duration<double>(DureeAttente).count();
 }
 
-/// One line of that many characters, seen as it comes and in the program pane at the end: seconds, and the longest time
-/// that the event loop was held, in milliseconds.
+/// Receives one line of caracteres characters with the echo on, and shows it in the program pane. Gives the seconds,
+/// and the longest time in milliseconds that the event loop was blocked.
 QList<double> LigneSansFin(int caracteres)
 {
     PosteReception poste(0);
@@ -140,7 +141,7 @@ QList<double> LigneSansFin(int caracteres)
     });
     pouls.start(1);
     const double secondes = SecondesDe([&] { poste.Recoit(ReceptionFichier, RecepFichier, envoi); });
-    CedeLaMain(); // the program pane shows it
+    CedeLaMain(); // shows it in the program pane
     CedeLaMain();
     return {secondes, static_cast<double>(retenue)};
 }
@@ -161,7 +162,7 @@ void JoueRole(const QString &role, int numero)
 
 // ---- The figures
 
-/// Each ratio is taken from runs side by side, so that a PC that stalls spoils one of them and not the figure.
+/// Each ratio compares two runs side by side, so that a pause of the PC spoils only one ratio.
 bool MesureGrandFichier()
 {
     constexpr int fois = 5;
@@ -241,7 +242,7 @@ bool MesureAttente(const QTemporaryDir &dossier)
     return tenu;
 }
 
-/// The peer receives the same at the same time.
+/// Measures lost characters. The peer receives the same at the same time.
 bool MesurePertes(const QTemporaryDir &dossier)
 {
     const QString recuPair = dossier.filePath(QStringLiteral("recu"));
@@ -251,12 +252,12 @@ bool MesurePertes(const QTemporaryDir &dossier)
     Pair pair(Pair::PythonSerie, 115200);
     pair.Recoit(recuPair);
     PosteReception poste(115200);
-    std::this_thread::sleep_for(AvantAttente); // it throws away what came before it was ready
+    std::this_thread::sleep_for(AvantAttente); // the peer throws away what comes before it is ready
     pair.Machine().Emet(envoi);
     ParamCom.NbCarLecture = 1;
     poste.Recoit(ReceptionCar, RecepCaracteres, envoi);
     pair.Attend();
-    // The file ends with one more line end than what was sent, the peer's with the end-of-transfer character.
+    // The program's file ends with one line end more than was sent, the peer's with the end-of-transfer character.
     const auto manquent = [&](const QString &recu, qsizetype enPlus) {
         return static_cast<double>(envoi.Texte.size() + enPlus - LitOctets(recu).size());
     };

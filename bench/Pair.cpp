@@ -6,7 +6,7 @@ namespace {
 
 constexpr int DemiBits = 20; // start, 8 data, no parity, 1 stop
 
-// $1 is the terminal, $2 the speed, $3 the file. Debian's own python3 has the package.
+// $1: the terminal, $2: the speed, $3: the file. The system's python3 has the package that they need.
 struct Commandes
 {
     const char *nom;

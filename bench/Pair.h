@@ -5,27 +5,28 @@
 #include <QProcess>
 
 /// Another program at the PC's end of a simulated machine's line, as a shop would use it: XON/XOFF, 8 data bits, no
-/// parity. It starts with the construction and is killed with the destruction.
+/// parity. The destructor kills it.
 class Pair
 {
 public:
     enum Logiciel { Cat, AsciiXfr, PythonSerie };
 
-    /// vitesse: of the machine's line, bits per second.
+    /// vitesse: of the line, bits per second.
     explicit Pair(Logiciel logiciel, int vitesse);
     ~Pair();
     Q_DISABLE_COPY_MOVE(Pair)
 
-    /// Sends the file; it may have ended long before the line has carried it.
+    /// Starts sending the file. The program may end long before the line has carried it all.
     void Emet(const QString &fichier);
-    /// Receives into the file, python3-serial one character at a time and until the end-of-transfer character.
+    /// Starts receiving into the file. python3-serial takes one character at a time, until the end-of-transfer
+    /// character.
     void Recoit(const QString &fichier);
-    /// Waits until it has ended by itself.
+    /// Waits until the program has ended by itself.
     void Attend() { m_processus.waitForFinished(-1); }
 
     MachineSimulee &Machine() { return m_machine; }
     static const char *NomDe(Logiciel logiciel);
-    /// Seconds of processor that it has used so far, 0 once it has ended.
+    /// Processor seconds that it has used so far; 0 once it has ended.
     double Processeur() const;
 
 private:
@@ -37,5 +38,5 @@ private:
     QProcess m_processus;
 };
 
-/// What the benchmarks' machines have in common.
+/// The settings shared by the machines of all benchmarks. vitesse: bits per second.
 ReglageMachine MachineDeMesure(int vitesse);

@@ -1,5 +1,5 @@
-# What an installation lays where, and the Debian package (cpack). The program's own folder is lib/dorvanel, with the
-# manuals and the samples beside it as in the build; the simulated machine comes along, so that a newcomer can try it.
+# Where the files of an installation go, and the Debian package (cpack). The program lies in lib/dorvanel, with manuals
+# and samples beside it as in the build. The simulated machine is installed too, so that a newcomer can try the program.
 
 include(GNUInstallDirs)
 set(PAQUET ${PROJECT_SOURCE_DIR}/paquet)
@@ -7,7 +7,7 @@ set(FABRIQUE ${PROJECT_BINARY_DIR}/paquet)
 set(DOSSIER_PROGRAMME lib/dorvanel)
 set(TAILLES_THEME 16 22 24 32 48 64 128 256)
 
-# A release is a version of the project with its heading, and so its day, in CHANGELOG.md.
+# Each version of the project has a heading with its day in CHANGELOG.md.
 file(STRINGS ${PROJECT_SOURCE_DIR}/CHANGELOG.md TITRE REGEX "^## \\[${PROJECT_VERSION}\\] - ")
 if(NOT TITRE MATCHES "([0-9]+-[0-9]+-[0-9]+)$")
     message(FATAL_ERROR "CHANGELOG.md has no heading \"## [${PROJECT_VERSION}] - YYYY-MM-DD\"")
@@ -30,7 +30,7 @@ foreach(COMMANDE dorvanel essai)
     install(FILES ${FABRIQUE}/${NOM} DESTINATION ${CMAKE_INSTALL_BINDIR})
 endforeach()
 
-# Icons in the theme's sizes, drawn from the one drawing
+# Icons in the sizes of the desktop's icon theme, made from one drawing
 dessine_icone(Dorvanel ${FABRIQUE}/icones ${TAILLES_THEME})
 foreach(TAILLE IN LISTS TAILLES_THEME)
     install(FILES ${FABRIQUE}/icones/${TAILLE}.png RENAME dorvanel.png
@@ -75,8 +75,8 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Without any font there is nothing to read; the translations are of the buttons of the system's own dialogs; xdg-open
-# stands in for an editor that is not there.
+# A font is needed for any text at all. Recommended: the translations of the toolkit's buttons and dialogs, and
+# xdg-open, which replaces a missing editor.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core | fonts-freefont-ttf | fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland, xdg-utils")
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS

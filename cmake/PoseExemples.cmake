@@ -1,4 +1,4 @@
-# Lays the sample programs and configurations of DE beside the program in VERS, over nothing that is there.
+# Copies the sample programs and configurations from the folder DE to VERS. Existing files are not overwritten.
 file(GLOB_RECURSE EXEMPLES RELATIVE ${DE} ${DE}/*)
 foreach(EXEMPLE IN LISTS EXEMPLES)
     if(NOT EXISTS ${VERS}/${EXEMPLE})

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The controls of a window's own that are on the screen, but for what the toolkit makes inside them.
+/// The visible controls of a window, without those that the toolkit makes inside them.
 QList<QWidget *> Montres(const QWidget &fenetre)
 {
     QList<QWidget *> montres = fenetre.findChildren<QWidget *>();
@@ -21,7 +21,7 @@ QList<QWidget *> Montres(const QWidget &fenetre)
     return montres;
 }
 
-/// Too small for its words, out of its frame, or over another control.
+/// Controls that are too small for their text, outside their frame, or over another control.
 QStringList Coupes(const QWidget &fenetre)
 {
     QStringList coupes;
@@ -46,7 +46,7 @@ QStringList Coupes(const QWidget &fenetre)
     return coupes;
 }
 
-/// Controls that Alt and one letter call together.
+/// Controls that share an Alt shortcut.
 QStringList LettresDoubles(const QWidget &fenetre)
 {
     QMap<QString, QStringList> lettres;
@@ -63,7 +63,7 @@ QStringList LettresDoubles(const QWidget &fenetre)
         for (const QAction *const menu : w->inherits("QMenuBar") ? w->actions() : QList<QAction *>())
             note(*menu->menu());
     }
-    // These captions are given. Of two buttons the letter presses none, it goes from one to the other.
+    // The captions of these are fixed. With two buttons of the same letter, Alt moves between them and presses none.
     static const QStringList donnes{
         QStringLiteral("Alt+M Mnu_Com Mnu_Mesure"), QStringLiteral("Alt+C Command3 Command1"),
         QStringLiteral("Alt+C Command4 Command1"), QStringLiteral("Alt+C Command5 Command4")};
@@ -76,9 +76,10 @@ QStringList LettresDoubles(const QWidget &fenetre)
     return doubles;
 }
 
-/// Steps of the tabulator that go back: upwards, but for the top of a column on the right, or to the left; and those to
-/// an option that is not the chosen one of its group, from where an arrow would choose another. The dial goes by the
-/// numbers on it; the chooser begins with what closes it, the main window and the help with their text.
+/// Steps of the Tab key that go backwards: upwards, except to the top of a column on the right, or to the left. Also
+/// steps to an option that is not the selected one of its group, where an arrow key would select another one. Four
+/// windows are left out: the dial follows its numbers, the chooser begins with its close button, the main window and
+/// the help begin with their text.
 QStringList Detours(const QWidget &fenetre)
 {
     if (QStringList{QStringLiteral("JauTour"), QStringLiteral("FrmCaract"), QStringLiteral("frmPrinc"),
@@ -105,7 +106,8 @@ QStringList Detours(const QWidget &fenetre)
     return detours;
 }
 
-/// Controls that take the keyboard and have no name or no role for whoever hears them. Tabs are heard one by one.
+/// Controls that take the keyboard and have no name or no role for an assistive program. The tabs of a tab bar are
+/// announced one by one.
 QStringList Muets(const QWidget &fenetre)
 {
     QStringList muets;

@@ -60,7 +60,7 @@ QWidget *FenetreTransfert(ModeTransfert mode)
     return new Em_Rc(frmPrinc);
 }
 
-/// A transfer on its way, with all that it can show.
+/// A transfer dialog in the middle of a transfer, with everything that it can show.
 QWidget *TransfertEnCours(ModeTransfert mode)
 {
     auto *const fenetre = static_cast<Em_Rc *>(FenetreTransfert(mode));
@@ -75,7 +75,7 @@ QWidget *TransfertEnCours(ModeTransfert mode)
 QWidget *Reception(ModeTransfert mode)
 {
     Transfert.TypeTransfert = mode;
-    ParamCom.TypeRecep = RecepLignes; // the one with every option of the dialog
+    ParamCom.TypeRecep = RecepLignes; // the way of receiving with every option of the dialog
     auto *const fenetre = new Rc_Fic(frmPrinc);
     fenetre->Text1->setText(QStringLiteral("PIECE2"));
     return fenetre;

@@ -40,7 +40,7 @@ QPalette Sombre()
     return palette;
 }
 
-/// The same picture on every PC: one style, one font, no blinking.
+/// Makes the pictures the same on every PC: one style, one font, no blinking cursor.
 void FixeApparence(bool sombre)
 {
     QApplication::setStyle(new StyleContraste(QStringLiteral("Fusion")));
@@ -57,7 +57,7 @@ void EcritReglages(const QString &application, const QByteArray &langue)
     ini.write(" 0 \r\n\"\"\r\n 0 \r\n\"\"\r\n 0 \r\n\r\n " + langue + " \r\n");
 }
 
-/// What a window shows, under a title bar as a desktop draws one: a window's title belongs to its picture.
+/// The picture of a window below a drawn title bar, since its title belongs to the picture.
 QPixmap Photographie(QWidget &fenetre)
 {
     constexpr int hauteurTitre = 28;
@@ -84,13 +84,13 @@ bool Ecrit(QPixmap image, const QString &dossier, const char *nom, int largeurMa
     return image.save(QStringLiteral("%1/%2.png").arg(dossier, QLatin1String(nom)));
 }
 
-/// Opens the window of a view, writes its picture, says what is wrong in it, and closes it again; the main window
-/// stays. largeurMax: pixels; a wider picture is reduced.
+/// Opens the window of a view, saves its picture, prints its defects, and closes it again; the main window stays.
+/// largeurMax: pixels; a wider picture is scaled down.
 bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
 {
     QWidget *const fenetre = vue.ouvre();
     fenetre->show();
-    // A reception begins, and asks, by itself once its dialog is on the screen; here nobody answers.
+    // A reception would begin by itself and ask a question, which nobody answers here.
     QCoreApplication::removePostedEvents(fenetre, QEvent::MetaCall);
     QCoreApplication::processEvents();
     const bool menu = qobject_cast<QMenu *>(fenetre) != nullptr;
@@ -104,7 +104,7 @@ bool Prend(const Vue &vue, const QString &dossier, int largeurMax)
     return ecrit;
 }
 
-/// Same for a box, which is answered once its picture is taken.
+/// Same for a box, which is answered after its picture is taken.
 bool Prend(const VueModale &vue, const QString &dossier, int largeurMax)
 {
     constexpr int posee = 100; // milliseconds until a file dialog has read its folder
@@ -142,7 +142,7 @@ int main(int nombre, char *arguments[])
         return 2;
     }
     QApplication::setApplicationDisplayName(QString()); // as the program itself does
-    constexpr int page = 600;                           // pixels; what the help window has beside its contents
+    constexpr int page = 600;                           // pixels; width of the help text beside its contents
     const int largeurMax = options.value(4) == QLatin1String("manual") ? page : QWIDGETSIZE_MAX;
     FixeApparence(options.value(4) == QLatin1String("dark"));
     FixeDossierApplication(options[1]);

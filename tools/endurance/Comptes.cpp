@@ -13,12 +13,12 @@
 #include <malloc.h>
 #include <unistd.h>
 
-// The toolkit's table of hooks for tools that watch a program; it stands in none of its public headers.
+// The toolkit's table of hooks for debugging tools. No public header declares it.
 extern Q_DECL_IMPORT quintptr qtHookData[];
 
 namespace {
 
-constexpr int Naissance = 3; // places in that table
+constexpr int Naissance = 3; // index of the hook for new objects
 constexpr int Mort = 4;
 
 std::atomic<int> objets = 0; // some live in other threads
@@ -47,7 +47,7 @@ qint64 Pages()
 
 Comptes Compte()
 {
-    // What a transfer leaves for later, timers that fire once above all, is over by then.
+    // Deferred work of a transfer (single-shot timers above all) is over after this time.
     constexpr int repos = 500; // milliseconds
     QElapsedTimer depuis;
     depuis.start();

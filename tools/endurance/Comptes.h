@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// What a process holds at one moment.
+/// Resources that the process holds at one moment.
 struct Comptes
 {
     int descripteurs = 0;
@@ -10,14 +10,14 @@ struct Comptes
     int fenetres = 0;
 };
 
-/// Counts the QObjects from now on; to be called before the first one of interest.
+/// Starts counting QObjects. To be called before the first one of interest is made.
 void CompteObjets();
 
-/// Everything that waits to be deleted is deleted first.
+/// Counts the resources, after all deferred deletions have been done.
 Comptes Compte();
 
-/// Memory in kB that the process has asked for and not given back.
+/// Heap memory in use, in kB.
 qint64 Tas();
 
-/// Resident memory in kB: also what the allocator keeps for later.
+/// Resident memory in kB; includes what the allocator keeps for later.
 qint64 Pages();

@@ -50,7 +50,7 @@ QByteArray Epreuve::Outil()
            QByteArray::number(1 + Hasard(99)) + " D";
 }
 
-/// Any printable character of the code page, but no blank at an end.
+/// A line of printable characters of the code page, without a blank at either end.
 QByteArray Epreuve::Ligne()
 {
     QByteArray ligne;
@@ -68,12 +68,12 @@ QByteArrayList Epreuve::Lignes(Genre genre)
     return lignes;
 }
 
-/// A control with a small buffer and a processor that may be slow, which holds the line now and then.
+/// A machine with a small buffer and a possibly slow processor, which holds the line now and then.
 ReglageMachine Epreuve::Reglage()
 {
     ReglageMachine reglage;
     reglage.Ligne.Vitesse = Vitesse;
-    reglage.Tampon.Profondeur = 4096; // what is on its way at that speed when XOFF is said is more than a thousand
+    reglage.Tampon.Profondeur = 4096; // at that speed more than a thousand characters are under way when XOFF is sent
     reglage.Tampon.MarqueHaute = 64 + Hasard(128);
     reglage.Tampon.MarqueBasse = Hasard(64);
     reglage.Tampon.Debit = Hasard(3) == 0 ? 60'000 : 0;
@@ -114,7 +114,7 @@ Sort Epreuve::Joue(Genre genre, Sort voulu)
 void Epreuve::Pendant(QDialog &transfert)
 {
     if (Hasard(30) == 0)
-        QThread::msleep(m_alea.bounded(10U)); // the PC has other things to do
+        QThread::msleep(m_alea.bounded(10U)); // the PC is busy elsewhere
     if (m_voulu != Sort::Entier && !m_agi && frmPrinc->PortOuvert && Passes() >= m_apres)
         Agit(transfert);
     else if (!m_agi)
@@ -134,7 +134,7 @@ void Epreuve::Donne(const QByteArray &piece)
     m_donnes += piece.size();
     Envoi envoi{piece};
     envoi.Salve = m_genre == Genre::Banc;
-    envoi.SansFin = true; // the last piece holds it
+    envoi.SansFin = true; // the last piece contains the end-of-transfer chain
     envoi.PauseLigneMs = m_genre == Genre::Fichier ? Hasard(2) : 0;
     if (m_retenue && m_apres < m_donnes)
         envoi.CoupeApres = m_apres - m_avant;
@@ -150,8 +150,8 @@ void Epreuve::Agit(const QDialog &transfert)
         m_machine->Arrete();
 }
 
-/// A sending is whole unless the operator was told otherwise. The one that was unplugged behind its last character
-/// cannot know.
+/// A sending must be complete unless the operator was told otherwise. One unplugged after its last character cannot
+/// know that.
 Sort Epreuve::JugeEmission()
 {
     const bool entier = m_deroulement.avis.isEmpty() && !(m_agi && m_voulu == Sort::Debranche);

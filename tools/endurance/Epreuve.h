@@ -5,22 +5,23 @@
 
 #include <QRandomGenerator>
 
-/// What has become of a transfer.
+/// How a transfer ended.
 enum class Sort { Entier, Annule, Debranche };
 
-/// One transfer after the other with a simulated machine that holds the line and falls silent, a PC that is busy
-/// elsewhere, and an operator who sometimes cancels or pulls the plug: all by chance, and the same for the same seed as
-/// far as the clocks allow. What was whole is compared byte for byte; what was cut short has to be a beginning of it.
+/// Plays transfers with a simulated machine that holds the line and falls silent, a busy PC, and an operator who
+/// sometimes cancels or pulls the plug. All of it is random and follows a seed, as far as the clocks allow. Complete
+/// data is compared byte for byte; interrupted data must be a beginning of it.
 class Epreuve
 {
 public:
     Epreuve(const Poste &poste, quint32 graine);
 
-    /// Plays one transfer. voulu: what the operator sets out to do; too late, the transfer is whole all the same.
+    /// Plays one transfer and returns how it ended. voulu: what the operator intends; when he is too late, the transfer
+    /// is complete all the same.
     Sort Joue(Genre genre, Sort voulu);
-    /// Sets out by chance: five in seven are left alone.
+    /// Chooses an intention at random; five in seven transfers are left alone.
     Sort Tire();
-    /// What was wrong so far, a line each.
+    /// The differences found so far, one line each.
     const QStringList &Ecarts() const { return m_ecarts; }
 
 private:
@@ -49,7 +50,7 @@ private:
     Sort m_voulu = Sort::Entier;
     Charge m_charge;
     qint64 m_apres = 0;     // characters after which the operator acts
-    bool m_retenue = false; // the machine stands still there, so that he is in time
+    bool m_retenue = false; // the machine waits at that point, so that he is in time
     bool m_agi = false;
     qint64 m_donnes = 0; // characters of the pieces given
     qint64 m_avant = 0;  // of these, before the last piece

@@ -12,13 +12,13 @@
 namespace {
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr bool JugeMemoire = false; // what was freed is kept for a while, and leaks are told at the end
+constexpr bool JugeMemoire = false; // the sanitizer keeps freed memory for a while, and reports leaks by itself
 #else
 constexpr bool JugeMemoire = true;
 #endif
-constexpr double CroissanceMax = 1.02; // the toolkit's fonts and tables go on settling for a while
-constexpr int ObjetsUniques = 2;   // the toolkit makes some once, at no fixed moment; a leak has one for each transfer
-constexpr qsizetype Fenetre = 100; // transfers at either end whose memory is compared
+constexpr double CroissanceMax = 1.02; // the toolkit's fonts and tables still grow for a while
+constexpr int ObjetsUniques = 2;       // made once by the toolkit, at any time; a leak would be one for each transfer
+constexpr qsizetype Fenetre = 100;     // number of transfers at either end whose memory is compared
 
 constexpr const char *Noms[] = {"whole file, sent", "line by line, sent", "received by character",
                                 "received by line", "received by file",   "bench"};
@@ -52,7 +52,7 @@ void EcritBilan(const Bilan &bilan)
     }
 }
 
-/// One line of the table of what the process holds; false when it is not as it has to be.
+/// Prints a row of the table of resources; false when the figure is not as it should be.
 bool EcritCompte(const char *nom, qint64 avant, qint64 apres, bool juste)
 {
     Ecrit(nom, QString::number(avant), QString::number(apres), QString::fromLatin1(juste ? "" : "WRONG"));
@@ -64,7 +64,7 @@ qint64 Moyenne(const qint64 *debut, qsizetype nombre)
     return std::accumulate(debut, debut + nombre, qint64(0)) / nombre;
 }
 
-/// serie: the memory behind each transfer, in kB.
+/// serie: the memory after each transfer, in kB.
 bool EcritMemoire(const char *nom, const QList<qint64> &serie)
 {
     const qsizetype nombre = std::min(Fenetre, serie.size());
@@ -86,13 +86,14 @@ bool EcritComptes(const Comptes &avant, const Comptes &apres, const QList<qint64
     return EcritCompte("top-level windows", avant.fenetres, apres.fenetres, apres.fenetres == avant.fenetres) && juste;
 }
 
-/// nombre transfers of each kind, in turns, so that the first and the last hundred are of all kinds.
+/// Plays nombre transfers of each kind, in turns: the first and the last hundred then contain all kinds.
 bool Endure(const Poste &poste, int nombre, quint32 graine)
 {
-    // The toolkit would go on filling it for thousands of transfers; emptied, it keeps the names of what it held.
+    // The toolkit would fill this cache for thousands of transfers. With a limit of 0 it keeps only the names of its
+    // entries.
     QPixmapCache::setCacheLimit(0);
     Epreuve epreuve(poste, graine);
-    // What is made once for the life of the process is made by one transfer of each kind and fate.
+    // One transfer of each kind and ending first makes whatever is made once for the whole process.
     for (const Genre genre : Genres) {
         for (const Sort sort : Sorts)
             epreuve.Joue(genre, sort);
@@ -102,7 +103,7 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
     QList<qint64> tas;
     QList<qint64> pages;
     for (QList<qint64> *const serie : {&tas, &pages})
-        serie->reserve(nombre * qsizetype(std::size(Genres))); // it is not what grows
+        serie->reserve(nombre * qsizetype(std::size(Genres))); // so that this list itself does not grow
     for (int i = 0; i < nombre; ++i) {
         for (const Genre genre : Genres) {
             ++bilan[std::size_t(genre)][std::size_t(epreuve.Joue(genre, epreuve.Tire()))];
@@ -118,7 +119,7 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
     return juste && epreuve.Ecarts().isEmpty();
 }
 
-/// The platform without a display says it of each window.
+/// Drops a warning that the platform without a display gives for each window.
 void Dit(QtMsgType genre, const QMessageLogContext &contexte, const QString &message)
 {
     if (!message.contains(QLatin1String("propagateSizeHints")))
@@ -130,7 +131,7 @@ void Dit(QtMsgType genre, const QMessageLogContext &contexte, const QString &mes
 int main(int nombre, char *arguments[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // nobody watches
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // no display is needed
     qInstallMessageHandler(Dit);
     CompteObjets();
     const QApplication application(nombre, arguments);
@@ -141,7 +142,7 @@ int main(int nombre, char *arguments[])
     lecteur.addHelpOption();
     const QCommandLineOption chaque(QStringLiteral("chaque"), QStringLiteral("Transfers of each kind."),
                                     QStringLiteral("number"), QStringLiteral("1000"));
-    const QCommandLineOption graine(QStringLiteral("graine"), QStringLiteral("Seed of the chance."),
+    const QCommandLineOption graine(QStringLiteral("graine"), QStringLiteral("Random seed."),
                                     QStringLiteral("number"), QStringLiteral("1"));
     lecteur.addOptions({chaque, graine});
     lecteur.process(application);

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Blanks up to the end of the burst, then CR LF.
+/// texte filled with blanks to the length of a burst, with CR LF at its end.
 QByteArray Complete(const QByteArray &texte)
 {
     return texte.leftJustified(Banc::TailleSalve - 2, ' ', true) + "\r\n";

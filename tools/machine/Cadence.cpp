@@ -4,7 +4,7 @@
 
 namespace {
 constexpr qint64 DemiSeconde = 500'000'000; // nanoseconds: half bits x this / bits per second = time of a character
-constexpr qint64 Bouchee = 4096;
+constexpr qint64 LotSansDelai = 4096;
 } // namespace
 
 Cadence::Cadence(const ReglageLigne &ligne)
@@ -30,13 +30,13 @@ qint64 Cadence::Echus(Instant t) const
     if (t < m_origine)
         return 0;
     if (SansDelai())
-        return Bouchee;
+        return LotSansDelai;
     return (t - m_origine).count() * m_ligne.Vitesse / (m_ligne.DemiBits * DemiSeconde) - m_passes;
 }
 
 qint64 Cadence::Lot() const
 {
     if (SansDelai())
-        return Bouchee;
+        return LotSansDelai;
     return std::max<qint64>(1, m_ligne.Vitesse * 2 / (m_ligne.DemiBits * 1000));
 }

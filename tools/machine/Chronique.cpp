@@ -68,7 +68,7 @@ void Chronique::ReponseVenue(Retour reponse, const QByteArray &octets)
 
 QString Chronique::Stocke(const QByteArray &texte) const
 {
-    // A file that is there is never written over, be it of another machine that stores in the same folder.
+    // An existing file is never overwritten: another machine may store in the same folder.
     for (int numero = 1;; ++numero) {
         const QString nom = QStringLiteral("%1.txt").arg(numero, 3, 10, QLatin1Char('0'));
         QFile fichier(QDir(m_stockage).filePath(nom));

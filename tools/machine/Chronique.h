@@ -2,14 +2,14 @@
 
 #include "machine/MachineSimulee.h"
 
-/// Tells the operator on the standard output what the machine does, a line for each event, and stores the programs.
+/// Prints a line for each event of the machine on the standard output, and stores the received programs.
 class Chronique : public TemoinMachine
 {
 public:
-    /// stockage: an existing folder, or empty; the first free number is taken for each program.
+    /// stockage: an existing folder, or empty. Each program gets the first free number as its name.
     Chronique(const ReglageLigne &ligne, const QString &stockage);
 
-    /// One line, at once even into a file or a pipe.
+    /// Prints one line, at once even into a file or a pipe.
     static void Dit(const QString &ligne);
 
     void XoffDit(qint64 recus) override;

@@ -2,15 +2,16 @@
 
 #include <QByteArray>
 
-/// Finds the program in what the line brings: it begins behind the beginning chain (at once where there is none) and
-/// ends at the end-of-transfer chain. The same chain may serve for both, as the "%" of many controls does.
+/// Cuts received characters into programs. A program begins after the beginning chain (at once when there is none) and
+/// ends at the end-of-transfer chain. Both chains may be the same, as the "%" of many machines.
 class Decoupe
 {
 public:
-    /// debut: may be empty; fin: empty never ends a program.
+    /// debut: beginning chain, may be empty; fin: end-of-transfer chain; an empty one never ends a program.
     Decoupe(const QByteArray &debut, const QByteArray &fin);
 
-    /// One more character. True: it completed the end chain, and the program is to be taken before the next one.
+    /// Takes one more character. True when it completed the end chain: the program is then to be taken before the next
+    /// character.
     bool Ajoute(char caractere);
     void Vide();
 

@@ -9,29 +9,30 @@
 /// One sending of the machine.
 struct Envoi
 {
-    QByteArray Texte;           ///< goes between the machine's two chains, byte for byte
-    int PauseLigneMs = 0;       ///< silence behind each line, or each piece; 0: one stream
-    QByteArray FinLigne = "\n"; ///< where a line ends, for the pause only
-    qint64 CoupeApres = -1;     ///< the machine falls silent after so many characters, in mid-line or not; -1: never
+    QByteArray Texte;           ///< sent between the machine's two chains, byte for byte
+    int PauseLigneMs = 0;       ///< pause after each line or piece, milliseconds; 0: none
+    QByteArray FinLigne = "\n"; ///< end of a line, used for the pause only
+    qint64 CoupeApres = -1;     ///< characters after which the machine stops for good; -1: never
     bool SansFin = false;       ///< the end-of-transfer chain is not sent
-    int Morceau = 0;            ///< characters of a piece, which then stands for a line; 0: lines
-    bool Salve = false;         ///< a burst of a bench: goes without the chains, and nothing is to come back
+    int Morceau = 0;            ///< characters of a piece, which is then used in place of a line; 0: lines
+    bool Salve = false;         ///< a burst of a bench: sent without the chains, no answer expected
 };
 
-/// A sending under way: which characters are due when. Knows no clock and no line: times come from outside.
+/// A sending under way: computes which characters are due when. It uses no clock and no line; the caller passes the
+/// times.
 class EmissionMachine
 {
 public:
     EmissionMachine(const Envoi &envoi, const QByteArray &debut, const QByteArray &fin, const ReglageLigne &ligne,
                     Instant t);
 
-    /// The characters that the line has carried by t and that have not gone yet.
+    /// The characters that are due at t and have not been taken by Parti() yet.
     QByteArray Echu(Instant t) const;
-    /// nombre of them have gone.
+    /// Tells that nombre of them have been sent.
     void Parti(qint64 nombre);
-    /// The PC holds the line (XOFF), or lets it go (XON).
+    /// Tells that the PC holds the line (XOFF) or releases it (XON).
     void Retient(bool retenu, Instant t);
-    /// The line takes up again at t, after the system could take no more.
+    /// Tells that the system accepts characters again at t, after its buffer was full.
     void Repart(Instant t) { m_cadence.Debute(t); }
 
     bool Finie() const { return m_position == m_flot.size(); }
@@ -48,6 +49,6 @@ private:
     std::chrono::milliseconds m_pause;
     Cadence m_cadence;
     qsizetype m_position = 0;
-    qsizetype m_finTroncon = 0; // end of the stretch that goes without a pause
+    qsizetype m_finTroncon = 0; // end of the stretch sent without a pause
     bool m_retenu = false;
 };

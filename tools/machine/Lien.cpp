@@ -22,7 +22,8 @@ Lien::Lien(const QString &chemin, const QString &cible)
         throw fs::filesystem_error("not a link", m_chemin, std::make_error_code(std::errc::file_exists));
     if (m_chemin.has_parent_path())
         fs::create_directories(m_chemin.parent_path());
-    // Made beside it and moved over it: a program that opens the port meanwhile finds the old link or the new one.
+    // The new link is made under another name and renamed: a program that opens the port meanwhile finds the old link
+    // or the new one.
     const fs::path neuf = m_chemin.string() + "." + std::to_string(getpid());
     fs::remove(neuf);
     fs::create_symlink(m_cible, neuf);

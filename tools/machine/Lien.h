@@ -5,14 +5,14 @@
 
 #include <filesystem>
 
-/// A link of a steady name to the device of the machine, such as Ports/Com2. Gone when this object goes.
+/// A link with a fixed name, such as Ports/Com2, to the device of the machine. The destructor removes it.
 class Lien
 {
 public:
-    /// Makes the link, and the folder for it. A link that is already there, from a machine that was killed, is
-    /// replaced; a file that is no link is never touched. Raises std::filesystem::filesystem_error.
+    /// Makes the link and its folder. A link left by a machine that was killed is replaced; a file that is no link is
+    /// never touched. Raises std::filesystem::filesystem_error.
     Lien(const QString &chemin, const QString &cible);
-    /// Removes the link, unless another machine has taken the name over meanwhile.
+    /// Removes the link, unless another machine has replaced it.
     ~Lien();
     Q_DISABLE_COPY_MOVE(Lien)
 

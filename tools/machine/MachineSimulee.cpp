@@ -25,7 +25,7 @@ void MachineSimulee::Retient()
 {
     {
         const std::lock_guard verrou(m_verrou);
-        Recoit(HorlogeMachine::now()); // this thread may be late: what the line has brought came before the XOFF
+        Recoit(HorlogeMachine::now()); // the machine's thread may be late; these characters came before the XOFF
         m_tampon.Retient();
         Parle();
     }
@@ -45,7 +45,7 @@ void MachineSimulee::Reprend()
 void MachineSimulee::RemetAZero()
 {
     const std::lock_guard verrou(m_verrou);
-    Recoit(HorlogeMachine::now()); // the machine's thread may be late: what the line has brought came before the reset
+    Recoit(HorlogeMachine::now()); // the machine's thread may be late; these characters came before the reset
     m_decoupe.Vide();
     m_enCours = {};
     m_emission.reset();
@@ -128,7 +128,7 @@ void MachineSimulee::Recoit(Instant t)
         m_ligne.Debute(t);
     m_occupee = m_cable.ALire();
     for (qint64 echus = m_ligne.Echus(t); m_occupee && echus > 0; m_occupee = m_cable.ALire()) {
-        // Never past a mark of the buffer: the XOFF that it brings is said before the next character is looked at.
+        // Reads no further than a mark of the buffer, so that XOFF is sent before the next character is looked at.
         const QByteArray lus = m_cable.Lit(std::min(echus, m_tampon.JusquaMarque()));
         for (const char caractere : lus) {
             m_ligne.Passe(1);
@@ -231,7 +231,7 @@ void MachineSimulee::Annonce(const std::function<void(TemoinMachine &)> &annonce
         m_annonces.push_back(annonce);
 }
 
-// Without the lock, so that the witness may look at the machine.
+// Calls the witness without the lock, so that it may call the machine.
 void MachineSimulee::Publie(std::unique_lock<std::mutex> &verrou)
 {
     while (!m_annonces.empty()) {
@@ -243,7 +243,7 @@ void MachineSimulee::Publie(std::unique_lock<std::mutex> &verrou)
     }
 }
 
-// Until a character comes on the idle line, something is due, or another thread rings.
+// Sleeps until a character comes on the idle line, something is due, or another thread wakes it.
 void MachineSimulee::Dort(std::unique_lock<std::mutex> &verrou)
 {
     const int lecture = m_occupee ? 0 : POLLIN;

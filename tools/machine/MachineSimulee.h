@@ -19,25 +19,25 @@ struct ReglageMachine
     ReglageTampon Tampon;
     QByteArray Debut;        ///< beginning chain; empty: a program begins with its first character
     QByteArray Fin = "\x04"; ///< end-of-transfer chain
-    bool XonXoff = true;     ///< says XON and XOFF, and obeys them while it sends
+    bool XonXoff = true;     ///< sends XON and XOFF, and obeys them
 };
 
 /// A program that the machine has received.
 struct ProgrammeRecu
 {
     QByteArray Texte;      ///< between the two chains, byte for byte
-    QByteArray Brut;       ///< all that came since the program before, chains included
-    qint64 Caracteres = 0; ///< what the line carried for it, the characters lost in the buffer included
+    QByteArray Brut;       ///< everything since the previous program, chains included
+    qint64 Caracteres = 0; ///< characters on the line for it, including those lost in the buffer
     qint64 Perdus = 0;     ///< the characters lost
-    int XoffDits = 0;      ///< how often the machine held the PC meanwhile
-    Instant Premier;       ///< the first character begins on the line
-    Instant Dernier;       ///< the last one is whole
+    int XoffDits = 0;      ///< number of XOFF sent meanwhile
+    Instant Premier;       ///< beginning of the first character on the line
+    Instant Dernier;       ///< end of the last character
 };
 
-/// What the PC answered to a sending of the machine: it gives the end-of-transfer chain back.
+/// The PC's answer to a sending of the machine, which should be the end-of-transfer chain.
 enum class Retour {
-    Aucun,   ///< the machine has sent nothing yet, or a burst of a bench, which has no answer
-    Attendu, ///< the chain has not, or not wholly, come back
+    Aucun,   ///< no answer is expected: nothing was sent yet, or a burst of a bench
+    Attendu, ///< the chain has not come back yet, or only in part
     Juste,   ///< exactly the chain came back
     Faux     ///< something else came
 };
@@ -52,41 +52,40 @@ struct EtatEnvoi
     QByteArray Octets; ///< what the PC sent back
 };
 
-/// What the machine counts, at one moment. Counts run from switching on.
+/// The state and the counters of the machine at one moment. Counters start at switching on.
 struct EtatMachine
 {
-    qint64 Recus = 0;         ///< characters that the line brought to the buffer
+    qint64 Recus = 0;         ///< characters that arrived on the line
     qint64 Perdus = 0;        ///< of these, lost because the buffer was full
     int Niveau = 0;           ///< characters in the buffer now
-    bool Retenu = false;      ///< XOFF was said, and no XON since
-    int XoffDits = 0;         ///< XOFF said
-    int XonDits = 0;          ///< XON said
+    bool Retenu = false;      ///< XOFF was sent, and no XON since
+    int XoffDits = 0;         ///< number of XOFF sent
+    int XonDits = 0;          ///< number of XON sent
     qint64 SuiteXoff = 0;     ///< characters that came after the last XOFF and before its XON
     qint64 SuiteXoffMax = 0;  ///< the most that came after any XOFF
     qsizetype Programmes = 0; ///< programs received whole
-    QByteArray EnCours;       ///< what has come of the next one, chains included
+    QByteArray EnCours;       ///< received part of the next program, chains included
     EtatEnvoi Envoi;
 };
 
-/// Is told what happens, from the machine's own thread, one call at a time. Must not switch the machine off.
+/// Is called for each event, from the machine's own thread, one call at a time. Must not switch the machine off.
 class TemoinMachine
 {
 public:
     virtual ~TemoinMachine() = default;
     virtual void XoffDit(qint64 /*recus*/) {}
     virtual void XonDit(qint64 /*suite: characters that came after the XOFF*/) {}
-    virtual void Deborde(qint64 /*recus*/) {} ///< once for each run of lost characters
+    virtual void Deborde(qint64 /*recus*/) {} ///< once for each series of lost characters
     virtual void ProgrammeComplet(const ProgrammeRecu & /*programme*/) {}
     virtual void EmissionFinie(const EtatEnvoi & /*envoi*/) {}
     virtual void ReponseVenue(Retour /*reponse*/, const QByteArray & /*octets*/) {}
 };
 
-/// A machine tool control at the end of a serial line: it takes and gives characters when a real line would, holds the
-/// PC with XOFF, loses what its buffer cannot hold, and keeps every program that it receives.
+/// A simulated machine tool at the end of a serial line. It takes and sends characters with the timing of a real line,
+/// holds the PC with XOFF, loses what its buffer cannot hold, and keeps every program that it receives.
 ///
-/// It lives in a thread of its own, so that its timing does not hang on the caller's. All functions may be called from
-/// any thread. What the machine keeps is what the line carried: while it receives, XON and XOFF are characters like
-/// any.
+/// It has a thread of its own, so that its timing does not depend on the caller's. All functions may be called from any
+/// thread. It keeps exactly what the line carried: received XON and XOFF are characters like any other.
 class MachineSimulee
 {
 public:
@@ -99,24 +98,25 @@ public:
     /// The device that the PC opens.
     QString Chemin() const { return m_cable.Chemin(); }
 
-    /// The operator holds the machine: XOFF is on the line when this returns, and what still comes fills the buffer.
+    /// Holds the machine, as its operator would: XOFF is on the line when this returns, and what still comes fills the
+    /// buffer.
     void Retient();
-    /// The operator lets it go on; XON follows once the buffer has emptied to its low mark.
+    /// Lets the machine go on. XON follows once the buffer has emptied to its low mark.
     void Reprend();
-    /// The operator's reset: what the line has brought of an unfinished program is dropped, a sending ends.
+    /// Resets the machine, as its operator would: an unfinished program is dropped, a sending ends.
     void RemetAZero();
-    /// Sends, from now on; a sending under way ends. What the PC answers to a program is compared with the
-    /// end-of-transfer chain.
+    /// Starts a sending, and ends one under way. The PC's answer to a program is compared with the end-of-transfer
+    /// chain.
     void Emet(const Envoi &envoi);
-    /// Switches the machine off: the line is dead for the PC. What was received stays readable here.
+    /// Switches the machine off: the line is dead for the PC. Received programs can still be read here.
     void Arrete();
 
     EtatMachine Etat() const;
     std::vector<ProgrammeRecu> Programmes() const;
-    /// Waits until the condition holds, at most that many milliseconds, and says whether it does. The condition is
-    /// tried at each step of the machine and must not call it.
+    /// Waits until the condition is true, at most millisecondes, and returns whether it is. The condition is tested at
+    /// each step of the machine and must not call it.
     bool Attend(const std::function<bool(const EtatMachine &)> &condition, int millisecondes = 10000) const;
-    /// The line time of that many characters.
+    /// The line time of nombre characters.
     Duree TempsLigne(qint64 nombre) const { return Cadence(m_reglage.Ligne).Temps(nombre); }
 
 private:
@@ -142,7 +142,7 @@ private:
 
     mutable std::mutex m_verrou; // guards all that follows
     mutable std::condition_variable m_change;
-    Cadence m_ligne;        // of the characters that come
+    Cadence m_ligne;        // timing of the received characters
     bool m_occupee = false; // the line is carrying a character
     TamponRecep m_tampon;
     Decoupe m_decoupe;
@@ -150,9 +150,9 @@ private:
     std::vector<ProgrammeRecu> m_programmes;
     std::optional<EmissionMachine> m_emission;
     EtatEnvoi m_envoi;
-    bool m_bloquee = false; // the system takes no more for the PC
+    bool m_bloquee = false; // the system's buffer towards the PC is full
     bool m_deborde = false; // the last character was lost
-    QByteArray m_aDire;     // XON and XOFF that the system has not taken yet
+    QByteArray m_aDire;     // XON and XOFF still to be sent
     std::vector<std::function<void(TemoinMachine &)>> m_annonces;
 
     std::thread m_fil; // the last member: it uses all the others

@@ -7,20 +7,20 @@
 #include <optional>
 #include <stdexcept>
 
-/// What the command line asks of the machine.
+/// The options of the command line.
 struct Options
 {
     ReglageMachine Machine;
     QString Lien;      ///< empty: none
     QString Stockage;  ///< folder of the received programs; empty: they are only counted
-    QString AEnvoyer;  ///< file that the machine sends at the operator's word; empty: none
+    QString AEnvoyer;  ///< file that the machine sends on the operator's command; empty: none
     Envoi ModeleEnvoi; ///< how it sends; the text comes from the file
     QString Banc;      ///< list of the tools that the bench measures, see Banc.h; empty: no bench
     Envoi ModeleSalve; ///< how the bench sends; the text comes from the list
     int Cloche = 0;    ///< the bench rings (character 7) before this character of each burst, from 1; 0: never
 };
 
-/// An option whose value means nothing.
+/// Raised for an option with a wrong value.
 class OptionFausse : public std::runtime_error
 {
 public:

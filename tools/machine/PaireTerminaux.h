@@ -3,12 +3,12 @@
 #include <QByteArray>
 #include <QString>
 
-/// The cable: a pseudo-terminal pair. The machine holds the master, the PC opens the slave by its path.
+/// The cable: a pair of pseudo-terminals. The machine holds the master; the PC opens the slave by its path.
 ///
-/// The pair keeps a descriptor of the slave of its own. So the line outlives each session of the PC, as a real cable
-/// does, and an unplugged PC does not make poll() spin. Closing the master still ends every session at once, though the
-/// slave stays open here: the PC's poll() says POLLHUP, its writes fail with EIO and its reads give nothing. Until the
-/// PC sets its own mode the slave is raw, so that what the machine sends does not come back as an echo.
+/// The pair keeps the slave open itself. So the line outlives each opening by the PC, as a real cable does, and poll()
+/// does not spin while no PC is connected. Closing the master ends every connection at once even so: the PC's poll()
+/// returns POLLHUP, its writes fail with EIO and its reads give nothing. Until the PC sets its own mode the slave is
+/// raw, so that what the machine sends does not come back as an echo.
 class PaireTerminaux
 {
 public:
@@ -21,13 +21,13 @@ public:
     const QString &Chemin() const { return m_chemin; }
     /// The master, for poll(); -1 once closed.
     int Maitre() const { return m_maitre; }
-    /// Does a character wait?
+    /// True when a character waits.
     bool ALire() const;
-    /// At most maximum characters of those that wait; never blocks.
+    /// Reads at most maximum characters of those that wait. Never blocks.
     QByteArray Lit(qint64 maximum);
-    /// Gives the PC as many of the characters as the system takes now, and says how many.
+    /// Writes as many of the characters as the system accepts now, and returns how many.
     qint64 Ecrit(QByteArrayView octets);
-    /// The machine is switched off.
+    /// Closes the master, as when the machine is switched off.
     void Ferme();
 
 private:

@@ -24,8 +24,8 @@ Reveil::~Reveil()
 
 void Reveil::Sonne() noexcept
 {
-    const int avant = errno; // a signal handler leaves it as it was
-    // A full pipe rings already.
+    const int avant = errno; // a signal handler must not change errno
+    // Nothing is lost when the pipe is full: it is readable already.
     [[maybe_unused]] const ssize_t ecrits = write(m_ecriture, "", 1);
     errno = avant;
 }

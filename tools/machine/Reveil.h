@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// An alarm that ends a poll(): rung by another thread or by a signal handler.
+/// Wakes up a poll(), from another thread or from a signal handler.
 class Reveil
 {
 public:
@@ -11,11 +11,11 @@ public:
     ~Reveil();
     Q_DISABLE_COPY_MOVE(Reveil)
 
-    /// Rings. Safe in a signal handler.
+    /// Wakes the poll() up. Safe in a signal handler.
     void Sonne() noexcept;
-    /// Stops the ringing.
+    /// Acknowledges the waking.
     void Acquitte() noexcept;
-    /// Readable while it rings.
+    /// The descriptor to poll. Readable from Sonne() until Acquitte().
     int Descripteur() const { return m_lecture; }
 
 private:

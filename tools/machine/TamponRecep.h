@@ -7,51 +7,51 @@
 #include <optional>
 #include <vector>
 
-/// A hold written down beforehand.
+/// A planned hold of the line.
 struct Arret
 {
-    qint64 Apres = 0; ///< once this many characters have come since the machine was switched on
-    int DureeMs = -1; ///< for this long; below 0: until the operator goes on
+    qint64 Apres = 0; ///< characters received since switching on, after which it begins
+    int DureeMs = -1; ///< duration, milliseconds; below 0: until the operator continues
 };
 
 struct ReglageTampon
 {
     int Profondeur = 1024;     ///< characters that the buffer holds
-    int MarqueHaute = 768;     ///< XOFF is said when so many wait
-    int MarqueBasse = 256;     ///< XON is said when no more than this wait
-    int Debit = 0;             ///< characters that the processor takes out per second; 0: all at once
-    std::vector<Arret> Arrets; ///< by rising count of characters
+    int MarqueHaute = 768;     ///< XOFF is sent when this many wait
+    int MarqueBasse = 256;     ///< XON is sent when no more than this wait
+    int Debit = 0;             ///< characters that the processor takes per second; 0: all at once
+    std::vector<Arret> Arrets; ///< ordered by their count of characters
 };
 
-/// The receive buffer of the control, the processor that empties it, and what both make the control say to the PC.
-/// Knows no clock: all times come from outside, in rising order.
+/// The receive buffer of the simulated machine, the processor that empties it, and the XON and XOFF that follow from
+/// both. It uses no clock: the caller passes all times, in rising order.
 class TamponRecep
 {
 public:
     explicit TamponRecep(const ReglageTampon &reglage);
 
-    /// A character has become whole at t. False: the buffer is full and the character is lost.
+    /// Takes a character that was complete at t. False when the buffer is full and the character is lost.
     bool Recoit(Instant t);
-    /// The processor works up to t; a timed hold that is over by then ends.
+    /// Lets the processor work up to t. A timed hold that is over by then ends.
     void Avance(Instant t);
-    /// The processor stops taking characters, until Reprend().
+    /// Stops the processor until Reprend().
     void Retient();
     void Reprend(Instant t);
-    /// XOFF or XON, each time that it is due; the caller puts it on the line at once.
+    /// XOFF or XON, once each time that it is due; the caller sends it at once.
     std::optional<char> Parole();
 
-    /// Characters that can come before the buffer may want to say something, at least 1.
+    /// Number of characters, at least 1, that can come before XOFF could be due.
     qint64 JusquaMarque() const;
-    /// When there will be something to say without a further character.
+    /// When XOFF or XON will be due without a further character.
     std::optional<Instant> Echeance() const;
 
     bool Retenu() const { return m_xoff; }
     int Niveau() const { return m_niveau; }
-    qint64 Recus() const { return m_recus; } ///< characters come, the lost ones included
+    qint64 Recus() const { return m_recus; } ///< characters received, including the lost ones
     qint64 Perdus() const { return m_perdus; }
     int XoffDits() const { return m_xoffDits; }
     int XonDits() const { return m_xonDits; }
-    qint64 SuiteXoff() const { return m_suite; } ///< characters come since the last XOFF, up to its XON
+    qint64 SuiteXoff() const { return m_suite; } ///< characters received after the last XOFF, until its XON
     qint64 SuiteXoffMax() const { return m_suiteMax; }
 
 private:

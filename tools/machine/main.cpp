@@ -22,19 +22,20 @@ void PrendSignaux(Reveil &reveil)
     finDemandee = &reveil;
     for (const int fin : {SIGINT, SIGTERM, SIGHUP})
         std::signal(fin, [](int) { finDemandee->Sonne(); });
-    // A closed output must not leave the link behind; a machine in the background must not be stopped for its keyboard.
+    // These signals are ignored: a closed output must not leave the link behind, and a machine in the background must
+    // not be stopped because it reads the keyboard.
     for (const int sansEffet : {SIGPIPE, SIGTTIN, SIGTTOU})
         std::signal(sansEffet, SIG_IGN);
 }
 
-/// The person at the control: one letter and Enter.
+/// The operator of the machine, who types one letter and Enter.
 class Pupitre
 {
 public:
     /// Raises ListeFausse.
     Pupitre(MachineSimulee &machine, const Options &options);
 
-    /// Follows the keyboard until the key q or a signal. Without a keyboard only the signal ends it.
+    /// Obeys the keyboard until the key q or a signal. Without a keyboard only a signal ends it.
     void Travaille(const Reveil &reveil);
 
 private:
@@ -156,7 +157,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     try {
         const Options options = LitOptions(QCoreApplication::arguments());
-        Reveil fin; // outlives the machine: a second signal may come while it is being switched off
+        Reveil fin; // outlives the machine, since a second signal may come while that is being switched off
         PrendSignaux(fin);
         Sert(options, fin);
         return 0;

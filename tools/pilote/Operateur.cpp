@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int Patience = 30000; // milliseconds without a gesture before a window counts as hung
+constexpr int Patience = 30000; // milliseconds without an action before a window counts as hung
 
-/// A box breaks a long word by signs without width, which no operator sees.
+/// Compares two texts. A box has invisible break points in long words, which do not count.
 void Egal(QString lu, const QString &attendu, const char *quoi, const Operateur::Lieu &ou)
 {
     lu.remove(QChar(0x200B));
@@ -37,7 +37,7 @@ int Drapeaux(const QMessageBox &boite)
     return icones[boite.icon()] + boutons + (second ? Boite::SecondBouton : 0);
 }
 
-/// The menu that holds an entry or a submenu; none for the menus of the bar.
+/// The menu that holds an entry or a submenu; nullptr for a menu of the menu bar.
 QMenu *MenuDe(const QAction *entree)
 {
     const auto menus = frmPrinc->findChildren<QMenu *>();
@@ -191,8 +191,8 @@ QString Operateur::Lu(QAnyStringView controle)
     return lu == nullptr ? QString() : lu->property("text").toString();
 }
 
-/// What he does runs from the event loop and not from the eyes' timer: it may open the next window, and the eyes must
-/// see it.
+/// The action runs from the event loop and not inside this timer's call: it may open a window, which this timer must
+/// see.
 void Operateur::Regarde()
 {
     if (m_gesteEnRoute || QApplication::activeModalWidget() == nullptr)
@@ -222,8 +222,8 @@ void Operateur::Agit(QWidget &fenetre)
         Etonne(fenetre);
 }
 
-/// False when nothing was foretold for the window, or its time has not come: then a box waits, while in a dialog the
-/// habits go on.
+/// Does the next expected action in the window. False when none is expected, or its condition is not met yet: a box
+/// then waits, while in a dialog the habits go on.
 bool Operateur::AgitCommePredit(QWidget &fenetre)
 {
     if (m_attentes.empty() || m_attentes.front().fenetre != fenetre.objectName())
@@ -239,7 +239,8 @@ bool Operateur::AgitCommePredit(QWidget &fenetre)
     return true;
 }
 
-/// A dialog may be on the screen for a moment before the box comes that it asks first.
+/// True when the window is expected later. A dialog may be visible for a moment before the box comes that it shows
+/// first.
 bool Operateur::Annoncee(const QWidget &fenetre) const
 {
     return !fenetre.inherits("QMessageBox") &&

@@ -11,22 +11,23 @@
 #include <functional>
 #include <map>
 
-/// An operator by script. He is told beforehand which boxes and dialogs will come, in order, and what to do in each;
-/// then a command is given, and he works inside the modal loops that it runs.
+/// An operator by script. The test first says which boxes and dialogs will come, in their order, and what to do in
+/// each. Then it gives a command, and the operator acts inside the modal event loops that the command runs.
 ///
-/// It is a failure when a modal window comes that was not foretold (it is closed, so that nothing hangs), when one says
-/// something else than foretold, when one never comes, and when a dialog stands still for too long.
+/// It is a failure when a modal window comes unexpectedly (it is closed, so that nothing hangs), when a window shows
+/// other words than expected, when an expected one never comes, and when nothing happens in a dialog for too long.
 class Operateur
 {
 public:
     using Condition = std::function<bool()>;
     using Geste = std::function<void(QWidget &fenetre)>;
 
-    // What most boxes that ask bear: Yes and No, with No or Yes under Enter.
+    // Flags of most questions: Yes and No, with No or Yes as the default button.
     static constexpr int Demande = Boite::Question | Boite::OuiNon | Boite::SecondBouton;
     static constexpr int DemandeSimple = Boite::Exclamation | Boite::OuiNon;
 
-    /// The line that foretold something; a failure is reported there. Debian 12's clang lacks std::source_location.
+    /// The source line that a failure is reported at: where the action was expected. Debian 12's clang lacks
+    /// std::source_location.
     struct Lieu
     {
         const char *fichier;
@@ -37,11 +38,11 @@ public:
         }
     };
 
-    /// Who is told of failures. By default the process ends with the first one; the tests set another.
+    /// Handles failures. By default the first one ends the process; the tests install another handler.
     struct Temoin
     {
         void (*echec)(const QString &message, const Lieu &ou);
-        bool (*enEchec)(); ///< there has been one: every window is closed, so that all comes to its end
+        bool (*enEchec)(); ///< true after a failure: every window is then closed, so that the test ends
     };
     static Temoin temoin;
 
@@ -49,38 +50,38 @@ public:
     ~Operateur();
     Q_DISABLE_COPY_MOVE(Operateur)
 
-    /// A "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see platform/dialogues/Boites.h) is
-    /// answered.
+    /// Expects a "MsgBox" with this title, text (line ends CR LF or CR) and these flags (see
+    /// platform/dialogues/Boites.h), and presses bouton in it.
     void Repond(QAnyStringView titre, QAnyStringView texte, int drapeaux, QMessageBox::StandardButton bouton,
                 Lieu ou = Lieu::Ici());
-    /// The box, in French, of a transfer that an error has ended.
+    /// Expects the French box of a transfer that an error has ended, and confirms it.
     void LitErreur(int numero, const QString &texte, Lieu ou = Lieu::Ici());
-    /// Presses a button of a box of the system's own; a gesture for Fait.
+    /// An action for Fait(): presses a button in a box of the toolkit.
     static Geste Clique(QMessageBox::StandardButton bouton);
-    /// A file dialog ("CommonDialog"): the name is typed and taken.
+    /// Expects a file dialog ("CommonDialog"), and enters and confirms the name.
     void Choisit(QAnyStringView chemin, Lieu ou = Lieu::Ici());
-    /// The window of that objectName: a button is pressed, a text typed, the close box pressed, or anything is done,
-    /// once the condition holds. The window may stay open.
+    /// Expects the window of that objectName and, once the condition is met, presses a button, types a text, presses
+    /// the close box, or does anything else. The window may stay open.
     void Presse(QAnyStringView fenetre, QAnyStringView bouton, Condition quand = {}, Lieu ou = Lieu::Ici());
     void Saisit(QAnyStringView fenetre, QAnyStringView saisie, QAnyStringView texte, Lieu ou = Lieu::Ici());
     void Ferme(QAnyStringView fenetre, Condition quand = {}, Lieu ou = Lieu::Ici());
     void Fait(QAnyStringView fenetre, Geste geste, Condition quand = {}, Lieu ou = Lieu::Ici());
-    /// From now on this is done, again and again, in each window of that objectName where nothing foretold is to be
-    /// done at the moment.
+    /// From now on does the action repeatedly in each window of that objectName, whenever no expected action can be
+    /// done there.
     void Habitude(QAnyStringView fenetre, Geste geste);
 
-    /// The same as gestures, in a window that stands open.
+    /// The same actions, at once, in an open window.
     static void Presse(const QWidget &fenetre, QAnyStringView bouton, Lieu ou = Lieu::Ici());
     static void Saisit(const QWidget &fenetre, QAnyStringView saisie, QAnyStringView texte);
     static void Choisit(QWidget &dialogue, QAnyStringView chemin);
 
-    /// Opens the menus down to the entry and chooses it; a failure when it is disabled.
+    /// Opens the menus down to the entry and chooses it. A disabled entry is a failure.
     static void Menu(QAnyStringView entree, Lieu ou = Lieu::Ici());
-    /// True when the operator can choose the entry: it and all menus above it are enabled when they open.
+    /// True when the operator can choose the entry: it and all menus above it are enabled when opened.
     static bool Offre(QAnyStringView entree);
     /// Clicks a toolbar button, by its position.
     static void Barre(int position, Lieu ou = Lieu::Ici());
-    /// What a label, button or box bears in the window that waits for the operator.
+    /// The text of a label, button or box in the window that waits for the operator.
     static QString Lu(QAnyStringView controle);
 
 private:
@@ -101,7 +102,7 @@ private:
     QTimer m_yeux;
     std::deque<BoiteAttendue> m_attentes;
     std::map<QString, Geste> m_habitudes;
-    QList<QPointer<QWidget>> m_connues; // windows that were foretold and may stand open
+    QList<QPointer<QWidget>> m_connues; // expected windows that may still be open
     QElapsedTimer m_dernierGeste;
     bool m_gesteEnRoute = false;
 };

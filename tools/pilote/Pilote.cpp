@@ -37,7 +37,7 @@ Charge ChargeBanc(const QByteArrayList &outils)
     return charge;
 }
 
-/// The line ends of a reception by lines are its pieces, since it drops what stands ready behind one.
+/// A reception by lines takes each line as a piece, since it drops characters that already wait behind one.
 Charge ChargeParLignes(const QByteArrayList &lignes)
 {
     Charge charge;
@@ -114,7 +114,7 @@ Pilote::Deroulement Pilote::Joue(Genre genre, const Charge &charge, const std::f
     return m_deroulement;
 }
 
-/// The program has dealt with the pieces given.
+/// True when the program has processed the pieces sent so far.
 bool Pilote::Pret(const QDialog &transfert) const
 {
     if (!frmPrinc->PortOuvert || m_donnees == 0)
@@ -140,7 +140,7 @@ void Pilote::Annule(Genre genre, const QWidget &transfert)
     Presse(transfert, genre == Genre::Banc ? "Command4" : "Command1");
 }
 
-/// The one box with an exclamation mark offers to save what has come.
+/// The only box with an exclamation mark is the one that offers to save what was received.
 void Pilote::Lit(QMessageBox &boite)
 {
     if (boite.icon() != QMessageBox::Question)
@@ -153,11 +153,11 @@ void Pilote::Lit(QMessageBox &boite)
 void Pilote::ChoisitFichier(QWidget &dialogue) const
 {
     const QString chemin = m_commence ? Sauvegarde : m_poste.Chemin("Fraiseuse.mac");
-    dynamic_cast<QFileDialog &>(dialogue).selectFile(chemin); // else the file that is offered stays chosen in the list
+    dynamic_cast<QFileDialog &>(dialogue).selectFile(chemin); // otherwise the offered file stays selected in the list
     Choisit(dialogue, chemin);
 }
 
-/// The dialog that is still there after a transfer offers another try.
+/// When the dialog is still open after a transfer, it offers another try.
 void Pilote::Nomme(const QWidget &dialogue)
 {
     if (m_nomme) {

@@ -6,7 +6,7 @@
 #include <QByteArrayList>
 #include <QDialog>
 
-/// The ways in which bytes cross the line.
+/// The kinds of transfers.
 enum class Genre { FichierEntier, LigneParLigne, Caractere, Ligne, Fichier, Banc };
 constexpr Genre Genres[] = {Genre::FichierEntier, Genre::LigneParLigne, Genre::Caractere,
                             Genre::Ligne,         Genre::Fichier,       Genre::Banc};
@@ -16,27 +16,26 @@ constexpr bool EstEmission(Genre genre)
     return genre == Genre::FichierEntier || genre == Genre::LigneParLigne;
 }
 
-/// What goes through a transfer, and what has to be at its end.
+/// The data of a transfer, and its expected result.
 struct Charge
 {
-    QByteArray texte;      ///< what the pane holds; a sending alone
-    QByteArrayList pieces; ///< what the machine or bench sends, each once the program has dealt with the one before
-    QByteArray attendu;    ///< what the machine gets, or the file on the disk
+    QByteArray texte;      ///< text of the pane, for a sending
+    QByteArrayList pieces; ///< sent by the machine or bench, each after the program has processed the one before
+    QByteArray attendu;    ///< what the machine must receive, or the content of the file
 };
 
-/// lignes: lines of a program, without a blank at their ends, or tools of a mill as a bench list writes them, by
-/// diameter.
+/// lignes: lines of a program without blanks at their ends, or tools of a mill, by diameter, as in a list of the bench.
 Charge ChargeDe(Genre genre, const QByteArrayList &lignes);
 
-/// An operator who plays whole transfers by habit: he confirms, names the file, starts, reads what he is told, and
-/// closes when it is over. What is particular to one transfer is given along with it, or foretold to him.
+/// An operator who plays whole transfers by himself: he confirms, names the file, starts, reads the messages, and
+/// closes the dialog when the transfer is over. A test adds only what is particular to it.
 class Pilote : public Operateur
 {
 public:
-    /// The workstation has started. It gets a configuration for the machine on Com2, and one of a mill.
+    /// poste: a started workstation. It gets a configuration for the machine on Com2, and one of a mill.
     explicit Pilote(const Poste &poste);
 
-    /// What he read in a box that did not ask him to confirm the transfer.
+    /// A message that he read, other than the confirmation of the transfer.
     struct Avis
     {
         QString titre;
@@ -46,25 +45,25 @@ public:
     struct Deroulement
     {
         QList<Avis> avis;
-        QString statut; ///< what the status line bore at the end; empty when the dialog closed by itself
-        QString bilan;  ///< and the line that tells what has passed and what was lost
+        QString statut; ///< status line at the end; empty when the dialog closed by itself
+        QString bilan;  ///< line that says what has passed and what was lost
     };
 
-    /// The configuration becomes that of a kind; any field may be changed afterwards.
+    /// Sets ParamCom for a kind of transfer; any field may be changed afterwards.
     void Regle(Genre genre) const;
-    /// The file that a reception of that kind leaves.
+    /// Path of the file that a reception of that kind writes.
     QString Chemin(Genre genre) const;
-    /// Where he saves what a failed reception offers him; empty: he declines.
+    /// Path under which he saves the lines that a failed reception offers; empty: he declines.
     QString Sauvegarde;
-    /// True when all that the machine has sent is with the program; for a line that can be looked into.
+    /// True when the program has taken everything that the machine has sent; only for a line that can tell.
     Condition Pris;
 
-    /// Plays one transfer of charge to its end, whatever that is. pendant: called again and again while it runs.
+    /// Plays one transfer of charge to its end, in whatever way it ends. pendant: called repeatedly while it runs.
     Deroulement Joue(Genre genre, const Charge &charge, const std::function<void(QDialog &transfert)> &pendant);
-    /// From inside pendant, as long as nothing disturbs a reception: once the program has dealt with all that came
-    /// before, the machine gives its next piece, and the operator of a bench goes on to the next tool or to the end.
+    /// For calls from pendant, in an undisturbed reception: once the program has processed what came before, the
+    /// machine sends its next piece, and the operator of a bench goes on to the next tool or to the end.
     void Poursuit(const QDialog &transfert, const std::function<void(const QByteArray &piece)> &envoie);
-    /// The cancel button of a kind's dialog.
+    /// Presses the cancel button of the transfer dialog.
     static void Annule(Genre genre, const QWidget &transfert);
 
 private:
@@ -82,6 +81,6 @@ private:
     Charge m_charge;
     qsizetype m_donnees = 0; // pieces given
     Deroulement m_deroulement;
-    bool m_nomme = false;    // the file has been named
+    bool m_nomme = false;    // he has named the file
     bool m_commence = false; // the transfer has begun
 };
