@@ -142,8 +142,8 @@ int main(int nombre, char *arguments[])
     lecteur.addHelpOption();
     const QCommandLineOption chaque(QStringLiteral("chaque"), QStringLiteral("Transfers of each kind."),
                                     QStringLiteral("number"), QStringLiteral("1000"));
-    const QCommandLineOption graine(QStringLiteral("graine"), QStringLiteral("Random seed."),
-                                    QStringLiteral("number"), QStringLiteral("1"));
+    const QCommandLineOption graine(QStringLiteral("graine"), QStringLiteral("Random seed."), QStringLiteral("number"),
+                                    QStringLiteral("1"));
     lecteur.addOptions({chaque, graine});
     lecteur.process(application);
     const Poste poste(0);

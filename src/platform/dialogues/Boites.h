@@ -40,8 +40,8 @@ void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, c
 /// Takes the question of DemandeSansAttendre() away, if one stands. It counts as a No.
 void RetireDemande();
 
-/// Answers instead of MsgBox() and InputBox(), with their parameters, for a fuzzer or a test that reads many boxes. When
-/// a function is empty, as in the program, the box is shown.
+/// Answers instead of MsgBox() and InputBox(), with their parameters, for a fuzzer or a test that reads many boxes.
+/// When a function is empty, as in the program, the box is shown.
 struct Suppleant
 {
     std::function<Reponse(const QString &texte, int drapeaux, const QString &titre)> message;
