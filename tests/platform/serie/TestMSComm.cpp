@@ -360,7 +360,7 @@ private Q_SLOTS:
         QCOMPARE(m_port->InBufferCount(), 0);
     }
 
-    // What a helper reads at the telephone: holds and counts, and nothing of the program.
+    // What is read out at the telephone when someone needs help: holds and counts, and nothing of the program.
     void journal()
     {
         static QStringList dits;
