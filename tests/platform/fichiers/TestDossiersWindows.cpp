@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <thread>
+
 /// The cause with which an operation on the disk fails, Inconnue when it succeeds.
 template <typename Operation>
 Cause CauseErreur(Operation operation)
@@ -122,7 +124,7 @@ private Q_SLOTS:
         const QString dossier = Chemin(QString(120, u'x') + u'/' + QString(120, u'y')); // beyond 260 characters
         AssureDossier(dossier);
         const QString fichier = dossier + QStringLiteral("/Pièce.iso");
-        EcritFichierTexte(fichier, QString(300000, u'y'));
+        std::thread([&fichier] { EcritFichierTexte(fichier, QString(300000, u'y')); }).join();
         EcritFichierTexte(fichier, QStringLiteral("é\r\n"));
         AjouteFichierTexte(fichier, QStringLiteral("M30\u0000%"));
         QCOMPARE(LitOctets(fichier), QByteArray("\xE9\r\nM30\0%", 8));
