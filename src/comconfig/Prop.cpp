@@ -1,7 +1,7 @@
 #include "comconfig/Prop.h"
 
 #include "comconfig/AidesProp.h"
-#include "comconfig/ApplicationPort.h"
+#include "comconfig/AppliqueAuPort.h"
 #include "comconfig/DosProg.h"
 #include "comconfig/FrmCaract.h"
 #include "comconfig/TextesConf.h"

@@ -13,10 +13,10 @@
 #include "shell/CheminsTenus.h"
 #include "shell/Document.h"
 #include "shell/Explorateur.h"
-#include "shell/Filet.h"
 #include "shell/FrmLangue.h"
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
+#include "shell/SauvegardeAuto.h"
 
 #include <QCoreApplication>
 #include <QTemporaryFile>

@@ -9,20 +9,20 @@
 #include "platform/controles/UneLigne.h"
 #include "platform/dialogues/FenetreAppelante.h"
 #include "platform/serie/MSComm.h"
-#include "programme/Arrivee.h"
 #include "programme/Demarrage.h"
+#include "programme/OuvreFichier.h"
 #include "shell/AideEnLigne.h"
 #include "shell/Apropos.h"
 #include "shell/Document.h"
-#include "shell/Editeur.h"
-#include "shell/Edition.h"
+#include "shell/EditeurExterne.h"
 #include "shell/Explorateur.h"
-#include "shell/Filet.h"
 #include "shell/FrmAide.h"
 #include "shell/FrmLangue.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Impression.h"
+#include "shell/MenuEdition.h"
 #include "shell/Police.h"
+#include "shell/SauvegardeAuto.h"
 #include "transfer/CommandesTransfert.h"
 #include "transfer/EvenementsCom.h"
 #include "transfer/PortCom.h"
@@ -79,7 +79,7 @@ void Branche()
 {
     BrancheDocument();
     BrancheEdition();
-    BrancheFilet();
+    BrancheSauvegardeAuto();
     BrancheAide();
     TientUneLigne(frmPrinc);
     BrancheClavier(frmPrinc);

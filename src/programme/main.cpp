@@ -5,12 +5,12 @@
 #include "platform/controles/Polices.h"
 #include "platform/controles/StyleContraste.h"
 #include "platform/serie/MSComm.h"
-#include "programme/Arrivee.h"
 #include "programme/Demarrage.h"
 #include "programme/Menus.h"
+#include "programme/OuvreFichier.h"
 #include "shell/Disposition.h"
-#include "shell/Filet.h"
 #include "shell/FrmPrinc.h"
+#include "shell/SauvegardeAuto.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -2,8 +2,8 @@
 
 #include "platform/base/Erreur.h"
 #include "platform/dialogues/CommonDialog.h"
-#include "shell/Edition.h"
 #include "shell/FrmPrinc.h"
+#include "shell/MenuEdition.h"
 
 #include <limits>
 

@@ -1,5 +1,5 @@
-#include "endurance/Comptes.h"
 #include "endurance/Epreuve.h"
+#include "endurance/Ressources.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -73,7 +73,8 @@ bool EcritMemoire(const char *nom, const QList<qint64> &serie)
     return EcritCompte(nom, premiers, derniers, !JugeMemoire || double(derniers) <= double(premiers) * CroissanceMax);
 }
 
-bool EcritComptes(const Comptes &avant, const Comptes &apres, const QList<qint64> &tas, const QList<qint64> &pages)
+bool EcritRessources(const Ressources &avant, const Ressources &apres, const QList<qint64> &tas,
+                     const QList<qint64> &pages)
 {
     Ecrit("", QStringLiteral("before"), QStringLiteral("after"));
     bool juste = EcritMemoire("heap in use of 100, kB", tas);
@@ -98,7 +99,7 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
         for (const Sort sort : Sorts)
             epreuve.Joue(genre, sort);
     }
-    const Comptes avant = Compte();
+    const Ressources avant = CompteRessources();
     Bilan bilan{};
     QList<qint64> tas;
     QList<qint64> pages;
@@ -111,9 +112,9 @@ bool Endure(const Poste &poste, int nombre, quint32 graine)
             pages += Pages();
         }
     }
-    const Comptes apres = Compte();
+    const Ressources apres = CompteRessources();
     EcritBilan(bilan);
-    const bool juste = EcritComptes(avant, apres, tas, pages);
+    const bool juste = EcritRessources(avant, apres, tas, pages);
     for (const QString &ecart : epreuve.Ecarts())
         Sortie() << "WRONG: " << ecart << Qt::endl;
     return juste && epreuve.Ecarts().isEmpty();

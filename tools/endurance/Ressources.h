@@ -3,7 +3,7 @@
 #include <QtGlobal>
 
 /// Resources that the process holds at one moment.
-struct Comptes
+struct Ressources
 {
     int descripteurs = 0;
     int objets = 0; ///< living QObjects
@@ -14,7 +14,7 @@ struct Comptes
 void CompteObjets();
 
 /// Counts the resources, after all deferred deletions have been done.
-Comptes Compte();
+Ressources CompteRessources();
 
 /// Heap memory in use, in kB.
 qint64 Tas();

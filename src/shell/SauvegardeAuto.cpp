@@ -1,4 +1,4 @@
-#include "shell/Filet.h"
+#include "shell/SauvegardeAuto.h"
 
 #include "donnees/Sauvegardes.h"
 #include "donnees/TexteEnCours.h"
@@ -54,12 +54,12 @@ constexpr Texte3 AutresTextes{u"Autres textes non enregistrés, gardés dans ce 
                               u"Other unsaved texts, kept in this folder: %1\r%2",
                               u"Otros textos no guardados, conservados en esta carpeta: %1\r%2"};
 
-class Filet : public QObject
+class SauvegardeAuto : public QObject
 {
 public:
-    explicit Filet(FrmPrinc *fenetre);
-    ~Filet() override;
-    Q_DISABLE_COPY_MOVE(Filet)
+    explicit SauvegardeAuto(FrmPrinc *fenetre);
+    ~SauvegardeAuto() override;
+    Q_DISABLE_COPY_MOVE(SauvegardeAuto)
 
     QString Retient();
     void RetientFinal(bool nonEnregistre);
@@ -85,31 +85,31 @@ private:
     bool m_dit = false; ///< a failure has been told, or waits to be told
 };
 
-QPointer<Filet> filet;
+QPointer<SauvegardeAuto> sauvegarde;
 
-Filet::Filet(FrmPrinc *fenetre)
+SauvegardeAuto::SauvegardeAuto(FrmPrinc *fenetre)
     : QObject(fenetre)
 {
-    m_repos.setObjectName(QStringLiteral("ReposFilet"));
-    m_voie.setObjectName(QStringLiteral("VoieFilet"));
+    m_repos.setObjectName(QStringLiteral("ReposSauvegarde"));
+    m_voie.setObjectName(QStringLiteral("AttenteSauvegarde"));
     for (QTimer *const minuterie : {&m_repos, &m_tranche, &m_voie})
         minuterie->setSingleShot(true);
-    connect(&m_repos, &QTimer::timeout, this, &Filet::Repose);
-    connect(&m_tranche, &QTimer::timeout, this, &Filet::Releve);
-    connect(&m_voie, &QTimer::timeout, this, &Filet::Annonce);
-    connect(fenetre->Text1, &RichTextBox::Change, this, &Filet::Change);
-    connect(fenetre->Text1, &RichTextBox::Remplacement, this, &Filet::Part);
-    connect(qApp, &QGuiApplication::commitDataRequest, this, &Filet::Retient, Qt::DirectConnection);
+    connect(&m_repos, &QTimer::timeout, this, &SauvegardeAuto::Repose);
+    connect(&m_tranche, &QTimer::timeout, this, &SauvegardeAuto::Releve);
+    connect(&m_voie, &QTimer::timeout, this, &SauvegardeAuto::Annonce);
+    connect(fenetre->Text1, &RichTextBox::Change, this, &SauvegardeAuto::Change);
+    connect(fenetre->Text1, &RichTextBox::Remplacement, this, &SauvegardeAuto::Part);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &SauvegardeAuto::Retient, Qt::DirectConnection);
     EcouteSauvegardes([this](const Erreur &cause) { Echoue(cause); });
 }
 
-Filet::~Filet()
+SauvegardeAuto::~SauvegardeAuto()
 {
     EcouteSauvegardes({});
     FinitEnCours();
 }
 
-QString Filet::Retient()
+QString SauvegardeAuto::Retient()
 {
     if (!TexteModifie()) {
         RetireEnCours(); // the file of a text that the operator has emptied himself
@@ -124,7 +124,7 @@ QString Filet::Retient()
     return m_garde;
 }
 
-void Filet::RetientFinal(bool nonEnregistre)
+void SauvegardeAuto::RetientFinal(bool nonEnregistre)
 {
     const QString chemin = Retient();
     const bool perdu = nonEnregistre && chemin.isEmpty();
@@ -135,13 +135,13 @@ void Filet::RetientFinal(bool nonEnregistre)
 }
 
 /// Another text is about to replace this one.
-void Filet::Part()
+void SauvegardeAuto::Part()
 {
     Retient();
     m_tranche.stop();
 }
 
-void Filet::Change()
+void SauvegardeAuto::Change()
 {
     m_garde.clear();
     m_tranche.stop();
@@ -152,7 +152,7 @@ void Filet::Change()
 }
 
 /// Nothing has changed for a while: begins to read the text.
-void Filet::Repose()
+void SauvegardeAuto::Repose()
 {
     if (!TexteModifie() || !m_garde.isEmpty())
         return;
@@ -167,7 +167,7 @@ void Filet::Repose()
 }
 
 /// Reads the pane in slices. When the text changes meanwhile, Repose() begins again later.
-void Filet::Releve()
+void SauvegardeAuto::Releve()
 {
     constexpr int LignesEnUneFois = 100;
     const RichTextBox &volet = *frmPrinc->Text1;
@@ -186,7 +186,7 @@ void Filet::Releve()
     }
 }
 
-void Filet::Echoue(const Erreur &cause)
+void SauvegardeAuto::Echoue(const Erreur &cause)
 {
     m_echec = Texte(EchecTexte).arg(DossierSauvegardes(), TexteErreur(cause));
     if (!std::exchange(m_dit, true))
@@ -194,7 +194,7 @@ void Filet::Echoue(const Erreur &cause)
 }
 
 /// Tells the failure, after the command that met it and not on top of a dialog: a transfer may be running in it.
-void Filet::Annonce()
+void SauvegardeAuto::Annonce()
 {
     m_voie.stop();
     if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
@@ -218,25 +218,25 @@ bool OuvreRetrouve(const QString &chemin)
     if (Document.NomFichier != chemin)
         return false;
     Document.FichierModifie = true;
-    filet->setGarde(chemin);
+    sauvegarde->setGarde(chemin);
     return true;
 }
 
 } // namespace
 
-void BrancheFilet()
+void BrancheSauvegardeAuto()
 {
-    filet = new Filet(frmPrinc);
+    sauvegarde = new SauvegardeAuto(frmPrinc);
 }
 
 QString RetientTexte()
 {
-    return filet->Retient();
+    return sauvegarde->Retient();
 }
 
 void RetientTexteFinal(bool nonEnregistre)
 {
-    filet->RetientFinal(nonEnregistre);
+    sauvegarde->RetientFinal(nonEnregistre);
 }
 
 void ProposeTextesRetrouves()

@@ -1,4 +1,4 @@
-#include "comconfig/ApplicationPort.h"
+#include "comconfig/AppliqueAuPort.h"
 
 #include "comconfig/ReglagesCom.h"
 #include "donnees/ParamCom.h"

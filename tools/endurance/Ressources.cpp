@@ -1,4 +1,4 @@
-#include "endurance/Comptes.h"
+#include "endurance/Ressources.h"
 
 #include "shell/FrmPrinc.h"
 
@@ -45,7 +45,7 @@ qint64 Pages()
     return pages.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) / 1024;
 }
 
-Comptes Compte()
+Ressources CompteRessources()
 {
     // Deferred work of a transfer (single-shot timers above all) is over after this time.
     constexpr int repos = 500; // milliseconds

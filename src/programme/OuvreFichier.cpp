@@ -1,4 +1,4 @@
-#include "programme/Arrivee.h"
+#include "programme/OuvreFichier.h"
 
 #include "comconfig/CommandesConf.h"
 #include "gauges/CommandesMac.h"

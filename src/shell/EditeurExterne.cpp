@@ -1,4 +1,4 @@
-#include "shell/Editeur.h"
+#include "shell/EditeurExterne.h"
 
 #include "donnees/Reglages.h"
 #include "locale/Legendes.h"

@@ -5,7 +5,7 @@
 #include "donnees/Transfert.h"
 #include "platform/base/FinDemandee.h"
 #include "platform/base/PageCode1252.h"
-#include "shell/Filet.h"
+#include "shell/SauvegardeAuto.h"
 #include "transfer/FichierRecu.h"
 
 #include <QApplication>
@@ -124,7 +124,7 @@ const Depart Departs[] = {
 
 } // namespace
 
-class TestFilet : public QObject
+class TestSauvegardeAuto : public QObject
 {
     Q_OBJECT
 
@@ -223,7 +223,7 @@ private Q_SLOTS:
         atelier.Redemarre();
         const QByteArray octets = TousLesOctets() + "\r\r\n\n";
         frmPrinc->Text1->setText(TexteDe1252("X" + octets));
-        auto *const repos = frmPrinc->findChild<QTimer *>(u"ReposFilet"_s);
+        auto *const repos = frmPrinc->findChild<QTimer *>(u"ReposSauvegarde"_s);
         QVERIFY(repos->isActive());
         QVERIFY(repos->interval() <= 1000);
         QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!Sans nom.iso=X" + octets});
@@ -326,7 +326,7 @@ private Q_SLOTS:
         const QString autre = atelier.Ecrit("Q.iso", "XQ");
         const QByteArrayList reste = plein ? QByteArrayList{"!P.iso=N10 G0\r\n"} : QByteArrayList();
         if (plein)
-            frmPrinc->findChild<QTimer *>(u"ReposFilet"_s)->start(0);
+            frmPrinc->findChild<QTimer *>(u"ReposSauvegarde"_s)->start(0);
         else
             atelier.Ecrit("Sauvegardes", "");
         QTRY_COMPARE(atelier.Gardes(), reste);
@@ -336,7 +336,7 @@ private Q_SLOTS:
             QCOMPARE(frmPrinc->Text1->Text(), u"XQ"_s);
             if (i == 0)
                 atelier.Repond(QMessageBox::Ok, atelier.Chemin("Sauvegardes"));
-            QTRY_VERIFY(!frmPrinc->findChild<QTimer *>(u"VoieFilet"_s)->isActive());
+            QTRY_VERIFY(!frmPrinc->findChild<QTimer *>(u"AttenteSauvegarde"_s)->isActive());
             Atelier::Change();
         }
         QCOMPARE(atelier.Gardes(), reste);
@@ -350,5 +350,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestFilet)
-#include "TestFilet.moc"
+QTEST_MAIN(TestSauvegardeAuto)
+#include "TestSauvegardeAuto.moc"

@@ -1,4 +1,4 @@
-#include "shell/Edition.h"
+#include "shell/MenuEdition.h"
 
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"

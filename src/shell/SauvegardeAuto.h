@@ -7,7 +7,7 @@
 // crash. The operator is never asked. A failure to write stops no command, and is told once a run.
 
 /// Connects the automatic saving with the pane. Once, when the main window exists.
-void BrancheFilet();
+void BrancheSauvegardeAuto();
 
 /// Keeps the text of the pane, if it is changed, unsaved and not empty, and gives the path of the file. An unchanged
 /// text is not kept a second time. "" when there is nothing to keep or it could not be written. Whatever puts another

@@ -6,8 +6,8 @@
 #include "donnees/Chemins.h"
 #include "platform/fichiers/FichierTexte.h"
 #include "shell/Document.h"
-#include "shell/Filet.h"
 #include "shell/FrmPrinc.h"
+#include "shell/SauvegardeAuto.h"
 
 #include <QApplication>
 #include <QDir>
@@ -58,10 +58,10 @@ int main(int nombre, char *arguments[])
     FrmPrinc fenetre;
     fenetre.show();
     BrancheDocument();
-    BrancheFilet();
+    BrancheSauvegardeAuto();
     OuvreDocument(fichier);
     Frappe();
-    auto *const repos = fenetre.findChild<QTimer *>(QStringLiteral("ReposFilet"));
+    auto *const repos = fenetre.findChild<QTimer *>(QStringLiteral("ReposSauvegarde"));
     const QDir garde(dossier.filePath(QStringLiteral("Sauvegardes")));
 
     // Keys that come while the pane is being read: each one has it begin anew.
