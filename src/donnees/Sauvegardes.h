@@ -10,6 +10,7 @@ class Erreur;
 // files made before something else was written over them. Their names are "<name>_<yyyy-MM-dd_HHmmss><ending>", and the
 // operator finds them in any file dialog.
 
+/// Full path of the folder, without a final separator. The folder exists once something has been kept.
 QString DossierSauvegardes();
 
 /// True for a path in this folder. No program should be saved here: old files are removed.

@@ -15,9 +15,9 @@ void RetientPourAnnuler();
 /// Same, when the look changes: reprend restores the former look, after the text has been restored.
 void RetientAspect(std::function<void()> reprend);
 
-void Mnu_Edition(); ///< enables the entries by clipboard and selection, as the menu opens
-void Mnu_Annuler();
-void Mnu_Couper();
-void Mnu_Copier();
-void Mnu_Coller();
-void Mnu_Supprimer();
+void Mnu_Edition();   ///< enables the entries by clipboard and selection, as the menu opens
+void Mnu_Annuler();   ///< restores the text, and the look, as before the last of these commands or of Mnu_Police
+void Mnu_Couper();    ///< moves the selection to the clipboard
+void Mnu_Copier();    ///< copies the selection to the clipboard
+void Mnu_Coller();    ///< replaces the selection by the text of the clipboard
+void Mnu_Supprimer(); ///< deletes the selection

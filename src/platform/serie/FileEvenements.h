@@ -14,6 +14,7 @@ class FileEvenements : public QObject
 public:
     using QObject::QObject;
 
+    /// Puts an event into the queue. code: one of EvenementPort or ErreurPort.
     void Annonce(int code);
     /// Empties the queue.
     void Oublie() { m_attente.clear(); }
