@@ -177,6 +177,13 @@ bool PorteApplication(const QString &dossier)
     return true;
 }
 
+/// Runs travail, which deletes or renames folders, while neither the tree nor the list watches them.
+void SansGarde(const std::function<void()> &travail)
+{
+    const CadreExplorateur &colonne = *frmPrinc->Frame1;
+    colonne.FolderTreeview1->Pendant([&] { colonne.File1->Pendant(travail); });
+}
+
 /// Deletes the selected folder. The folder above it is selected afterwards, even when the operator answers No.
 void Command2_Click()
 {
@@ -193,7 +200,7 @@ void Command2_Click()
     if (PorteApplication(dossier))
         return;
     const QString parent = arbre.Parent();
-    arbre.Pendant([&dossier] { SupprimeDossier(SansSeparateur(dossier)); });
+    SansGarde([&dossier] { SupprimeDossier(SansSeparateur(dossier)); });
     try {
         arbre.setSelectedFolder(parent);
     } catch (const Erreur &) {
@@ -217,7 +224,7 @@ void Command4_Click()
     if (nouveau.isEmpty())
         return;
     try {
-        arbre.Pendant([&] { RenommeEtSuit(dossier, nouveau); });
+        SansGarde([&] { RenommeEtSuit(dossier, nouveau); });
         arbre.setSelectedFolder(nouveau);
     } catch (const Erreur &) {
         MsgBox(Texte(NonRenomme), Boite::Exclamation, Texte(ErreurTitre));

@@ -82,6 +82,12 @@ void FileListBox::Refresh()
         setCurrentIndex(m_noms.index(static_cast<int>(rang)));
 }
 
+void FileListBox::Pendant(const std::function<void()> &travail)
+{
+    m_guetteur.Suspend(travail);
+    Refresh();
+}
+
 QStringList FileListBox::Noms() const
 {
     if (m_dossier.isEmpty())

@@ -37,6 +37,9 @@ public:
     /// Reads the folder again. The list is empty when the folder has gone or cannot be read.
     void Refresh();
 
+    /// Runs travail, which deletes or renames the folder, and then reads the folder again. Raises what travail raises.
+    void Pendant(const std::function<void()> &travail);
+
 Q_SIGNALS:
     void DblClick(); ///< FileName() was double-clicked, or Enter was pressed on it
 
