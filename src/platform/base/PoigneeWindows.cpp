@@ -1,8 +1,0 @@
-#include "platform/base/PoigneeWindows.h"
-
-#include <windows.h>
-
-void FermePoignee::operator()(void *poignee) const
-{
-    CloseHandle(poignee);
-}
