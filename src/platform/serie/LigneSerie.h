@@ -49,6 +49,9 @@ public:
     /// Sets the line. Raises ErreurPort::Vitesse, BitsDonnees or Reglage for what the device cannot do; the old
     /// settings then stay.
     virtual void Regle(const ReglagePort &reglage) = 0;
+    /// What stands in the place of each character with a parity error, for a driver that puts it there itself; nothing:
+    /// they stay as they came. Where the driver says which they are, Lit tells their positions instead.
+    virtual void PoseRemplacant(std::optional<char> /*remplacant*/) {}
     virtual void PoseRTS(bool actif) = 0;
     virtual void PoseDTR(bool actif) = 0;
     /// Whether the driver, set to flux, stops sending at XOFF and sends XOFF itself when its buffer is full. If not,

@@ -76,6 +76,7 @@ void MSComm::Ouvre()
     // raised.
     ligne->PoseDTR(m_dtr);
     ligne->PoseRTS(m_rts || m_reglage.ARtsCts());
+    ligne->PoseRemplacant(m_remplacant);
     m_xonXoff = FluxXonXoff(); // the last session's XOFF state does not apply
     RegleLigne(*ligne, m_reglage);
     ligne->JetteReception(); // characters that came while the port was closed
@@ -240,6 +241,15 @@ void MSComm::setDTREnable(bool actif)
         m_ligne->PoseDTR(actif);
 }
 
+void MSComm::setParityReplace(const QString &remplacant)
+{
+    m_parityReplace = remplacant;
+    const QByteArray octets = OctetsEn1252(remplacant.left(1));
+    m_remplacant = octets.isEmpty() ? std::nullopt : std::optional(octets.at(0));
+    if (m_ligne)
+        m_ligne->PoseRemplacant(m_remplacant);
+}
+
 void MSComm::setInBufferSize(int taille)
 {
     if (m_ligne && taille != m_inBufferSize)
@@ -322,10 +332,9 @@ void MSComm::FreineMachine()
 QByteArray MSComm::Epure(const LectureLigne &lecture)
 {
     QByteArray octets = lecture.octets;
-    const QByteArray remplacant = OctetsEn1252(m_parityReplace.left(1));
-    if (!remplacant.isEmpty()) {
+    if (m_remplacant) {
         for (const qsizetype position : lecture.fausses)
-            octets[position] = remplacant.at(0);
+            octets[position] = *m_remplacant;
     }
     if (m_nullDiscard)
         octets.removeIf([](char octet) { return octet == '\0'; });

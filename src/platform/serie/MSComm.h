@@ -134,7 +134,7 @@ public:
     void setNullDiscard(bool jette) { m_nullDiscard = jette; }
     /// Its first character replaces each one that came with a parity error; empty: the character stays as it came.
     QString ParityReplace() const { return m_parityReplace; }
-    void setParityReplace(const QString &remplacant) { m_parityReplace = remplacant; }
+    void setParityReplace(const QString &remplacant);
     /// RThreshold: number of waiting characters from which event 2 is raised. SThreshold: the queue falling below that
     /// many characters raises event 1. 0: no event.
     int RThreshold() const { return m_rThreshold; }
@@ -230,6 +230,7 @@ private:
     int m_inputLen = 0;
     bool m_nullDiscard = false;
     QString m_parityReplace;
+    std::optional<char> m_remplacant; // its first character on the line
     int m_rThreshold = 0;
     int m_sThreshold = 0;
 

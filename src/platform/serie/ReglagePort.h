@@ -27,6 +27,8 @@ struct ReglagePort
     double BitsParCaractere() const;
     /// Characters that the line carries in a second.
     double CaracteresParSeconde() const { return vitesse / BitsParCaractere(); }
+
+    bool operator==(const ReglagePort &) const = default;
 };
 
 /// Reads speed, parity, data bits and stop bits, as in "9600,e,7,1". Parity is one of n, o, e, m, s; stop bits are 1,

@@ -1,0 +1,8 @@
+#include "platform/base/PoigneeWindows.h"
+
+#include <windows.h>
+
+void FermePoignee::operator()(void *poignee) const
+{
+    CloseHandle(poignee);
+}

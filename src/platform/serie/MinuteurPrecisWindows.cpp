@@ -1,0 +1,76 @@
+#include "platform/serie/MinuteurPrecis.h"
+
+#include "platform/base/Erreur.h"
+#include "platform/base/PoigneeWindows.h"
+#include "platform/serie/ErreurPort.h"
+
+#include <QWinEventNotifier>
+
+#include <algorithm>
+#include <optional>
+
+#include <windows.h>
+
+namespace {
+
+using namespace std::chrono_literals;
+using HorlogeReelle = std::chrono::steady_clock;                        // not a test's
+using Pas = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // in which Windows counts
+
+/// Such a timer goes by its own clock, not by the tick of 15.6 ms, to which Windows puts back the programs that are out
+/// of sight. Older headers lack its name.
+constexpr DWORD HauteResolution = 0x00000002;
+
+PoigneeWindows OuvreMinuteur()
+{
+    PoigneeWindows minuteur(CreateWaitableTimerExW(nullptr, nullptr, HauteResolution, TIMER_ALL_ACCESS));
+    if (!minuteur)
+        throw Erreur(ErreurPort::Indisponible, QString(), static_cast<int>(GetLastError()));
+    return minuteur;
+}
+
+} // namespace
+
+struct MinuteurPrecis::Interne
+{
+    void Arme(std::chrono::nanoseconds delai)
+    {
+        LARGE_INTEGER dans;
+        dans.QuadPart = -std::chrono::ceil<Pas>(std::max(delai, 0ns)).count(); // below 0: from now on
+        SetWaitableTimer(minuteur.get(), &dans, 0, nullptr, nullptr, FALSE);
+    }
+
+    const PoigneeWindows minuteur = OuvreMinuteur();
+    QWinEventNotifier reveil{minuteur.get()};
+    std::optional<HorlogeReelle::time_point> echeance;
+};
+
+MinuteurPrecis::MinuteurPrecis()
+    : m_interne(std::make_unique<Interne>())
+{
+    connect(&m_interne->reveil, &QWinEventNotifier::activated, this, [this] {
+        if (!m_interne->echeance)
+            return;
+        // It woke for what was armed before, or too early.
+        if (const auto reste = *m_interne->echeance - HorlogeReelle::now(); reste > 0ns) {
+            m_interne->Arme(reste);
+            return;
+        }
+        m_interne->echeance.reset();
+        Q_EMIT Echu();
+    });
+}
+
+MinuteurPrecis::~MinuteurPrecis() = default;
+
+void MinuteurPrecis::Arme(std::chrono::nanoseconds delai)
+{
+    m_interne->echeance = HorlogeReelle::now() + delai;
+    m_interne->Arme(delai);
+}
+
+void MinuteurPrecis::Arrete()
+{
+    m_interne->echeance.reset();
+    CancelWaitableTimer(m_interne->minuteur.get());
+}
