@@ -20,8 +20,7 @@
 
 namespace {
 
-/// Property of the character format of a block separator: its kind of line end. Typed text may inherit the property;
-/// there it means nothing.
+/// Property of a block separator's format: its kind of line end. Typed text may inherit it, where it means nothing.
 constexpr int ProprieteFin = QTextFormat::UserProperty + 1;
 
 } // namespace
