@@ -2,6 +2,7 @@
 
 #include "platform/base/Horloge.h"
 #include "platform/base/Touches.h"
+#include "platform/controles/Repetition.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -52,7 +53,7 @@ void SuitCoup(const QKeyEvent &evenement)
 {
     const quint32 touche = Touche(evenement);
     const bool memeInstant = evenement.timestamp() == 0 || evenement.timestamp() == mains.instantCoup;
-    if (evenement.isAutoRepeat()) {
+    if (EstRepetition(evenement)) {
         mains.repetee = true;
     } else if (!mains.tenues.contains(touche) || !memeInstant) {
         mains.instantCoup = evenement.timestamp();
@@ -167,6 +168,7 @@ public:
 void BrancheClavier(QObject *proprietaire)
 {
     mains = {};
+    GuetteRepetitions();
     qApp->installEventFilter(new Clavier(proprietaire));
 }
 

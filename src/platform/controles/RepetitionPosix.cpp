@@ -1,0 +1,10 @@
+#include "platform/controles/Repetition.h"
+
+#include <QKeyEvent>
+
+void GuetteRepetitions() {}
+
+bool EstRepetition(const QKeyEvent &touche)
+{
+    return touche.isAutoRepeat();
+}
