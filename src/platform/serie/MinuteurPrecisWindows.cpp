@@ -17,16 +17,18 @@ using namespace std::chrono_literals;
 using HorlogeReelle = std::chrono::steady_clock;                        // not a test's
 using Pas = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // in which Windows counts
 
-/// Such a timer goes by its own clock, not by the tick of 15.6 ms, to which Windows puts back the programs that are out
-/// of sight. Older headers lack its name.
-constexpr DWORD HauteResolution = 0x00000002;
+constexpr DWORD HauteResolution = 0x00000002; // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, missing in older headers
+constexpr DWORD Ordinaire = 0;
 
+/// A timer of high resolution has its own clock. An ordinary one follows the system's tick, which Windows sets back to
+/// 15.6 ms for programs that are out of sight; Windows 10 before version 1803 has no other.
 PoigneeWindows OuvreMinuteur()
 {
-    PoigneeWindows minuteur(CreateWaitableTimerExW(nullptr, nullptr, HauteResolution, TIMER_ALL_ACCESS));
-    if (!minuteur)
-        throw Erreur(ErreurPort::Indisponible, QString(), static_cast<int>(GetLastError()));
-    return minuteur;
+    for (const DWORD genre : {HauteResolution, Ordinaire}) {
+        if (const HANDLE minuteur = CreateWaitableTimerExW(nullptr, nullptr, genre, TIMER_ALL_ACCESS))
+            return PoigneeWindows(minuteur);
+    }
+    throw Erreur(ErreurPort::Indisponible, QString(), static_cast<int>(GetLastError()));
 }
 
 } // namespace
