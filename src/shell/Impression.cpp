@@ -1,7 +1,9 @@
 #include "shell/Impression.h"
 
 #include "locale/Langue.h"
+#include "locale/TextesErreur.h"
 #include "platform/base/Erreur.h"
+#include "platform/dialogues/Boites.h"
 #include "platform/dialogues/CommonDialog.h"
 #include "platform/dialogues/Printer.h"
 #include "shell/Document.h"
@@ -13,6 +15,7 @@
 namespace {
 
 constexpr Texte3 TitreReglage{u"Configurer l'imprimante", u"Print setup", u"Configurar la impresiôn"};
+constexpr Texte3 SansImprimanteTitre{u"Imprimante", u"Printer", u"Impresora"};
 constexpr Texte3 EnCours{u"Impression en cours...", u"Printing...", u"Impresión en curso..."};
 
 QFont PoliceDuTexte()
@@ -78,6 +81,17 @@ void Imprime(QPrinter &reglages, int copies)
     }
 }
 
+/// Runs a command that needs a printer. Where there is none the operator is told; no other failure is.
+void AvecImprimante(const std::function<void()> &commande)
+{
+    try {
+        commande();
+    } catch (const Erreur &erreur) {
+        if (erreur.Numero() == Erreur::SansImprimante)
+            MsgBox(TexteErreur(erreur), Boite::Information, Texte(SansImprimanteTitre));
+    }
+}
+
 } // namespace
 
 void Mnu_Imprim()
@@ -85,7 +99,7 @@ void Mnu_Imprim()
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
     dialogue.CancelError = true;
     dialogue.Flags = frmPrinc->Text1->SelLength() > 0 ? CommonDialog::Selection : 0;
-    Saute([&dialogue] {
+    AvecImprimante([&dialogue] {
         dialogue.Imprimante().setDocName(Document.TitreFichier);
         dialogue.ShowPrinter();
         frmPrinc->Text1->setSelLength(0); // the whole text is printed, whatever was selected
@@ -98,5 +112,5 @@ void Mnu_ConfigIMP()
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
     dialogue.DialogTitle = Texte(TitreReglage);
     dialogue.Flags = CommonDialog::ReglageImprimante;
-    Saute([&dialogue] { dialogue.ShowPrinter(); });
+    AvecImprimante([&dialogue] { dialogue.ShowPrinter(); });
 }

@@ -34,6 +34,7 @@ public:
     static constexpr int AccesRefuse = 70;        ///< no permission
     static constexpr int FormatRefuse = 321;      ///< the text pane does not know the file's form
     static constexpr int MotifRefuse = 380;       ///< a filter for files with characters that no file name has
+    static constexpr int SansImprimante = 482;    ///< no printer is installed
     static constexpr int DialogueAnnule = 32755;  ///< the operator cancelled a common dialog
 
 private:

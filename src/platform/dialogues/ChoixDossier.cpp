@@ -1,5 +1,6 @@
 #include "platform/dialogues/ChoixDossier.h"
 
+#include "platform/dialogues/DialoguesSysteme.h"
 #include "platform/dialogues/PrepareDialogueFichier.h"
 
 #include <QDir>
@@ -8,12 +9,11 @@
 QString ChoixDossier(QWidget *fenetre, const QString &titre, const QString &depart)
 {
     QFileDialog dialogue(fenetre, titre, DossierDeDepart(depart));
-    dialogue.setObjectName(QStringLiteral("CommonDialog"));
     DansLaLangue(dialogue);
     NeFaitQueChoisir(dialogue, true);
     dialogue.setOption(QFileDialog::ShowDirsOnly);
     dialogue.setFileMode(QFileDialog::Directory);
-    if (dialogue.exec() != QDialog::Accepted)
+    if (!DemandeFichiers(dialogue))
         return {};
     return QDir::toNativeSeparators(QDir::cleanPath(dialogue.selectedFiles().value(0)));
 }

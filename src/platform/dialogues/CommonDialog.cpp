@@ -1,19 +1,14 @@
 #include "platform/dialogues/CommonDialog.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/dialogues/DialogueImprimante.h"
-#include "platform/dialogues/DialoguePolice.h"
+#include "platform/dialogues/DialoguesSysteme.h"
 #include "platform/dialogues/FenetreAppelante.h"
 #include "platform/dialogues/PrepareDialogueFichier.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QPrintDialog>
 #include <QPrinter>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -40,55 +35,6 @@ int Place(const QStringList &filtres, const QString &choisi)
         return filtre == choisi || filtre.startsWith(choisi + QLatin1String(" ("));
     });
     return trouve == filtres.end() ? 1 : static_cast<int>(trouve - filtres.begin()) + 1;
-}
-
-/// Proposes a PDF file with the document's name, in the folder of the last one. The toolkit itself proposes no name, or
-/// the one of the document printed before.
-void ProposeFichier(QPrintDialog &dialogue, const QString &document)
-{
-    auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
-    if (fichier == nullptr || document.isEmpty())
-        return;
-    const QString nom = QFileInfo(document).completeBaseName() + QLatin1String(".pdf");
-    fichier->setText(QFileInfo(fichier->text()).dir().filePath(nom));
-}
-
-/// Replaces the toolkit's file dialog, which the printing dialog's button opens, by ours.
-void DemandeFichierPdf(QLineEdit &fichier)
-{
-    CommonDialog choix;
-    choix.PrepareFichier(QPrintDialog::tr("Print To File ..."), QStringLiteral("PDF|*.pdf"), {}, fichier.text());
-    choix.CancelError = false;
-    choix.Flags = 0; // the printing dialog asks by itself before it overwrites a file
-    choix.DefaultExt = QStringLiteral("pdf");
-    choix.ShowSave();
-    fichier.setText(choix.FileName);
-}
-
-void PrendBoutonFichier(const QPrintDialog &dialogue)
-{
-    auto *const fichier = dialogue.findChild<QLineEdit *>(QStringLiteral("filename"));
-    auto *const bouton = dialogue.findChild<QToolButton *>(QStringLiteral("fileBrowser"));
-    if (fichier == nullptr || bouton == nullptr)
-        return;
-    QObject::disconnect(bouton, &QToolButton::clicked, nullptr, nullptr);
-    QObject::connect(bouton, &QToolButton::clicked, fichier, [fichier] { DemandeFichierPdf(*fichier); });
-}
-
-/// Leaves the choice between the whole text and the selection. The toolkit shows ranges of pages even where they are
-/// not offered, under a title that in French speaks of the selection alone.
-void CacheEtendues(QPrintDialog &dialogue)
-{
-    auto *const etendues = dialogue.findChild<QGroupBox *>(QStringLiteral("gbPrintRange"));
-    if (etendues == nullptr)
-        return;
-    etendues->setTitle(QString());
-    const auto choix = etendues->findChildren<QWidget *>();
-    for (QWidget *widget : choix) {
-        const QString nom = widget->objectName();
-        if (nom != QLatin1String("printAll") && nom != QLatin1String("printSelection"))
-            widget->hide();
-    }
 }
 
 } // namespace
@@ -139,10 +85,13 @@ void CommonDialog::DemandeFichier(bool enregistrement)
     dialogue.setNameFilters(filtres);
     if (FilterIndex >= 1 && FilterIndex <= filtres.size())
         dialogue.selectNameFilter(filtres[FilterIndex - 1]);
-    if (!FileName.isEmpty())
+    if (!FileName.isEmpty()) {
+        if (const QFileInfo nom(FileName); nom.isAbsolute() && nom.dir().exists())
+            dialogue.setDirectory(nom.path()); // the system's own dialog takes the bare name of the file alone
         dialogue.selectFile(FileName);
+    }
 
-    if (!Accepte(dialogue))
+    if (!Accepte(DemandeFichiers(dialogue)))
         return;
     FileName = QDir::toNativeSeparators(dialogue.selectedFiles().constFirst());
     FileTitle = QFileInfo(FileName).fileName();
@@ -151,28 +100,12 @@ void CommonDialog::DemandeFichier(bool enregistrement)
 
 void CommonDialog::ShowPrinter()
 {
-    if ((Flags & ReglageImprimante) == 0) {
-        DemandeCopies();
+    QPrinter &imprimante = Imprimante();
+    if ((Flags & ReglageImprimante) != 0) {
+        Accepte(DemandeReglageImprimante(FenetreAppelante(), imprimante, DialogTitle));
         return;
     }
-    DialogueImprimante dialogue(Imprimante(), FenetreAppelante());
-    dialogue.setWindowTitle(DialogTitle);
-    if (Accepte(dialogue))
-        dialogue.Applique();
-}
-
-void CommonDialog::DemandeCopies()
-{
-    QPrinter &imprimante = Imprimante();
-    QPrintDialog dialogue(&imprimante, FenetreAppelante());
-    dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
-    ProposeFichier(dialogue, imprimante.docName());
-    PrendBoutonFichier(dialogue);
-    CacheEtendues(dialogue);
-    const bool selection = (Flags & Selection) != 0;
-    dialogue.setOption(QAbstractPrintDialog::PrintSelection, selection);
-    dialogue.setPrintRange(selection ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
-    if (!Accepte(dialogue))
+    if (!Accepte(DemandeImpression(FenetreAppelante(), imprimante, (Flags & Selection) != 0)))
         return;
     Copies = imprimante.copyCount();
     imprimante.setCopyCount(1);
@@ -186,9 +119,8 @@ void CommonDialog::ShowFont()
     police.setItalic(FontItalic);
     police.setStrikeOut(FontStrikeThru);
     police.setUnderline(FontUnderline);
-    DialoguePolice dialogue(police, Color, FenetreAppelante());
-    const QFont offerte = dialogue.currentFont();
-    if (!Accepte(dialogue))
+    const std::optional<ChoixPolice> choix = DemandePolice(FenetreAppelante(), police, Color);
+    if (!Accepte(choix.has_value()))
         return;
     // For a font that it does not list exactly, the dialog offers the nearest one: another name, whole points, another
     // style. So what the operator leaves as it was offered keeps its former value.
@@ -196,14 +128,15 @@ void CommonDialog::ShowFont()
         if (choisi != offert)
             voulu = choisi;
     };
-    police = dialogue.selectedFont();
-    prend(FontName, police.family(), offerte.family());
-    prend(FontSize, police.pointSizeF(), offerte.pointSizeF());
-    prend(FontBold, police.bold(), offerte.bold());
-    prend(FontItalic, police.italic(), offerte.italic());
-    FontStrikeThru = police.strikeOut();
-    FontUnderline = police.underline();
-    Color = dialogue.Couleur();
+    const QFont &offerte = choix->offerte;
+    const QFont &choisie = choix->choisie;
+    prend(FontName, choisie.family(), offerte.family());
+    prend(FontSize, choisie.pointSizeF(), offerte.pointSizeF());
+    prend(FontBold, choisie.bold(), offerte.bold());
+    prend(FontItalic, choisie.italic(), offerte.italic());
+    FontStrikeThru = choisie.strikeOut();
+    FontUnderline = choisie.underline();
+    Color = choix->couleur;
 }
 
 QPrinter &CommonDialog::Imprimante()
@@ -213,13 +146,10 @@ QPrinter &CommonDialog::Imprimante()
     return *m_imprimante;
 }
 
-/// Shows a dialog of any kind; false when the operator cancels and that is no error.
-bool CommonDialog::Accepte(QDialog &dialogue) const
+/// Whether the operator has chosen; raises when he has cancelled and that is an error.
+bool CommonDialog::Accepte(bool choisi) const
 {
-    dialogue.setObjectName(QStringLiteral("CommonDialog"));
-    if (dialogue.exec() == QDialog::Accepted)
-        return true;
-    if (CancelError)
+    if (!choisi && CancelError)
         throw Erreur(Erreur::DialogueAnnule, QStringLiteral("Cancel was selected."));
-    return false;
+    return choisi;
 }

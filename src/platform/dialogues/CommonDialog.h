@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class QDialog;
 class QPrinter;
 
 /// The common dialog: asks the operator for a file, a printer or a font. One object serves many commands; each command
@@ -57,9 +56,10 @@ public:
     /// Asks for a file to write, existing or not.
     void ShowSave();
 
-    /// Asks for a printer and the number of copies, or for printer and paper when Flags is ReglageImprimante. A PDF
-    /// file is always among the printers. The choice stands in Imprimante() until the program ends. The number of
-    /// copies stands in Copies; the caller prints each copy by itself.
+    /// Asks for a printer and the number of copies, or for printer and paper when Flags is ReglageImprimante. On Linux
+    /// a PDF file is always among the printers; on Windows SansImprimante is raised when there is none. The choice
+    /// stands in Imprimante() until the program ends. The number of copies stands in Copies; the caller prints each
+    /// copy by itself.
     void ShowPrinter();
 
     /// Asks for a font with its effects and colour.
@@ -70,8 +70,7 @@ public:
 
 private:
     void DemandeFichier(bool enregistrement);
-    void DemandeCopies();
-    bool Accepte(QDialog &dialogue) const;
+    bool Accepte(bool choisi) const;
 
     std::unique_ptr<QPrinter> m_imprimante; ///< made when first asked for: looking for the printers takes its time
 };

@@ -10,6 +10,14 @@
 
 namespace {
 
+/// Whether the operator works in this program. One of the system's own dialogs had the keyboard, unknown to the
+/// toolkit, and only he closes it.
+bool Actif(const QWidget &dialogue)
+{
+    return dialogue.testAttribute(Qt::WA_DontShowOnScreen) ||
+           QGuiApplication::applicationState() == Qt::ApplicationActive;
+}
+
 class RetourFenetre : public QObject
 {
 public:
@@ -17,11 +25,10 @@ public:
 
     bool eventFilter(QObject *objet, QEvent *evenement) override
     {
-        if (evenement->type() != QEvent::Hide || evenement->spontaneous() ||
-            QGuiApplication::applicationState() != Qt::ApplicationActive)
+        if (evenement->type() != QEvent::Hide || evenement->spontaneous())
             return false;
         const auto *const dialogue = qobject_cast<QWidget *>(objet);
-        if (dialogue == nullptr || !dialogue->isModal() || dialogue->parentWidget() == nullptr)
+        if (dialogue == nullptr || !dialogue->isModal() || dialogue->parentWidget() == nullptr || !Actif(*dialogue))
             return false;
         // Queued, so that a dialog below, which closes in the same moment, has gone too.
         const QPointer<QWidget> appelante = dialogue->parentWidget()->window();

@@ -1,6 +1,7 @@
 #include "platform/dialogues/PrepareDialogueFichier.h"
 
 #include "platform/dialogues/Boites.h"
+#include "platform/dialogues/DialoguesSysteme.h"
 
 #include <QChildEvent>
 #include <QDir>
@@ -84,7 +85,7 @@ QString DossierDeDepart(const QString &dossier)
 void DansLaLangue(QFileDialog &dialogue)
 {
     constexpr int largeur = 70; // characters: room for name, size and date together
-    dialogue.setOption(QFileDialog::DontUseNativeDialog);
+    dialogue.setOption(QFileDialog::DontUseNativeDialog, !FichiersDuSysteme());
     dialogue.installEventFilter(new PlaceAuxBoites(&dialogue));
     if (auto *const lieux = dialogue.findChild<QListView *>(QStringLiteral("sidebar")))
         lieux->setMinimumWidth(lieux->sizeHintForColumn(0) + 2 * lieux->frameWidth());
