@@ -175,5 +175,10 @@ void BrancheClavier(QObject *proprietaire)
 void RetientTouches(QWidget *fenetre)
 {
     if (!mains.tenues.isEmpty() || Maintenant() - mains.coup < Repos)
-        fenetre->setProperty(Reprise, QVariant::fromValue<qlonglong>((Maintenant() + Repos).count()));
+        RetientTouchesSansCoup(fenetre);
+}
+
+void RetientTouchesSansCoup(QWidget *fenetre)
+{
+    fenetre->setProperty(Reprise, QVariant::fromValue<qlonglong>((Maintenant() + Repos).count()));
 }

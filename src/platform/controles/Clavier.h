@@ -18,3 +18,7 @@ void BrancheClavier(QObject *proprietaire);
 
 /// Applies the third rule to a window in front whose content has just changed.
 void RetientTouches(QWidget *fenetre);
+
+/// The same whatever the hands have done: what lay over the window has gone by itself, and the stroke meant for it may
+/// still be on its way.
+void RetientTouchesSansCoup(QWidget *fenetre);

@@ -1,5 +1,6 @@
 #include "platform/dialogues/Boites.h"
 
+#include "platform/controles/Clavier.h"
 #include "platform/dialogues/FenetreAppelante.h"
 
 #include <QDir>
@@ -115,11 +116,14 @@ void Elargit(QMessageBox &boite)
 
 Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
+    const bool remplace = demande != nullptr;
     RetireDemande();
     if (SuppleantBoites().message)
         return SuppleantBoites().message(texte, drapeaux, titre);
     QMessageBox boite(FenetreAppelante());
     Prepare(boite, texte, drapeaux, titre);
+    if (remplace)
+        RetientTouchesSansCoup(&boite);
     const int choix = boite.exec();
     if ((drapeaux & Boite::OuiNon) == 0)
         return Reponse::Ok;
@@ -149,8 +153,11 @@ void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, c
 
 void RetireDemande()
 {
-    if (demande != nullptr)
-        demande->reject();
+    if (demande == nullptr)
+        return;
+    QWidget *const dessous = demande->parentWidget();
+    demande->reject();
+    RetientTouchesSansCoup(dessous);
 }
 
 QString InputBox(const QString &invite, const QString &titre, const QString &valeur)

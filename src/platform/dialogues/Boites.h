@@ -34,7 +34,7 @@ bool Confirme(const QString &texte, int drapeaux, const QString &titre);
 /// Asks like Confirme() in a box over fenetre, but returns at once: the running routine goes on while the operator
 /// reads. siOui is called when the operator answers Yes. Only one such question stands at a time; a further one is not
 /// asked. The question goes away unanswered with fenetre, by RetireDemande(), and when MsgBox() or Confirme() shows a
-/// box.
+/// box. What comes to light then takes no key at first, since the operator's answer may be on its way.
 void DemandeSansAttendre(QWidget &fenetre, const QString &texte, int drapeaux, const QString &titre,
                          const std::function<void()> &siOui);
 /// Takes the question of DemandeSansAttendre() away, if one stands. It counts as a No.

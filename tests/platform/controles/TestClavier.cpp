@@ -139,6 +139,36 @@ private Q_SLOTS:
         QCOMPARE(InputBox(u"?"_s, u"?"_s), u"o"_s);
     }
 
+    // A question goes by itself (|), and may leave a box in its place: the stroke that was meant for it presses nothing.
+    void DemandeRetiree()
+    {
+        const std::pair<QString, bool> cas[] = {{u"P R"_s, false}, {u"+399 P R"_s, false}, {u"+400 P"_s, true}};
+        Etabli etabli(0);
+        for (const auto &[gestes, presse] : cas) {
+            for (const bool boiteSuit : {false, true}) {
+                QDialog fenetre;
+                QPushButton bouton(&fenetre);
+                bool repondu = false;
+                connect(&bouton, &QPushButton::clicked, this, [&] { repondu = true; });
+                fenetre.show();
+                heure += 10s;
+                DemandeSansAttendre(fenetre, u"?"_s, 0, u"?"_s, [] { QFAIL("answered"); });
+                if (boiteSuit) {
+                    etabli.Fait("MsgBox", [&, gestes = gestes](QWidget &boite) {
+                        Joue(boite.focusWidget(), Qt::Key_Return, gestes);
+                        repondu = !boite.isVisible();
+                        boite.close();
+                    });
+                    MsgBox(u"?"_s, 0, u"?"_s);
+                } else {
+                    RetireDemande();
+                    Joue(&bouton, Qt::Key_Return, gestes);
+                }
+                QCOMPARE(repondu, presse);
+            }
+        }
+    }
+
     // The wheel over a list changes it only when the keyboard is there, and never gives it the keyboard.
     void Molette()
     {
