@@ -76,7 +76,7 @@ public:
     void SauveReste() const;
     /// Offers to save texte elsewhere. The pane then shows what was saved, and never bears the name of a file that does
     /// not exist.
-    void SauveAutrePart(const QString &texte, const OffreSauvegarde &offre = OffreLignesRecues()) const;
+    void SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const;
 
 private:
     bool Reception1Jauge();
@@ -282,7 +282,7 @@ void Seance::SauveReste() const
     QString surDisque;
     Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
     if (surDisque != m_brut)
-        SauveAutrePart(m_brut);
+        SauveAutrePart(m_brut, OffreTexteRecu(false));
 }
 
 void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const

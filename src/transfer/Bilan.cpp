@@ -98,7 +98,7 @@ constexpr Texte3 EnTemps{u"%1 en %2.", u"%1 in %2.", u"%1 en %2."};
 constexpr Texte3 EnTempsForce{u"%1 en %2, fin forcée.", u"%1 in %2, end forced.", u"%1 en %2, final forzado."};
 constexpr Texte3 EmissionInterrompue{u"Emission interrompue ! ", u"Sending broken off ! ", u"Emisión interrumpida ! "};
 constexpr Texte3 FichierNonEcrit{u"%1 n'est pas enregistré ! ", u"%1 is not saved ! ", u"%1 no está guardado ! "};
-constexpr Texte3 Sauve{u"Lignes reçues enregistrées : ", u"Received lines saved: ", u"Líneas recibidas guardadas: "};
+constexpr Texte3 Sauve{u"Texte reçu enregistré : ", u"Received text saved: ", u"Texto recibido guardado: "};
 constexpr Texte3 FinCollee{u"La fin de transfert est arrivée collée à une ligne : forcer la fin de réception.",
                            u"The end of transfer has come stuck to a line: force the end of receiving.",
                            u"El final de transferencia ha llegado pegado a una línea: forzar el final de recepción."};

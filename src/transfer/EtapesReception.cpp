@@ -9,6 +9,8 @@
 #include "transfer/PortCom.h"
 #include "transfer/VueTransfert.h"
 
+#include <utility>
+
 namespace {
 
 constexpr Texte3 EnAttente{u"En attente de réception", u"On standby of receiving", u"En espera de recepción"};
@@ -51,9 +53,12 @@ void AcheveReception(VueTransfert &vue)
 
 void EchoueReception(const Erreur &erreur, VueTransfert &vue, const QString &recu)
 {
-    Transfert.FinTransfert = false; // the end may have come, but there is no file: Rc_Fic asks for a name once more
+    // The end may have come, but there is no file: Rc_Fic asks for a name once more.
+    const bool terminee = std::exchange(Transfert.FinTransfert, false);
     MontreBilan(vue, Issue::ReceptionRompue);
     ErreurPortCOM(erreur, vue);
-    if (const QString chemin = SauveAilleurs(recu); !chemin.isEmpty())
+    if (recu.isEmpty())
+        return;
+    if (const QString chemin = SauveAilleurs(CommeFichierRecu(recu), OffreTexteRecu(terminee)); !chemin.isEmpty())
         MontreSauve(vue, chemin);
 }

@@ -17,12 +17,15 @@
 
 namespace {
 
-constexpr Texte3 ResteTitre{u"Enregistrer les lignes reçues", u"Save the received lines",
-                            u"Guardar las líneas recibidas"};
-constexpr Texte3 ResteTexte{
-    u"La réception n'a pas abouti, les lignes déjà reçues ne sont pas enregistrées.\rLes enregistrer dans un fichier ?",
-    u"The reception has failed, the lines already received are not saved.\rSave them to a file ?",
-    u"La recepción no ha terminado, las líneas ya recibidas no están guardadas.\r¿Guardarlas en un fichero?"};
+constexpr Texte3 ResteTitre{u"Enregistrer le texte reçu", u"Save the received text", u"Guardar el texto recibido"};
+constexpr Texte3 ResteRompu{
+    u"La réception n'a pas abouti, le texte déjà reçu n'est pas enregistré.\rL'enregistrer dans un fichier ?",
+    u"The reception has failed, the text already received is not saved.\rSave it to a file ?",
+    u"La recepción no ha terminado, el texto ya recibido no está guardado.\r¿Guardarlo en un fichero?"};
+constexpr Texte3 ResteTermine{
+    u"La réception est terminée, mais son fichier n'a pas été écrit.\rEnregistrer le texte reçu dans un autre fichier ?",
+    u"The reception is finished, but its file has not been written.\rSave the received text to another file ?",
+    u"La recepción ha terminado, pero su fichero no se ha escrito.\r¿Guardar el texto recibido en otro fichero?"};
 
 /// A file of this many bytes or more is not shown after a reception.
 constexpr qint64 TailleTropGrande = 65536;
@@ -79,10 +82,15 @@ void MontreFichier(const QString &chemin)
 
 } // namespace
 
+QString CommeFichierRecu(const QString &texte)
+{
+    return texte + QStringLiteral("\r\n");
+}
+
 void EcritFichierRecu(const QString &texte)
 {
     EcritRecu(
-        [&](const QString &chemin) { EcritFichierTexte(chemin, texte + QStringLiteral("\r\n"), FichierCoupe::Part); });
+        [&](const QString &chemin) { EcritFichierTexte(chemin, CommeFichierRecu(texte), FichierCoupe::Part); });
 }
 
 void OublieFichierRecu()
@@ -97,7 +105,7 @@ void CreeFichierRecu()
 
 void AjouteFichierRecu(const QString &texte)
 {
-    EcritRecu([&](const QString &chemin) { AjouteFichierTexte(chemin, texte + QStringLiteral("\r\n")); });
+    EcritRecu([&](const QString &chemin) { AjouteFichierTexte(chemin, CommeFichierRecu(texte)); });
 }
 
 void OuvreFichierRecu()
@@ -129,9 +137,9 @@ void PerdNomRecu()
     frmPrinc->ActiveEmission(false);
 }
 
-OffreSauvegarde OffreLignesRecues()
+OffreSauvegarde OffreTexteRecu(bool terminee)
 {
-    return {Texte(ResteTitre), Texte(ResteTexte), Texte(FiltreEnregistrer)};
+    return {Texte(ResteTitre), Texte(terminee ? ResteTermine : ResteRompu), Texte(FiltreEnregistrer)};
 }
 
 QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre)

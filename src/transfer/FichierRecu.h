@@ -4,6 +4,9 @@
 
 // The file that a reception leaves, and its way into the program pane.
 
+/// What the file of a reception holds once texte has come: one CR LF behind it.
+QString CommeFichierRecu(const QString &texte);
+
 /// Writes texte and one CR LF to CheminRecep(), replacing what was there; a file that the disk cuts does not stay.
 /// Raises what EcritFichierTexte raises, with the path.
 void EcritFichierRecu(const QString &texte);
@@ -35,9 +38,9 @@ struct OffreSauvegarde
     QString filtre; ///< of the file dialog, as in CommonDialog::Filter
 };
 
-/// The offer of a reception that has failed.
-OffreSauvegarde OffreLignesRecues();
+/// The offer of a reception that has failed: on its way or, terminee, when its file was to be written.
+OffreSauvegarde OffreTexteRecu(bool terminee);
 
 /// Offers to save texte, again and again until it is written or given up. An empty texte asks nothing. Gives the full
 /// path of the file written, "" for none.
-QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre = OffreLignesRecues());
+QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre);

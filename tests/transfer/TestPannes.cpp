@@ -8,7 +8,7 @@
 namespace {
 
 // The boxes that he may read, by their titles.
-const QString Offre = QStringLiteral("Enregistrer les lignes reçues");
+const QString Offre = QStringLiteral("Enregistrer le texte reçu");
 const QString AnnuleDite = QStringLiteral("Bouton Annuler cliqué"); // a reception by file
 
 QString ErreurN(int numero)
@@ -124,8 +124,11 @@ void TestPannes::Coupures()
                 QCOMPARE(essai.Disque(), position < 70 ? QByteArray() : essai.charge.pieces[0] + "\r\n");
             else
                 QCOMPARE((QByteArrayList{essai.Disque(), essai.ligne->ecrits}), (QByteArrayList{"ANCIEN", ""}));
-            if (dits.contains(Offre))
-                QCOMPARE(essai.poste.Lit("sauve.txt"), venu);
+            if (dits.contains(Offre)) {
+                QCOMPARE(essai.poste.Lit("sauve.txt"), venu + "\r\n");
+                QVERIFY(joue.avis[1].texte.startsWith(position == total ? u"La réception est terminée, mais "_s
+                                                                       : u"La réception n'a pas abouti, "_s));
+            }
             essai.VerifiePret();
             if (QTest::currentTestFailed())
                 return;
@@ -148,7 +151,7 @@ void TestPannes::LigneDebranchee()
             return partie;
         });
     });
-    QCOMPARE(essai.poste.Lit("sauve.txt"), QByteArray("AB\r\n"));
+    QCOMPARE(essai.poste.Lit("sauve.txt"), QByteArray("AB\r\n\r\n"));
 }
 
 // The plug is pulled while the operator of a bench decides: another tool is not to be had, but the end is, and either
@@ -301,10 +304,10 @@ void TestPannes::Disque()
         if (genre != Genre::Banc || cible) { // a bench knows before the first tool
             QCOMPARE(deroulement.avis.size(), 2);
             QVERIFY(genre == Genre::Banc ||
-                    deroulement.bilan.startsWith(u"Lignes reçues enregistrées : "_s + essai.pilote.Sauvegarde));
+                    deroulement.bilan.startsWith(u"Texte reçu enregistré : "_s + essai.pilote.Sauvegarde));
             QVERIFY(deroulement.avis[0].texte.contains(CheminRecep()));
             QCOMPARE(essai.poste.Lit("sauve.txt"),
-                     genre == Genre::Banc ? essai.charge.pieces[0] + "\r\n" : Venu(essai, essai.Envoye().size()));
+                     genre == Genre::Banc ? essai.charge.pieces[0] + "\r\n" : essai.charge.attendu);
         }
         QFile::remove(essai.pilote.Chemin(genre));
         ParamCom.DosRecep = Reglages.DosJauge = bon;

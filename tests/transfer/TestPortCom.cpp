@@ -258,15 +258,15 @@ private Q_SLOTS:
     {
         Atelier atelier;
         const auto accepte = [&] {
-            atelier.operateur.Repond("Enregistrer les lignes reçues",
-                                     "La réception n'a pas abouti, les lignes déjà reçues ne sont pas enregistrées.\r"
-                                     "Les enregistrer dans un fichier ?",
+            atelier.operateur.Repond("Enregistrer le texte reçu",
+                                     "La réception n'a pas abouti, le texte déjà reçu n'est pas enregistré.\r"
+                                     "L'enregistrer dans un fichier ?",
                                      Operateur::DemandeSimple, QMessageBox::Yes);
         };
         clesRetirees = 1;
         accepte();
         atelier.operateur.Choisit(atelier.poste.Chemin("RESTE.ISO"));
-        atelier.operateur.Repond("Enregistrer les lignes reçues",
+        atelier.operateur.Repond("Enregistrer le texte reçu",
                                  "Erreur lors de l'enregistrement du fichier\rLa lecture ou l'écriture a échoué.\r"
                                  "Le disque ou l'appareil ne répond plus.",
                                  Boite::Critique, QMessageBox::Ok);
@@ -274,7 +274,7 @@ private Q_SLOTS:
         atelier.operateur.Ferme("CommonDialog");
         accepte();
         atelier.operateur.Choisit(atelier.poste.Chemin("RESTE2.ISO"));
-        SauveAilleurs(u"G0\r\n"_s);
+        SauveAilleurs(u"G0\r\n"_s, OffreTexteRecu(false));
         QCOMPARE(atelier.poste.Lit("RESTE2.ISO"), QByteArray("G0\r\n"));
     }
 

@@ -583,7 +583,7 @@ void TestTransferts::TropDeLignes()
     const QString bilan = essai.Joue().bilan;
     QVERIFY2(bilan.contains(u"sauve.txt\n100\u202F000 caractères reçus en "_s), qPrintable(bilan));
     QVERIFY2(bilan.contains(u"\n50\u202F000 caractères jetés : "_s), qPrintable(bilan));
-    QCOMPARE(essai.poste.Lit("sauve.txt"), pleine);
+    QCOMPARE(essai.poste.Lit("sauve.txt"), pleine + "\r\n");
 }
 
 // A file that is too large for the pane stands whole on the disk; the pane gives way to the word processor, which is
