@@ -104,6 +104,13 @@ void ActiveNomme()
         action->setEnabled(true);
 }
 
+/// Whether the program can be sent: it has a name, and a configuration was read whole. FicConf alone is not enough: it
+/// may name a default configuration that is missing or damaged.
+bool EmissionPossible()
+{
+    return EtatConf.lue && !EtatConf.FicConf.isEmpty() && !Document.NomFichier.isEmpty();
+}
+
 /// Asks for a name and saves. False when the operator cancels, or when saving failed, which he has been told.
 bool EnregistreSous()
 {
@@ -215,8 +222,7 @@ void OpenFile(const QString &path)
     Document.NomFichier = path;
     Document.TitreFichier = NomSeul(path);
     TitreFenetre(Document.NomFichier);
-    // FicConf alone is not enough: it may name a default configuration that is missing or damaged.
-    frmPrinc->ActiveEmission(EtatConf.lue && !EtatConf.FicConf.isEmpty() && !Document.NomFichier.isEmpty());
+    frmPrinc->ActiveEmission(EmissionPossible());
     frmPrinc->ActiveFichier(true);
     MontreDonnee(frmPrinc->Label2, Document.TitreFichier);
     frmPrinc->Text1->show();
@@ -259,6 +265,8 @@ void SaveFile(const QString &path)
     }
     TitreFenetre(Document.NomFichier);
     MontreDonnee(frmPrinc->Label2, Document.TitreFichier);
+    if (EmissionPossible())
+        frmPrinc->ActiveEmission(true);
     Document.FichierModifie = false;
     RetireEnCours();
 }

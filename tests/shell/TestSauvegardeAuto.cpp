@@ -216,11 +216,13 @@ private Q_SLOTS:
     }
 
     // At rest the text stands in one file, written anew after a while only; the saving takes it away, and lets a new
-    // program be printed.
+    // program be printed and sent.
     void Repos()
     {
         Atelier atelier;
         atelier.Redemarre();
+        EtatConf.lue = true;
+        EtatConf.FicConf = u"M.par"_s;
         const QByteArray octets = TousLesOctets() + "\r\r\n\n";
         frmPrinc->Text1->setText(TexteDe1252("X" + octets));
         auto *const repos = frmPrinc->findChild<QTimer *>(u"ReposSauvegarde"_s);
@@ -237,8 +239,8 @@ private Q_SLOTS:
         Operateur::Menu("Mnu_EnregistrerSous");
         QCOMPARE(atelier.Gardes(), QByteArrayList());
         QVERIFY(!repos->isActive());
-        QVERIFY(Operateur::Offre("Mnu_Imprim"));
-        QVERIFY(frmPrinc->Bouton(5)->isEnabled());
+        for (const char *const entree : {"Mnu_Imprim", "Toolbar1_5", "Toolbar1_9"})
+            QVERIFY2(Operateur::Offre(entree), entree);
     }
 
     // Another copy of the program, whose text is changed, is killed, or asked by the system to end. While it lives its
