@@ -107,6 +107,8 @@ void FrmCaract::Form_Load()
         SuitChaine();
         if (!saisi.isEmpty() && !EstEn1252(saisi.at(0)))
             RefuseCaractere();
+        else
+            RetireAvis();
     });
     connect(Command6, &QPushButton::clicked, this, &FrmCaract::Command6_Click);
     connect(Command7, &QPushButton::clicked, this, &FrmCaract::Command7_Click);

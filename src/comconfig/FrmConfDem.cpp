@@ -1,7 +1,7 @@
 #include "comconfig/FrmConfDem.h"
 
 #include "comconfig/CommandesConf.h"
-#include "comconfig/DossierMontre.h"
+#include "comconfig/CheminMontre.h"
 #include "donnees/Chemins.h"
 #include "donnees/Reglages.h"
 #include "locale/Legendes.h"
@@ -31,7 +31,7 @@ void FrmConfDem::Form_Activate()
 {
     MontreDossier(LblDos, Reglages.DosDefaut);
     Check1->setChecked(Reglages.OptDosDefaut == 1);
-    LblNomConf->setText(Reglages.FicConfDefaut);
+    MontreFichier(LblNomConf, Reglages.FicConfDefaut);
     Check2->setChecked(Reglages.OptConfDefaut == 1);
     Check3->setChecked(Reglages.OptExplorateur == 1);
     if (Reglages.DosConf.isEmpty())
@@ -52,7 +52,7 @@ void FrmConfDem::ChoisitDossier(LabelElide *montre, LigneNom ligne)
 void FrmConfDem::Command2_Click()
 {
     Saute([this] {
-        LblNomConf->setText(ChoisitFichierPar(Reglages.DosConf));
+        MontreFichier(LblNomConf, ChoisitFichierPar(Reglages.DosConf));
         AnnonceNomPerdu(LblNomConf->text(), LigneNom::Citee, windowTitle());
     });
 }

@@ -1,6 +1,6 @@
 #include "comconfig/VueProp.h"
 
-#include "comconfig/DossierMontre.h"
+#include "comconfig/CheminMontre.h"
 #include "comconfig/PortsPC.h"
 #include "donnees/ParamCom.h"
 #include "donnees/Reglages.h"

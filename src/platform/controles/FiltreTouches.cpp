@@ -203,6 +203,11 @@ void MontreAvis(QLineEdit *saisie, const QString &avis)
     QToolTip::showText(saisie->mapToGlobal(QPoint(0, saisie->height() / 2)), avis, saisie);
 }
 
+void RetireAvis()
+{
+    QToolTip::hideText();
+}
+
 void SelectionneAuClic(QLineEdit *saisie)
 {
     saisie->installEventFilter(new SelectionAuClic(saisie));

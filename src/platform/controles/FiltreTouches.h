@@ -27,8 +27,10 @@ void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis);
 /// its notice shown again, and the caller must not use the numbers.
 bool RetientVirgule(QWidget *fenetre);
 
-/// Shows avis beside a box, with a beep, to say that the input was not accepted.
+/// Shows avis beside a box, with a beep, to say that the input was not accepted. RetireAvis() takes it away before its
+/// time, once the input has been corrected.
 void MontreAvis(QLineEdit *saisie, const QString &avis);
+void RetireAvis();
 
 /// Makes a click in a box select all of its text, as Tab does, so that typing replaces it. A full box would take no key
 /// otherwise.
