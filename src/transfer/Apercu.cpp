@@ -3,6 +3,7 @@
 #include "donnees/ParamCom.h"
 #include "donnees/Transfert.h"
 #include "locale/Comptes.h"
+#include "platform/base/FinsDeLigne.h"
 #include "platform/base/PageCode1252.h"
 #include "platform/dialogues/Boites.h"
 #include "platform/serie/MSComm.h"
@@ -64,17 +65,6 @@ struct Apercu
 bool EstFin(QChar c)
 {
     return c == u'\r' || c == u'\n';
-}
-
-/// The number of lines as an operator counts them: CR, LF and CR LF each end a line.
-qint64 NombreLignes(const QString &texte)
-{
-    qint64 lignes = 0;
-    for (qsizetype i = 0; i < texte.size(); ++i) {
-        if (texte[i] == u'\r' || (texte[i] == u'\n' && (i == 0 || texte[i - 1] != u'\r')))
-            ++lignes;
-    }
-    return lignes + (texte.isEmpty() || EstFin(texte.back()) ? 0 : 1);
 }
 
 /// The first line of texte with something to read, from its first visible character on. Empty if there is none.

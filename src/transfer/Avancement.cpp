@@ -9,9 +9,12 @@ namespace {
 
 constexpr qint64 PasAffichage = 200;  // milliseconds between two repaints
 constexpr qint64 PremierTemps = 1000; // milliseconds; before that the pace says too little about the time left
+constexpr qint64 Patience = 3000;     // milliseconds without a character, many times the time of one at any speed
 constexpr int Pleine = 1000;          // the full bar
 
 constexpr Texte3 Reste{u"%1  -  reste %2", u"%1  -  %2 left", u"%1  -  faltan %2"};
+constexpr Texte3 Attend{u"%1  -  en attente de la machine", u"%1  -  waiting for the machine",
+                        u"%1  -  esperando a la máquina"};
 
 } // namespace
 
@@ -44,15 +47,24 @@ QString Avancement::EnPourCent() const
 void Avancement::Montre(qint64 faits)
 {
     faits = std::clamp<qint64>(faits, 0, m_total);
-    m_faits = faits;
     const qint64 maintenant = m_depuis.elapsed();
-    const bool complet = faits == m_total;
-    if (m_total == 0 || (m_dernierAffichage >= 0 && maintenant - m_dernierAffichage < PasAffichage && !complet))
+    const bool fini = faits == m_total && m_faits != m_total;
+    if (faits != m_faits)
+        m_progres = maintenant;
+    m_faits = faits;
+    if (m_total == 0 || (m_dernierAffichage >= 0 && maintenant - m_dernierAffichage < PasAffichage && !fini))
         return;
     m_dernierAffichage = maintenant;
     m_place = static_cast<int>(faits * Pleine / m_total);
-    Affiche(complet || faits == 0 || maintenant < PremierTemps ? EnPourCent()
-                                                               : Texte(Reste).arg(EnPourCent(), TempsRestant()));
+    Affiche(Dit(maintenant));
+}
+
+QString Avancement::Dit(qint64 maintenant) const
+{
+    if (maintenant - m_progres >= Patience)
+        return Texte(Attend).arg(EnPourCent());
+    const bool sansReste = m_faits == m_total || m_faits == 0 || maintenant < PremierTemps;
+    return sansReste ? EnPourCent() : Texte(Reste).arg(EnPourCent(), TempsRestant());
 }
 
 QString Avancement::TempsRestant() const

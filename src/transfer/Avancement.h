@@ -5,8 +5,8 @@
 
 class VueTransfert;
 
-/// Shows in the progress bar how far a transfer is, and the time left at its pace so far. It repaints a few times a
-/// second at most, so that the line never waits for the screen.
+/// Shows in the progress bar how far a transfer is, and the time left at its pace so far, or that the machine lets it
+/// wait. It repaints a few times a second at most, so that the line never waits for the screen.
 class Avancement
 {
 public:
@@ -21,6 +21,8 @@ public:
 
 private:
     void Affiche(const QString &texte);
+    /// What the bar says. maintenant: milliseconds since the beginning.
+    QString Dit(qint64 maintenant) const;
     QString EnPourCent() const;
     QString TempsRestant() const;
 
@@ -28,6 +30,7 @@ private:
     qint64 m_total;
     qint64 m_faits = 0;
     int m_place = 0; // position of the bar, 0 to Pleine
+    qint64 m_progres = 0; // when m_faits last grew
     qint64 m_dernierAffichage = -1;
     QElapsedTimer m_depuis;
 };

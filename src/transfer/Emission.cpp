@@ -6,6 +6,7 @@
 #include "locale/Langue.h"
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Erreur.h"
+#include "platform/base/FinsDeLigne.h"
 #include "platform/base/Nombres.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
@@ -145,6 +146,7 @@ void Emission::AttendLigne()
     do {
         enRoute = Controle().EnRoute();
         Tourne();
+        m_avancement.Montre(m_ecrits);
     } while (enRoute != 0);
     Controle().ExigeVivant();
 }
@@ -207,20 +209,17 @@ void EnvoieBlocs(Emission &emission, const QString &texte)
     }
 }
 
-/// Brings an entry into the form in which it is sent. Every entry but the first begins with the LF of the line end
-/// before it, see CalculeLigne().
-void PrepareLigne(int numero)
+/// An entry in the form in which it is sent. Every entry but the first begins with the LF of the line end before it, see
+/// CalculeLigne().
+QString LigneAEmettre(int numero)
 {
-    QString &ligne = Lignes(numero);
-    ligne = SansBlancs(ligne);
-    if (numero != 1)
-        ligne = ligne.mid(1);
+    return SansBlancs(Lignes(numero)).mid(numero == 1 ? 0 : 1);
 }
 
 void EnvoieLignes(Emission &emission)
 {
     for (int numero = 1; numero <= Lignes.NbLignes; ++numero) {
-        PrepareLigne(numero);
+        Lignes(numero) = LigneAEmettre(numero);
         const QString ligne = Lignes(numero) + ParamCom.ChaineFinLig;
         if (Controle().PortOpen()) {
             frmPrinc->shpSend->setFillColor(Lampe::Verte);
@@ -232,13 +231,12 @@ void EnvoieLignes(Emission &emission)
     }
 }
 
-/// The number of characters that the lines of the table will send. Blanks at the ends of the text count, though they
-/// are not sent.
+/// The number of characters that the lines of the table will send.
 qint64 TailleLignes()
 {
     qint64 total = 0;
     for (int numero = 1; numero <= Lignes.NbLignes; ++numero)
-        total += Lignes(numero).size() - (numero == 1 ? 0 : 1) + ParamCom.ChaineFinLig.size();
+        total += LigneAEmettre(numero).size() + ParamCom.ChaineFinLig.size();
     return total;
 }
 
@@ -303,6 +301,7 @@ void EnvoiFich_Lig_Lig(VueTransfert &vue)
 
 LignesEnvoyees CompteLignesEnvoyees(const QString &texte)
 {
-    const qint64 total = texte.count(QLatin1String("\r\n")) + 1;
-    return {total > CapaciteLignes ? Lignes.NbLignes : total, total};
+    const qint64 total = NombreLignes(texte);
+    const bool tropLong = texte.count(QLatin1String("\r\n")) + 1 > CapaciteLignes;
+    return {tropLong ? Lignes.NbLignes : total, total};
 }

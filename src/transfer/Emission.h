@@ -19,7 +19,7 @@ void EnvoiFich_FinFich(VueTransfert &vue);
 /// sent.
 void EnvoiFich_Lig_Lig(VueTransfert &vue);
 
-/// How many of the lines of a text EnvoiFich_Lig_Lig() sends. An empty line behind the last line end counts.
+/// How many of the lines of a text EnvoiFich_Lig_Lig() sends, as an operator counts them.
 struct LignesEnvoyees
 {
     qint64 nombre;

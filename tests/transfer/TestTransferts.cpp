@@ -564,10 +564,10 @@ void TestTransferts::TropDeLignes()
             const auto joue = essai.Joue();
             QCOMPARE(joue.avis.size(), 1);
             QVERIFY2(joue.avis[0].texte.contains(avant == 0 ? u" Rien du programme ne partirait."_s
-                                                            : u" Partiraient seulement : 3 lignes sur 25\u202F001."_s),
+                                                            : u" Partiraient seulement : 3 lignes sur 25\u202F000."_s),
                      qPrintable(joue.avis[0].texte));
             QCOMPARE(joue.bilan.section(u'\n', 1),
-                     u"Le programme n'est pas parti en entier : %1 sur 25\u202F001 !"_s.arg(
+                     u"Le programme n'est pas parti en entier : %1 sur 25\u202F000 !"_s.arg(
                          avant == 0 ? u"0 ligne"_s : u"3 lignes"_s));
             QCOMPARE(essai.ligne->ecrits, QByteArray("N\r\n").repeated(avant) + FinTrans);
         }

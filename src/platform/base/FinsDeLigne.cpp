@@ -46,6 +46,16 @@ Troncon PremierTroncon(const QString &texte, qsizetype debut, qsizetype colonne)
     }
 }
 
+qint64 NombreLignes(const QString &texte)
+{
+    qint64 lignes = 0;
+    for (qsizetype i = 0; i < texte.size(); ++i) {
+        if (texte[i] == Cr || (texte[i] == Lf && (i == 0 || texte[i - 1] != Cr)))
+            ++lignes;
+    }
+    return lignes + (texte.isEmpty() || EstFinDeLigne(texte.back()) ? 0 : 1);
+}
+
 QString Normalise(const QString &texte)
 {
     auto c = std::find_if_not(texte.begin(), texte.end(), Passe);
