@@ -1,7 +1,7 @@
 #include "comconfig/FrmConfDem.h"
 
-#include "comconfig/CommandesConf.h"
 #include "comconfig/CheminMontre.h"
+#include "comconfig/CommandesConf.h"
 #include "donnees/Chemins.h"
 #include "donnees/Reglages.h"
 #include "locale/Legendes.h"

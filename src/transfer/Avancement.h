@@ -29,7 +29,7 @@ private:
     VueTransfert &m_vue;
     qint64 m_total;
     qint64 m_faits = 0;
-    int m_place = 0; // position of the bar, 0 to Pleine
+    int m_place = 0;      // position of the bar, 0 to Pleine
     qint64 m_progres = 0; // when m_faits last grew
     qint64 m_dernierAffichage = -1;
     QElapsedTimer m_depuis;

@@ -209,8 +209,8 @@ void EnvoieBlocs(Emission &emission, const QString &texte)
     }
 }
 
-/// An entry in the form in which it is sent. Every entry but the first begins with the LF of the line end before it, see
-/// CalculeLigne().
+/// An entry in the form in which it is sent. Every entry but the first begins with the LF of the line end before it,
+/// see CalculeLigne().
 QString LigneAEmettre(int numero)
 {
     return SansBlancs(Lignes(numero)).mid(numero == 1 ? 0 : 1);

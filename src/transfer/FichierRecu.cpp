@@ -23,7 +23,8 @@ constexpr Texte3 ResteRompu{
     u"The reception has failed, the text already received is not saved.\rSave it to a file ?",
     u"La recepción no ha terminado, el texto ya recibido no está guardado.\r¿Guardarlo en un fichero?"};
 constexpr Texte3 ResteTermine{
-    u"La réception est terminée, mais son fichier n'a pas été écrit.\rEnregistrer le texte reçu dans un autre fichier ?",
+    u"La réception est terminée, mais son fichier n'a pas été écrit.\rEnregistrer le texte reçu dans un autre fichier "
+    u"?",
     u"The reception is finished, but its file has not been written.\rSave the received text to another file ?",
     u"La recepción ha terminado, pero su fichero no se ha escrito.\r¿Guardar el texto recibido en otro fichero?"};
 
@@ -89,8 +90,7 @@ QString CommeFichierRecu(const QString &texte)
 
 void EcritFichierRecu(const QString &texte)
 {
-    EcritRecu(
-        [&](const QString &chemin) { EcritFichierTexte(chemin, CommeFichierRecu(texte), FichierCoupe::Part); });
+    EcritRecu([&](const QString &chemin) { EcritFichierTexte(chemin, CommeFichierRecu(texte), FichierCoupe::Part); });
 }
 
 void OublieFichierRecu()

@@ -127,7 +127,7 @@ void TestPannes::Coupures()
             if (dits.contains(Offre)) {
                 QCOMPARE(essai.poste.Lit("sauve.txt"), venu + "\r\n");
                 QVERIFY(joue.avis[1].texte.startsWith(position == total ? u"La réception est terminée, mais "_s
-                                                                       : u"La réception n'a pas abouti, "_s));
+                                                                        : u"La réception n'a pas abouti, "_s));
             }
             essai.VerifiePret();
             if (QTest::currentTestFailed())

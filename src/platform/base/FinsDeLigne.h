@@ -28,7 +28,8 @@ struct Troncon
 /// debut: a position in texte, never between CR and LF. colonne: number of characters that the row already holds.
 Troncon PremierTroncon(const QString &texte, qsizetype debut, qsizetype colonne);
 
-/// Number of lines as an operator counts them, whatever ends them. A line end at the end of texte begins no further one.
+/// Number of lines as an operator counts them, whatever ends them. A line end at the end of texte begins no further
+/// one.
 qint64 NombreLignes(const QString &texte);
 
 /// Returns texte with characters of code page 1252 only: the line and paragraph separators of Unicode become CR LF,

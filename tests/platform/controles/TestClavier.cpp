@@ -139,7 +139,8 @@ private Q_SLOTS:
         QCOMPARE(InputBox(u"?"_s, u"?"_s), u"o"_s);
     }
 
-    // A question goes by itself (|), and may leave a box in its place: the stroke that was meant for it presses nothing.
+    // A question goes by itself (|), and may leave a box in its place: the stroke that was meant for it presses
+    // nothing.
     void DemandeRetiree()
     {
         const std::pair<QString, bool> cas[] = {{u"P R"_s, false}, {u"+399 P R"_s, false}, {u"+400 P"_s, true}};
