@@ -7,6 +7,7 @@
 #include "platform/dialogues/Boites.h"
 #include "shell/FrmPrinc.h"
 
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPointer>
@@ -104,6 +105,23 @@ constexpr struct
 } PagesDesClasses[] = {
     {"QAbstractPrintDialog", u"impression"}, {"DialogueImprimante", u"impression"}, {"QFontDialog", u"impression"}};
 
+/// Section of the manual on what a file dialog of the main window asks for, by the ending in its list.
+constexpr struct
+{
+    const char16_t *fin;
+    const char16_t *page;
+} PagesDesFichiers[] = {{u"*.par", u"configurer"}, {u"*.mac", u"ConfMac"}};
+
+/// That section, "" for a program.
+QString PageDesFichiers(const QFileDialog &dialogue)
+{
+    const QString filtres = dialogue.nameFilters().join(u'|');
+    for (const auto &[fin, page] : PagesDesFichiers)
+        if (filtres.contains(QString::fromUtf16(fin), Qt::CaseInsensitive))
+            return QString::fromUtf16(page);
+    return {};
+}
+
 /// Section of the manual for a window: that of the tab shown, or its own, or for a dialog of the toolkit that of the
 /// window which opened it.
 QString PageDe(const QWidget *fenetre)
@@ -121,6 +139,10 @@ QString PageDe(const QWidget *fenetre)
     const bool nom = fenetre->inherits("QInputDialog");
     if (nom && parent == frmPrinc)
         return QStringLiteral("explorateur");
+    if (const auto *const fichiers = qobject_cast<const QFileDialog *>(fenetre); fichiers && parent == frmPrinc) {
+        if (const QString page = PageDesFichiers(*fichiers); !page.isEmpty())
+            return page;
+    }
     const bool demande = nom || fenetre->inherits("QFileDialog") || fenetre->inherits("QColorDialog");
     return demande && parent != nullptr ? PageDe(parent) : fenetre->objectName();
 }

@@ -134,8 +134,11 @@ private Q_SLOTS:
             fenetre.close();
         });
         FrmLangue(frmPrinc).exec();
-        const QList<std::pair<const char *, QString>> pages{
-            {"Mnu_Ouvrir", u"frmPrinc"_s}, {"Mnu_Police", u"impression"_s}, {"Mnu_ConfigIMP", u"impression"_s}};
+        const QList<std::pair<const char *, QString>> pages{{"Mnu_Ouvrir", u"frmPrinc"_s},
+                                                            {"Mnu_Police", u"impression"_s},
+                                                            {"Mnu_ConfigIMP", u"impression"_s},
+                                                            {"Mnu_ChargeConf", u"configurer"_s},
+                                                            {"Mn_ModifConfMac", u"ConfMac"_s}};
         for (const auto &[entree, page] : pages) {
             const auto passe = Passe(QLatin1String(entree));
             poste.Fait(u"CommonDialog", [page = page](QWidget &fenetre) {
