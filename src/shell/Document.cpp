@@ -16,6 +16,7 @@
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
 #include "shell/ProgrammesExternes.h"
+#include "shell/SauvegardeAuto.h"
 
 #include <QDir>
 
@@ -164,11 +165,12 @@ void TitreFenetre(const QString &nom)
 void Mnu_Nouveau()
 {
     AppliqueLangue();
-    if (Document.FichierModifie)
-        ProposeEnregistrement();
+    const bool nonEnregistre = Document.FichierModifie && !ProposeEnregistrement();
     if (!Confirme(Texte(NouveauTexte) + QStringLiteral("\r\n") + Texte(NouveauQuestion), Boite::Exclamation,
                   Texte(NouveauTitre)))
         return;
+    if (nonEnregistre)
+        RetientTexteFinal(true);
     frmPrinc->Text1->setText(QString());
     frmPrinc->Text1->show(); // a reception too large for the pane may have hidden it
     frmPrinc->Mnu_Annuler->setEnabled(false);

@@ -14,8 +14,8 @@ void BrancheSauvegardeAuto();
 /// text into the pane triggers this by itself.
 QString RetientTexte();
 
-/// Keeps the text at the end of the program. nonEnregistre: the operator wanted to save it and that failed; he is then
-/// told where it is kept, or that it is lost.
+/// Keeps the text at the end of the program, or before a new text begins. nonEnregistre: the operator wanted to save it
+/// and that failed or he gave it up; he is then told where it is kept, or that it is lost.
 void RetientTexteFinal(bool nonEnregistre);
 
 /// Offers the texts that crashed runs of the program have left, at the start. It asks for each, the newest first,
