@@ -65,13 +65,11 @@ QString Rang(int place)
     return QStringLiteral("    N° ") + QString::number(place);
 }
 
-/// True if a field is not exactly one number with blanks around it. If the line has garbled a digit, the number read is
-/// not the one that the bench has sent.
+/// True if a field is not exactly one number with blanks around it. A bench prints no exponent: an E stands there for a
+/// garbled digit. The number read is then not the one that the bench has sent.
 bool EstDouteux(const QString &champ)
 {
-    static const QRegularExpression nombre(
-        QStringLiteral(R"(\A[ \t]*[+-]?[ \t]*(\d+\.?\d*|\.\d+)(E[+-]?\d+)?[ \t]*\z)"),
-        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression nombre(QStringLiteral(R"(\A[ \t]*[+-]?[ \t]*(\d+\.?\d*|\.\d+)[ \t]*\z)"));
     return !nombre.match(champ).hasMatch() || EstTropGrand(champ);
 }
 

@@ -133,6 +133,9 @@ private Q_SLOTS:
                     saisie->setText(reponse);
                     dynamic_cast<QDialog &>(boite).done(reponse.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
                 });
+            if (recu == u"-9E4")
+                atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont écrites ainsi :\r    N° 2, "
+                                                   u"correcteur -1 : correcteur \"-9E4\" pris pour -1"_s);
             QCOMPARE(atelier.Filtre({Mesure(u"32"_s, u"1"_s, u"1"_s, u"R"_s), Mesure(recu, u"2"_s, u"2"_s, u"R"_s)}, 2),
                      "%\r\nD32 L1 R1\r\nD"_ba + numero + " L2 R2\r\n");
         }
