@@ -3,7 +3,7 @@
 #include "machine/MachineSimulee.h"
 #include "machine/Options.h"
 #include "platform/fichiers/FichierTexte.h"
-#include "platform/serie/LignePosix.h"
+#include "platform/serie/posix/LignePosix.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

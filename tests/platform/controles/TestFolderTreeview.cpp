@@ -2,7 +2,7 @@
 #include "platform/controles/FileListBox.h"
 #include "platform/controles/FolderTreeview.h"
 #include "platform/controles/GuetteurDossiers.h"
-#include "platform/controles/VolumesPosix.h"
+#include "platform/controles/posix/VolumesPosix.h"
 #include "platform/fichiers/Dossiers.h"
 #include "platform/fichiers/FichierTexte.h"
 

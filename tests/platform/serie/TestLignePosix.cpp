@@ -3,8 +3,8 @@
 #include "platform/serie/AppelsSysteme.h"
 #include "platform/serie/DecodeurMarques.h"
 #include "platform/serie/ErreurPort.h"
-#include "platform/serie/LignePosix.h"
-#include "platform/serie/TerminalPosix.h"
+#include "platform/serie/posix/LignePosix.h"
+#include "platform/serie/posix/TerminalPosix.h"
 
 #include <QDir>
 #include <QTemporaryDir>

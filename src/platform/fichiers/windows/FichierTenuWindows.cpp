@@ -1,6 +1,6 @@
 #include "platform/fichiers/FichierTenu.h"
 
-#include "platform/fichiers/CheminWindows.h"
+#include "platform/fichiers/windows/CheminWindows.h"
 
 #include <QFile>
 

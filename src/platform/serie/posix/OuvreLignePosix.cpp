@@ -3,7 +3,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/base/Journal.h"
 #include "platform/serie/ErreurPort.h"
-#include "platform/serie/LignePosix.h"
+#include "platform/serie/posix/LignePosix.h"
 
 #include <QDir>
 #include <QFile>

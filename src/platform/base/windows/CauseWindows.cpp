@@ -1,6 +1,6 @@
 #include "platform/base/Cause.h"
 
-#include "platform/base/CauseWindows.h"
+#include "platform/base/windows/CauseWindows.h"
 
 namespace {
 

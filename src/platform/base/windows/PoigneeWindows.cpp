@@ -1,4 +1,4 @@
-#include "platform/base/PoigneeWindows.h"
+#include "platform/base/windows/PoigneeWindows.h"
 
 #include <windows.h>
 

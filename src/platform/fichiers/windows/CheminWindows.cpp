@@ -1,4 +1,4 @@
-#include "platform/fichiers/CheminWindows.h"
+#include "platform/fichiers/windows/CheminWindows.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "platform/controles/VolumesPosix.h"
+#include "platform/controles/posix/VolumesPosix.h"
 
 #include "platform/controles/Volumes.h"
 

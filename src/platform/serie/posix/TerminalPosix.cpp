@@ -1,4 +1,4 @@
-#include "platform/serie/TerminalPosix.h"
+#include "platform/serie/posix/TerminalPosix.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Reprise.h"

@@ -1,4 +1,4 @@
-#include "platform/serie/PeripheriqueWindows.h"
+#include "platform/serie/windows/PeripheriqueWindows.h"
 
 #include <QScopeGuard>
 

@@ -1,9 +1,9 @@
 #include "platform/fichiers/Dossiers.h"
 
-#include "platform/base/CauseWindows.h"
 #include "platform/base/Erreur.h"
 #include "platform/base/Journal.h"
-#include "platform/fichiers/CheminWindows.h"
+#include "platform/base/windows/CauseWindows.h"
+#include "platform/fichiers/windows/CheminWindows.h"
 
 #include <QDir>
 #include <QFileInfo>

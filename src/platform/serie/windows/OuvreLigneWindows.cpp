@@ -1,8 +1,8 @@
 #include "platform/serie/OuvreLigne.h"
 
 #include "platform/base/Journal.h"
-#include "platform/serie/LigneWindows.h"
-#include "platform/serie/PeripheriqueWindows.h"
+#include "platform/serie/windows/LigneWindows.h"
+#include "platform/serie/windows/PeripheriqueWindows.h"
 
 #include <array>
 

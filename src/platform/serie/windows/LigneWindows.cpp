@@ -1,7 +1,7 @@
-#include "platform/serie/LigneWindows.h"
+#include "platform/serie/windows/LigneWindows.h"
 
-#include "platform/base/CauseWindows.h"
 #include "platform/base/Erreur.h"
+#include "platform/base/windows/CauseWindows.h"
 #include "platform/serie/ErreurPort.h"
 
 #include <QWinEventNotifier>

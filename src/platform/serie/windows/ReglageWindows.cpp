@@ -1,4 +1,4 @@
-#include "platform/serie/ReglageWindows.h"
+#include "platform/serie/windows/ReglageWindows.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/serie/CaracteresFlux.h"

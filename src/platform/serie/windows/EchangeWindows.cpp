@@ -1,7 +1,7 @@
-#include "platform/serie/EchangeWindows.h"
+#include "platform/serie/windows/EchangeWindows.h"
 
 #include "platform/base/Erreur.h"
-#include "platform/base/PoigneeWindows.h"
+#include "platform/base/windows/PoigneeWindows.h"
 #include "platform/serie/ErreurPort.h"
 
 #include <windows.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/base/PoigneeWindows.h"
-#include "platform/serie/EchangeWindows.h"
+#include "platform/base/windows/PoigneeWindows.h"
 #include "platform/serie/LigneSerie.h"
-#include "platform/serie/ReglageWindows.h"
+#include "platform/serie/windows/EchangeWindows.h"
+#include "platform/serie/windows/ReglageWindows.h"
 
 #include <memory>
 #include <vector>

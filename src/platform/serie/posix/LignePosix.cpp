@@ -1,9 +1,9 @@
-#include "platform/serie/LignePosix.h"
+#include "platform/serie/posix/LignePosix.h"
 
 #include "platform/base/Erreur.h"
 #include "platform/base/Reprise.h"
 #include "platform/serie/ErreurPort.h"
-#include "platform/serie/TerminalPosix.h"
+#include "platform/serie/posix/TerminalPosix.h"
 
 #include <QFile>
 #include <QFileInfo>

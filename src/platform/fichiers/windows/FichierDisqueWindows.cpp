@@ -1,8 +1,8 @@
 #include "platform/fichiers/FichierDisque.h"
 
-#include "platform/base/CauseWindows.h"
 #include "platform/base/Erreur.h"
-#include "platform/fichiers/CheminWindows.h"
+#include "platform/base/windows/CauseWindows.h"
+#include "platform/fichiers/windows/CheminWindows.h"
 
 #include <QScopeGuard>
 
