@@ -1,4 +1,4 @@
-#include "platform/dialogues/ModaleWindows.h"
+#include "platform/dialogues/windows/ModaleWindows.h"
 
 ModaleWindows::ModaleWindows(QWidget *fenetre)
     : m_ombre(fenetre)

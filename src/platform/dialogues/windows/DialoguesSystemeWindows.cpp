@@ -1,7 +1,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/dialogues/DialoguesSysteme.h"
-#include "platform/dialogues/ModaleWindows.h"
-#include "platform/dialogues/ReglageImprimanteWindows.h"
+#include "platform/dialogues/windows/ModaleWindows.h"
+#include "platform/dialogues/windows/ReglageImprimanteWindows.h"
 
 #include <QFileDialog>
 #include <QFontInfo>

@@ -1,4 +1,4 @@
-#include "platform/dialogues/ReglageImprimanteWindows.h"
+#include "platform/dialogues/windows/ReglageImprimanteWindows.h"
 
 #include <QPrinter>
 
