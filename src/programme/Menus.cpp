@@ -21,6 +21,7 @@
 #include "shell/FrmPrinc.h"
 #include "shell/Impression.h"
 #include "shell/MenuEdition.h"
+#include "shell/Nouveau.h"
 #include "shell/Police.h"
 #include "shell/SauvegardeAuto.h"
 #include "transfer/CommandesTransfert.h"

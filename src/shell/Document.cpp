@@ -16,7 +16,6 @@
 #include "shell/FrmPrinc.h"
 #include "shell/NomsPerdus.h"
 #include "shell/ProgrammesExternes.h"
-#include "shell/SauvegardeAuto.h"
 
 #include <QDir>
 
@@ -34,9 +33,6 @@ constexpr Texte3 ModifieAvant{u"Fichier ", u"File ", u"Fichero "};
 constexpr Texte3 ModifieApres{u" modifié !", u" modified !", u" modificado !"};
 constexpr Texte3 ModifieQuestion{u"            Enregistrer le fichier ? ", u"            Save files ? ",
                                  u"            Enregsi el fichero ? "};
-constexpr Texte3 NouveauTitre{u"Nouveau fichier ?", u"New file ?", u"Nuevo fichero ?"};
-constexpr Texte3 NouveauTexte{u"Nouveau fichier", u"New file", u"Nuevo fichero"};
-constexpr Texte3 NouveauQuestion{u"        Confirmez ? ", u"        Confirm ? ", u"        Confirme ? "};
 
 constexpr Texte3 ErreurTitre{u"Erreur", u"Error", u"Error"};
 constexpr Texte3 ErreurEnregistrement{u"Erreur lors de l'enregistrement du fichier",
@@ -85,17 +81,6 @@ void ProposeTraitementDeTexte(const QString &chemin)
     if (Confirme(Texte(OuvertureAvant) + NomSeul(chemin) + Texte(OuvertureSuite), Boite::Information,
                  Texte(OuvertureTitre)))
         OuvreAvecTraitementDeTexte(chemin);
-}
-
-/// Offers to save a changed text. False when the operator wanted that and it failed; he has been told.
-bool ProposeEnregistrement()
-{
-    if (Document.NomFichier.isEmpty())
-        Document.NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
-    const QString question = Texte(ModifieAvant) + Document.NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") +
-                             Texte(ModifieQuestion);
-    // The question takes no Escape: a stray key must not lose the text to a dropped file.
-    return !Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)) || EnregistreSurPlace();
 }
 
 /// Enables the commands for a text that has a file: print and external editor.
@@ -162,21 +147,19 @@ void TitreFenetre(const QString &nom)
     MontreDonnee(frmPrinc, QString::fromUtf16(Version) + nom);
 }
 
-void Mnu_Nouveau()
+QString NomNouveauDocument()
 {
-    AppliqueLangue();
-    const bool nonEnregistre = Document.FichierModifie && !ProposeEnregistrement();
-    if (!Confirme(Texte(NouveauTexte) + QStringLiteral("\r\n") + Texte(NouveauQuestion), Boite::Exclamation,
-                  Texte(NouveauTitre)))
-        return;
-    if (nonEnregistre)
-        RetientTexteFinal(true);
-    frmPrinc->Text1->setText(QString());
-    frmPrinc->Text1->show(); // a reception too large for the pane may have hidden it
-    frmPrinc->Mnu_Annuler->setEnabled(false);
-    TitreFenetre(Texte(NomNouveau));
-    Document.FichierModifie = false;
-    Document.NomFichier = Texte(NomNouveau);
+    return Texte(NomNouveau);
+}
+
+bool ProposeEnregistrement()
+{
+    if (Document.NomFichier.isEmpty())
+        Document.NomFichier = AjouteAntislash(QDir::toNativeSeparators(QDir::currentPath())) + Texte(NomNouveau);
+    const QString question = Texte(ModifieAvant) + Document.NomFichier + Texte(ModifieApres) + QStringLiteral("\r\n") +
+                             Texte(ModifieQuestion);
+    // The question takes no Escape: a stray key must not lose the text to a dropped file.
+    return !Confirme(question, Boite::Exclamation | Boite::ChoixExige, Texte(ModifieTitre)) || EnregistreSurPlace();
 }
 
 void OuvreDepose(const QString &chemin)

@@ -15,6 +15,13 @@ void BrancheDocument();
 /// True when the text of the pane has changed since it was loaded or saved, and is not empty.
 bool TexteModifie();
 
+/// The name of a new program, without a folder.
+QString NomNouveauDocument();
+
+/// Asks the operator whether to save a changed text, and saves it under the document's own name, or a new one where it
+/// has none. False when he wanted that and it was not done; he has been told of a failure.
+bool ProposeEnregistrement();
+
 /// Sets the title of the main window: the program's name, its version and nom.
 void TitreFenetre(const QString &nom);
 
@@ -43,7 +50,6 @@ void OuvreDocument(const QString &chemin);
 /// offered to be saved, and when that fails the former document stays.
 void OuvreDepose(const QString &chemin);
 
-// The commands of the menu: new text, open a file, save under a name.
-void Mnu_Nouveau();
+// The commands of the menu: open a file, save under a name.
 void Mnu_Ouvrir();
 void Mnu_EnregistrerSous();

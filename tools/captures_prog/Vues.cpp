@@ -22,6 +22,7 @@
 #include "shell/FrmLangue.h"
 #include "shell/FrmPrinc.h"
 #include "shell/Impression.h"
+#include "shell/Nouveau.h"
 #include "shell/Police.h"
 #include "transfer/Confirmation.h"
 #include "transfer/Em_Rc.h"
