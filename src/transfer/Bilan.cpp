@@ -102,6 +102,9 @@ constexpr Texte3 Sauve{u"Texte reçu enregistré : ", u"Received text saved: ", 
 constexpr Texte3 FinCollee{u"La fin de transfert est arrivée collée à une ligne : forcer la fin de réception.",
                            u"The end of transfer has come stuck to a line: force the end of receiving.",
                            u"El final de transferencia ha llegado pegado a una línea: forzar el final de recepción."};
+constexpr Texte3 FinColleeRecue{u"La fin de transfert est arrivée collée à une ligne : relire le fichier.",
+                                u"The end of transfer came stuck to a line: read the file through.",
+                                u"El final de transferencia llegó pegado a una línea: releer el fichero."};
 constexpr Texte3 FinJetee{u"Caractères jetés, la fin de transfert parmi eux : forcer la fin de réception.",
                           u"Characters thrown away, the end of transfer among them: force the end of receiving.",
                           u"Caracteres descartados, el final de transferencia entre ellos: forzar el final de "
@@ -142,6 +145,15 @@ QStringList FautesEnClair()
             textes << texte;
     }
     return textes;
+}
+
+/// What stays to be told when the transfer is over.
+QStringList AlertesFinales()
+{
+    QStringList alertes = FautesEnClair();
+    if (pertes.finCollee)
+        alertes << Texte(FinColleeRecue);
+    return alertes;
 }
 
 QString PortFerme()
@@ -227,12 +239,12 @@ void MontreBilan(VueTransfert &vue, Issue issue, const QStringList &manques)
     QString passe = Passe(emission);
     if (rompu && !(emission && pertes.sansPort))
         passe.prepend(emission ? Texte(EmissionInterrompue) : Texte(FichierNonEcrit).arg(Transfert.NomFicRecep));
-    const QStringList alertes = manques + FautesEnClair();
+    const QStringList alertes = manques + AlertesFinales();
     vue.Bilan((QStringList(passe) + alertes).join(u'\n'), rompu || pertes.sansPort || !alertes.isEmpty());
 }
 
 void MontreSauve(VueTransfert &vue, const QString &chemin)
 {
     const QString lieu = Texte(Sauve) + vue.CoupePourBilan(chemin, Texte(Sauve), Qt::ElideMiddle);
-    vue.Bilan((QStringList{lieu, Passe(false)} + FautesEnClair()).join(u'\n'), true);
+    vue.Bilan((QStringList{lieu, Passe(false)} + AlertesFinales()).join(u'\n'), true);
 }

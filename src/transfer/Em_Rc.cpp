@@ -265,7 +265,9 @@ void Em_Rc::Command3_Click()
         MontreConfigurationChoisie();
         ChoisitFinLigneRecep();
     });
-    MontreApercu(m_vue); // a file that could not be read to its end has changed the configuration too
+    // A file that could not be read to its end has changed the configuration too.
+    m_vue.MontreEcho();
+    MontreApercu(m_vue);
 }
 
 void Em_Rc::Command5_Click()
