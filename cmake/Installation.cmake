@@ -2,6 +2,7 @@
 # and samples beside it as in the build. The simulated machine is installed too, so that a newcomer can try the program.
 
 include(GNUInstallDirs)
+include(cmake/Paquet.cmake)
 set(PAQUET ${PROJECT_SOURCE_DIR}/paquet)
 set(FABRIQUE ${PROJECT_BINARY_DIR}/paquet)
 set(DOSSIER_PROGRAMME lib/dorvanel)
@@ -62,16 +63,12 @@ add_custom_target(a_installer ALL DEPENDS ${IMAGES} ${COMPRIMES})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dorvanel)
-set(CPACK_PACKAGE_VENDOR Dorvanel)
-set(CPACK_PACKAGE_CONTACT "Dorvanel <dorvanel@dorvanel.example>")
-set(CPACK_PACKAGE_HOMEPAGE_URL https://dorvanel.example/Dorvanel/index.html)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "loads and unloads CN programs of machine tools")
+set(CPACK_PACKAGE_CONTACT "Dorvanel <${COURRIEL}>")
 set(CPACK_PACKAGE_DESCRIPTION "Dorvanel Pro sends and receives CN programs between a PC and a machine
 tool over a serial line, exact to the byte, and writes tool gauge files
 from the measures of a presetting bench. It speaks French, English and
 Spanish.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

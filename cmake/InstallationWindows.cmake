@@ -1,6 +1,7 @@
 # The installer and the zip for Windows (cpack). They hold the program folder: the program, the manuals, the samples, the
 # libraries that DossierWindows.cmake lays beside them, and the terms of all of these.
 
+include(cmake/Paquet.cmake)
 set(PAQUET ${PROJECT_SOURCE_DIR}/paquet/windows)
 set(FABRIQUE ${PROJECT_BINARY_DIR}/paquet)
 
@@ -32,13 +33,10 @@ endforeach()
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON) # the tests for Windows are no part of it
 set(CPACK_GENERATOR NSIS ZIP)
 set(CPACK_PACKAGE_NAME "Dorvanel Pro")
-set(CPACK_PACKAGE_VENDOR Dorvanel)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "loads and unloads CN programs of machine tools")
 set(CPACK_PACKAGE_FILE_NAME dorvanel_${PROJECT_VERSION}_windows)
 set(CPACK_PACKAGE_INSTALL_DIRECTORY "Dorvanel Pro")
 set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY "Dorvanel Pro")
 set(CPACK_PACKAGE_EXECUTABLES dorvanel "Dorvanel Pro")
-set(CPACK_STRIP_FILES ON)
 
 # The installer is a 64-bit program itself: a 32-bit one would look for the program in the wrong Program Files.
 set(CPACK_NSIS_DEFINES "Target amd64-unicode
@@ -56,7 +54,7 @@ set(CPACK_NSIS_INSTALLED_ICON_NAME dorvanel.exe)
 set(CPACK_NSIS_MUI_ICON ${ICONE})
 set(CPACK_NSIS_MUI_UNIICON ${ICONE})
 set(CPACK_NSIS_IGNORE_LICENSE_PAGE ON)
-set(CPACK_NSIS_URL_INFO_ABOUT https://dorvanel.example/Dorvanel/index.html)
-set(CPACK_NSIS_CONTACT dorvanel@dorvanel.example)
+set(CPACK_NSIS_URL_INFO_ABOUT ${CPACK_PACKAGE_HOMEPAGE_URL})
+set(CPACK_NSIS_CONTACT ${COURRIEL})
 set(CPACK_VERBATIM_VARIABLES ON)
 include(CPack)
