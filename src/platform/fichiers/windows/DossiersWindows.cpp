@@ -4,6 +4,7 @@
 #include "platform/base/Journal.h"
 #include "platform/base/windows/CauseWindows.h"
 #include "platform/fichiers/windows/CheminWindows.h"
+#include "platform/fichiers/windows/OuvertureWindows.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -97,14 +98,12 @@ bool Retire(const Entree &entree)
 /// The path at which the system opens chemin. drapeaux: those of CreateFileW.
 QString PlaceOuverte(const std::wstring &chemin, DWORD drapeaux)
 {
-    const HANDLE entree =
-        CreateFileW(chemin.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | drapeaux, nullptr);
-    if (entree == INVALID_HANDLE_VALUE)
+    const PoigneeWindows entree =
+        OuvreEntree(chemin, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | drapeaux);
+    if (!entree)
         Echoue(chemin);
-    const auto fermeture = qScopeGuard([entree] { CloseHandle(entree); });
     std::vector<wchar_t> place(LongueurChemin);
-    const DWORD longueur = GetFinalPathNameByHandleW(entree, place.data(), static_cast<DWORD>(place.size()),
+    const DWORD longueur = GetFinalPathNameByHandleW(entree.get(), place.data(), static_cast<DWORD>(place.size()),
                                                      FILE_NAME_OPENED | VOLUME_NAME_NT);
     if (longueur == 0 || longueur >= place.size())
         Echoue(chemin);

@@ -3,6 +3,7 @@
 #include "platform/base/Erreur.h"
 #include "platform/base/windows/CauseWindows.h"
 #include "platform/fichiers/windows/CheminWindows.h"
+#include "platform/fichiers/windows/OuvertureWindows.h"
 
 #include <QScopeGuard>
 
@@ -38,13 +39,6 @@ ModeOuverture Mode(FichierDisque::Usage usage)
     return {0, 0};
 }
 
-/// Other programs may read, write, rename and delete the file meanwhile, as on other systems.
-HANDLE Ouvre(const std::wstring &chemin, ModeOuverture mode)
-{
-    return CreateFileW(chemin.c_str(), mode.acces, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                       mode.creation, FILE_ATTRIBUTE_NORMAL, nullptr);
-}
-
 /// Windows reports a folder opened as a file as a lack of rights. Here it gets its own cause.
 DWORD CauseOuverture(const std::wstring &chemin)
 {
@@ -58,14 +52,9 @@ DWORD CauseOuverture(const std::wstring &chemin)
 
 struct FichierDisque::Systeme
 {
-    Systeme() = default;
-    ~Systeme() { Ferme(); }
-    Q_DISABLE_COPY_MOVE(Systeme)
-
     void Ecrit(const QByteArray &octets) const;
-    void Ferme();
 
-    HANDLE fichier = nullptr;
+    PoigneeWindows fichier;
 };
 
 FichierDisque::FichierDisque(const QString &chemin, Usage usage)
@@ -74,13 +63,14 @@ FichierDisque::FichierDisque(const QString &chemin, Usage usage)
     if (!NomPossible(chemin))
         Echoue(ERROR_INVALID_NAME);
     const std::wstring entier = CheminSysteme(chemin);
-    const HANDLE fichier = Ouvre(entier, Mode(usage));
-    if (fichier == INVALID_HANDLE_VALUE)
+    const ModeOuverture mode = Mode(usage);
+    PoigneeWindows &fichier = m_systeme->fichier;
+    fichier = OuvreEntree(entier, mode.acces, mode.creation);
+    if (!fichier)
         Echoue(CauseOuverture(entier));
-    m_systeme->fichier = fichier;
-    if (usage == Usage::Ecrit && SetEndOfFile(fichier) == 0)
+    if (usage == Usage::Ecrit && SetEndOfFile(fichier.get()) == 0)
         Echoue();
-    if (usage == Usage::Ajoute && SetFilePointerEx(fichier, {}, nullptr, FILE_END) == 0)
+    if (usage == Usage::Ajoute && SetFilePointerEx(fichier.get(), {}, nullptr, FILE_END) == 0)
         Echoue();
 }
 
@@ -89,7 +79,7 @@ FichierDisque::~FichierDisque() = default;
 qint64 FichierDisque::Taille() const
 {
     LARGE_INTEGER taille{};
-    return GetFileSizeEx(m_systeme->fichier, &taille) != 0 ? taille.QuadPart : 0;
+    return GetFileSizeEx(m_systeme->fichier.get(), &taille) != 0 ? taille.QuadPart : 0;
 }
 
 QByteArray FichierDisque::LitTout()
@@ -99,7 +89,7 @@ QByteArray FichierDisque::LitTout()
     for (DWORD lus = 1; lus != 0;) {
         const qsizetype avant = octets.size();
         octets.resize(avant + std::min<qsizetype>(Morceau, std::max<qsizetype>(Taille() - avant, 1)));
-        if (ReadFile(m_systeme->fichier, octets.data() + avant, static_cast<DWORD>(octets.size() - avant), &lus,
+        if (ReadFile(m_systeme->fichier.get(), octets.data() + avant, static_cast<DWORD>(octets.size() - avant), &lus,
                      nullptr) == 0)
             Echoue();
         octets.truncate(avant + static_cast<qsizetype>(lus));
@@ -109,17 +99,11 @@ QByteArray FichierDisque::LitTout()
 
 void FichierDisque::EcritEtFerme(const QByteArray &octets)
 {
-    const auto fermeture = qScopeGuard([this] { m_systeme->Ferme(); });
+    const auto fermeture = qScopeGuard([this] { m_systeme->fichier.reset(); });
     m_systeme->Ecrit(octets);
     // The system buffers what is written. Only here does it report that a USB stick was pulled out meanwhile.
-    if (FlushFileBuffers(m_systeme->fichier) == 0)
+    if (FlushFileBuffers(m_systeme->fichier.get()) == 0)
         Echoue();
-}
-
-void FichierDisque::Systeme::Ferme()
-{
-    if (fichier != nullptr)
-        CloseHandle(std::exchange(fichier, nullptr));
 }
 
 void FichierDisque::Systeme::Ecrit(const QByteArray &octets) const
@@ -127,7 +111,7 @@ void FichierDisque::Systeme::Ecrit(const QByteArray &octets) const
     for (qsizetype ecrits = 0; ecrits < octets.size();) {
         const qsizetype nombre = std::min(Morceau, octets.size() - ecrits);
         DWORD pris = 0;
-        if (WriteFile(fichier, octets.data() + ecrits, static_cast<DWORD>(nombre), &pris, nullptr) == 0)
+        if (WriteFile(fichier.get(), octets.data() + ecrits, static_cast<DWORD>(nombre), &pris, nullptr) == 0)
             Echoue();
         if (pris == 0)
             Echoue(ERROR_DISK_FULL);
@@ -139,16 +123,15 @@ void FichierDisque::Systeme::Ecrit(const QByteArray &octets) const
 /// file is closed.
 void ExigePlace(const QString &chemin, qint64 taille)
 {
-    const HANDLE fichier = Ouvre(CheminSysteme(chemin), {GENERIC_WRITE, OPEN_EXISTING});
-    if (fichier == INVALID_HANDLE_VALUE)
+    const PoigneeWindows fichier = OuvreEntree(CheminSysteme(chemin), GENERIC_WRITE, OPEN_EXISTING);
+    if (!fichier)
         return;
-    const auto fermeture = qScopeGuard([fichier] { CloseHandle(fichier); });
     LARGE_INTEGER presente{};
-    if (GetFileSizeEx(fichier, &presente) == 0 || presente.QuadPart == 0 || taille <= presente.QuadPart)
+    if (GetFileSizeEx(fichier.get(), &presente) == 0 || presente.QuadPart == 0 || taille <= presente.QuadPart)
         return;
     FILE_ALLOCATION_INFO place{};
     place.AllocationSize.QuadPart = taille;
-    if (SetFileInformationByHandle(fichier, FileAllocationInfo, &place, sizeof place) != 0)
+    if (SetFileInformationByHandle(fichier.get(), FileAllocationInfo, &place, sizeof place) != 0)
         return;
     const DWORD cause = GetLastError();
     if (cause == ERROR_DISK_FULL || cause == ErreurQuota || cause == ERROR_FILE_TOO_LARGE)

@@ -1,10 +1,9 @@
 #include "platform/fichiers/FichierTenu.h"
 
 #include "platform/fichiers/windows/CheminWindows.h"
+#include "platform/fichiers/windows/OuvertureWindows.h"
 
 #include <QFile>
-
-#include <windows.h>
 
 namespace {
 
@@ -22,20 +21,12 @@ bool Verrouille(HANDLE fichier)
 struct FichierTenu::Systeme
 {
     Systeme(const QString &chemin, DWORD creation)
-        : fichier(CreateFileW(CheminSysteme(chemin).c_str(), GENERIC_READ | GENERIC_WRITE,
-                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, creation,
-                              FILE_ATTRIBUTE_NORMAL, nullptr))
-        , tenu(fichier != INVALID_HANDLE_VALUE && Verrouille(fichier) && QFile::exists(chemin))
+        : fichier(OuvreEntree(CheminSysteme(chemin), GENERIC_READ | GENERIC_WRITE, creation))
+        , tenu(fichier && Verrouille(fichier.get()) && QFile::exists(chemin))
     {
     }
-    ~Systeme()
-    {
-        if (fichier != INVALID_HANDLE_VALUE)
-            CloseHandle(fichier);
-    }
-    Q_DISABLE_COPY_MOVE(Systeme)
 
-    const HANDLE fichier;
+    const PoigneeWindows fichier;
     const bool tenu;
 };
 
