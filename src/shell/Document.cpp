@@ -115,8 +115,7 @@ bool EnregistreSous()
     }
     // The text gets the new name even when saving failed: the program must not offer to save it into the former file,
     // which the operator wanted to keep.
-    Document.NomFichier = dialogue.FileName;
-    Document.TitreFichier = dialogue.FileTitle;
+    Document.Nomme(dialogue.FileName);
     ActiveNomme();
     Saute([] { SaveFile(Document.NomFichier); });
     return !Document.FichierModifie;
@@ -204,8 +203,7 @@ void OpenFile(const QString &path)
 {
     const bool texteEnrichi = path.right(3).toUpper() == QLatin1String("RTF");
     frmPrinc->Text1->LoadFile(path, texteEnrichi ? RichTextBox::TexteRiche : RichTextBox::TexteSimple);
-    Document.NomFichier = path;
-    Document.TitreFichier = NomSeul(path);
+    Document.Nomme(path);
     TitreFenetre(Document.NomFichier);
     frmPrinc->ActiveEmission(EmissionPossible());
     frmPrinc->ActiveFichier(true);
@@ -228,6 +226,7 @@ bool EnregistreSurPlace()
     try {
         GardeCopie(Document.NomFichier);
         SaveFile(Document.NomFichier);
+        Document.NomRecu.clear();
         ActiveNomme();
         return true;
     } catch (const Erreur &) {

@@ -30,4 +30,5 @@ void Mnu_Nouveau()
     TitreFenetre(NomNouveauDocument());
     Document.FichierModifie = false;
     Document.NomFichier = NomNouveauDocument();
+    Document.NomRecu.clear();
 }

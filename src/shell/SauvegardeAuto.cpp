@@ -86,6 +86,12 @@ private:
 };
 
 QPointer<SauvegardeAuto> sauvegarde;
+RetientAussi *reception = nullptr; // there is one at a time
+
+QString NomDuTexte()
+{
+    return Document.NomRecu.isEmpty() ? Document.NomFichier : Document.NomRecu;
+}
 
 SauvegardeAuto::SauvegardeAuto(FrmPrinc *fenetre)
     : QObject(fenetre)
@@ -99,7 +105,7 @@ SauvegardeAuto::SauvegardeAuto(FrmPrinc *fenetre)
     connect(&m_voie, &QTimer::timeout, this, &SauvegardeAuto::Annonce);
     connect(fenetre->Text1, &RichTextBox::Change, this, &SauvegardeAuto::Change);
     connect(fenetre->Text1, &RichTextBox::Remplacement, this, &SauvegardeAuto::Part);
-    connect(qApp, &QGuiApplication::commitDataRequest, this, &SauvegardeAuto::Retient, Qt::DirectConnection);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, RetientTexte, Qt::DirectConnection);
     EcouteSauvegardes([this](const Erreur &cause) { Echoue(cause); });
 }
 
@@ -116,7 +122,7 @@ QString SauvegardeAuto::Retient()
         return {};
     }
     if (m_garde.isEmpty() || !FichierExiste(m_garde))
-        m_garde = GardeTexte(Document.NomFichier, frmPrinc->Text1->Text());
+        m_garde = GardeTexte(NomDuTexte(), frmPrinc->Text1->Text());
     if (m_garde.isEmpty())
         LaisseEnCours();
     else
@@ -181,7 +187,7 @@ void SauvegardeAuto::Releve()
         return;
     }
     if (TexteModifie()) {
-        EcritEnCours(Document.NomFichier, std::exchange(m_releve, {}));
+        EcritEnCours(NomDuTexte(), std::exchange(m_releve, {}));
         m_dernierEcrit.start();
     }
 }
@@ -229,9 +235,30 @@ void BrancheSauvegardeAuto()
     sauvegarde = new SauvegardeAuto(frmPrinc);
 }
 
-QString RetientTexte()
+void RetientTexte()
 {
-    return sauvegarde->Retient();
+    sauvegarde->Retient();
+    if (reception != nullptr)
+        reception->Retient();
+}
+
+RetientAussi::RetientAussi(const QString &nom, std::function<QString()> texte)
+    : m_nom(nom)
+    , m_texte(std::move(texte))
+{
+    reception = this;
+}
+
+RetientAussi::~RetientAussi()
+{
+    reception = nullptr;
+}
+
+void RetientAussi::Retient()
+{
+    const QString texte = m_texte();
+    if (texte != m_retenu && !GardeTexte(m_nom, texte).isEmpty())
+        m_retenu = texte;
 }
 
 void RetientTexteFinal(bool nonEnregistre)

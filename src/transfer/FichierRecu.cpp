@@ -49,8 +49,7 @@ void EcritRecu(Ecriture ecriture)
 
 void OublieNom()
 {
-    Document.NomFichier.clear();
-    Document.TitreFichier.clear();
+    Document.Nomme({});
     MontreDonnee(frmPrinc->Label2, QString());
 }
 
@@ -123,8 +122,7 @@ void MontreRecu(const QString &chemin)
         } else {
             MontreFichier(chemin);
         }
-        Document.NomFichier = chemin;
-        Document.TitreFichier = NomSeul(chemin);
+        Document.Nomme(chemin);
         Document.FichierModifie = false;
     });
 }

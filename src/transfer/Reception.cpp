@@ -9,6 +9,7 @@
 #include "platform/base/Nombres.h"
 #include "platform/serie/MSComm.h"
 #include "shell/FrmPrinc.h"
+#include "shell/SauvegardeAuto.h"
 #include "transfer/Bilan.h"
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
@@ -270,6 +271,7 @@ void EmplitParLigne(Remplissage &table)
 void Mene(VueTransfert &vue, const Texte3 &genre, void (*corps)(Remplissage &))
 {
     Remplissage table(vue);
+    const RetientAussi recu(CheminRecep(), [&table] { return Transfert.FinTransfert ? QString() : table.Recu(); });
     try {
         VideLignes();
         DebuteReception(vue, genre);

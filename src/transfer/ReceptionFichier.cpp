@@ -11,6 +11,7 @@
 #include "platform/serie/MSComm.h"
 #include "shell/Document.h"
 #include "shell/FrmPrinc.h"
+#include "shell/SauvegardeAuto.h"
 #include "transfer/Bilan.h"
 #include "transfer/EtapesReception.h"
 #include "transfer/FichierRecu.h"
@@ -156,6 +157,7 @@ void TermineFichier(VueTransfert &vue)
     AcheveReception(vue);
     frmPrinc->Text2->hide();
     frmPrinc->Text1->PrendTexte(*frmPrinc->Text2);
+    Document.NomRecu = CheminRecep();
     // A file that was too large to be shown may have hidden the pane and its commands.
     frmPrinc->Text1->show();
     if (!Document.NomFichier.isEmpty())
@@ -190,6 +192,7 @@ void ReceptionFichier(VueTransfert &vue)
 {
     try {
         PrepareFichier(vue);
+        const RetientAussi recu(CheminRecep(), [] { return frmPrinc->Text2->Text(); });
         AttendFichier(vue);
         if (Transfert.AnnuleRECEPT)
             AnnuleFichier(vue);

@@ -72,6 +72,16 @@ public:
     }
 
     QByteArray Disque() const { return poste.Lit(genre == Genre::Banc ? "PIECE.COR" : "PIECE.ISO"); }
+    /// What the folder of the automatic saving keeps under the name of the file received; it is emptied.
+    QByteArrayList Gardes() const
+    {
+        QByteArrayList gardes;
+        QDir dossier(poste.Chemin("Sauvegardes"));
+        for (const QString &nom : dossier.entryList({u"PIECE_*.ISO"_s}))
+            gardes << poste.Lit(u"Sauvegardes/"_s + nom);
+        dossier.removeRecursively();
+        return gardes;
+    }
     /// What the machine sends in all.
     QByteArray Envoye() const { return charge.pieces.join(); }
     /// All that came is with the program.

@@ -4,6 +4,7 @@
 #include "donnees/Lignes.h"
 #include "donnees/ParamCom.h"
 #include "platform/base/Horloge.h"
+#include "shell/Document.h"
 
 namespace {
 
@@ -281,7 +282,8 @@ void TestPannes::Retenue()
 }
 
 // The disk is full, the folder may not be written or has gone, when the file of a reception is to be written: told,
-// what came can be saved elsewhere, and the name is asked for again.
+// what came can be saved elsewhere, and the name is asked for again. The text that stands in the pane without a file of
+// its own is kept under its own name when it leaves.
 void TestPannes::Disque()
 {
     QFETCH(int, rang);
@@ -297,6 +299,7 @@ void TestPannes::Disque()
         QFile::remove(essai.pilote.Chemin(genre));
         if (cible)
             QFile::link(QLatin1String(cible), essai.pilote.Chemin(genre));
+        Document.Nomme(u"AVANT.iso"_s);
         const auto deroulement = essai.Joue();
         QVERIFY(!Transfert.FinTransfert);
         QVERIFY(!deroulement.avis.isEmpty());
@@ -312,6 +315,7 @@ void TestPannes::Disque()
         QFile::remove(essai.pilote.Chemin(genre));
         ParamCom.DosRecep = Reglages.DosJauge = bon;
         essai.VerifiePret();
+        QCOMPARE(essai.Gardes(), genre == Genre::Fichier ? QByteArrayList{"AB\r\nC"} : QByteArrayList());
     }
 }
 

@@ -5,6 +5,7 @@
 #include "donnees/ParamCom.h"
 #include "locale/Langue.h"
 #include "shell/Document.h"
+#include "shell/SauvegardeAuto.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -495,7 +496,7 @@ void TestTransferts::ReceptionForcee()
 }
 
 // The close box asks, and no more than that: what comes meanwhile is received as it comes, whether he says No at last
-// or the end of the transfer takes the question away.
+// or the end of the transfer takes the question away. What has come is kept once when the system ends the session.
 void TestTransferts::ArretDemande()
 {
     QFETCH(int, rang);
@@ -522,11 +523,14 @@ void TestTransferts::ArretDemande()
         const auto deroulement = essai.Joue(position, [&](QDialog &transfert) {
             if (std::exchange(presse, true))
                 return true;
-            for (int fois = 1; fois <= 2; ++fois) // he is asked once
+            for (int fois = 1; fois <= 2; ++fois) { // he is asked once
                 transfert.close();
+                RetientTexte();
+            }
             return false;
         });
         QCOMPARE(deroulement.statut, u"Transfert réalisé avec succès !"_s);
+        QCOMPARE(essai.Gardes(), position > 0 ? QByteArrayList{programme.left(position)} : QByteArrayList());
         const QByteArray venu =
             non ? QByteArray(programme).insert(position, "Z\r\n") : programme.left(position) + "Z\r\n";
         QCOMPARE(essai.Disque(), venu + "\r\n");
