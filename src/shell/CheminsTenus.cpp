@@ -46,7 +46,7 @@ void TientChemins(const QList<QString *> &receptions, const QList<QString *> &au
     variables = {receptions, autres};
 }
 
-void RenommeEtSuit(const QString &ancien, const QString &nouveau)
+bool RenommeEtSuit(const QString &ancien, const QString &nouveau)
 {
     // nouveau is made absolute before the renaming, since the current folder may be the renamed one.
     const QList<Suite> suites = Suites(ancien, QDir::cleanPath(QFileInfo(nouveau).absoluteFilePath()));
@@ -56,6 +56,7 @@ void RenommeEtSuit(const QString &ancien, const QString &nouveau)
         *suite.chemin = suite.nouveau;
     if (enTitre)
         TitreFenetre(Document.NomFichier);
+    return !suites.isEmpty();
 }
 
 void QuitteReceptions(const QString &dossier)

@@ -208,6 +208,14 @@ void Command2_Click()
     }
 }
 
+/// Warns of a new name that the settings cannot keep. The folder of configurations is the one that they hold without
+/// quotes.
+void AnnonceDossierRenomme(const QString &nouveau)
+{
+    const bool nu = nouveau.contains(u',') && ResteDerriere(nouveau, DepuisDossierApplication(Reglages.DosConf));
+    AnnonceNomPerdu(nouveau, nu ? LigneNom::Nue : LigneNom::Citee, Texte(RacineTitre));
+}
+
 /// Renames the selected folder. The operator edits its whole path; the paths that the program remembers follow.
 void Command4_Click()
 {
@@ -224,8 +232,11 @@ void Command4_Click()
     if (nouveau.isEmpty())
         return;
     try {
-        SansGarde([&] { RenommeEtSuit(dossier, nouveau); });
+        bool suivi = false;
+        SansGarde([&] { suivi = RenommeEtSuit(dossier, nouveau); });
         arbre.setSelectedFolder(nouveau);
+        if (suivi)
+            AnnonceDossierRenomme(SansSeparateur(arbre.SelectedFolder()));
     } catch (const Erreur &) {
         MsgBox(Texte(NonRenomme), Boite::Exclamation, Texte(ErreurTitre));
         arbre.Refresh();

@@ -21,7 +21,7 @@ constexpr Texte3 ResteTitre{u"Enregistrer le texte reçu", u"Save the received t
 constexpr Texte3 ResteRompu{
     u"La réception n'a pas abouti, le texte déjà reçu n'est pas enregistré.\rL'enregistrer dans un fichier ?",
     u"The reception has failed, the text already received is not saved.\rSave it to a file ?",
-    u"La recepción no ha terminado, el texto ya recibido no está guardado.\r¿Guardarlo en un fichero?"};
+    u"La recepción ha fallado, el texto ya recibido no está guardado.\r¿Guardarlo en un fichero?"};
 constexpr Texte3 ResteTermine{
     u"La réception est terminée, mais son fichier n'a pas été écrit.\rEnregistrer le texte reçu dans un autre fichier "
     u"?",

@@ -181,7 +181,7 @@ private Q_SLOTS:
     }
 
     // What lies in a folder that is renamed goes with it, in the form in which it stood, and in the title; what only
-    // looks alike stays.
+    // looks alike stays. A name that the settings cannot keep is told.
     void RenommeAvecLeProgramme()
     {
         Atelier atelier;
@@ -189,15 +189,26 @@ private Q_SLOTS:
         Reglages.DosDefaut = atelier.Chemin("Pieces/");
         ParamCom.DosRecep = u"Pieces/Tour"_s;
         EtatConf.FicConf = atelier.Chemin("Pieces 2/M.par");
+        Reglages.DosConf = atelier.Chemin("Pieces");
         QDir::setCurrent(atelier.Chemin("Pieces"));
-        for (const auto &[ancien, nouveau] :
-             {std::pair{"Pieces/Tour", u"../Pieces/Fraise"_s}, {"Pieces", atelier.Chemin("Lot/")}}) {
+        const QString etrange = atelier.Chemin("Łot");
+        for (const auto &[ancien, nouveau, avis] : {std::tuple{u"Pieces/Tour"_s, u"../Pieces/Fraise"_s, QString()},
+                                                    {u"Pieces"_s, etrange, u":  Ł\n"_s + etrange + u'\n'},
+                                                    {u"Łot"_s, atelier.Chemin("L,t"), u" une virgule, "_s},
+                                                    {u"L,t"_s, atelier.Chemin("Lot/"), QString()}}) {
             frmPrinc->Frame1->FolderTreeview1->setSelectedFolder(atelier.Chemin(ancien));
             atelier.Fait("InputBox", [nouveau](QWidget &boite) {
                 dynamic_cast<QInputDialog &>(boite).setTextValue(nouveau);
                 dynamic_cast<QInputDialog &>(boite).accept();
             });
+            QString dit;
+            if (!avis.isEmpty())
+                atelier.Fait("MsgBox", [&dit](QWidget &boite) {
+                    dit = dynamic_cast<QMessageBox &>(boite).text();
+                    boite.close();
+                });
             frmPrinc->Frame1->Command4->click();
+            QVERIFY2(dit.contains(avis), qPrintable(dit));
         }
         QCOMPARE(Document.NomFichier, atelier.Chemin("Lot/Fraise/b.cn"));
         QVERIFY(frmPrinc->windowTitle().endsWith(Document.NomFichier));
