@@ -118,7 +118,7 @@ void EcrireFichierPar(const QString &chemin)
     for (const int champ : {ParamCom.FinLigRecep, ParamCom.TypeEnvoi})
         texte += TexteNombre(champ) + QStringLiteral(" \r\n");
     EtatConf.malEcrite = true;
-    EcritFichierTexte(chemin, texte);
+    EcritFichierTexte(chemin, texte, FichierCoupe::Part);
     EtatConf.fiche = EtatConfiguration::Entiere;
     EtatConf.neuve = EtatConf.malEcrite = false;
 }

@@ -110,7 +110,7 @@ struct EtatConfiguration
     };
     Fiche fiche = Incomplete;
     bool neuve = false;     ///< made by the operator, and no file holds it yet
-    bool malEcrite = false; ///< its last saving failed: the file of its name may be incomplete
+    bool malEcrite = false; ///< its last saving failed: no file holds it whole
     bool lue = false;       ///< a configuration has been read whole since the program started
     QString FicConf;        ///< full path of the .par file of ParamCom; "" when there is none
     QString NomConf;        ///< that file's name without its folder
@@ -124,7 +124,7 @@ extern EtatConfiguration EtatConf; ///< kept up to date by every routine that re
 void LireFichierPar(const QString &chemin);
 
 /// Creates or replaces the .par file at chemin with ParamCom. A double quote in a text is written as an apostrophe,
-/// since the format cannot hold one. Raises what EcritFichierTexte raises.
+/// since the format cannot hold one. A file that the disk cuts does not stay. Raises what EcritFichierTexte raises.
 void EcrireFichierPar(const QString &chemin);
 
 /// The characters that end a line of the machine, by a value of TypeFinLigne.

@@ -68,9 +68,11 @@ void LitMac(const QString &chemin)
 void EcritMac(const QString &chemin)
 {
     const ConfigurationMac &p = ParamMac;
-    EcritFichierTexte(chemin, Ligne(p.TypeMachine) + Ligne(p.TypeTourelle) + Ligne(TexteDouble(p.DiffPoches)) +
-                                  Ligne(p.TypeJauge) + Ligne(p.ModeX) + Ligne(TexteDouble(p.JaugeMaxiX)) +
-                                  Ligne(TexteDouble(p.JaugeMaxiZ)) + Ligne(p.NbCorrecteurs) +
-                                  Ligne(ValeurEntreGuillemets(p.ExtJauge)) +
-                                  Ligne(ValeurEntreGuillemets(p.NumProgJauge)) + Ligne(p.RazDynamique));
+    EcritFichierTexte(chemin,
+                      Ligne(p.TypeMachine) + Ligne(p.TypeTourelle) + Ligne(TexteDouble(p.DiffPoches)) +
+                          Ligne(p.TypeJauge) + Ligne(p.ModeX) + Ligne(TexteDouble(p.JaugeMaxiX)) +
+                          Ligne(TexteDouble(p.JaugeMaxiZ)) + Ligne(p.NbCorrecteurs) +
+                          Ligne(ValeurEntreGuillemets(p.ExtJauge)) + Ligne(ValeurEntreGuillemets(p.NumProgJauge)) +
+                          Ligne(p.RazDynamique),
+                      FichierCoupe::Part);
 }

@@ -38,5 +38,5 @@ int CorrecteursTenus(int nombre);
 void LitMac(const QString &chemin);
 
 /// Creates or replaces the .mac file at chemin with ParamMac. A double quote in a text is written as an apostrophe,
-/// since the format cannot hold one. Raises what EcritFichierTexte raises.
+/// since the format cannot hold one. A file that the disk cuts does not stay. Raises what EcritFichierTexte raises.
 void EcritMac(const QString &chemin);

@@ -1,3 +1,4 @@
+#include "DisquePlein.h"
 #include "Donnees.h"
 #include "Essais.h"
 
@@ -55,6 +56,10 @@ private Q_SLOTS:
         QCOMPARE(ParamCom.TypeEnvoi, 1);
         QCOMPARE(Lit(m_dossier.filePath(u"absent.par"_s)), Erreur::FichierIntrouvable);
         QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(u"parti/x.par"_s)), Erreur);
+        const QString coupe = m_dossier.filePath(u"coupe"_s);
+        const auto plein = DisquePlein(8);
+        QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(coupe), Erreur);
+        QVERIFY(!QFile::exists(coupe));
     }
 
     // One line of the full file changed, or missing. What stands behind the failure keeps its former value.
