@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
 
 namespace {
@@ -21,9 +22,9 @@ constexpr Texte3 Titre{u"Mesures du banc", u"Measures of the bench", u"Medidas d
 constexpr Texte3 NonLues{u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :",
                          u"These measures could not be read, they are not written:",
                          u"Estas medidas no se han podido leer, no se escriben:"};
-constexpr Texte3 Douteuses{u"Ces mesures sont douteuses, elles sont écrites ainsi :",
-                           u"These measures are doubtful, they are written like this:",
-                           u"Estas medidas son dudosas, se escriben así:"};
+constexpr Texte3 Douteuses{u"Ces mesures sont douteuses, elles sont lues ainsi :",
+                           u"These measures are doubtful, they are read like this:",
+                           u"Estas medidas son dudosas, se leen así:"};
 constexpr Texte3 Aucune{
     u"Aucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r",
     u"No gauge file is made. The text received from the bench stays in the file:\r",
@@ -35,6 +36,8 @@ constexpr Texte3 Rien{u"(rien)", u"(nothing)", u"(nada)"};
 constexpr Texte3 Correcteur{u", correcteur ", u", corrector ", u", corrector "};
 constexpr Texte3 NomCorrecteur{u"correcteur", u"corrector", u"corrector"};
 constexpr Texte3 PrisPour{u" pris pour ", u" taken for ", u" tomado por "};
+constexpr Texte3 Negatif{u"numéro de correcteur négatif", u"negative corrector number",
+                         u"número de corrector negativo"};
 constexpr Texte3 Lettre{u"lettre ", u"letter ", u"letra "};
 constexpr Texte3 AuRayon{u" au rayon", u" as a radius", u" como radio"};
 constexpr Texte3 AuDiametre{u" au diamètre", u" as a diameter", u" como diámetro"};
@@ -128,6 +131,8 @@ QStringList DoutesChamps(const QString &salve, const JaugeOutil &jauge)
 QStringList Doutes(const QString &salve, const JaugeOutil &jauge)
 {
     QStringList doutes = DoutesChamps(salve, jauge);
+    if (jauge.NumCorr < 0)
+        doutes << Texte(Negatif);
     if (jauge.ModeMesure != u'R' && jauge.ModeMesure != u'D')
         doutes << Texte(Lettre) + EntreGuillemets(QString(jauge.ModeMesure).trimmed()) + QStringLiteral(" : X") +
                       Texte(PrisPour) + TexteReel(jauge.JaugeX) + Texte(ParamMac.ModeX == 0 ? AuRayon : AuDiametre);
@@ -155,10 +160,9 @@ QStringList Replie(QString rang)
     return lignes << rang;
 }
 
-/// A heading, as many of its rows as a screen has room for, and a blank line.
-QString Paragraphe(const Texte3 &entete, const QStringList &rangs)
+/// A heading, as many of its rows as place lines hold, and a blank line.
+QString Paragraphe(const Texte3 &entete, const QStringList &rangs, qsizetype place)
 {
-    constexpr qsizetype place = 20; // lines
     if (rangs.isEmpty())
         return {};
     QStringList lignes{Texte(entete)};
@@ -202,8 +206,12 @@ void AvisMesures::Montre(int lues) const
 {
     if (m_nonLues.isEmpty() && m_douteuses.isEmpty())
         return;
-    QString texte = Paragraphe(NonLues, m_nonLues) + Paragraphe(Douteuses, m_douteuses);
-    if (lues == 0)
-        texte += Texte(Aucune) + CheminRecep();
-    MsgBox(texte.trimmed(), Boite::Exclamation, Texte(Titre));
+    const auto avis = [this](qsizetype place) {
+        return Paragraphe(NonLues, m_nonLues, place) + Paragraphe(Douteuses, m_douteuses, place);
+    };
+    constexpr qsizetype ecran = 12; // lines of a paragraph for which a screen has room
+    const QString court = avis(ecran);
+    const QString entier = avis(std::numeric_limits<qsizetype>::max() - 1);
+    const QString fin = lues == 0 ? Texte(Aucune) + CheminRecep() : QString();
+    MsgBox((court + fin).trimmed(), Boite::Exclamation, Texte(Titre), court == entier ? QString() : entier.trimmed());
 }

@@ -58,7 +58,7 @@ private Q_SLOTS:
         QFETCH(QStringList, cases);
         Atelier atelier;
         if (cases.size() > 2)
-            atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont écrites ainsi :\r"
+            atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont lues ainsi :\r"
                                                "    N° 1, correcteur "_s +
                                                    cases[2]);
         QCOMPARE(atelier.Filtre({cases[1]}, 1), "%\r\n" + cases[0].toLatin1() + "\r\n");
@@ -76,7 +76,7 @@ private Q_SLOTS:
         atelier.Apprend("Mesures du banc",
                         u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :\r    N° 1 : EPB\r"
                         "    N° 2 : (rien)\r    N° 3 : (rien)\r    N° 5 : (rien)\r    N° 6 : TOTAL\r\r"
-                        "Ces mesures sont douteuses, elles sont écrites ainsi :\r    N° 4, correcteur 3 : %1\r"
+                        "Ces mesures sont douteuses, elles sont lues ainsi :\r    N° 4, correcteur 3 : %1\r"
                         "    N° 7, correcteur 4 : %1"_s.arg(doutes));
         for (int i = 0; i < 2; ++i)
             atelier.Fait("MsgBox", [&](QWidget &boite) {
@@ -97,16 +97,23 @@ private Q_SLOTS:
             u"\r\rAucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r"_s;
         const QString entete = u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :"_s;
         QString rangs;
-        for (int place = 1; place <= 20; ++place)
+        for (int place = 1; place <= 12; ++place)
             rangs += u"\r    N° %1 : tn: 12"_s.arg(place);
         for (const auto &[rafale, nombre, dits, reste] :
-             {std::tuple{u"tn: 12\r"_s, 22, rangs + u"\r    ... + 2"_s, "BRUT\r\n"},
+             {std::tuple{u"tn: 12\r"_s, 13, rangs + u"\r    ... + 1"_s, "BRUT\r\n"},
               {u"\a "_s, 1, u"\r    N° 1 : (rien)"_s, ""}}) {
             const auto passe = Passe(rafale);
             Atelier atelier;
             ParamMac.TypeMachine = 0; // and no dial
             atelier.Ecrit("A.JAU", "BRUT\r\n");
-            atelier.Apprend("Mesures du banc", entete + dits + fin + atelier.Chemin("A.JAU"));
+            const bool tiennent = nombre == 1;
+            atelier.Fait("MsgBox", [&, dits = dits](QWidget &fenetre) {
+                auto &boite = dynamic_cast<QMessageBox &>(fenetre);
+                QCOMPARE(boite.text(), PourAffichage(entete + dits + fin + atelier.Chemin("A.JAU")));
+                QCOMPARE(boite.detailedText(),
+                         tiennent ? QString() : PourAffichage(entete + rangs + u"\r    N° 13 : tn: 12"_s));
+                boite.close();
+            });
             QCOMPARE(atelier.Filtre(QStringList(nombre, rafale), nombre), reste);
             QCOMPARE(Jauges.NbJauges, 0);
         }
@@ -134,8 +141,9 @@ private Q_SLOTS:
                     dynamic_cast<QDialog &>(boite).done(reponse.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
                 });
             if (recu == u"-9E4")
-                atelier.Apprend("Mesures du banc", u"Ces mesures sont douteuses, elles sont écrites ainsi :\r    N° 2, "
-                                                   u"correcteur -1 : correcteur \"-9E4\" pris pour -1"_s);
+                atelier.Apprend("Mesures du banc",
+                                u"Ces mesures sont douteuses, elles sont lues ainsi :\r    N° 2, "
+                                u"correcteur -1 : correcteur \"-9E4\" pris pour -1, numéro de correcteur négatif"_s);
             QCOMPARE(atelier.Filtre({Mesure(u"32"_s, u"1"_s, u"1"_s, u"R"_s), Mesure(recu, u"2"_s, u"2"_s, u"R"_s)}, 2),
                      "%\r\nD32 L1 R1\r\nD"_ba + numero + " L2 R2\r\n");
         }

@@ -114,13 +114,14 @@ void Elargit(QMessageBox &boite)
                     grille->columnCount());
 }
 
-Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre)
+Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre, const QString &details)
 {
     const bool remplace = demande != nullptr;
     RetireDemande();
     if (SuppleantBoites().message)
         return SuppleantBoites().message(texte, drapeaux, titre);
     QMessageBox boite(FenetreAppelante());
+    boite.setDetailedText(PourAffichage(details));
     Prepare(boite, texte, drapeaux, titre);
     if (remplace)
         RetientTouchesSansCoup(&boite);

@@ -26,7 +26,8 @@ enum class Reponse { Ok, Oui, Non };
 
 /// Shows texte in a box named "MsgBox" and waits for the answer. drapeaux: constants of Boite, added up.
 /// A line end in texte is CR LF or a single CR. Escape and the close button answer No, or OK where there is no No.
-Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre);
+/// details: a text too long for a box, which a further button shows and hides below; "" for none.
+Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre, const QString &details = {});
 
 /// True when the operator answers Yes to a box with Yes and No. drapeaux: icon and default button.
 bool Confirme(const QString &texte, int drapeaux, const QString &titre);
