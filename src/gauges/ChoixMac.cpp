@@ -26,10 +26,7 @@ void Demande(void (CommonDialog::*montre)(), const Texte3 &titre, const QString 
     CommonDialog &dialogue = *frmPrinc->CommonDialog1;
     dialogue.PrepareFichier(Texte(titre), Texte(FiltreMac), Reglages.DosConf, chemin);
     dialogue.DefaultExt = QStringLiteral("mac");
-    const auto remis = qScopeGuard([&dialogue] {
-        dialogue.CancelError = false;
-        dialogue.DefaultExt.clear();
-    });
+    const auto remis = qScopeGuard([&dialogue] { dialogue.CancelError = false; });
     (dialogue.*montre)();
     ParamMac.NomCompletMac = dialogue.FileName;
     ParamMac.NomMac = dialogue.FileTitle;

@@ -23,6 +23,7 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -52,11 +53,41 @@ constexpr Texte3 NonEcrites{u"Les jauges ne sont pas enregistrées.\r", u"The ga
 constexpr Texte3 BancIntact{u"Ce fichier contient encore le texte du banc, sans rayons ni localisateurs :\r",
                             u"This file still holds the text of the bench, without radii and locators:\r",
                             u"Este fichero contiene todavía el texto del banco, sin radios ni localizadores:\r"};
-constexpr Texte3 BancPerdu{u"Ce fichier est incomplet ou introuvable :\r",
-                           u"This file is incomplete or cannot be found:\r",
-                           u"Este fichero está incompleto o no se encuentra:\r"};
 constexpr Texte3 Ailleurs{u"\rEnregistrer les jauges dans un autre fichier ?", u"\rSave the gauges to another file ?",
                           u"\r¿Guardar los correctores en otro fichero?"};
+constexpr Texte3 BrutTitre{u"Enregistrer le texte du banc", u"Save the text of the bench",
+                           u"Guardar el texto del banco"};
+constexpr Texte3 FiltreBrut{u"Fichiers texte (*.txt)|*.txt|Tous les fichiers (*.*)|*.*",
+                            u"Text files (*.txt)|*.txt|All files (*.*)|*.*",
+                            u"Ficheros de texto (*.txt)|*.txt|Todos los ficheros (*.*)|*.*"};
+constexpr Texte3 BrutNonEcrit{u"Les mesures reçues du banc ne sont pas toutes enregistrées.\r",
+                              u"The measures received from the bench are not all saved.\r",
+                              u"Las medidas recibidas del banco no están todas guardadas.\r"};
+constexpr Texte3 BrutAilleurs{u"\rEnregistrer le texte du banc dans un autre fichier ?",
+                              u"\rSave the text of the bench to another file ?",
+                              u"\r¿Guardar el texto del banco en otro fichero?"};
+constexpr Texte3 Introuvable{u"Ce fichier est introuvable :\r", u"This file cannot be found:\r",
+                             u"Este fichero no se encuentra:\r"};
+constexpr Texte3 Vide{u"Ce fichier est vide :\r", u"This file is empty:\r", u"Este fichero está vacío:\r"};
+constexpr Texte3 Incomplet{u"Ce fichier est incomplet :\r", u"This file is incomplete:\r",
+                           u"Este fichero está incompleto:\r"};
+
+/// What a failure has left of the file.
+const Texte3 &EtatFichier()
+{
+    const QString chemin = CheminRecep();
+    if (!FichierExiste(chemin))
+        return Introuvable;
+    return QFileInfo(chemin).size() == 0 ? Vide : Incomplet;
+}
+
+/// What the operator is asked when the text of the bench stands in no file. It is no gauge file, so it gets another
+/// ending than one.
+OffreSauvegarde OffreBrut()
+{
+    return {Texte(BrutTitre), Texte(BrutNonEcrit) + Texte(EtatFichier()) + CheminRecep() + Texte(BrutAilleurs),
+            Texte(FiltreBrut), QFileInfo(Transfert.NomFicRecep).completeBaseName() + QStringLiteral(".TXT")};
+}
 
 /// One session at the bench, from the first tool to the gauge file.
 class Seance
@@ -282,7 +313,7 @@ void Seance::SauveReste() const
     QString surDisque;
     Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
     if (surDisque != m_brut)
-        SauveAutrePart(m_brut, OffreTexteRecu(false));
+        SauveAutrePart(m_brut, OffreBrut());
 }
 
 void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const
@@ -300,8 +331,8 @@ void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) 
 OffreSauvegarde OffreJauges(const JaugesNonEcrites &erreur)
 {
     return {Texte(JaugesTitre),
-            Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : BancPerdu) + CheminRecep() + Texte(Ailleurs),
-            Texte(FiltreJauges).replace(QLatin1String("%1"), ParamMac.ExtJauge)};
+            Texte(NonEcrites) + Texte(erreur.Intact() ? BancIntact : EtatFichier()) + CheminRecep() + Texte(Ailleurs),
+            Texte(FiltreJauges).replace(QLatin1String("%1"), ParamMac.ExtJauge), Transfert.NomFicRecep};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "transfer/FichierRecu.h"
 
 #include "donnees/Chemins.h"
+#include "donnees/Sauvegardes.h"
 #include "donnees/Transfert.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
@@ -13,6 +14,7 @@
 #include "shell/FrmPrinc.h"
 #include "shell/ProgrammesExternes.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -27,6 +29,9 @@ constexpr Texte3 ResteTermine{
     u"?",
     u"The reception is finished, but its file has not been written.\rSave the received text to another file ?",
     u"La recepción ha terminado, pero su fichero no se ha escrito.\r¿Guardar el texto recibido en otro fichero?"};
+constexpr Texte3 CopieReste{u"\rNon : une copie reste dans le dossier Sauvegardes.",
+                            u"\rNo: a copy stays in the folder Sauvegardes.",
+                            u"\rNo: una copia queda en la carpeta Sauvegardes."};
 
 /// A file of this many bytes or more is not shown after a reception.
 constexpr qint64 TailleTropGrande = 65536;
@@ -68,6 +73,19 @@ void ProposeTraitementDeTexte(const QString &chemin)
                                             "           Voulez-vous utiliser WordPad pour lire ce fichier ?");
     if (Confirme(question, Boite::Information, QStringLiteral("Message")))
         OuvreAvecTraitementDeTexte(chemin);
+}
+
+/// Asks for a file and writes texte to it. Gives its path.
+QString EcritAilleurs(const QString &texte, const OffreSauvegarde &offre)
+{
+    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
+    const QString dossier =
+        QFileInfo::exists(Transfert.DossierRecep) ? Transfert.DossierRecep : QString(); // may be gone
+    dialogue.PrepareFichier(offre.titre, offre.filtre, dossier, offre.nom);
+    dialogue.DefaultExt = QFileInfo(offre.nom).suffix();
+    dialogue.ShowSave();
+    EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
+    return dialogue.FileName;
 }
 
 void MontreFichier(const QString &chemin)
@@ -137,20 +155,22 @@ void PerdNomRecu()
 
 OffreSauvegarde OffreTexteRecu(bool terminee)
 {
-    return {Texte(ResteTitre), Texte(terminee ? ResteTermine : ResteRompu), Texte(FiltreEnregistrer)};
+    return {Texte(ResteTitre), Texte(terminee ? ResteTermine : ResteRompu), Texte(FiltreEnregistrer),
+            Transfert.NomFicRecep};
 }
 
 QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre)
 {
-    CommonDialog &dialogue = *frmPrinc->CommonDialog1;
-    while (!texte.isEmpty() && Confirme(offre.question, Boite::Exclamation, offre.titre)) {
+    if (texte.isEmpty())
+        return {};
+    const QString garde = GardeTexte(offre.nom, texte);
+    const QString question = garde.isEmpty() ? offre.question : offre.question + Texte(CopieReste);
+    while (Confirme(question, Boite::Exclamation, offre.titre)) {
         try {
-            const QString dossier =
-                QFileInfo::exists(Transfert.DossierRecep) ? Transfert.DossierRecep : QString(); // it may have gone
-            dialogue.PrepareFichier(offre.titre, offre.filtre, dossier, Transfert.NomFicRecep);
-            dialogue.ShowSave();
-            EcritFichierTexte(dialogue.FileName, texte, FichierCoupe::Part);
-            return dialogue.FileName;
+            const QString chemin = EcritAilleurs(texte, offre);
+            if (!garde.isEmpty())
+                QFile::remove(garde);
+            return chemin;
         } catch (const Erreur &erreur) {
             if (erreur.Numero() != Erreur::DialogueAnnule)
                 MsgBox(TexteNonEnregistre(erreur), Boite::Critique, offre.titre);

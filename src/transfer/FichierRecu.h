@@ -36,11 +36,12 @@ struct OffreSauvegarde
     QString titre; ///< of the question and of the file dialog
     QString question;
     QString filtre; ///< of the file dialog, as in CommonDialog::Filter
+    QString nom;    ///< name first offered; a name typed without an ending gets its ending
 };
 
 /// The offer of a reception that has failed: on its way or, terminee, when its file was to be written.
 OffreSauvegarde OffreTexteRecu(bool terminee);
 
-/// Offers to save texte, again and again until it is written or given up. An empty texte asks nothing. Gives the full
-/// path of the file written, "" for none.
+/// Offers to save texte, again and again until it is written or given up. An empty texte asks nothing. A copy stands in
+/// the folder of the kept texts until texte is written. Gives the full path of the file written, "" for none.
 QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre);

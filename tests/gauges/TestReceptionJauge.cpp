@@ -1,7 +1,9 @@
+#include "DisquePlein.h"
 #include "Etabli.h"
 #include "LigneScenario.h"
 
 #include "donnees/Jauge.h"
+#include "donnees/Sauvegardes.h"
 #include "donnees/Transfert.h"
 #include "machine/Banc.h"
 #include "platform/base/Erreur.h"
@@ -326,8 +328,9 @@ private Q_SLOTS:
         atelier.Fait("MsgBox", [&](QWidget &boite) {
             QCOMPARE(boite.windowTitle(), u"Enregistrer les jauges"_s);
             QCOMPARE(dynamic_cast<QMessageBox &>(boite).text(),
-                     u"Les jauges ne sont pas enregistrées.\nCe fichier est incomplet ou introuvable :\n%1\n"
-                     "Enregistrer les jauges dans un autre fichier ?"_s.arg(chemin));
+                     u"Les jauges ne sont pas enregistrées.\nCe fichier est introuvable :\n%1\n"
+                     "Enregistrer les jauges dans un autre fichier ?\n"
+                     "Non : une copie reste dans le dossier Sauvegardes."_s.arg(chemin));
             QVERIFY(QFile::remove(chemin));
             Operateur::Clique(sauve ? QMessageBox::Yes : QMessageBox::No)(boite);
         });
@@ -336,14 +339,39 @@ private Q_SLOTS:
                 QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).selectedNameFilter(), u"Fichiers jauges (*.cor)"_s);
             });
         if (sauve)
-            atelier.Choisit(atelier.Chemin("SAUVE.COR"));
+            atelier.Choisit(atelier.Chemin("SAUVE")); // which the dialog completes
         atelier.Abandonne();
         QCOMPARE(atelier.Lit("SAUVE.COR"), sauve ? "%\r\nD1 X-1 Z101.5 R.8 C5\r\n" : "");
+        QCOMPARE(QDir(DossierSauvegardes()).entryList({u"JAUGES_*.COR"_s}).isEmpty(), sauve);
         QCOMPARE(frmPrinc->Text1->Text().toLatin1(), sauve ? atelier.Lit("SAUVE.COR") : Brut(1));
         QCOMPARE((QStringList{Document.NomFichier, Document.TitreFichier}),
                  sauve ? QStringList({atelier.Chemin("SAUVE.COR"), u"SAUVE.COR"_s}) : QStringList(2, QString()));
         QVERIFY(TexteModifie() != sauve);
         QCOMPARE(frmPrinc->Mnu_EmisProgCN->isEnabled(), sauve);
+    }
+
+    // The disk is full from the first measure on: that the file is empty is told, and what the bench has sent is
+    // offered under a name that is no gauge file's.
+    void BrutRate()
+    {
+        Atelier atelier;
+        const auto plein = DisquePlein();
+        atelier.Nomme();
+        atelier.Envoie(Outil(1));
+        atelier.ApprendQue(u"Le fichier est trop grand pour ce disque."_s);
+        for (const auto reponse : {QMessageBox::Yes, QMessageBox::No}) {
+            atelier.Repond("Enregistrer le texte du banc",
+                           u"Les mesures reçues du banc ne sont pas toutes enregistrées.\rCe fichier est vide :\r%1\r"
+                           "Enregistrer le texte du banc dans un autre fichier ?"_s.arg(atelier.Chemin("JAUGES.COR")),
+                           Operateur::DemandeSimple, reponse);
+            if (reponse == QMessageBox::Yes)
+                atelier.Fait("CommonDialog", [](QWidget &fenetre) {
+                    QCOMPARE(fenetre.findChild<QLineEdit *>(u"fileNameEdit"_s)->text(), u"JAUGES.TXT"_s);
+                    dynamic_cast<QFileDialog &>(fenetre).reject();
+                });
+        }
+        atelier.Presse(Dialogue, Annule);
+        atelier.Abandonne();
     }
 
     // The correctors of the machine are used up: the tools end there, and only the operator's own end makes a gauge

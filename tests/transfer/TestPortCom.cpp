@@ -263,7 +263,7 @@ private Q_SLOTS:
                                      "L'enregistrer dans un fichier ?",
                                      Operateur::DemandeSimple, QMessageBox::Yes);
         };
-        clesRetirees = 1;
+        clesRetirees = 2; // the kept copy, and the file
         accepte();
         atelier.operateur.Choisit(atelier.poste.Chemin("RESTE.ISO"));
         atelier.operateur.Repond("Enregistrer le texte reçu",

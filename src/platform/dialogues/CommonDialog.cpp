@@ -11,6 +11,7 @@
 #include <QPrinter>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -72,6 +73,7 @@ void CommonDialog::ShowSave()
 void CommonDialog::DemandeFichier(bool enregistrement)
 {
     QFileDialog dialogue(FenetreAppelante(), DialogTitle, DossierDeDepart(InitDir));
+    const QString fin = std::exchange(DefaultExt, {});
     DansLaLangue(dialogue);
     NeFaitQueChoisir(dialogue, enregistrement);
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
@@ -79,7 +81,7 @@ void CommonDialog::DemandeFichier(bool enregistrement)
     dialogue.setAcceptMode(enregistrement ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(enregistrement ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (enregistrement)
-        dialogue.setDefaultSuffix(DefaultExt);
+        dialogue.setDefaultSuffix(fin);
 
     const QStringList filtres = Filtres(Filter);
     dialogue.setNameFilters(filtres);

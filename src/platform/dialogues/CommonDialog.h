@@ -27,7 +27,7 @@ public:
     QString Filter;      ///< pairs "label|pattern", separated by "|"
     int FilterIndex = 0; ///< pair first selected, from 1; after: the pair chosen
     int Flags = 0;       ///< one of the constants below, by dialog
-    QString DefaultExt;  ///< saving: ending given to a name typed without one, no point in it; "" gives none
+    QString DefaultExt;  ///< saving: ending given to a name typed without one, no point in it; "" after each dialog
 
     static constexpr int EcrasementDemande = 2;    ///< saving: ask before an existing file is chosen
     static constexpr int Selection = 1;            ///< printing: the selection is offered beside the whole
