@@ -136,7 +136,7 @@ QStringList TextesDAutrui()
     for (const QFileInfo &fichier : fichiers) {
         const bool entier = fichier.fileName().at(Prefixe.size() + LongueurNumero) == u'_';
         if (entier)
-            textes << fichier.filePath();
+            textes << QDir::toNativeSeparators(fichier.filePath());
         else if (FichierTenu(fichier.filePath()).Tenu())
             QFile::remove(fichier.filePath());
     }
