@@ -68,9 +68,10 @@ int Dans(int debutEcran, int longueurEcran, int voulu, int longueur)
 }
 
 /// Puts fenetre beside the window that it explains, on the side with more room, narrower if both can then be seen, and
-/// within the screen together with its frame. Before it is shown its frame is unknown and taken to be as large as the
-/// other window's.
-void PlaceACote(QWidget *fenetre, const QWidget *appelante)
+/// within the screen together with its frame. It stays above the other window, which therefore goes to the screen's
+/// edge when it would be hidden. Before it is shown its frame is unknown and taken to be as large as the other
+/// window's.
+void PlaceACote(QWidget *fenetre, QWidget *appelante)
 {
     constexpr int largeurMin = 890; // pixels; below this the pictures would be cut, so it covers the other window
     const QRect ecran = appelante->screen()->availableGeometry();
@@ -79,14 +80,23 @@ void PlaceACote(QWidget *fenetre, const QWidget *appelante)
     const QSize cadre = encadree->frameSize() - encadree->size();
     const int gauche = occupe.left() - ecran.left();
     const int droite = ecran.right() - occupe.right();
-    const int place = std::min(std::max({gauche, droite, largeurMin}), ecran.width());
+    const int largeur = std::min(std::max({gauche, droite, largeurMin}), ecran.width());
     // Its captions may need more room; the toolkit would then enlarge the window as it is shown.
     fenetre->resize(
-        fenetre->size().boundedTo(QSize(place, ecran.height()) - cadre).expandedTo(fenetre->minimumSizeHint()));
+        fenetre->size().boundedTo(QSize(largeur, ecran.height()) - cadre).expandedTo(fenetre->minimumSizeHint()));
     const QSize entier = fenetre->size() + cadre;
     const int x = droite >= gauche ? occupe.right() + 1 : occupe.left() - entier.width();
-    fenetre->move(Dans(ecran.left(), ecran.width(), x, entier.width()),
-                  Dans(ecran.top(), ecran.height(), occupe.top(), entier.height()));
+    const auto place = [&](int debut) {
+        return QRect({Dans(ecran.left(), ecran.width(), debut, entier.width()),
+                      Dans(ecran.top(), ecran.height(), occupe.top(), entier.height())},
+                     entier);
+    };
+    QRect pris = place(x);
+    if (pris.contains(occupe)) {
+        appelante->move(ecran.left(), occupe.top());
+        pris = place(ecran.left() + occupe.width());
+    }
+    fenetre->move(pris.topLeft());
 }
 
 /// Path of the manual: in the application folder, or in the folder of the program when it is only there.
