@@ -2,11 +2,11 @@
 
 #include <memory>
 
-/// Gives back to Windows what it has lent.
+/// Closes a handle of Windows.
 struct FermePoignee
 {
     void operator()(void *poignee) const;
 };
 
-/// Something that Windows has lent: a device, an event, a timer.
+/// Owns a handle of Windows: a file, a device, an event, a timer.
 using PoigneeWindows = std::unique_ptr<void, FermePoignee>;

@@ -4,14 +4,14 @@
 
 #include <windows.h>
 
-/// Stands, unseen, for a dialog of Windows while that is open, so that the toolkit takes the program's other windows
-/// for blocked and gives the keyboard back to fenetre afterwards.
+/// An unseen modal dialog of the toolkit that is open as long as a dialog of Windows. So the toolkit blocks the
+/// program's other windows meanwhile, and gives the keyboard back to fenetre afterwards.
 class ModaleWindows
 {
 public:
     explicit ModaleWindows(QWidget *fenetre);
 
-    /// The owner that the dialog of Windows is given.
+    /// The owner window for the dialog of Windows.
     HWND Proprietaire() const { return m_proprietaire; }
 
 private:

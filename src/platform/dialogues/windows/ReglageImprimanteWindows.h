@@ -6,8 +6,8 @@
 
 class QPrinter;
 
-/// The printer set-up of Windows: printer, paper with its tray, and how the sheet lies. The printer's own properties,
-/// behind a button there, hold for the colour and the two sides of a sheet.
+/// The printer set-up of Windows: printer, paper, tray and orientation. A button there opens the printer's own
+/// properties; of these, colour and duplex are kept.
 class ReglageImprimanteWindows
 {
 public:

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr DWORD DelaiFin = 100;     // ms: what the driver can do at once
-constexpr DWORD DelaiAbandon = 200; // ms: for a driver to give an exchange back
+constexpr DWORD DelaiFin = 100;     // ms, for an operation that the driver can end at once
+constexpr DWORD DelaiAbandon = 200; // ms, for the driver to cancel
 
 } // namespace
 
@@ -33,7 +33,7 @@ EchangeWindows::EchangeWindows(void *port)
 EchangeWindows::~EchangeWindows()
 {
     Abandonne();
-    // A driver that does not give the memory back may still write there.
+    // If the driver did not cancel, it may still write to this memory: it is never freed.
     if (EnCours())
         static_cast<void>(m_etat.release());
 }
@@ -41,7 +41,7 @@ EchangeWindows::~EchangeWindows()
 void EchangeWindows::Prepare(const QByteArray &octets)
 {
     m_etat->octets = octets;
-    m_etat->systeme.InternalHigh = 0; // a refused exchange leaves it alone
+    m_etat->systeme.InternalHigh = 0; // a refused operation does not change it
     ResetEvent(m_etat->signal.get());
 }
 

@@ -4,39 +4,39 @@
 
 #include <memory>
 
-/// One reading or one writing that the driver carries out beside the program. It is used again and again, for one at a
-/// time, and is over to begin with.
+/// One read or one write that the driver carries out while the program goes on (an overlapped operation). The object
+/// can be used again for the next one, but only for one at a time. A new object counts as ended.
 class EchangeWindows
 {
 public:
-    /// port: the device, opened for overlapped use; it must stay.
-    /// Raises ErreurPort::Indisponible when the system lacks the means.
+    /// port: the device, opened for overlapped use. It must outlive this object.
+    /// Raises ErreurPort::Indisponible when the system has no event left.
     explicit EchangeWindows(void *port);
-    /// Abandons what is under way.
+    /// Abandons the operation if it is still running.
     ~EchangeWindows();
     Q_DISABLE_COPY_MOVE(EchangeWindows)
 
-    /// Asks for nombre characters, above 0. It is over when all of them have come.
+    /// Starts reading nombre characters, above 0. It ends when all of them have come.
     void Lit(int nombre);
-    /// Hands octets over. It is over when the driver has taken all of them.
+    /// Starts writing octets. It ends when the driver has taken all of them.
     void Ecrit(const QByteArray &octets);
 
     bool EnCours() const;
-    /// A Windows event, set from the end of one exchange to the beginning of the next.
+    /// A Windows event. It is set when the operation ends, and reset when the next one starts.
     void *Signal() const;
-    /// Sets the event although nothing has ended.
+    /// Sets the event although the operation has not ended.
     void Reveille();
-    /// Waits for the end of an exchange that the driver can end at once, and abandons it if the driver does not.
+    /// Waits at most 100 ms for the end of an operation that the driver can end at once, then abandons it.
     void Termine();
-    /// Takes the exchange back. What has passed until then has passed.
+    /// Cancels the operation. Characters that have passed already stay read or written.
     void Abandonne();
 
-    /// Number of characters that it was begun with.
+    /// Number of characters that the operation was started with.
     int Taille() const;
 
-    // Of an exchange that is over.
+    // Only after the end of the operation.
 
-    /// Raises ErreurPort::Lecture when not all of it has passed.
+    /// Raises ErreurPort::Lecture when not all characters have passed.
     void Exige() const;
     /// The characters that have passed.
     QByteArray Octets() const;
@@ -47,6 +47,6 @@ private:
     void Commence(bool accepte);
 
     void *m_port;
-    std::unique_ptr<Etat> m_etat; // the driver knows it by its place in memory
-    int m_refus = 0;              // the error with which it did not even begin
+    std::unique_ptr<Etat> m_etat; // on the heap: the driver writes to this address
+    int m_refus = 0;              // error with which the driver refused the operation at its start
 };

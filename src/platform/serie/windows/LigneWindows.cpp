@@ -17,7 +17,7 @@ struct Faute
 {
     DWORD drapeau;
     unsigned CompteursLigne::*compte;
-    bool deCaractere; // of one that is being read
+    bool deCaractere; // concerns a character that is still to be read
 };
 
 constexpr Faute Fautes[] = {
@@ -26,11 +26,11 @@ constexpr Faute Fautes[] = {
     {CE_RXOVER, &CompteursLigne::debordements, false},
 };
 
-/// A driver that stops at XOFF. No other one is relied on.
+/// A driver that stops at XOFF. With any other driver the control stops the sending itself.
 struct PiloteObeissant
 {
     QLatin1String service;
-    bool aussiRtsCts; // with RTS/CTS besides
+    bool aussiRtsCts; // also when RTS/CTS is used as well
 };
 
 constexpr PiloteObeissant PilotesObeissants[] = {
@@ -49,7 +49,7 @@ int NumeroOuverture(DWORD erreur)
     case ERROR_DEV_NOT_EXIST:
     case ErreurAppareil:
         return ErreurPort::Inconnu;
-    case ERROR_ACCESS_DENIED: // Windows keeps nobody from a serial port but who comes second
+    case ERROR_ACCESS_DENIED: // on a serial port this only means that another program has it
     case ERROR_SHARING_VIOLATION:
     case ERROR_BUSY:
         return ErreurPort::Occupe;
@@ -68,7 +68,7 @@ int NumeroOuverture(DWORD erreur)
     throw Erreur(NumeroOuverture(erreur), port, static_cast<int>(erreur));
 }
 
-/// With this way of writing the name, numbers above 9 are reached too.
+/// Numbers above 9 can be opened only with this prefix.
 PoigneeWindows Ouvre(const QString &port)
 {
     const std::wstring chemin = (QStringLiteral("\\\\.\\") + port).toStdWString();
@@ -171,7 +171,7 @@ int LigneWindows::Ecrit(const char *octets, int nombre)
     return nombre;
 }
 
-/// A writing that is over, and has gone well, or a new one.
+/// A write that has ended well, or else a new one. Raises what a write that ended badly raises.
 EchangeWindows &LigneWindows::EcritureLibre()
 {
     const auto libre = std::ranges::find_if(m_ecritures, [](const auto &echange) { return !echange->EnCours(); });
@@ -181,7 +181,7 @@ EchangeWindows &LigneWindows::EcritureLibre()
     return **libre;
 }
 
-/// A driver may count what it holds, or only keep the writings waiting.
+/// Some drivers count the characters that wait. Others only keep the writes pending.
 int LigneWindows::NonEmis()
 {
     const std::optional<EtatPilote> etat = Interroge();
@@ -205,7 +205,7 @@ void LigneWindows::JetteEmission()
     PurgeComm(m_port.get(), PURGE_TXABORT | PURGE_TXCLEAR);
     for (const auto &echange : m_ecritures)
         echange->Abandonne();
-    // The others have not gone well, and nobody is to hear of it.
+    // The writes that have ended were cut short on purpose: their failure must not be raised later.
     std::erase_if(m_ecritures, [](const auto &echange) { return !echange->EnCours(); });
 }
 
@@ -228,8 +228,8 @@ CompteursLigne LigneWindows::Compteurs()
     return m_compteurs;
 }
 
-/// Asks the driver for its state, and counts the errors that it tells. Nothing, and the one who reads is woken, when
-/// the device has gone: some drivers then keep a reading for good.
+/// Asks the driver for its state, and counts the errors that it reports. Gives nothing when the device has gone. It
+/// then wakes the event loop as well, since some drivers never end the pending read.
 std::optional<LigneWindows::EtatPilote> LigneWindows::Interroge()
 {
     DWORD drapeaux = 0;

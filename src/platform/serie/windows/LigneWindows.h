@@ -12,56 +12,58 @@ class QWinEventNotifier;
 
 /// The serial line of a Windows system.
 ///
-/// Reading. One reading of one character always waits with the driver. Its end wakes the event loop. What the driver
-/// says that it holds is read behind it, so that no reading waits. The rest stays with the driver, whose flow control
-/// holds the machine back. The system's own event for received characters (WaitCommEvent) would say no more than that.
+/// Reading. The driver always holds one pending read of one character. When it ends, it wakes the event loop. The
+/// characters that the driver reports behind it are then read at once, so this second read never waits. The rest stays
+/// with the driver, whose flow control holds the machine back. WaitCommEvent, the system's own event for received
+/// characters, would tell nothing more.
 ///
-/// Writing. Each handover is a writing that the driver ends when it has taken the characters, and it takes any number
-/// of them. So none is refused, and Inscriptible never comes. NonEmis says what stands still.
+/// Writing. Each call starts one write. The driver accepts any number of characters and ends the write when it has
+/// taken them. So no character is refused, and Inscriptible is never emitted. NonEmis tells how many still wait.
 ///
-/// Errors of characters. The driver tells that there was an error of a kind since it was last asked, neither how many
-/// nor where (ClearCommError). Each telling counts as one. It replaces the characters with a parity error itself
-/// (fErrorChar). A break may leave a NUL in what is read, which cannot be told from one that was sent.
+/// Errors of characters. ClearCommError reports that an error of a kind happened since the last call, but neither how
+/// many nor at which character. Each report counts as one error. The driver itself replaces characters with a parity
+/// error (fErrorChar). A break may leave a NUL in what is read; it looks the same as a NUL that was sent.
 ///
-/// Unplugging. A reading that waits ends with an error, and then every call does. A driver that keeps the reading of a
-/// device that has gone is found out when it is asked for its state, as the control does every 50 ms.
+/// Unplugging. The pending read ends with an error, and every later call fails. Some drivers keep the read pending
+/// after the device has gone. The control notices that when it asks for the driver's state, every 50 ms.
 ///
 /// Exclusive use. Windows gives a port to one program at a time, and refuses the second one with "access denied".
 ///
-/// Line changes. States are as good as the look at them. What came and went in between is not seen.
+/// Lines of the machine (CTS, DSR, CD, ring). Only their state at the moment of a look is known. A change that is
+/// undone before the next look is not seen.
 ///
-/// What common drivers do otherwise than Linux's, as their makers' papers and the trade tell it:
+/// How common drivers differ from those of Linux, according to their makers' papers and to the trade:
 ///
-///   The PC's own port (Serial) has 16 characters of FIFO each way; how much of it is used is set in the Device
-///   Manager. It has no queue for sending: a writing ends when its last character stands in the FIFO. It deals with
-///   XOFF and CTS between two fillings of the FIFO. It replaces characters with a framing error too, and the last one
-///   that it had room for before some were lost.
+///   The PC's own port (Serial) has a FIFO of 16 characters each way; the Device Manager sets how much of it is used.
+///   It has no queue for sending: a write ends when its last character is in the FIFO. It obeys XOFF and CTS only
+///   between two fillings of the FIFO. It also replaces characters with a framing error, and the last character before
+///   an overrun.
 ///
-///   FTDI (FTSER2K) deals with XOFF and CTS in the chip, as behind Linux. Received characters come in bursts: its
-///   latency timer, 16 ms as delivered, is set in the Device Manager, on the port's own page.
+///   FTDI (FTSER2K) obeys XOFF and CTS in the chip, as on Linux. Received characters come in bursts: the latency timer,
+///   16 ms by default, is set in the Device Manager, on the port's own page.
 ///
-///   PL2303 (ser2pl) and CH340 (CH341SER) say yes to every flow control. Whether they stop at XOFF depends on the chip
-///   and the driver's version, so the control does it itself. A new driver refuses old and counterfeit PL2303: the port
-///   then stands in the Device Manager with a warning, and cannot be used.
+///   PL2303 (ser2pl) and CH340 (CH341SER) accept every setting of the flow control. Whether they stop at XOFF depends
+///   on the chip and on the driver's version, so the control stops the sending itself. A new driver refuses old and
+///   counterfeit PL2303: the Device Manager then shows the port with a warning, and it cannot be used.
 ///
-///   CDC devices (usbser) know no XOFF.
+///   CDC devices (usbser) do not know XOFF.
 ///
-///   A port of no driver that the Device Manager lists is taken to obey XOFF: Wine's, some virtual ones.
+///   A port without a driver in the Device Manager, as under Wine or with some virtual ports, is taken to obey XOFF.
 ///
-/// An adapter gets a new COM number at each socket of the PC, unless it bears a serial number of its own. The owner of
-/// the PC may give it another one, in the Device Manager.
+/// An adapter without a serial number of its own gets a new COM number in each socket of the PC. The Device Manager can
+/// change the number.
 ///
-/// Seen so far is Wine, whose ports are Linux's below. There a second opening succeeds, a speed that Linux has no name
-/// for becomes 38400 without a word, and the machine's lines, RTS and DTR do not exist. 7 data bits on a
-/// pseudo-terminal cannot be set a second time with another flow control. Not seen on a PC with Windows: parity,
-/// framing, break and overrun, 5 to 7 data bits, RTS/CTS, the machine's lines, exclusive use, the lead behind each
-/// adapter, and how each driver behaves when its adapter is pulled out.
+/// So far this class has been tried under Wine only, whose ports are those of Linux. There a second program can open
+/// the port too, a speed that Linux has no name for becomes 38400 without an error, and the machine's lines, RTS and
+/// DTR do not exist. 7 data bits on a pseudo-terminal cannot be set a second time with another flow control. Not yet
+/// tried on a PC with Windows: parity, framing, break and overrun, 5 to 7 data bits, RTS/CTS, the machine's lines,
+/// exclusive use, the lead with each adapter, and the behaviour of each driver when its adapter is pulled out.
 class LigneWindows : public LigneSerie
 {
 public:
     /// Opens port, such as "COM12", and holds it against every other program until the destruction. The line is then
     /// raw, without flow control.
-    /// pilote: the service of its driver, "" where that is not known.
+    /// pilote: name of the driver's service, "" if unknown.
     /// Raises ErreurPort::Inconnu, Occupe, PasUneLigne or Indisponible.
     LigneWindows(const QString &port, const QString &pilote);
     ~LigneWindows() override;
@@ -84,21 +86,21 @@ public:
 private:
     struct EtatPilote
     {
-        int recus;   // characters that it holds for us
-        int nonEmis; // and for the line, as far as it counts them
-        bool faute;  // there was a parity or framing error, or a break
+        int recus;   // characters received that wait in the driver
+        int nonEmis; // characters that wait for the line, if the driver counts them
+        bool faute;  // a parity or framing error, or a break, has happened
     };
     std::optional<EtatPilote> Interroge();
     EchangeWindows &EcritureLibre();
 
     QString m_pilote;
     PoigneeWindows m_port;
-    EchangeWindows m_premier; // waits for the next character that comes
-    EchangeWindows m_suite;   // fetches what came behind it
+    EchangeWindows m_premier; // the pending read of one character
+    EchangeWindows m_suite;   // reads what came behind it
     std::vector<std::unique_ptr<EchangeWindows>> m_ecritures;
-    std::unique_ptr<QWinEventNotifier> m_reveil; // says that m_premier is over
-    DemandeLigne m_demande;                      // what the driver was told
+    std::unique_ptr<QWinEventNotifier> m_reveil; // wakes the event loop when m_premier ends
+    DemandeLigne m_demande;                      // the last settings given to the driver
     bool m_reglee = false;
     CompteursLigne m_compteurs;
-    int m_cause = 0; // why the driver gave no state: the device has gone
+    int m_cause = 0; // error with which the driver refused its state: the device has gone
 };

@@ -14,8 +14,8 @@
 namespace {
 
 using namespace std::chrono_literals;
-using HorlogeReelle = std::chrono::steady_clock;                        // not a test's
-using Pas = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // in which Windows counts
+using HorlogeReelle = std::chrono::steady_clock; // the real one, even when a test hands in another
+using Pas = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // the unit of Windows: 100 ns
 
 constexpr DWORD HauteResolution = 0x00000002; // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, missing in older headers
 constexpr DWORD Ordinaire = 0;
@@ -38,7 +38,7 @@ struct MinuteurPrecis::Interne
     void Arme(std::chrono::nanoseconds delai)
     {
         LARGE_INTEGER dans;
-        dans.QuadPart = -std::chrono::ceil<Pas>(std::max(delai, 0ns)).count(); // below 0: from now on
+        dans.QuadPart = -std::chrono::ceil<Pas>(std::max(delai, 0ns)).count(); // negative: counted from now
         SetWaitableTimer(minuteur.get(), &dans, 0, nullptr, nullptr, FALSE);
     }
 
@@ -53,7 +53,7 @@ MinuteurPrecis::MinuteurPrecis()
     connect(&m_interne->reveil, &QWinEventNotifier::activated, this, [this] {
         if (!m_interne->echeance)
             return;
-        // It woke for what was armed before, or too early.
+        // The wake-up belongs to an earlier Arme(), or came too early.
         if (const auto reste = *m_interne->echeance - HorlogeReelle::now(); reste > 0ns) {
             m_interne->Arme(reste);
             return;

@@ -8,7 +8,7 @@
 
 #include <windows.h>
 
-// The folder of links is not asked: the Device Manager numbers the ports, and an adapter keeps its number there.
+// The folder Ports has no use here: the Device Manager gives each port its number, and the adapter keeps it.
 
 namespace {
 
@@ -19,7 +19,7 @@ QString NomPort(int numPort)
     return QStringLiteral("COM%1").arg(numPort);
 }
 
-/// What Windows calls the device behind port inside itself, "" when there is none.
+/// The internal Windows name of the device behind port, "" if there is none.
 QString NomInterne(const QString &port)
 {
     std::array<wchar_t, TailleNom> texte{};

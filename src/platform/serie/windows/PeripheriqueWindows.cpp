@@ -14,7 +14,7 @@ namespace {
 /// The device interface that every serial port has, {86E0D1E0-8089-11D0-9CE4-08003E301F73}.
 constexpr GUID InterfacePort = {0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}};
 
-constexpr DWORD TailleTexte = 256; // of the names here; Windows' own are shorter
+constexpr DWORD TailleTexte = 256; // in characters; the names that Windows gives are shorter
 
 QString Propriete(HDEVINFO liste, SP_DEVINFO_DATA &appareil, DWORD propriete)
 {
@@ -24,7 +24,7 @@ QString Propriete(HDEVINFO liste, SP_DEVINFO_DATA &appareil, DWORD propriete)
     return QString::fromWCharArray(texte.data());
 }
 
-/// The name under which programs open the device.
+/// The name by which programs open the device, such as "COM3".
 QString NomPort(HDEVINFO liste, SP_DEVINFO_DATA &appareil)
 {
     const HKEY cle = SetupDiOpenDevRegKey(liste, &appareil, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);

@@ -9,7 +9,8 @@
 namespace {
 
 constexpr DWORD TailleFiles = 4096; // characters that the driver keeps each way, unless it has a size of its own
-constexpr WORD Marge = 512;         // the machine is stopped with room left for so many, and goes on when so many wait
+constexpr WORD Marge =
+    512; // characters: the machine is stopped when only this much room is left, and released when only this many wait
 
 BYTE CodeParite(Parite parite)
 {
@@ -65,12 +66,12 @@ DCB BlocDe(const DemandeLigne &demande)
     return bloc;
 }
 
-/// Which part of demande the driver does not take: it is asked piece by piece, since it does not say.
+/// Finds which part of demande the driver refuses. The driver does not tell, so the parts are tried one by one.
 int NumeroRefus(HANDLE port, const DCB &demande, const DCB &ancien)
 {
     DCB essai = ancien;
     if (SetCommState(port, &essai) == FALSE)
-        return ErreurPort::Reglage; // it takes nothing at all any more
+        return ErreurPort::Reglage; // it refuses even its present settings
     essai.BaudRate = demande.BaudRate;
     if (SetCommState(port, &essai) == FALSE)
         return ErreurPort::Vitesse;
