@@ -291,11 +291,11 @@ void Em_Rc::Command7_Click()
 }
 
 /// Escape and the close box are easily hit by mistake, and a transfer that has ended cannot be resumed; so they ask
-/// first. The buttons say what they do, and do not ask. The machine goes on sending while the question is open, and the
-/// routine goes on receiving.
+/// first, unless the port is closed: nothing has passed then, and nothing will. The buttons say what they do, and do
+/// not ask. The machine goes on sending while the question is open, and the routine goes on receiving.
 void Em_Rc::reject()
 {
-    if (TransfertEnCours())
+    if (TransfertEnCours() && frmPrinc->MSComm1->PortOpen())
         DemandeSansAttendre(*this, Texte(ArreterTexte), Boite::Question | Boite::SecondBouton, Texte(ArreterTitre),
                             [this] { done(Rejected); });
     else

@@ -11,6 +11,7 @@
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Nombres.h"
+#include "platform/controles/CouleurAlerte.h"
 #include "platform/controles/EntreeOptions.h"
 #include "platform/controles/FiltreTouches.h"
 #include "platform/dialogues/Boites.h"
@@ -65,6 +66,18 @@ constexpr Texte3 DossierDeJauges{u"Choix du dossier de réception des Jauges Out
                                  u"Choice of the directory of receiving of the Gauges Tools",
                                  u"Elección del directorio de recepción de las Cabidas instrumentos"};
 
+constexpr Texte3 ExtensionDouteuse{u"Extension vide ou à signes interdits : le fichier risque de ne pas se créer.",
+                                   u"Extension empty or with forbidden signs: the file may not come about.",
+                                   u"Extensión vacía o con signos prohibidos: el fichero puede no crearse."};
+
+/// False for an extension that gives a file name which not every system takes.
+bool ConvientAuFichier(const QString &extension)
+{
+    return !extension.isEmpty() && !extension.endsWith(u'.') && !extension.endsWith(u' ') &&
+           std::none_of(extension.begin(), extension.end(),
+                        [](QChar signe) { return QStringView(u"/\\:*?\"<>|").contains(signe); });
+}
+
 } // namespace
 
 Rc_Fic::Rc_Fic(QWidget *parent, RoutineReception banc)
@@ -82,12 +95,18 @@ Rc_Fic::Rc_Fic(QWidget *parent, RoutineReception banc)
         connect(options[i], &QRadioButton::toggled, this,
                 [i](bool choisi) { Transfert.OptionFinLig = choisi ? i : Transfert.OptionFinLig; });
     Combo1->setCompleter(nullptr); // an extension stays as it is typed
+    connect(Combo1, &QComboBox::currentTextChanged, this, &Rc_Fic::Combo1_Change);
+    AvisExtension->setMinimumHeight(AvisExtension->fontMetrics().lineSpacing());
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, CouleurAlerte());
+    AvisExtension->setPalette(palette);
     connect(Command1, &QPushButton::clicked, this, &Rc_Fic::Command1_Click);
     connect(Command3, &QPushButton::clicked, this, &Rc_Fic::Command3_Click);
     connect(Command2, &QPushButton::clicked, this, &Rc_Fic::Command2_Click);
     connect(Command4, &QPushButton::clicked, this, &Rc_Fic::Command4_Click);
     Form_Load();
     Form_Activate();
+    Combo1_Change(Combo1->currentText());
 }
 
 void Rc_Fic::Form_Load()
@@ -102,6 +121,12 @@ void Rc_Fic::Form_Load()
         Combo1->setCurrentText(mode->extension == nullptr ? ParamMac.ExtJauge : QString::fromUtf16(mode->extension));
         Combo1->setEnabled(mode->extension != nullptr);
     }
+}
+
+/// Any extension is taken; a doubtful one is told here, and not when the file is to be written.
+void Rc_Fic::Combo1_Change(const QString &extension)
+{
+    AvisExtension->setText(ConvientAuFichier(extension) ? QString() : Texte(ExtensionDouteuse));
 }
 
 void Rc_Fic::MontreDossier()

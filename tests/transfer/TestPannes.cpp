@@ -184,13 +184,17 @@ void TestPannes::PortPris()
     for (const auto &[refus, vide] : {std::pair{8005, false}, {8002, false}, {8002, true}}) {
         const auto passe = Passe(u"%1%2"_s.arg(refus).arg(vide ? u", nothing to send"_s : QString()));
         essai.refus = refus;
+        bool ferme = true;
         if (vide)
             essai.charge.texte.clear();
         const QStringList dits = Titres(essai.Joue(0, [&](QDialog &transfert) {
-            if (!EstEmission(essai.genre))
+            if (!EstEmission(essai.genre) && vide)
                 Pilote::Annule(essai.genre, transfert);
+            else if (!EstEmission(essai.genre))
+                ferme = transfert.close(); // asks nothing: there is nothing to end
             return true;
         }));
+        QVERIFY(ferme);
         QStringList attendus{ErreurN(refus)};
         if (vide && EstEmission(essai.genre))
             attendus.prepend(u"Emission d'un programme CN"_s); // asked once more

@@ -306,7 +306,8 @@ void TestTransferts::AutreConfiguration()
 }
 
 // The name takes only what a file name may hold, and an existing file is replaced only when the operator says so.
-// Another configuration brings its line end and folder; a try given up leaves the extension chosen.
+// Another configuration brings its line end and folder; a try given up leaves the extension chosen. One that a file
+// name may not have is told.
 void TestTransferts::DialogueReception()
 {
     const Poste poste(0);
@@ -333,7 +334,10 @@ void TestTransferts::DialogueReception()
         QCOMPARE(Operateur::Lu("Label4"), u"Tour.par  Tour 2 axes, été €"_s);
         QVERIFY(Operateur::Lu("Label3").endsWith(u"C:\\Programmes CN"_s));
         QVERIFY(fenetre.findChild<QAbstractButton *>(u"Option1_3"_s)->isChecked());
-        fenetre.findChild<QComboBox *>()->setCurrentText(u"cnc"_s);
+        for (const QString &extension : {u":"_s, u""_s, u"a."_s, u"cnc"_s}) {
+            fenetre.findChild<QComboBox *>()->setCurrentText(extension);
+            QCOMPARE(Operateur::Lu("AvisExtension").isEmpty(), extension == u"cnc");
+        }
         Operateur::Presse(fenetre, "Command2");
     });
     operateur.Fait("MsgBox", Operateur::Clique(QMessageBox::No));
