@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <tuple>
 
@@ -107,21 +108,27 @@ QString DerriereMesure(const QString &salve)
     return suite.size() < QStringView(MarqueMesure).size() ? QString() : suite;
 }
 
+/// True if the operator gave the question for another number up, which makes the corrector 0.
+bool EstAbandonne(const QString &salve, const JaugeOutil &jauge)
+{
+    return jauge.NumCorr == 0 && std::nearbyint(Val(Champ(salve, ColonnesCorrecteur))) != 0;
+}
+
 /// The doubtful fields of a measure, and the values that they are taken for. If the measure broke off, all its fields
 /// are doubtful.
 QStringList DoutesChamps(const QString &salve, const JaugeOutil &jauge)
 {
-    const std::tuple<QString, Colonnes, QString> champs[] = {
-        {Texte(NomCorrecteur), ColonnesCorrecteur, QString::number(jauge.NumCorr)},
-        {QStringLiteral("Z"), ColonnesZ, TexteReel(jauge.JaugeZ)},
-        {QStringLiteral("X"), ColonnesX, TexteReel(jauge.JaugeX)}};
+    const std::tuple<QString, Colonnes, QString, bool> champs[] = {
+        {Texte(NomCorrecteur), ColonnesCorrecteur, QString::number(jauge.NumCorr), EstAbandonne(salve, jauge)},
+        {QStringLiteral("Z"), ColonnesZ, TexteReel(jauge.JaugeZ), false},
+        {QStringLiteral("X"), ColonnesX, TexteReel(jauge.JaugeX), false}};
     const bool coupee = EstCoupee(salve);
     QStringList doutes;
     if (coupee)
         doutes << Texte(Incomplete);
-    for (const auto &[nom, colonnes, valeur] : champs) {
+    for (const auto &[nom, colonnes, valeur, autre] : champs) {
         const QString champ = Champ(salve, colonnes);
-        if (coupee || EstDouteux(champ))
+        if (coupee || autre || EstDouteux(champ))
             doutes << nom + u' ' + EntreGuillemets(SansBlancs(champ)) + Texte(PrisPour) + valeur;
     }
     return doutes;
@@ -179,6 +186,11 @@ QString Paragraphe(const Texte3 &entete, const QStringList &rangs, qsizetype pla
 
 } // namespace
 
+QString SansFichierJauges()
+{
+    return Texte(Aucune) + CheminRecep();
+}
+
 void AvisMesures::NonLue(int place, const QString &salve)
 {
     const QString contenu = Visible(salve.simplified());
@@ -212,6 +224,6 @@ void AvisMesures::Montre(int lues) const
     constexpr qsizetype ecran = 12; // lines of a paragraph for which a screen has room
     const QString court = avis(ecran);
     const QString entier = avis(std::numeric_limits<qsizetype>::max() - 1);
-    const QString fin = lues == 0 ? Texte(Aucune) + CheminRecep() : QString();
+    const QString fin = lues == 0 ? SansFichierJauges() : QString();
     MsgBox((court + fin).trimmed(), Boite::Exclamation, Texte(Titre), court == entier ? QString() : entier.trimmed());
 }

@@ -140,6 +140,8 @@ private Q_SLOTS:
                     saisie->setText(reponse);
                     dynamic_cast<QDialog &>(boite).done(reponse.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
                 });
+            if (recu == u"300")
+                atelier.ApprendQue(u"N° 2, correcteur 0 : correcteur \"300\" pris pour 0"_s);
             if (recu == u"-9E4")
                 atelier.Apprend("Mesures du banc",
                                 u"Ces mesures sont douteuses, elles sont lues ainsi :\r    N° 2, "

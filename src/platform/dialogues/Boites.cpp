@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSpacerItem>
+#include <QTextEdit>
 #include <QTimer>
 
 #include <algorithm>
@@ -91,6 +92,17 @@ void Prepare(QMessageBox &boite, const QString &texte, int drapeaux, const QStri
     Elargit(boite);
 }
 
+/// Gives a box a button that shows details. Their pane has more room than the toolkit's, and the keyboard reaches it.
+void MontreDetails(QMessageBox &boite, const QString &details)
+{
+    constexpr int hauteur = 200; // pixels
+    boite.setDetailedText(PourAffichage(details));
+    if (auto *const volet = boite.findChild<QTextEdit *>()) {
+        volet->setFixedHeight(hauteur);
+        volet->setFocusPolicy(Qt::StrongFocus);
+    }
+}
+
 QPointer<QMessageBox> demande; // the question of DemandeSansAttendre(), while it stands
 
 } // namespace
@@ -121,7 +133,7 @@ Reponse MsgBox(const QString &texte, int drapeaux, const QString &titre, const Q
     if (SuppleantBoites().message)
         return SuppleantBoites().message(texte, drapeaux, titre);
     QMessageBox boite(FenetreAppelante());
-    boite.setDetailedText(PourAffichage(details));
+    MontreDetails(boite, details);
     Prepare(boite, texte, drapeaux, titre);
     if (remplace)
         RetientTouchesSansCoup(&boite);
