@@ -4,6 +4,9 @@
 
 struct JaugeOutil;
 
+/// Tells the operator that no gauge file is made, and that CheminRecep() holds the text of the bench.
+QString SansFichierJauges();
+
 /// What the operator has to know about the measures of a session before a gauge file is made of them: which could not
 /// be read, and which may hold another value than the bench has sent.
 class AvisMesures

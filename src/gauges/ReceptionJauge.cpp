@@ -5,6 +5,7 @@
 #include "donnees/ParamCom.h"
 #include "donnees/ParamMac.h"
 #include "donnees/Transfert.h"
+#include "gauges/AvisMesures.h"
 #include "gauges/CreFicJauge.h"
 #include "gauges/FiltreJauge.h"
 #include "locale/Langue.h"
@@ -118,6 +119,8 @@ private:
     static qsizetype EnAttente();
     void DemandeSuivante();
     void AnnonceLimite();
+    bool EstSurDisque() const;
+    QString SortDuTexte() const;
 
     VueTransfert &m_vue;
     bool m_dansPane = false;   ///< the program pane shows the text of the bench
@@ -278,7 +281,7 @@ void Seance::AnnonceLimite()
     QApplication::beep();
     const QString fin = QString::number(ParamMac.NbCorrecteurs) + QStringLiteral(" !");
     m_vue.Statut(Limite, fin);
-    m_vue.Consigne({}); // there is no further tool to preset
+    m_vue.Consigne(SortDuTexte()); // there is no further tool to preset
     MsgBox(Texte(Limite) + fin, Boite::Critique, Texte(LimiteTitre));
 }
 
@@ -303,17 +306,29 @@ void Seance::Termine()
 
 void Seance::MontreEchec(const Erreur &erreur) const
 {
-    m_vue.Consigne(u'\r' + TexteErreur(erreur));
+    m_vue.Consigne(u'\r' + TexteErreur(erreur) + SortDuTexte());
     m_vue.EffaceStatut();
     m_vue.CacheProgression();
 }
 
 void Seance::SauveReste() const
 {
+    if (!EstSurDisque())
+        SauveAutrePart(m_brut, OffreBrut());
+}
+
+/// True when the disk holds all that has come.
+bool Seance::EstSurDisque() const
+{
     QString surDisque;
     Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
-    if (surDisque != m_brut)
-        SauveAutrePart(m_brut, OffreBrut());
+    return surDisque == m_brut;
+}
+
+/// Where a session without a gauge file has left its measures: they stand under the name of one.
+QString Seance::SortDuTexte() const
+{
+    return m_brut.isEmpty() || !EstSurDisque() ? QString() : QStringLiteral("\r\r") + SansFichierJauges();
 }
 
 void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const

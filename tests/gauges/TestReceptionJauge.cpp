@@ -127,6 +127,12 @@ struct Atelier : Etabli
     std::shared_ptr<Scenario> banc = std::make_shared<Scenario>();
 };
 
+QString SansJauges(const Atelier &atelier)
+{
+    return u"\n\nAucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\n"_s +
+           atelier.Chemin("JAUGES.COR");
+}
+
 } // namespace
 
 class TestReceptionJauge : public QObject
@@ -291,8 +297,8 @@ private Q_SLOTS:
             [] { return Operateur::Lu("Label2") == u"En attente de réception Jauges Outil N°  2"; });
         const QString panne = u"Erreur de lecture du périphérique de communication"_s;
         atelier.LitErreur(8020, panne);
-        atelier.Presse(Dialogue, Annule, [&panne] {
-            return Operateur::Lu("Label1") == u'\n' + panne && Operateur::Lu("Label2").isEmpty();
+        atelier.Presse(Dialogue, Annule, [consigne = u'\n' + panne + SansJauges(atelier)] {
+            return Operateur::Lu("Label1") == consigne && Operateur::Lu("Label2").isEmpty();
         });
         atelier.Abandonne();
         QCOMPARE(atelier.Disque(), Brut(1));
@@ -387,8 +393,8 @@ private Q_SLOTS:
                 atelier.Presse(Dialogue, Suivante, Mesure(nombre));
             const QString limite = u"Nombre de correcteurs reçus > à %1 !"_s.arg(nombre);
             atelier.Apprend("Avertissement", limite, Boite::Critique);
-            atelier.Presse(Dialogue, Annule, [&limite] {
-                return Operateur::Lu("Label2") == limite && Operateur::Lu("Label1").isEmpty() && !TransfertEnCours();
+            atelier.Presse(Dialogue, Annule, [&limite, consigne = nombre > 0 ? SansJauges(atelier) : QString()] {
+                return Operateur::Lu("Label2") == limite && Operateur::Lu("Label1") == consigne && !TransfertEnCours();
             });
             atelier.Abandonne();
             QCOMPARE(atelier.Disque(), Brut(nombre));
