@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QToolTip>
 
 #include <utility>
 
@@ -26,6 +27,19 @@ QList<std::pair<int, int>> Lignes(const QString &texte, const QFont &police, int
     }
     page.endLayout();
     return lignes;
+}
+
+/// texte as a tool tip. In one line a long chain would not fit on the screen.
+QString Bulle(const QString &texte)
+{
+    constexpr int largeur = 600;                  // pixels
+    const bool html = Qt::mightBeRichText(texte); // it would take names such as <EM> and <SUB> for tags
+    QStringList lignes;
+    for (const auto &[debut, longueur] : Lignes(texte, QToolTip::font(), largeur)) {
+        const QString ligne = texte.mid(debut, longueur);
+        lignes << (html ? ligne.toHtmlEscaped() : ligne);
+    }
+    return lignes.join(html ? QStringLiteral("<br>") : QStringLiteral("\n"));
 }
 
 /// libelle with each run of "&" as long as in the chain: the button of "&" adds two to the label for one character, the
@@ -58,8 +72,7 @@ void LabelChaine::MontreChaine(const QString &libelle, const QString &caracteres
 {
     m_visible = ControlesVisibles(EsperluettesVraies(libelle, caracteres));
     setText(libelle);
-    // A tool tip would take names such as <EM> and <SUB> for HTML tags.
-    setToolTip(Qt::mightBeRichText(m_visible) ? m_visible.toHtmlEscaped() : m_visible);
+    setToolTip(Bulle(m_visible));
     setAccessibleDescription(m_visible);
     update(); // the chain may have changed under the same label
 }

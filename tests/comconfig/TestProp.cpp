@@ -462,6 +462,10 @@ private Q_SLOTS:
             dialogue.Label1->MontreChaine(libelle, chaine);
             QCOMPARE(dialogue.Label1->toolTip(), visible);
         }
+        const QString longue(400, u'W');
+        dialogue.Label1->MontreChaine(longue, longue);
+        QVERIFY(dialogue.Label1->toolTip().section(u'\n', 0, 0).size() < 100); // in one line it would leave the screen
+        QCOMPARE(dialogue.Label1->toolTip().remove(u'\n'), longue);
     }
 
     // What is pasted or composed into a one-line box keeps to one line: in a box without a rule, of one character, with
