@@ -27,9 +27,9 @@ constexpr Texte3 Douteuses{u"Ces mesures sont douteuses, elles sont lues ainsi :
                            u"These measures are doubtful, they are read like this:",
                            u"Estas medidas son dudosas, se leen así:"};
 constexpr Texte3 Aucune{
-    u"Aucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r",
-    u"No gauge file is made. The text received from the bench stays in the file:\r",
-    u"No se crea ningún fichero de correctores. El texto recibido del banco queda en el fichero:\r"};
+    u"Aucun fichier de jauges n'est créé.\rLe texte reçu du banc reste dans le fichier :\r",
+    u"No gauge file is made.\rThe text received from the bench stays in the file:\r",
+    u"No se crea ningún fichero de correctores.\rEl texto recibido del banco queda en el fichero:\r"};
 constexpr Texte3 SansDemande{u" caractères arrivés sans que la jauge suivante soit demandée",
                              u" characters that came before the following gauge was asked for",
                              u" caracteres llegados sin pedir la capacidad siguiente"};

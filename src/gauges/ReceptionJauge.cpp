@@ -328,7 +328,7 @@ bool Seance::EstSurDisque() const
 /// Where a session without a gauge file has left its measures: they stand under the name of one.
 QString Seance::SortDuTexte() const
 {
-    return m_brut.isEmpty() || !EstSurDisque() ? QString() : QStringLiteral("\r\r") + SansFichierJauges();
+    return m_brut.isEmpty() || !EstSurDisque() ? QString() : u'\r' + SansFichierJauges();
 }
 
 void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const

@@ -94,7 +94,7 @@ private Q_SLOTS:
     void Aucune()
     {
         const QString fin =
-            u"\r\rAucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\r"_s;
+            u"\r\rAucun fichier de jauges n'est créé.\rLe texte reçu du banc reste dans le fichier :\r"_s;
         const QString entete = u"Ces mesures n'ont pas pu être lues, elles ne sont pas écrites :"_s;
         QString rangs;
         for (int place = 1; place <= 12; ++place)

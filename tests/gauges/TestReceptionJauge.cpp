@@ -129,7 +129,7 @@ struct Atelier : Etabli
 
 QString SansJauges(const Atelier &atelier)
 {
-    return u"\n\nAucun fichier de jauges n'est créé. Le texte reçu du banc reste dans le fichier :\n"_s +
+    return u"\nAucun fichier de jauges n'est créé.\nLe texte reçu du banc reste dans le fichier :\n"_s +
            atelier.Chemin("JAUGES.COR");
 }
 
