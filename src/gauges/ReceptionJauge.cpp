@@ -82,8 +82,8 @@ const Texte3 &EtatFichier()
     return QFileInfo(chemin).size() == 0 ? Vide : Incomplet;
 }
 
-/// What the operator is asked when the text of the bench stands in no file. It is no gauge file, so it gets another
-/// ending than one.
+/// What the operator is asked when no file holds the text of the bench. That text is no gauge file, so the name offered
+/// has another ending.
 OffreSauvegarde OffreBrut()
 {
     return {Texte(BrutTitre), Texte(BrutNonEcrit) + Texte(EtatFichier()) + CheminRecep() + Texte(BrutAilleurs),
@@ -325,7 +325,8 @@ bool Seance::EstSurDisque() const
     return surDisque == m_brut;
 }
 
-/// Where a session without a gauge file has left its measures: they stand under the name of one.
+/// Says which file holds the text of the bench, since that file bears the name of a gauge file. The result is empty
+/// when nothing has come, or when the disk does not hold all of it.
 QString Seance::SortDuTexte() const
 {
     return m_brut.isEmpty() || !EstSurDisque() ? QString() : u'\r' + SansFichierJauges();

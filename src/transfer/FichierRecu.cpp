@@ -38,7 +38,7 @@ constexpr qint64 TailleTropGrande = 65536;
 
 bool ecritEntier = false; // the file of the last reception stands whole on the disk
 
-/// Has ecriture write the file of the reception. What fails names that file.
+/// Calls ecriture with the path of the reception's file. A failure that it raises then names that file.
 template <typename Ecriture>
 void EcritRecu(Ecriture ecriture)
 {

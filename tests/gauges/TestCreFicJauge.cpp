@@ -5,7 +5,6 @@
 #include "donnees/ParamMac.h"
 #include "donnees/Transfert.h"
 #include "gauges/CreFicJauge.h"
-#include "platform/base/Erreur.h"
 
 #include <QDate>
 
@@ -102,20 +101,6 @@ private Q_SLOTS:
                      (QStringList{poste.Chemin("OUTILS.JAU"), Transfert.NomFicRecep}));
             QVERIFY(!Document.FichierModifie);
         }
-    }
-
-    // A measure beyond all numbers reaches the caller; the file stays as it was.
-    void Echec()
-    {
-        const Poste poste(0);
-        ParamMac.JaugeMaxiX = 1e300; // in the machine's file a limit may be anything
-        ParamMac.TypeJauge = 1;
-        Jauges.Jauge(Jauges.NbJauges = 1).JaugeX = 1e36F; // as micrometres more than single precision holds
-        Transfert.DossierRecep = poste.Dossier();
-        Transfert.NomFicRecep = u"A.JAU"_s;
-        poste.Ecrit("A.JAU", "TN:");
-        QVERIFY_EXCEPTION_THROWN(CreFicJauge(), Erreur);
-        QCOMPARE(poste.Lit("A.JAU") + Document.NomFichier.toLatin1(), "TN:");
     }
 };
 
