@@ -2,7 +2,7 @@
 
 #include "donnees/ParamMac.h"
 #include "gauges/ChoixMac.h"
-#include "gauges/TexteVirgule.h"
+#include "gauges/Virgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Erreur.h"
@@ -146,7 +146,7 @@ void ConfMac::AnnonceExtension()
 
 void ConfMac::Command2_Click()
 {
-    if (RetientVirgule(this))
+    if (RefuseVirgule(this))
         return;
     PrendTextes();
     MontreTextes(); // the values as they are held now

@@ -2,7 +2,7 @@
 
 #include "donnees/Jauge.h"
 #include "donnees/ParamMac.h"
-#include "gauges/TexteVirgule.h"
+#include "gauges/Virgule.h"
 #include "locale/Langue.h"
 #include "locale/Legendes.h"
 #include "platform/base/Nombres.h"
@@ -118,7 +118,7 @@ void JauTour::keyPressEvent(QKeyEvent *touche)
         QDialog::keyPressEvent(touche);
         return;
     }
-    if (RetientVirgule(this))
+    if (RefuseVirgule(this))
         return;
     Text2->setFocus(Qt::TabFocusReason);
     RetientTouches(this);
@@ -134,7 +134,7 @@ void JauTour::reject()
 
 void JauTour::Command1_Click()
 {
-    if (RetientVirgule(this))
+    if (RefuseVirgule(this))
         return;
     JaugeOutil &jauge = Jauges.Jauge(OutilCadran);
     jauge.Rayon = static_cast<float>(Val(Text1->text()));

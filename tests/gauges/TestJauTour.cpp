@@ -64,7 +64,7 @@ private Q_SLOTS:
     // A heavy hand passes over no measure.
     void Mesures()
     {
-        const Poste poste(1);
+        Etabli etabli(1);
         Jauges.NbJauges = 6;
         for (int i = 1; i <= Jauges.NbJauges; ++i)
             Jauges.Jauge(i) = {10 * i, 1, i == 2 ? -2.5F : 2.5F, 9, 9, i == 2 ? u'?' : u'R', i < 3 ? 0 : 2};
@@ -81,8 +81,10 @@ private Q_SLOTS:
             return vues;
         };
         QCOMPARE(tape(u"a.8x"_s, u"3"_s), u"Measured tool N° : 1   Corrector N° : 1000X = 2.5 (R)    Z = 1"_s);
-        for (const bool entree : {true, false}) { // "04" is held back once, and what has its point is not
-            QTest::keyClicks(d.Text1, u"0,4"_s);
+        // "04" is refused until it is changed.
+        for (const auto &[frappe, entree] : {std::pair{u"0,4"_s, true}, {u"0,4"_s, false}, {QString(), true}}) {
+            QTest::keyClicks(d.Text1, frappe);
+            etabli.Apprend(d.windowTitle(), "Decimals are written behind a point: 0.4");
             entree ? QTest::keyClick(d.Text1, Qt::Key_Return) : QTest::mouseClick(d.Command1, Qt::LeftButton);
             QCOMPARE(d.focusWidget(), d.Text1);
             QCOMPARE(d.Text1->selectedText(), u"04"_s);

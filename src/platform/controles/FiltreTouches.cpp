@@ -1,7 +1,5 @@
 #include "platform/controles/FiltreTouches.h"
 
-#include "platform/controles/Clavier.h"
-
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -81,8 +79,10 @@ public:
     }
 };
 
-/// Property of a box from which a comma was dropped and whose text was not corrected since: the notice to show.
+/// Properties of a box. The first holds the notice to show as long as a comma was dropped and the text not corrected
+/// since; the second is set once the operator has been told.
 constexpr const char *VirguleJetee = "virguleJetee";
+constexpr const char *VirguleDite = "virguleDite";
 
 /// Drops a typed comma and shows a notice, since "0,4" would otherwise silently become "04". A comma of the keypad
 /// counts as a point.
@@ -107,17 +107,19 @@ public:
             return false;
         MontreAvis(m_saisie, m_avis);
         m_saisie->setProperty(VirguleJetee, m_avis);
+        m_saisie->setProperty(VirguleDite, false);
         m_devant = m_saisie->text().left(m_saisie->hasSelectedText() ? m_saisie->selectionStart()
                                                                      : m_saisie->cursorPosition());
         return true;
     }
 
 private:
-    /// Follows the corrections of the operator. The comma is made good by a point, or by changing the text before it,
-    /// not by further digits.
+    /// Follows the corrections of the operator. The comma is made good by a point, or by changing the text before it.
+    /// Further digits do so only after he was told.
     void Suit(const QString &texte)
     {
-        if (!texte.startsWith(m_devant) || texte.count(u'.') > m_devant.count(u'.'))
+        if (m_saisie->property(VirguleDite).toBool() || !texte.startsWith(m_devant) ||
+            texte.count(u'.') > m_devant.count(u'.'))
             m_saisie->setProperty(VirguleJetee, QVariant());
     }
 
@@ -180,21 +182,19 @@ void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis)
     new RefusVirgule(avis, saisie);
 }
 
-bool RetientVirgule(QWidget *fenetre)
+QString RetientVirgule(const QWidget *fenetre)
 {
     const auto saisies = fenetre->findChildren<QLineEdit *>();
     for (QLineEdit *const saisie : saisies) {
         const QString avis = saisie->property(VirguleJetee).toString();
         if (avis.isEmpty())
             continue;
-        saisie->setProperty(VirguleJetee, QVariant());
+        saisie->setProperty(VirguleDite, true);
         saisie->setFocus();
         saisie->selectAll();
-        MontreAvis(saisie, avis);
-        RetientTouches(fenetre); // the operator may press Enter twice before he sees the notice
-        return true;
+        return avis;
     }
-    return false;
+    return {};
 }
 
 void MontreAvis(QLineEdit *saisie, const QString &avis)
