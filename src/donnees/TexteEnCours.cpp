@@ -112,6 +112,18 @@ void RetireEnCours()
     Oublie();
 }
 
+void ClasseEnCours()
+{
+    QString chemin;
+    {
+        const std::lock_guard garde(place.verrou);
+        chemin = place.chemin;
+        Oublie();
+    }
+    if (!chemin.isEmpty())
+        ClasseTexte(chemin);
+}
+
 void LaisseEnCours()
 {
     const std::lock_guard garde(place.verrou);

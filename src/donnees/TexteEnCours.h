@@ -18,6 +18,9 @@ bool EcritureEnRoute();
 /// the disk.
 void RetireEnCours();
 
+/// Turns the file into a kept text of "Sauvegardes", because the pane was emptied before another text came into it.
+void ClasseEnCours();
+
 /// Leaves the file as it was last written, because the text could not be kept elsewhere. The next start finds it.
 void LaisseEnCours();
 

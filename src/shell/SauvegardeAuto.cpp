@@ -118,7 +118,7 @@ SauvegardeAuto::~SauvegardeAuto()
 QString SauvegardeAuto::Retient()
 {
     if (!TexteModifie()) {
-        RetireEnCours(); // the file of a text that the operator has emptied himself
+        Document.FichierModifie ? ClasseEnCours() : RetireEnCours(); // a changed text is gone when the pane was emptied
         return {};
     }
     if (m_garde.isEmpty() || !FichierExiste(m_garde))

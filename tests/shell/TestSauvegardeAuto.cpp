@@ -165,6 +165,16 @@ private Q_SLOTS:
         QVERIFY(atelier.Gardes().isEmpty());
     }
 
+    // The operator empties the pane and goes on to another text: what was written at rest is all that is left of it.
+    void Vide()
+    {
+        const Atelier atelier;
+        QTRY_COMPARE(atelier.Gardes(), QByteArrayList{"!P.iso=N10 G0\r\n"});
+        frmPrinc->Text1->RetireFin(99);
+        OuvreAutre(atelier);
+        QCOMPARE(atelier.Gardes(), QByteArrayList{"P@.iso=N10 G0\r\n"});
+    }
+
     // Names, and what the folder holds at most: the oldest go, but neither what was kept last nor the operator's own.
     void Dossier()
     {
