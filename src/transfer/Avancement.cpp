@@ -46,7 +46,7 @@ QString Avancement::EnPourCent() const
 
 void Avancement::Montre(qint64 faits)
 {
-    faits = std::clamp<qint64>(faits, 0, m_total);
+    faits = std::clamp(faits, m_faits, m_total);
     const qint64 maintenant = m_depuis.elapsed();
     const bool fini = faits == m_total && m_faits != m_total;
     if (faits != m_faits)

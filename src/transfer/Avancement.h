@@ -16,7 +16,7 @@ public:
     ~Avancement();
     Q_DISABLE_COPY_MOVE(Avancement)
 
-    /// faits: characters sent so far. A number outside 0 to total counts as the nearer of the two.
+    /// faits: characters sent so far, at most total. The bar never goes back.
     void Montre(qint64 faits);
 
 private:

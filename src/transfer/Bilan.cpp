@@ -20,7 +20,7 @@ using Lignes = CompteursLigne;
 struct Pertes
 {
     QElapsedTimer depuis;
-    std::array<qint64, 3> caracteres{}; ///< by Perte
+    std::array<qint64, 4> caracteres{}; ///< by Perte
     bool finCollee = false;             ///< see NoteFinCollee()
     bool finJetee = false;              ///< the end of transfer was dropped, and no line has come since
     bool sansPort = false;              ///< see NotePort()
@@ -53,6 +53,13 @@ constexpr Remede Remedes[] = {
      {u"recevoir par fichier, ou faire une pause en fin de ligne à la machine",
       u"receive by file, or have the machine pause at the end of each line",
       u"recibir por fichero, o hacer una pausa al final de cada línea en la máquina"}},
+    {{{{nullptr,
+        Perte::ApresFin,
+        {{u"caractère jeté derrière la fin de transfert", u"character thrown away behind the end of transfer",
+          u"carácter descartado detrás del final de transferencia"},
+         {u"caractères jetés derrière la fin de transfert", u"characters thrown away behind the end of transfer",
+          u"caracteres descartados detrás del final de transferencia"}}}}},
+     {u"vérifier la fin de transfert", u"check the end of transfer", u"comprobar el final de transferencia"}},
     {{{{nullptr,
         Perte::SansFin,
         {{u"caractère d'une ligne sans fin", u"character of a line without end", u"carácter de una línea sin fin"},
@@ -96,8 +103,10 @@ constexpr Nom3 CaracteresRecus{{u"caractère reçu", u"character received", u"ca
                                {u"caractères reçus", u"characters received", u"caracteres recibidos"}};
 constexpr Texte3 EnTemps{u"%1 en %2.", u"%1 in %2.", u"%1 en %2."};
 constexpr Texte3 EnTempsForce{u"%1 en %2, fin forcée.", u"%1 in %2, end forced.", u"%1 en %2, final forzado."};
-constexpr Texte3 EmissionInterrompue{u"Emission interrompue ! ", u"Sending broken off ! ", u"Emisión interrumpida ! "};
-constexpr Texte3 FichierNonEcrit{u"%1 n'est pas enregistré ! ", u"%1 is not saved ! ", u"%1 no está guardado ! "};
+constexpr Texte3 EmissionInterrompue{u"Emission interrompue ! ", u"Sending broken off ! ", u"¡Emisión interrumpida! "};
+constexpr Texte3 FichierNonEcrit{u"%1 n'est pas enregistré ! ", u"%1 is not saved ! ", u"¡%1 no está guardado! "};
+constexpr Texte3 FichierVide{u"Le fichier reçu est vide.", u"The file received is empty.",
+                             u"El fichero recibido está vacío."};
 constexpr Texte3 Sauve{u"Texte reçu enregistré : ", u"Received text saved: ", u"Texto recibido guardado: "};
 constexpr Texte3 FinCollee{u"La fin de transfert est arrivée collée à une ligne : forcer la fin de réception.",
                            u"The end of transfer has come stuck to a line: force the end of receiving.",
@@ -183,6 +192,11 @@ bool EstMuet(QStringView texte)
                        [](QChar c) { return c.unicode() <= blanc || c.unicode() == efface; });
 }
 
+QStringList AlerteVide(QStringView recu)
+{
+    return EstMuet(recu) ? QStringList{Texte(FichierVide)} : QStringList();
+}
+
 void DebuteBilan()
 {
     pertes = {};
@@ -199,7 +213,7 @@ void NotePort(VueTransfert &vue)
 
 void NotePerte(Perte perte, const QString &caracteres)
 {
-    if (perte != Perte::SansFin)
+    if (perte == Perte::Jetes || perte == Perte::Debordement)
         NoteFinJetee(caracteres);
     QStringView programme = caracteres;
     if (programme.endsWith(ParamCom.ChaineFinTrans))

@@ -11,6 +11,10 @@ class VueTransfert;
 /// True if texte holds nothing but blanks and control characters.
 bool EstMuet(QStringView texte);
 
+/// The sentence for MontreBilan() that says that nothing of a program is in the file received. Empty if recu holds
+/// something.
+QStringList AlerteVide(QStringView recu);
+
 /// A transfer begins: all counts start at zero.
 void DebuteBilan();
 
@@ -20,6 +24,7 @@ void NotePort(VueTransfert &vue);
 /// Why received characters are not in the file of a reception.
 enum class Perte {
     Jetes,      ///< they came after a line end, where the reception empties the port
+    ApresFin,   ///< they came after the end of transfer
     SansFin,    ///< they belong to a line without an end
     Debordement ///< the port was emptied after the system had lost characters
 };
@@ -41,7 +46,7 @@ void MontreNouvellesPertes(VueTransfert &vue);
 enum class Issue { Emis, EmissionRompue, Recu, ReceptionRompue };
 
 /// Shows how much has passed in what time, whether the operator forced the end, and what went wrong, with its remedy.
-/// manques: sentences about what was not sent.
+/// manques: sentences about what was not sent or received.
 void MontreBilan(VueTransfert &vue, Issue issue, const QStringList &manques = {});
 
 /// What a failed reception had received was saved as chemin: MontreBilan() with that path before it. A path that is too

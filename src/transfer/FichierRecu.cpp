@@ -136,6 +136,7 @@ void MontreRecu(const QString &chemin)
     Saute([&chemin] {
         if (QFileInfo(chemin).size() >= TailleTropGrande) {
             VidePane();
+            TitreFenetre(chemin);
             ProposeTraitementDeTexte(chemin);
         } else {
             MontreFichier(chemin);

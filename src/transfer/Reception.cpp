@@ -117,8 +117,7 @@ bool Remplissage::EchoSuperflu()
 void Remplissage::Termine()
 {
     const QString reste = Controle().VideReception();
-    if (Transfert.ForceRECEPT) // otherwise it came after the end of transfer
-        NotePerte(Perte::Jetes, reste);
+    NotePerte(Transfert.ForceRECEPT ? Perte::Jetes : Perte::ApresFin, reste);
     NotePerte(Perte::SansFin, Ligne);
     Transfert.FinTransfert = true;
     Lignes.NbLignes = m_compteur;
@@ -126,7 +125,7 @@ void Remplissage::Termine()
     AcheveReception(m_vue);
     Ligne.clear();
     EcritFichierRecu(Recu());
-    MontreBilan(m_vue, Issue::Recu);
+    MontreBilan(m_vue, Issue::Recu, AlerteVide(Recu()));
     OuvreFichierRecu();
     if (Transfert.FinTransfert)
         m_vue.OffreFermer();

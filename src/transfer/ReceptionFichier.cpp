@@ -168,7 +168,7 @@ void TermineFichier(VueTransfert &vue)
         EchoueReception(erreur, vue, frmPrinc->Text1->Text());
         return;
     }
-    MontreBilan(vue, Issue::Recu);
+    MontreBilan(vue, Issue::Recu, AlerteVide(frmPrinc->Text1->Text()));
     TitreFenetre(Transfert.NomFicRecep);
     MontreDonnee(frmPrinc->Label2, Transfert.NomFicRecep);
     Document.FichierModifie = false;

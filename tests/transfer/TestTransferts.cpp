@@ -51,6 +51,7 @@ const QString Collee = u"La fin de transfert est arrivée collée à une ligne :
 /// count and the time.
 const std::tuple<const char *, Genre, int, bool, QByteArrayList, QString> Pertes[] = {
     {"line", Genre::Ligne, 3, false, {"A\r\n", "B\r\n", "\x04"}, {}},
+    {"line, nothing", Genre::Ligne, 3, false, {"\r\n", "\x04"}, u"Le fichier reçu est vide."_s},
     {"line, none at the end", Genre::Ligne, 3, true, {"N1\r\nN2 X", "\r\n", "N3"}, u"2 caractères"_s + SansFin},
     {"line, the end behind a text",
      Genre::Ligne,
@@ -59,7 +60,12 @@ const std::tuple<const char *, Genre, int, bool, QByteArrayList, QString> Pertes
      {"A\r\n", "M30\x04"},
      u"1 caractère"_s + SansFin + u'\n' + Collee},
     {"line, the end in one reading", Genre::Ligne, 3, true, {"M30\r\n\x04"}, Collee},
-    {"character, more behind the end", Genre::Caractere, 1, false, {"A\r\n", "B\r\n", "\x04Z"}, {}},
+    {"character, more behind the end",
+     Genre::Caractere,
+     1,
+     false,
+     {"A\r\n", "B\r\n", "\x04Z"},
+     u"1 caractère jeté derrière la fin de transfert : vérifier la fin de transfert."_s},
     {"character, NULs", Genre::Caractere, 3, false, {QByteArray("A\r\n\0\0", 5), "B\r\n", "\x04"}, {}},
     {"character, lines thrown away",
      Genre::Caractere,
@@ -226,8 +232,8 @@ void TestTransferts::VideEntreTemps()
     QVERIFY(essai.ligne->reglages.isEmpty());
 }
 
-// What a reception had to throw away is counted, and what no program misses is not: what follows the end, the rest of a
-// line end, a leader of NULs.
+// What a reception had to throw away is counted, and what no program misses is not: the rest of a line end, a leader of
+// NULs.
 void TestTransferts::Bilans()
 {
     const auto &[nom, genre, finLigne, force, pieces, attendu] = Rangee(Pertes);
