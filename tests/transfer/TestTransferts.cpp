@@ -1,9 +1,7 @@
-#include "Donnees.h"
 #include "EssaiTransfert.h"
 
 #include "donnees/Lignes.h"
 #include "donnees/ParamCom.h"
-#include "locale/Langue.h"
 #include "shell/Document.h"
 #include "shell/SauvegardeAuto.h"
 
