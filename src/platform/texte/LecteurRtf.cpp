@@ -47,7 +47,7 @@ struct GroupeRtf
 struct Police
 {
     QString nom;
-    QByteArray codage; ///< empty: that of the file
+    int page = 0; ///< code page; 0: that of the file
 };
 
 /// Reads the file in one pass. Groups are kept on a stack in memory instead of by recursion, so that their depth is not
@@ -69,9 +69,9 @@ public:
     void Ordinaire(int) { m_groupe.style = Style(); }
     void PoliceOrdinaire(int valeur) { m_policeOrdinaire = valeur; }
     void PageDeCode(int valeur);
-    void CodageMac(int) { m_codage = "macintosh"; }
-    void CodagePc(int) { m_codage = "IBM437"; }
-    void CodagePca(int) { m_codage = "IBM850"; }
+    void PageMac(int) { m_page = 10000; }
+    void PagePc(int) { m_page = 437; }
+    void PagePca(int) { m_page = 850; }
     void Remplacements(int valeur) { m_groupe.remplacements = std::max(valeur, 0); }
     void Unicode(int valeur);
 
@@ -91,7 +91,7 @@ private:
     void Caractere(QStringView texte);
     bool EstRemplacement();
     void VideOctets();
-    QByteArray Codage() const;
+    int Page() const;
     void Ecrit(QStringView texte);
     AttributsRtf Attributs(const Style &style) const;
 
@@ -103,7 +103,7 @@ private:
     int m_remplacements = 0;      ///< substitute characters of the last \u that are still to come
     QByteArray m_octetsEnAttente; ///< bytes of the body that are not decoded yet, since several can make one character
 
-    QByteArray m_codage; ///< empty: code page 1252
+    int m_page = 0; ///< code page
     int m_policeOrdinaire = 0;
     QHash<int, Police> m_polices;
     int m_policeDecrite = 0;
@@ -162,9 +162,9 @@ const QHash<QByteArray, Effet> &Mots()
             {"plain", &Lecteur::Ordinaire},
             {"deff", &Lecteur::PoliceOrdinaire},
             {"ansicpg", &Lecteur::PageDeCode},
-            {"mac", &Lecteur::CodageMac},
-            {"pc", &Lecteur::CodagePc},
-            {"pca", &Lecteur::CodagePca},
+            {"mac", &Lecteur::PageMac},
+            {"pc", &Lecteur::PagePc},
+            {"pca", &Lecteur::PagePca},
             {"uc", &Lecteur::Remplacements},
             {"u", &Lecteur::Unicode},
         };
@@ -354,9 +354,9 @@ void Lecteur::DecritPolice(const QByteArray &nom, int valeur)
         m_policeDecrite = valeur;
         m_polices.insert(valeur, {});
     } else if (nom == "fcharset")
-        m_polices[m_policeDecrite].codage = CodageDeJeu(valeur);
+        m_polices[m_policeDecrite].page = PageDeJeu(valeur);
     else if (nom == "cpg")
-        m_polices[m_policeDecrite].codage = CodageDePage(valeur);
+        m_polices[m_policeDecrite].page = std::max(valeur, 0);
 }
 
 void Lecteur::DecritCouleur(const QByteArray &nom, int valeur)
@@ -381,7 +381,7 @@ void Lecteur::Rangee(int)
 
 void Lecteur::PageDeCode(int valeur)
 {
-    m_codage = CodageDePage(valeur);
+    m_page = valeur;
 }
 
 void Lecteur::Unicode(int valeur)
@@ -430,14 +430,14 @@ void Lecteur::VideOctets()
     if (m_octetsEnAttente.isEmpty())
         return;
     const QByteArray octets = std::exchange(m_octetsEnAttente, QByteArray());
-    Ecrit(TexteDeCodage(octets, Codage()));
+    Ecrit(TexteDePage(octets, Page()));
 }
 
-QByteArray Lecteur::Codage() const
+int Lecteur::Page() const
 {
     const int police = m_groupe.style.police == Style::PoliceDuFichier ? m_policeOrdinaire : m_groupe.style.police;
-    const QByteArray codage = m_polices.value(police).codage;
-    return codage.isEmpty() ? m_codage : codage;
+    const int page = m_polices.value(police).page;
+    return page == 0 ? m_page : page;
 }
 
 void Lecteur::Ecrit(QStringView texte)
