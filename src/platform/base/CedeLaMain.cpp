@@ -1,11 +1,12 @@
 #include "platform/base/CedeLaMain.h"
 
+#include "platform/base/Sommeil.h"
+
 #include <QAbstractEventDispatcher>
-#include <QTimer>
 
 namespace {
 
-constexpr int SommeilMax = 5; // ms
+constexpr std::chrono::milliseconds SommeilMax{5};
 // Turns of the event loop in one call at most: events that keep raising new events must not hold the caller for ever.
 constexpr int ToursMax = 16;
 
@@ -19,15 +20,6 @@ bool TraiteEvenements(QAbstractEventDispatcher &repartiteur)
     return tours > 0;
 }
 
-void Dort(QAbstractEventDispatcher &repartiteur)
-{
-    QTimer reveil;
-    reveil.setTimerType(Qt::PreciseTimer);
-    reveil.setSingleShot(true);
-    reveil.start(SommeilMax);
-    repartiteur.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-}
-
 } // namespace
 
 void CedeLaMain()
@@ -37,7 +29,7 @@ void CedeLaMain()
         return;
     const bool traite = TraiteEvenements(*repartiteur);
     if (!traite && !mouvement)
-        Dort(*repartiteur);
+        Sommeille(*repartiteur, SommeilMax);
     mouvement = false;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/base/Console.h"
 
 #include <cstdio>
+#include <initializer_list>
 
 #include <windows.h>
 
@@ -10,6 +11,6 @@ void RelieConsole()
     const bool redirigee = GetFileType(GetStdHandle(STD_OUTPUT_HANDLE)) != FILE_TYPE_UNKNOWN;
     if (AttachConsole(ATTACH_PARENT_PROCESS) == 0 || redirigee)
         return;
-    std::freopen("CONOUT$", "w", stdout);
-    std::freopen("CONOUT$", "w", stderr);
+    for (FILE *const sortie : {stdout, stderr})
+        static_cast<void>(std::freopen("CONOUT$", "w", sortie));
 }
