@@ -119,7 +119,7 @@ Prop::Prop(QWidget *parent)
     BrancheAides(*this);
     Form_Load();
     Form_Activate();
-    m_validee = ParamCom;
+    Valide();
 }
 
 void Prop::BrancheCommandes()
@@ -229,7 +229,7 @@ void Prop::cmdOK_Click()
         MontreDonnee(frmPrinc->Label4, EtatConf.NomConf);
     MontreDonnee(frmPrinc->Label6, ParamCom.Commentaire);
     AppliqueResteAuPort();
-    m_validee = ParamCom;
+    Valide();
     if (EtatConf.fiche == EtatConfiguration::EnAttente)
         EtatConf.fiche = EtatConfiguration::Entiere;
 }
@@ -252,7 +252,7 @@ void Prop::Command1_Click()
         EtatConf.FicConf = CommonDialog1->FileName;
         EtatConf.NomConf = CommonDialog1->FileTitle;
         EcrireFichierPar(EtatConf.FicConf);
-        m_validee = ParamCom;
+        Valide();
         Nomme(EtatConf.NomConf);
         AnnoncePertes();
     });
@@ -266,6 +266,12 @@ void Prop::AnnoncePertes()
     AnnonceSaisiePerdue(ParamCom.Commentaire + ParamCom.LibDebProg + ParamCom.LibFinLig + ParamCom.LibFinTrans, titre);
     if (FinTransfertPerdue())
         MsgBox(Texte(FinPerdue), Boite::Exclamation, titre);
+}
+
+/// What the record holds now is no change that closing would leave unapplied.
+void Prop::Valide()
+{
+    m_validee = ParamCom;
 }
 
 void Prop::done(int resultat)

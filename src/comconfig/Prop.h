@@ -50,6 +50,7 @@ private:
     void BrancheDossiers();
     static void AnnoncePertes();
     void VaA(QLineEdit *boite);
+    void Valide();
 
     CommonDialog *const CommonDialog1; ///< file dialog of "Save as" and of the editor
     ConfigurationCom m_validee;        // the record when the dialog opened, or was last applied or saved

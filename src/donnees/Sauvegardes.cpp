@@ -64,7 +64,7 @@ QString Reserve(const QString &nom, const QDateTime &date)
     AssureDossier(dossier);
     for (int rang = 1;; ++rang) {
         const QString suite = rang == 1 ? QString() : QStringLiteral(" (%1)").arg(rang);
-        const QString chemin =
+        QString chemin =
             AjouteAntislash(dossier) + racine + date.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + suite + fin;
         try {
             const FichierDisque reserve(chemin, FichierDisque::Usage::Cree);

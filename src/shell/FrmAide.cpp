@@ -138,7 +138,7 @@ QString PageDe(const QWidget *fenetre)
 {
     const auto enfants = fenetre->findChildren<QWidget *>();
     for (const QWidget *enfant : enfants) {
-        const QString page = enfant->property("pageAide").toString();
+        QString page = enfant->property("pageAide").toString();
         if (enfant->isVisible() && !page.isEmpty())
             return page;
     }
@@ -150,7 +150,7 @@ QString PageDe(const QWidget *fenetre)
     if (nom && parent == frmPrinc)
         return QStringLiteral("explorateur");
     if (const auto *const fichiers = qobject_cast<const QFileDialog *>(fenetre); fichiers && parent == frmPrinc) {
-        if (const QString page = PageDesFichiers(*fichiers); !page.isEmpty())
+        if (QString page = PageDesFichiers(*fichiers); !page.isEmpty())
             return page;
     }
     const bool demande = nom || fenetre->inherits("QFileDialog") || fenetre->inherits("QColorDialog");

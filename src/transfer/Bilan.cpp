@@ -187,7 +187,8 @@ QString Passe(bool emission)
 
 bool EstMuet(QStringView texte)
 {
-    constexpr char16_t blanc = 32, efface = 127;
+    constexpr char16_t blanc = 32;
+    constexpr char16_t efface = 127;
     return std::all_of(texte.begin(), texte.end(),
                        [](QChar c) { return c.unicode() <= blanc || c.unicode() == efface; });
 }

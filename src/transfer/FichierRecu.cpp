@@ -168,7 +168,7 @@ QString SauveAilleurs(const QString &texte, const OffreSauvegarde &offre)
     const QString question = garde.isEmpty() ? offre.question : offre.question + Texte(CopieReste);
     while (Confirme(question, Boite::Exclamation, offre.titre)) {
         try {
-            const QString chemin = EcritAilleurs(texte, offre);
+            QString chemin = EcritAilleurs(texte, offre);
             if (!garde.isEmpty())
                 QFile::remove(garde);
             return chemin;

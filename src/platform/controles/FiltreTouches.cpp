@@ -186,7 +186,7 @@ QString RetientVirgule(const QWidget *fenetre)
 {
     const auto saisies = fenetre->findChildren<QLineEdit *>();
     for (QLineEdit *const saisie : saisies) {
-        const QString avis = saisie->property(VirguleJetee).toString();
+        QString avis = saisie->property(VirguleJetee).toString();
         if (avis.isEmpty())
             continue;
         saisie->setProperty(VirguleDite, true);

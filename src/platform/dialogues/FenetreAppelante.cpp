@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -31,11 +30,11 @@ public:
         if (dialogue == nullptr || !dialogue->isModal() || dialogue->parentWidget() == nullptr || !Actif(*dialogue))
             return false;
         // Queued, so that a dialog below, which closes in the same moment, has gone too.
-        const QPointer<QWidget> appelante = dialogue->parentWidget()->window();
-        QTimer::singleShot(0, qApp, [appelante] {
+        QWidget *const appelante = dialogue->parentWidget()->window();
+        QTimer::singleShot(0, appelante, [appelante] {
             QWidget *const modale = QApplication::activeModalWidget();
-            QWidget *const suivante = modale != nullptr ? modale : appelante.data();
-            if (suivante != nullptr && suivante->isVisible())
+            QWidget *const suivante = modale != nullptr ? modale : appelante;
+            if (suivante->isVisible())
                 suivante->activateWindow();
         });
         return false;

@@ -2,6 +2,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
+#include <QKeyEvent>
 
 #include <windows.h>
 
@@ -32,7 +33,8 @@ void GuetteRepetitions()
     QCoreApplication::instance()->installNativeEventFilter(&guet);
 }
 
-bool EstRepetition(const QKeyEvent & /*touche*/)
+/// An event without a scan code comes from no key, and knows by itself what it is.
+bool EstRepetition(const QKeyEvent &touche)
 {
-    return Repetee;
+    return touche.nativeScanCode() == 0 ? touche.isAutoRepeat() : Repetee;
 }

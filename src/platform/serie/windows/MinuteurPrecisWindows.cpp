@@ -13,7 +13,6 @@
 
 namespace {
 
-using namespace std::chrono_literals;
 using HorlogeReelle = std::chrono::steady_clock; // the real one, even when a test hands in another
 using Pas = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // the unit of Windows: 100 ns
 
@@ -38,7 +37,8 @@ struct MinuteurPrecis::Interne
     void Arme(std::chrono::nanoseconds delai)
     {
         LARGE_INTEGER dans;
-        dans.QuadPart = -std::chrono::ceil<Pas>(std::max(delai, 0ns)).count(); // negative: counted from now
+        dans.QuadPart = -std::chrono::ceil<Pas>(std::max(delai, std::chrono::nanoseconds::zero()))
+                             .count(); // negative: counted from now
         SetWaitableTimer(minuteur.get(), &dans, 0, nullptr, nullptr, FALSE);
     }
 
@@ -54,7 +54,7 @@ MinuteurPrecis::MinuteurPrecis()
         if (!m_interne->echeance)
             return;
         // The wake-up belongs to an earlier Arme(), or came too early.
-        if (const auto reste = *m_interne->echeance - HorlogeReelle::now(); reste > 0ns) {
+        if (const auto reste = *m_interne->echeance - HorlogeReelle::now(); reste > reste.zero()) {
             m_interne->Arme(reste);
             return;
         }
