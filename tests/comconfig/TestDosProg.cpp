@@ -51,10 +51,11 @@ private Q_SLOTS:
         arbre.setSelectedFolder(Reglages.DosAppli);
         dialogue.Command2->click();
         arbre.clearSelection();
-        QCOMPARE(DossierDe(type), Reglages.DosAppli + u'/');
+        QCOMPARE(DossierDe(type), atelier.Dossier() + QDir::separator());
         const QString attendu = programmes ? u"\"%1/Prog/Tour/\"\r\n\"%1/Jau\"\r\n\"%2\"\r\n"_s
                                            : u"\"%1/Prog\"\r\n\"%1/Prog/Tour/\"\r\n\"%2\"\r\n"_s;
-        QCOMPARE(atelier.Lit(Cfg), attendu.arg(Reglages.DosAppli, Reglages.EditeurCN).toLatin1());
+        QCOMPARE(atelier.Lit(Cfg),
+                 QDir::toNativeSeparators(attendu.arg(Reglages.DosAppli, Reglages.EditeurCN)).toLatin1());
         atelier.Redemarre();
         QCOMPARE(DossierDe(type), atelier.Chemin("Prog/Tour/"));
     }
@@ -85,14 +86,14 @@ private Q_SLOTS:
         Reglages.DosJauge = u"C:\\parti"_s;
         atelier.Apprend("Error", "El directorio <C:\\parti> no existe ya !");
         const DosProg dialogue(DossierJauges, frmPrinc);
-        QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), Reglages.DosAppli + u'/');
+        QCOMPARE(dialogue.FolderTreeview1->SelectedFolder(), atelier.Dossier() + QDir::separator());
         const QString cle = atelier.Chemin("Cle/");
         QVERIFY(QDir().mkdir(cle));
         dialogue.FolderTreeview1->setSelectedFolder(cle);
         QCOMPARE(Reglages.DosJauge, cle);
         atelier.Apprend("Error", u"El directorio <%1> no existe ya !"_s.arg(cle));
         QVERIFY(QDir().rmdir(cle));
-        QTRY_COMPARE(Reglages.DosJauge, Reglages.DosAppli + u'/');
+        QTRY_COMPARE(Reglages.DosJauge, atelier.Dossier() + QDir::separator());
         dialogue.Command3->click();
         dialogue.Text1->setText(u"Prog"_s); // in use
         atelier.Apprend("Erreur", u"El directorio <%1>  no pudo crearse !"_s.arg(atelier.Chemin("Prog")),
@@ -102,7 +103,7 @@ private Q_SLOTS:
         dialogue.Command4->click();
         QVERIFY(!dialogue.Frame1->isHidden());
         dialogue.Command2->click();
-        QCOMPARE(Reglages.DosJauge, Reglages.DosAppli + u'/');
+        QCOMPARE(Reglages.DosJauge, atelier.Dossier() + QDir::separator());
     }
 
     // The new folder is the reception folder at once, and the tree stands on it, as the explorer does where it was

@@ -39,7 +39,7 @@ struct Atelier : Etabli
             Presse("FrmConfDem", "Command4");
         Presse("FrmConfDem", "Command3");
         Menu("Mnu_ConfigDemar");
-        QCOMPARE(Lit("Dorvanel.ini"), ini.arg(Dossier()).toLatin1());
+        QCOMPARE(Lit("Dorvanel.ini"), QDir::toNativeSeparators(ini.arg(Dossier())).toLatin1());
     }
 };
 

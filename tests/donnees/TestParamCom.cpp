@@ -1,4 +1,3 @@
-#include "DisquePlein.h"
 #include "Donnees.h"
 #include "Essais.h"
 
@@ -56,10 +55,6 @@ private Q_SLOTS:
         QCOMPARE(ParamCom.TypeEnvoi, 1);
         QCOMPARE(Lit(m_dossier.filePath(u"absent.par"_s)), Erreur::FichierIntrouvable);
         QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(m_dossier.filePath(u"parti/x.par"_s)), Erreur);
-        const QString coupe = m_dossier.filePath(u"coupe"_s);
-        const auto plein = DisquePlein(8);
-        QVERIFY_EXCEPTION_THROWN(EcrireFichierPar(coupe), Erreur);
-        QVERIFY(!QFile::exists(coupe));
     }
 
     // One line of the full file changed, or missing. What stands behind the failure keeps its former value.

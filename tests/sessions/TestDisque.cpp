@@ -8,6 +8,7 @@
 #include "comconfig/Prop.h"
 #include "donnees/Jauge.h"
 #include "donnees/ParamCom.h"
+#include "donnees/ParamMac.h"
 #include "donnees/Reglages.h"
 #include "donnees/Transfert.h"
 #include "gauges/ConfMac.h"
@@ -205,6 +206,7 @@ private Q_SLOTS:
                 QTest::addRow("%s%s", Ecrivains[rang].nom, ferme ? ", read-only" : "") << rang << ferme;
     }
     void Pannes();
+    void Coupes();
 };
 
 // Told, or silent where a command ends so; text and former file whole; then the same command goes through.
@@ -231,6 +233,18 @@ void TestDisque::Pannes()
     Ecrivains[rang].joue(atelier);
     QCOMPARE(QFileInfo(atelier.Chemin(fichier)).isDir(), dossier);
     QVERIFY(dossier || (atelier.Lit(fichier) != avant && atelier.Lit(fichier).endsWith("\r\n")));
+}
+
+// A new configuration that the disk cuts does not stay.
+void TestDisque::Coupes()
+{
+    const Poste poste(0);
+    const QString coupe = poste.Chemin("coupe");
+    const auto plein = DisquePlein(8);
+    for (const auto ecrit : {EcrireFichierPar, EcritMac}) {
+        QVERIFY_EXCEPTION_THROWN(ecrit(coupe), Erreur);
+        QVERIFY(!QFile::exists(coupe));
+    }
 }
 
 QTEST_MAIN(TestDisque)

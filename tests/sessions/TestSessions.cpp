@@ -19,6 +19,7 @@ class TestSessions : public QObject
 
 private Q_SLOTS:
     void CommandeInconnue();
+    void Ports();
     void BancTour();
     void SansPause_data() { RangsGenres(2, 4); }
     void SansPause();
@@ -187,6 +188,24 @@ void TestSessions::SansPause()
     const qsizetype ecart = recu.size() + perdus - programme.size();
     QVERIFY2(ecart >= 0, qPrintable(QString::number(ecart)));
     QVERIFY2(ecart <= recu.count('\n'), qPrintable(QString::number(ecart)));
+}
+
+// Each port says what it stands for as it is looked at.
+void TestSessions::Ports()
+{
+    const Poste poste(0);
+    const QString adaptateur = poste.Ecrit("adaptateur", {});
+    Prop prop(frmPrinc);
+    prop.show();
+    prop.cboPort->showPopup();
+    const auto bulle = [&](int port) { return prop.cboPort->itemData(port - 1, Qt::ToolTipRole).toString(); };
+    QCOMPARE(bulle(5), u"Com5 : aucun périphérique sur ce PC"_s);
+    poste.Relie(5, adaptateur); // plugged in meanwhile
+    prop.cboPort->hidePopup();
+    prop.cboPort->showPopup();
+    QVERIFY2(bulle(5).contains(QFileInfo(adaptateur).canonicalFilePath()), qPrintable(bulle(5)));
+    QVERIFY(bulle(16).startsWith(u"Com16 : "_s));
+    QVERIFY(bulle(16).section(u':', 1) != bulle(5).section(u':', 1));
 }
 
 QTEST_MAIN(TestSessions)

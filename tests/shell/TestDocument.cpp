@@ -150,7 +150,7 @@ private Q_SLOTS:
         OuvreDocument(chemin);
         frmPrinc->Text1->setText(u"G1"_s);
         for (const QString &refuse :
-             {atelier.Ecrit("Faux.RTF", "G0 X1\r\n"), atelier.Chemin("parti/x.iso"), u"/dev/null/Ports"_s}) {
+             {atelier.Ecrit("Faux.RTF", "G0 X1\r\n"), atelier.Chemin("parti/x.iso"), atelier.Chemin("P.iso/x")}) {
             const auto passe = Passe(refuse);
             atelier.Repond("Mensaje",
                            u"Error en la apertura del fichero : %1. \r Formato no reconocido o fichero déja "
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QVERIFY(!frmPrinc->Mnu_Annuler->isEnabled());
         frmPrinc->CommonDialog1->InitDir = u"/"_s;
         atelier.Fait("CommonDialog", [](QWidget &fenetre) {
-            QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory().path(), Reglages.DosDefaut);
+            QCOMPARE(dynamic_cast<QFileDialog &>(fenetre).directory(), QDir(Reglages.DosDefaut));
             fenetre.close();
         });
         Operateur::Menu("Mnu_EnregistrerSous");

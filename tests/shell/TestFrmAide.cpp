@@ -7,6 +7,8 @@
 
 #include <QRegularExpression>
 
+#include <filesystem>
+
 namespace {
 
 const QStringList Manuels{u"DORVANEL.HLP"_s, u"DORVANEL_EN.HLP"_s, u"DORVANEL_ES.HLP"_s};
@@ -35,8 +37,8 @@ struct PosteAide : Etabli
         : Etabli(langue)
     {
         for (const QDir livres : {Ressources.filePath(u"aide"_s), Ressources.filePath(u"exemples"_s)})
-            for (const QString &nom : livres.entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
-                QFile::link(livres.absoluteFilePath(nom), Chemin(nom));
+            std::filesystem::copy(livres.filesystemPath(), QDir(Dossier()).filesystemPath(),
+                                  std::filesystem::copy_options::recursive);
         Menu(u"Mnu_Aide");
         aide = Ouverte(frmPrinc);
         QVERIFY(QTest::qWaitForWindowActive(aide));

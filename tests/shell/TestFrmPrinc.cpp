@@ -8,6 +8,7 @@
 
 #include <QDialog>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QWindow>
 
@@ -87,7 +88,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir reglages;
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, reglages.path());
-        const QRect place(20, 200, 780, 600); // in the corner of the screen
+        QRect place(0, 0, 780, 600);
+        place.moveBottomRight(QGuiApplication::primaryScreen()->availableGeometry().bottomRight());
         for (const auto &[dehors, maximise] : {std::pair{0, false}, {300, false}, {300, true}}) {
             const auto passe = Passe(u"%1%2"_s.arg(dehors).arg(maximise ? u", maximised"_s : QString()));
             const Poste poste(0);

@@ -24,7 +24,7 @@
 Poste::Poste()
     : m_dossierDepart(QDir::currentPath())
 {
-    FixeDossierApplication(m_dossier.path());
+    FixeDossierApplication(Dossier());
     RemetEnregistrements();
 }
 
@@ -80,7 +80,7 @@ QString Poste::Ecrit(QAnyStringView nom, const QByteArray &octets) const
     QFile fichier(Chemin(nom));
     if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size())
         qFatal("the test's own folder cannot be written");
-    return fichier.fileName();
+    return Chemin(nom);
 }
 
 QByteArray Poste::Lit(QAnyStringView nom) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -23,9 +24,11 @@ public:
     /// Ends the program and starts it again in the same application folder; it then knows only what its files hold.
     void Redemarre();
 
-    QString Dossier() const { return m_dossier.path(); }
+    // Paths are written as the system writes them and the operator reads them.
+
+    QString Dossier() const { return QDir::toNativeSeparators(m_dossier.path()); }
     /// Path of a file in the application folder.
-    QString Chemin(QAnyStringView nom) const { return m_dossier.filePath(nom.toString()); }
+    QString Chemin(QAnyStringView nom) const { return QDir::toNativeSeparators(m_dossier.filePath(nom.toString())); }
     /// Writes a file in the application folder and gives its path.
     QString Ecrit(QAnyStringView nom, const QByteArray &octets) const;
     QByteArray Lit(QAnyStringView nom) const;
