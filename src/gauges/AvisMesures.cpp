@@ -1,6 +1,7 @@
 #include "gauges/AvisMesures.h"
 
 #include "donnees/Jauge.h"
+#include "donnees/Lignes.h"
 #include "donnees/ParamCom.h"
 #include "donnees/ParamMac.h"
 #include "donnees/Transfert.h"
@@ -26,10 +27,11 @@ constexpr Texte3 NonLues{u"Ces mesures n'ont pas pu être lues, elles ne sont pa
 constexpr Texte3 Douteuses{u"Ces mesures sont douteuses, elles sont lues ainsi :",
                            u"These measures are doubtful, they are read like this:",
                            u"Estas medidas son dudosas, se leen así:"};
-constexpr Texte3 Aucune{
-    u"Aucun fichier de jauges n'est créé.\rLe texte reçu du banc reste dans le fichier :\r",
-    u"No gauge file is made.\rThe text received from the bench stays in the file:\r",
-    u"No se crea ningún fichero de correctores.\rEl texto recibido del banco queda en el fichero:\r"};
+constexpr Texte3 Aucune{u"Aucun fichier de jauges n'est créé.", u"No gauge file is made.",
+                        u"No se crea ningún fichero de correctores."};
+constexpr Texte3 TexteReste{u"\rLe texte reçu du banc reste dans le fichier :\r",
+                            u"\rThe text received from the bench stays in the file:\r",
+                            u"\rEl texto recibido del banco queda en el fichero:\r"};
 constexpr Texte3 SansDemande{u" caractères arrivés sans que la jauge suivante soit demandée",
                              u" characters that came before the following gauge was asked for",
                              u" caracteres llegados sin pedir la capacidad siguiente"};
@@ -108,10 +110,12 @@ QString DerriereMesure(const QString &salve)
     return suite.size() < QStringView(MarqueMesure).size() ? QString() : suite;
 }
 
-/// True if the operator gave the question for another number up, which makes the corrector 0.
-bool EstAbandonne(const QString &salve, const JaugeOutil &jauge)
+/// True if the corrector is not the number that the burst holds: that number had decimals, or the operator gave the
+/// question for another one up, which makes the corrector 0.
+bool EstAutreCorrecteur(const QString &salve, const JaugeOutil &jauge)
 {
-    return jauge.NumCorr == 0 && std::nearbyint(Val(Champ(salve, ColonnesCorrecteur))) != 0;
+    const double numero = Val(Champ(salve, ColonnesCorrecteur));
+    return numero != std::nearbyint(numero) || (jauge.NumCorr == 0 && numero != 0);
 }
 
 /// The doubtful fields of a measure, and the values that they are taken for. If the measure broke off, all its fields
@@ -119,7 +123,7 @@ bool EstAbandonne(const QString &salve, const JaugeOutil &jauge)
 QStringList DoutesChamps(const QString &salve, const JaugeOutil &jauge)
 {
     const std::tuple<QString, Colonnes, QString, bool> champs[] = {
-        {Texte(NomCorrecteur), ColonnesCorrecteur, QString::number(jauge.NumCorr), EstAbandonne(salve, jauge)},
+        {Texte(NomCorrecteur), ColonnesCorrecteur, QString::number(jauge.NumCorr), EstAutreCorrecteur(salve, jauge)},
         {QStringLiteral("Z"), ColonnesZ, TexteReel(jauge.JaugeZ), false},
         {QStringLiteral("X"), ColonnesX, TexteReel(jauge.JaugeX), false}};
     const bool coupee = EstCoupee(salve);
@@ -188,7 +192,7 @@ QString Paragraphe(const Texte3 &entete, const QStringList &rangs, qsizetype pla
 
 QString SansFichierJauges()
 {
-    return Texte(Aucune) + CheminRecep();
+    return Texte(Aucune) + Texte(TexteReste) + CheminRecep();
 }
 
 void AvisMesures::NonLue(int place, const QString &salve)
@@ -224,6 +228,7 @@ void AvisMesures::Montre(int lues) const
     constexpr qsizetype ecran = 12; // lines of a paragraph for which a screen has room
     const QString court = avis(ecran);
     const QString entier = avis(std::numeric_limits<qsizetype>::max() - 1);
-    const QString fin = lues == 0 ? SansFichierJauges() : QString();
-    MsgBox((court + fin).trimmed(), Boite::Exclamation, Texte(Titre), court == entier ? QString() : entier.trimmed());
+    const QString sansFichier = Lignes.LigneMaxi == 0 ? Texte(Aucune) : SansFichierJauges();
+    MsgBox((court + (lues == 0 ? sansFichier : QString())).trimmed(), Boite::Exclamation, Texte(Titre),
+           court == entier ? QString() : entier.trimmed());
 }

@@ -32,7 +32,7 @@ void EcritAuClic(const QWidget *panneau, QLineEdit *saisie)
     const auto boutons = panneau->findChildren<QAbstractButton *>();
     for (const QAbstractButton *bouton : boutons) {
         const QString valeur = bouton->property("valeur").toString();
-        QObject::connect(bouton, &QAbstractButton::clicked, saisie, [=] { saisie->setText(valeur); });
+        QObject::connect(bouton, &QAbstractButton::clicked, saisie, [=] { PoseNombre(saisie, valeur); });
     }
 }
 
@@ -67,7 +67,7 @@ void JauTour::BrancheTuiles()
         legende->setBackgroundRole(QPalette::Window);
     // A round plate has no nose: on the front dial its locator also sets the radius to 0.
     for (const QAbstractButton *bouton : std::initializer_list<QAbstractButton *>{Picture20, Label8})
-        connect(bouton, &QAbstractButton::clicked, Text1, [this] { Text1->setText(QStringLiteral("0")); });
+        connect(bouton, &QAbstractButton::clicked, Text1, [this] { PoseNombre(Text1, QStringLiteral("0")); });
     connect(Text1, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
     connect(Text2, &QLineEdit::textChanged, this, &JauTour::DesigneTuiles);
 }
@@ -90,8 +90,8 @@ void JauTour::MontreMesure(const QString &intervalle)
                   QString::number(jauge.NumCorr));
     MontreDonnee(ValeursMesure, QStringLiteral("X = %1 (%2)    Z = %3")
                                     .arg(TexteReel(jauge.JaugeX), QString(jauge.ModeMesure), TexteReel(jauge.JaugeZ)));
-    Text1->setText(QStringLiteral("0"));
-    Text2->setText(QStringLiteral("0"));
+    for (QLineEdit *const saisie : {Text1, Text2})
+        PoseNombre(saisie, QStringLiteral("0"));
     DesigneTuiles();
     Text1->setFocus();
     Text1->selectAll();

@@ -28,6 +28,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -112,19 +113,21 @@ public:
 
 private:
     bool Reception1Jauge();
-    QString RecoitSalve();
+    void RecoitSalve();
     void MontreRecus(int outil, qsizetype recus);
     void AnnonceMesure();
     void AttendOperateur();
     static qsizetype EnAttente();
     void DemandeSuivante();
     void AnnonceLimite();
+    QString Brut() const { return m_brut + m_salve; }
     bool EstSurDisque() const;
     QString SortDuTexte() const;
 
     VueTransfert &m_vue;
     bool m_dansPane = false;   ///< the program pane shows the text of the bench
-    QString m_brut;            ///< all that has come, as the file holds it
+    QString m_brut;            ///< the measures that have come, as the file holds them
+    QString m_salve;           ///< what has come of the measure under way
     QString m_compteMontre;    ///< what MontreRecus() shows
     int m_ligne = 1;           ///< next free entry of Lignes
     qsizetype m_enAttente = 0; ///< characters that have come for a tool that was not asked for yet
@@ -171,9 +174,10 @@ bool Seance::Reception1Jauge()
     m_vue.EchoLigne(QString());
     MontreRecus(Jauges.NbJauges, 0);
     frmPrinc->shpReceive->setFillColor(Lampe::Verte);
-    const QString recu = RecoitSalve();
+    RecoitSalve();
     if (Transfert.AnnuleRECEPT)
         return false;
+    const QString recu = std::exchange(m_salve, {});
     Lignes(m_ligne++) = recu;
     m_brut += recu + QStringLiteral("\r\n");
     AjouteFichierRecu(recu);
@@ -193,28 +197,27 @@ qint64 Silence()
 
 /// Waits for one burst: at least TailleRecep characters, and then silence. A bell that is read alone is no part of it.
 /// While the port is closed nothing comes, and the operator has to cancel.
-QString Seance::RecoitSalve()
+void Seance::RecoitSalve()
 {
     const QString cloche(QChar(7));
-    QString recu;
     QDeadlineTimer silence;
     while (true) {
         CedeLaMain();
         if (Transfert.AnnuleRECEPT)
-            return recu;
+            return;
         if (!Controle().PortOpen())
             continue;
         const QString lu = Controle().Input();
         if (lu.isEmpty()) {
-            if (!recu.isEmpty() && recu.size() >= ParamCom.TailleRecep && silence.hasExpired())
-                return recu;
+            if (!m_salve.isEmpty() && m_salve.size() >= ParamCom.TailleRecep && silence.hasExpired())
+                return;
             continue;
         }
         silence.setRemainingTime(Silence());
         if (lu != cloche)
-            recu += lu;
-        MontreRecus(Jauges.NbJauges, recu.size());
-        m_vue.EchoLigne(recu);
+            m_salve += lu;
+        MontreRecus(Jauges.NbJauges, m_salve.size());
+        m_vue.EchoLigne(m_salve);
     }
 }
 
@@ -313,8 +316,10 @@ void Seance::MontreEchec(const Erreur &erreur) const
 
 void Seance::SauveReste() const
 {
-    if (!EstSurDisque())
-        SauveAutrePart(m_brut, OffreBrut());
+    if (m_dansPane && EstSurDisque()) // the dialog that tells it is closed by then
+        MsgBox(SansFichierJauges(), Boite::Exclamation, Texte(LimiteTitre));
+    else if (!EstSurDisque())
+        SauveAutrePart(Brut(), OffreBrut());
 }
 
 /// True when the disk holds all that has come.
@@ -322,14 +327,14 @@ bool Seance::EstSurDisque() const
 {
     QString surDisque;
     Saute([&surDisque] { surDisque = LitFichierTexte(CheminRecep()); });
-    return surDisque == m_brut;
+    return surDisque == Brut();
 }
 
 /// Says which file holds the text of the bench, since that file bears the name of a gauge file. The result is empty
 /// when nothing has come, or when the disk does not hold all of it.
 QString Seance::SortDuTexte() const
 {
-    return m_brut.isEmpty() || !EstSurDisque() ? QString() : u'\r' + SansFichierJauges();
+    return Brut().isEmpty() || !EstSurDisque() ? QString() : u'\r' + SansFichierJauges();
 }
 
 void Seance::SauveAutrePart(const QString &texte, const OffreSauvegarde &offre) const

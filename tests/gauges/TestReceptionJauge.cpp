@@ -297,10 +297,13 @@ private Q_SLOTS:
             [] { return Operateur::Lu("Label2") == u"En attente de réception Jauges Outil N°  2"; });
         const QString panne = u"Erreur de lecture du périphérique de communication"_s;
         atelier.LitErreur(8020, panne);
-        atelier.Presse(Dialogue, Annule, [consigne = u'\n' + panne + SansJauges(atelier)] {
-            return Operateur::Lu("Label1") == consigne && Operateur::Lu("Label2").isEmpty();
+        atelier.Fait("MsgBox", Operateur::Clique(QMessageBox::No));
+        atelier.Presse(Dialogue, Annule, [panne] {
+            return Operateur::Lu("Label1") == u'\n' + panne && Operateur::Lu("Label2").isEmpty();
         });
         atelier.Abandonne();
+        const QStringList copie = QDir(DossierSauvegardes()).entryList({u"JAUGES_*.TXT"_s});
+        QCOMPARE(atelier.Lit(u"Sauvegardes/"_s + copie.value(0)), Brut(1) + Outil(2).left(30));
         QCOMPARE(atelier.Disque(), Brut(1));
     }
 

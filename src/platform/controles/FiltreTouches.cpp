@@ -106,6 +106,8 @@ public:
         if (touche.text() != QLatin1String(",") || touche.modifiers().testFlag(Qt::KeypadModifier))
             return false;
         MontreAvis(m_saisie, m_avis);
+        if (m_saisie->text().contains(u'.'))
+            return true; // the decimals have their point already
         m_saisie->setProperty(VirguleJetee, m_avis);
         m_saisie->setProperty(VirguleDite, false);
         m_devant = m_saisie->text().left(m_saisie->hasSelectedText() ? m_saisie->selectionStart()
@@ -187,7 +189,7 @@ QString RetientVirgule(const QWidget *fenetre)
     const auto saisies = fenetre->findChildren<QLineEdit *>();
     for (QLineEdit *const saisie : saisies) {
         QString avis = saisie->property(VirguleJetee).toString();
-        if (avis.isEmpty())
+        if (avis.isEmpty() || !saisie->isVisibleTo(fenetre))
             continue;
         saisie->setProperty(VirguleDite, true);
         saisie->setFocus();
@@ -195,6 +197,12 @@ QString RetientVirgule(const QWidget *fenetre)
         return avis;
     }
     return {};
+}
+
+void PoseNombre(QLineEdit *saisie, const QString &nombre)
+{
+    saisie->setText(nombre);
+    saisie->setProperty(VirguleJetee, QVariant());
 }
 
 void MontreAvis(QLineEdit *saisie, const QString &avis)

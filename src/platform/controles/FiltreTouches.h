@@ -22,9 +22,12 @@ void LimiteTouches(QLineEdit *saisie, const QString &motif);
 /// RetientVirgule() before it uses the number.
 void LimiteNombre(QLineEdit *saisie, const QString &motif, const QString &avis);
 
-/// To be called before the numbers in fenetre are used. Returns the notice of a box in which a comma was dropped and
-/// not corrected, "" if there is none. The operator may have typed on without looking, so that "0,4" now reads 04. The
-/// text of that box is then selected; the caller shows the notice and must not use the numbers.
+/// Writes a number into such a box in place of what was typed there.
+void PoseNombre(QLineEdit *saisie, const QString &nombre);
+
+/// To be called before the numbers in fenetre are used. Returns the notice of a visible box in which a comma was
+/// dropped and not corrected, "" if there is none. The operator may have typed on without looking, so that "0,4" now
+/// reads 04. The text of that box is then selected; the caller shows the notice and must not use the numbers.
 QString RetientVirgule(const QWidget *fenetre);
 
 /// Shows avis beside a box, with a beep, to say that the input was not accepted. RetireAvis() takes it away before its
