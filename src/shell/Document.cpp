@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr char16_t Version[] = u"Dorvanel Pro version " DORVANEL_VERSION u" : ";
+constexpr char16_t Version[] = u"Dorvanel Pro version " DORVANEL_VERSION;
 
 constexpr Texte3 TitreOuvrir{u"Ouvrir", u"Open", u"Abrir"};
 constexpr Texte3 TitreEnregistrer{u"Enregistrer Sous", u"Save As...", u"Registrar Bajo..."};
@@ -143,7 +143,7 @@ bool TexteModifie()
 
 void TitreFenetre(const QString &nom)
 {
-    MontreDonnee(frmPrinc, QString::fromUtf16(Version) + nom);
+    MontreDonnee(frmPrinc, QString::fromUtf16(Version) + (nom.isEmpty() ? nom : QStringLiteral(" : ") + nom));
 }
 
 QString NomNouveauDocument()
