@@ -42,11 +42,19 @@ const QRegularExpression &FormeDate()
     return forme;
 }
 
+/// The name of the file at chemin without its folder. In a name without a folder, as the operator has typed it, the
+/// signs that no file name may have become "_".
+QString NomPermis(const QString &chemin)
+{
+    static const QRegularExpression interdits(QStringLiteral(R"([\\/:*?"<>|\x00-\x1f])"));
+    return QDir::isAbsolutePath(chemin) ? NomSeul(chemin) : QString(chemin).replace(interdits, QStringLiteral("_"));
+}
+
 /// The name of the file at chemin without its folder, shortened when it is too long. A file of this folder loses the
 /// date in its name, since it gets a new one.
 QString NomCourt(const QString &chemin)
 {
-    QString nom = NomSeul(chemin);
+    QString nom = NomPermis(chemin);
     if (EstGarde(chemin))
         nom.replace(FormeDate(), QStringLiteral("\\1"));
     auto [racine, fin] = Coupe(nom);

@@ -20,8 +20,8 @@ using Lignes = CompteursLigne;
 struct Pertes
 {
     QElapsedTimer depuis;
-    std::array<qint64, 4> caracteres{}; ///< by Perte
-    bool finCollee = false;             ///< see NoteFinCollee()
+    std::array<qint64, 5> caracteres{}; ///< by Perte
+    bool finCollee = false;             ///< see ChercheFinCollee()
     bool finJetee = false;              ///< the end of transfer was dropped, and no line has come since
     bool sansPort = false;              ///< see NotePort()
     bool nouvelles = false;             ///< something was lost since the last showing
@@ -68,6 +68,13 @@ constexpr Remede Remedes[] = {
      {u"recevoir par fichier, ou finir à la machine la dernière ligne par une fin de ligne",
       u"receive by file, or have the machine put a line end behind the last line",
       u"recibir por fichero, o acabar en la máquina la última línea con un final de línea"}},
+    {{{{nullptr,
+        Perte::FinForcee,
+        {{u"caractère jeté par la fin forcée", u"character thrown away by the forced end",
+          u"carácter descartado por el final forzado"},
+         {u"caractères jetés par la fin forcée", u"characters thrown away by the forced end",
+          u"caracteres descartados por el final forzado"}}}}},
+     {u"recommencer la réception", u"receive again", u"repetir la recepción"}},
     {{{{&Lignes::parite,
         {},
         {{u"erreur de parité", u"parity error", u"error de paridad"},
@@ -225,9 +232,14 @@ void NotePerte(Perte perte, const QString &caracteres)
     pertes.nouvelles = true;
 }
 
-void NoteFinCollee()
+void ChercheFinCollee(const QString &lu, bool premier)
 {
-    pertes.finCollee = pertes.nouvelles = true;
+    const QString &fin = ParamCom.ChaineFinTrans;
+    QString texte = lu;
+    if (ParamCom.ChaineFinLig.contains(fin)) // each line end would pass for one
+        texte.remove(ParamCom.ChaineFinLig);
+    if (!fin.isEmpty() && texte.indexOf(fin, premier ? 1 : 0) >= 0)
+        pertes.finCollee = pertes.nouvelles = true;
 }
 
 void MontreFautes(VueTransfert &vue)

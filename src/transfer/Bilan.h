@@ -23,19 +23,21 @@ void NotePort(VueTransfert &vue);
 
 /// Why received characters are not in the file of a reception.
 enum class Perte {
-    Jetes,      ///< they came after a line end, where the reception empties the port
-    ApresFin,   ///< they came after the end of transfer
-    SansFin,    ///< they belong to a line without an end
-    Debordement ///< the port was emptied after the system had lost characters
+    Jetes,       ///< they came after a line end, where the reception empties the port
+    ApresFin,    ///< they came after the end of transfer
+    SansFin,     ///< they belong to a line without an end
+    Debordement, ///< the port was emptied after the system had lost characters
+    FinForcee    ///< the operator forced the end
 };
 
 /// The reception drops caracteres. Blanks, control characters, the end of transfer and its tail are not counted, since
 /// no program misses them. If an end of transfer is among them, the line says so as long as the reception waits for it.
 void NotePerte(Perte perte, const QString &caracteres);
 
-/// The end of transfer has come in the same reading as a line. The reception by line does not recognize it there: it
-/// goes on waiting, and the operator has to force the end.
-void NoteFinCollee();
+/// Looks for an end of transfer within lu, the characters that came together. A reception does not recognize it there:
+/// it goes on waiting, and the operator has to force the end. premier: lu begins the program, which may have that sign
+/// at its head too.
+void ChercheFinCollee(const QString &lu, bool premier);
 
 /// Shows what has gone wrong so far.
 void MontreFautes(VueTransfert &vue);

@@ -34,6 +34,14 @@ void DebuteReception(VueTransfert &vue, const Texte3 &genre)
     vue.Statut(EnAttente);
 }
 
+QString ResteRecu()
+{
+    QString reste = Controle().Recus();
+    if (reste.endsWith(ParamCom.ChaineFinTrans))
+        reste.chop(ParamCom.ChaineFinTrans.size());
+    return reste;
+}
+
 void RendFinTransfert(VueTransfert &vue)
 {
     if (!Controle().PortOpen())

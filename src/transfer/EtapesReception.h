@@ -11,6 +11,10 @@ class VueTransfert;
 /// shows genre, the way of receiving.
 void DebuteReception(VueTransfert &vue, const Texte3 &genre);
 
+/// What the machine has sent and the reception has not read yet, less an end of transfer at its end. It is only looked
+/// at, and is there until the port closes.
+QString ResteRecu();
+
 /// The end was received: sends the machine its end-of-transfer string. Raises what the control raises.
 void RendFinTransfert(VueTransfert &vue);
 

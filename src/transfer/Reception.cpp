@@ -62,7 +62,13 @@ public:
     /// Sends the machine its end-of-transfer string, closes the port, writes the file and opens it in the pane.
     void Termine();
 
-    /// All that has been received, an unfinished line included.
+    /// Same as NotePerte(), for Ligne. A forced end drops it even where whole lines stand in it.
+    void NoteLignePerdue() const;
+    /// Cuts as many characters from Ligne as a line end has. If an end of transfer that came together with a line has
+    /// ended the wait, these are characters of that line, and count as lost.
+    void RetireFinLigne();
+
+    /// All that has been received: also an unfinished line, and what waits in an open port.
     QString Recu() const;
 
     QString Ligne; ///< what has come of the line under way
@@ -117,8 +123,8 @@ bool Remplissage::EchoSuperflu()
 void Remplissage::Termine()
 {
     const QString reste = Controle().VideReception();
-    NotePerte(Transfert.ForceRECEPT ? Perte::Jetes : Perte::ApresFin, reste);
-    NotePerte(Perte::SansFin, Ligne);
+    NotePerte(Transfert.ForceRECEPT ? Perte::FinForcee : Perte::ApresFin, reste);
+    NoteLignePerdue();
     Transfert.FinTransfert = true;
     Lignes.NbLignes = m_compteur;
     RendFinTransfert(m_vue);
@@ -136,7 +142,24 @@ QString Remplissage::Recu() const
     QString texte;
     for (int i = 1; i < m_compteur; ++i)
         texte += Lignes(i) + QStringLiteral("\r\n");
-    return texte + Ligne;
+    return texte + Ligne + ResteRecu();
+}
+
+void Remplissage::NoteLignePerdue() const
+{
+    const qsizetype fin = Transfert.ForceRECEPT ? Ligne.lastIndexOf(ParamCom.ChaineFinLig) : -1;
+    const qsizetype entieres = fin < 0 ? 0 : fin + ParamCom.ChaineFinLig.size();
+    NotePerte(Perte::FinForcee, Ligne.left(entieres));
+    NotePerte(Perte::SansFin, Ligne.mid(entieres));
+}
+
+void Remplissage::RetireFinLigne()
+{
+    ChercheFinCollee(Ligne, m_compteur == 1);
+    const QString coupe = Ligne.right(ParamCom.ChaineFinLig.size());
+    Ligne.chop(coupe.size());
+    if (coupe != ParamCom.ChaineFinLig)
+        NotePerte(Perte::SansFin, coupe);
 }
 
 /// What a character that ends a line, or belongs to its end, does to the line.
@@ -230,18 +253,6 @@ void AttendLigne(Remplissage &table)
              !Transfert.AnnuleRECEPT && !Transfert.ForceRECEPT);
 }
 
-/// Cuts as many characters as a line end has. If the wait was ended by an end of transfer that came together with a
-/// line, these are characters of that line, and count as lost.
-void RetireFinLigne(QString &recu)
-{
-    if (recu.endsWith(ParamCom.ChaineFinTrans) && !ParamCom.ChaineFinLig.endsWith(ParamCom.ChaineFinTrans))
-        NoteFinCollee();
-    const QString coupe = recu.right(ParamCom.ChaineFinLig.size());
-    recu.chop(coupe.size());
-    if (coupe != ParamCom.ChaineFinLig)
-        NotePerte(Perte::SansFin, coupe);
-}
-
 void EmplitParLigne(Remplissage &table)
 {
     QString &recu = table.Ligne; // what was read since the last line
@@ -259,7 +270,7 @@ void EmplitParLigne(Remplissage &table)
         }
         if (recu.isEmpty())
             continue;
-        RetireFinLigne(recu);
+        table.RetireFinLigne();
         table.Range(Transfert.ChaineFinLigRecep);
         NotePerte(Perte::Jetes, Controle().VideReception());
         table.ExigePlace();
@@ -270,7 +281,8 @@ void EmplitParLigne(Remplissage &table)
 void Mene(VueTransfert &vue, const Texte3 &genre, void (*corps)(Remplissage &))
 {
     Remplissage table(vue);
-    const RetientAussi recu(CheminRecep(), [&table] { return Transfert.FinTransfert ? QString() : table.Recu(); });
+    const RetientAussi recu(Transfert.NomFicRecep,
+                            [&table] { return Transfert.FinTransfert ? QString() : table.Recu(); });
     try {
         VideLignes();
         DebuteReception(vue, genre);

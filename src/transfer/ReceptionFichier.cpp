@@ -53,7 +53,11 @@ bool enRecolte = false;            // RecolteFichier() runs further down the sta
 bool Prend()
 {
     try {
-        frmPrinc->Text2->Ajoute(Controle().Input());
+        const QString lu = Controle().Input();
+        const bool premiere = frmPrinc->Text2->document()->isEmpty();
+        frmPrinc->Text2->Ajoute(lu);
+        if (!frmPrinc->Text2->FinitPar(ParamCom.ChaineFinTrans))
+            ChercheFinCollee(lu, premiere);
     } catch (const Erreur &erreur) {
         return erreur.Numero() != ErreurPort::Lecture;
     }
@@ -78,6 +82,7 @@ void MontrePasse(VueTransfert &vue, qint64 passe)
     vue.Statut(EnCoursPasse, QString::number(passe));
     vue.EchoLigne(Analyse, QString::number(passe));
     vue.EchoCaractere(AttenteFin);
+    MontreNouvellesPertes(vue);
 }
 
 /// True when the text gathered so far ends with the end-of-transfer string, which is then cut off.
@@ -135,7 +140,7 @@ void AttendFichier(VueTransfert &vue)
         if (Transfert.ForceRECEPT) {
             // Characters too few to raise an event may wait.
             PrendReste();
-            Controle().VideReception();
+            NotePerte(Perte::FinForcee, Controle().VideReception());
             FinTrouvee();
             Transfert.FinTransfert = true;
             return;
@@ -151,6 +156,8 @@ void AttendFichier(VueTransfert &vue)
 
 void TermineFichier(VueTransfert &vue)
 {
+    if (!Transfert.ForceRECEPT)
+        NotePerte(Perte::ApresFin, Controle().VideReception());
     RendFinTransfert(vue);
     vue.EchoLigne(EchoTermine);
     vue.EchoCaractere(EchoFinTrouvee);
@@ -190,9 +197,9 @@ void AnnuleFichier(VueTransfert &vue)
 
 void ReceptionFichier(VueTransfert &vue)
 {
+    const RetientAussi recu(Transfert.NomFicRecep, [] { return frmPrinc->Text2->Text() + ResteRecu(); });
     try {
         PrepareFichier(vue);
-        const RetientAussi recu(CheminRecep(), [] { return frmPrinc->Text2->Text(); });
         AttendFichier(vue);
         if (Transfert.AnnuleRECEPT)
             AnnuleFichier(vue);

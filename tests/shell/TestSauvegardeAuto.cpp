@@ -200,6 +200,8 @@ private Q_SLOTS:
                 chemins << GardeTexte(u"P.iso"_s, u"N10"_s);
             QCOMPARE(chemins.removeDuplicates(), 0);
             QVERIFY(!chemins.filter(u" (2).iso"_s).isEmpty());
+            const QString tape = GardeTexte(u"E0.A/B"_s, u"N10"_s); // as the operator typed it
+            QVERIFY2(tape.contains(u"/E0_"_s) && tape.endsWith(u".A_B"_s), qPrintable(tape));
         }
         for (const int gros : {70, 200}) { // the clock of the PC went wrong for a time
             const auto passe = Passe(QString::number(gros));

@@ -37,6 +37,12 @@ const std::tuple<const char *, Genre, int, bool, QByteArrayList, QString> Pertes
     {"line", Genre::Ligne, 3, false, {"A\r\n", "B\r\n", "\x04"}, {}},
     {"line, nothing", Genre::Ligne, 3, false, {"\r\n", "\x04"}, u"Le fichier reçu est vide."_s},
     {"line, none at the end", Genre::Ligne, 3, true, {"N1\r\nN2 X", "\r\n", "N3"}, u"2 caractères"_s + SansFin},
+    {"line, forced over whole lines",
+     Genre::Ligne,
+     3,
+     true,
+     {"Z\r\n", "A\r\nB\r\nC"},
+     u"1 caractère"_s + SansFin + u"\n6 caractères jetés par la fin forcée : recommencer la réception."_s},
     {"line, the end behind a text",
      Genre::Ligne,
      3,
@@ -44,6 +50,7 @@ const std::tuple<const char *, Genre, int, bool, QByteArrayList, QString> Pertes
      {"A\r\n", "M30\x04"},
      u"1 caractère"_s + SansFin + u'\n' + Collee},
     {"line, the end in one reading", Genre::Ligne, 3, true, {"M30\r\n\x04"}, Collee},
+    {"line, the end with its line end", Genre::Ligne, 3, true, {"\x04\r\n", "A\x04\r\n"}, Collee},
     {"character, more behind the end",
      Genre::Caractere,
      1,
@@ -65,6 +72,13 @@ const std::tuple<const char *, Genre, int, bool, QByteArrayList, QString> Pertes
      u"1 caractère jeté"_s + Conseil + u"\n2 caractères"_s + SansFin},
     {"character, the end in one reading", Genre::Caractere, 3, true, {"A\r\n\x04"}, {}},
     {"file, forced", Genre::Fichier, 3, true, {"A\r\nB"}, {}},
+    {"file, the end with its line end", Genre::Fichier, 3, true, {"A\r\n", "\x04\r\n"}, Collee},
+    {"file, more behind the end",
+     Genre::Fichier,
+     3,
+     false,
+     {"A\r\n", "\x04Z"},
+     u"1 caractère jeté derrière la fin de transfert : vérifier la fin de transfert."_s},
     {"file", Genre::Fichier, 3, false, {"A\r\nB\r\nC", "\x04"}, {}}};
 
 /// Whether there is an echo, the status and what the echo ends with.
@@ -285,6 +299,7 @@ void TestDialoguesTransfert::Bilans()
     const auto &[nom, genre, finLigne, force, pieces, attendu] = Rangee(Pertes);
     EssaiTransfert essai(genre);
     ParamCom.TypeFinLig = finLigne;
+    ParamCom.NbCarLecture = pieces.last() == "\x04Z" ? 1 : ParamCom.NbCarLecture;
     BatirChaines();
     essai.charge.pieces = pieces;
     const qsizetype recus = essai.Envoye().size();

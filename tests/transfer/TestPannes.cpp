@@ -5,6 +5,7 @@
 #include "donnees/ParamCom.h"
 #include "platform/base/Horloge.h"
 #include "shell/Document.h"
+#include "shell/SauvegardeAuto.h"
 
 namespace {
 
@@ -76,7 +77,7 @@ class TestPannes : public QObject
 private Q_SLOTS:
     void Coupures_data() { RangsGenres(); }
     void Coupures();
-    void LigneDebranchee_data() { RangsGenres(2, 3); }
+    void LigneDebranchee_data() { RangsGenres(2, 4); }
     void LigneDebranchee();
     void BancDebranche_data() { OuiEtNon("encore", "another tool", "the end"); }
     void BancDebranche();
@@ -137,22 +138,43 @@ void TestPannes::Coupures()
     }
 }
 
-// The plug is pulled when a line has come that the reception has not taken yet: it can be saved too.
+// Lines wait while the operator is asked whether to force the end, and the plug is pulled: a session that ends then, or
+// while the failure is told, keeps them, and they can be saved, whatever he answers.
 void TestPannes::LigneDebranchee()
 {
     QFETCH(int, rang);
-    EssaiTransfert essai(Genres[rang]);
-    essai.Joue(0, [&](const QDialog &) {
-        essai.ligne->Envoie("AB\r\n");
-        const bool lue = QTest::qWaitFor([] { return frmPrinc->MSComm1->InBufferCount() == 4; });
-        essai.ligne->Debranche();
-        return QTest::qWaitFor([lue] {
-            bool partie = lue;
-            Saute([&] { frmPrinc->MSComm1->ExigeVivant(), partie = false; });
-            return partie;
+    for (const auto reponse : {QMessageBox::Yes, QMessageBox::No}) {
+        EssaiTransfert essai(Genres[rang]);
+        ParamCom.SeuilRecep = 256;
+        QByteArrayList gardes;
+        bool debranche = false;
+        essai.PreditEnsuite();
+        essai.pilote.Fait("MsgBox", [&](QWidget &boite) {
+            essai.ligne->Envoie("AB\r\n");
+            QVERIFY(QTest::qWaitFor([] { return frmPrinc->MSComm1->InBufferCount() == 4; }));
+            RetientTexte();
+            gardes << essai.Gardes();
+            essai.ligne->Envoie("CD\r\n");
+            QVERIFY(QTest::qWaitFor([] { return frmPrinc->MSComm1->InBufferCount() == 8; }));
+            essai.ligne->Debranche();
+            debranche = true;
+            Operateur::Clique(reponse)(boite);
         });
-    });
-    QCOMPARE(essai.poste.Lit("sauve.txt"), QByteArray("AB\r\n\r\n"));
+        essai.pilote.Fait(
+            "MsgBox",
+            [&](QWidget &boite) {
+                RetientTexte();
+                gardes << essai.Gardes();
+                Operateur::Clique(QMessageBox::Ok)(boite);
+            },
+            [&] { return debranche; });
+        essai.Joue(0, [](const QDialog &transfert) {
+            Pilote::Presse(transfert, "Command7");
+            return true;
+        });
+        QCOMPARE(gardes, (QByteArrayList{"AB\r\n", "AB\r\nCD\r\n"}));
+        QCOMPARE(essai.poste.Lit("sauve.txt"), QByteArray("AB\r\nCD\r\n\r\n"));
+    }
 }
 
 // The plug is pulled while the operator of a bench decides: another tool is not to be had, but the end is, and either

@@ -2,7 +2,6 @@
 
 #include "platform/base/CedeLaMain.h"
 #include "platform/base/Journal.h"
-#include "platform/base/PageCode1252.h"
 #include "platform/serie/OuvreLigne.h"
 
 #include <QAbstractEventDispatcher>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/PageCode1252.h"
 #include "platform/serie/EmissionPort.h"
 #include "platform/serie/ErreurPort.h"
 #include "platform/serie/EvenementPort.h"
@@ -158,6 +159,8 @@ public:
     /// Takes waiting characters out of the receive buffer, at most InputLen.
     QString Input();
     int InBufferCount() const;
+    /// The whole receive buffer, without taking anything out of it. Raises nothing; empty on a closed port.
+    QString Recus() const { return TexteDe1252(m_recus); }
     /// Empties the receive buffers of the control and the system, and returns the characters removed.
     QString VideReception();
     /// Queues texte for sending, whatever its length.
