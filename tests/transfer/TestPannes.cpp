@@ -11,6 +11,7 @@ namespace {
 
 // The boxes that he may read, by their titles.
 const QString Offre = QStringLiteral("Enregistrer le texte reçu");
+const QString OffreBanc = QStringLiteral("Enregistrer le texte du banc");
 const QString AnnuleDite = QStringLiteral("Bouton Annuler cliqué"); // a reception by file
 
 QString ErreurN(int numero)
@@ -26,12 +27,15 @@ QStringList Titres(const Pilote::Deroulement &deroulement)
     return titres;
 }
 
-/// What there is of a reception once that many characters have come.
+/// What no file holds of a reception once that many characters have come, as it is to be saved. A bench writes each
+/// measure that is whole.
 QByteArray Venu(const EssaiTransfert &essai, qsizetype nombre)
 {
     QByteArray venu = essai.Envoye().left(nombre);
-    if (essai.genre == Genre::Banc)
-        return {};
+    if (essai.genre == Genre::Banc) {
+        const qsizetype mesure = essai.charge.pieces[0].size();
+        return nombre % mesure == 0 ? QByteArray() : nombre < mesure ? venu : venu.insert(mesure, "\r\n");
+    }
     if (venu.endsWith(FinTrans))
         venu.chop(1);
     return essai.genre == Genre::Caractere && venu.endsWith('\r') ? venu.chopped(1) : venu;
@@ -111,8 +115,8 @@ void TestPannes::Coupures()
             const QByteArray venu = Venu(essai, position);
             QStringList attendus;
             if (debranche)
-                attendus =
-                    QStringList(ErreurN(8020)) + (emission || venu.isEmpty() ? QStringList() : QStringList(Offre));
+                attendus = QStringList(ErreurN(8020)) +
+                           (emission || venu.isEmpty() ? QStringList() : QStringList(banc ? OffreBanc : Offre));
             else if (emission || essai.genre == Genre::Fichier)
                 attendus = {emission ? ErreurN(8018) : AnnuleDite};
             QCOMPARE(dits, attendus);
@@ -126,6 +130,8 @@ void TestPannes::Coupures()
                 QCOMPARE(essai.Disque(), position < 70 ? QByteArray() : essai.charge.pieces[0] + "\r\n");
             else
                 QCOMPARE((QByteArrayList{essai.Disque(), essai.ligne->ecrits}), (QByteArrayList{"ANCIEN", ""}));
+            if (dits.contains(OffreBanc))
+                QCOMPARE(essai.poste.Lit("sauve.txt"), venu);
             if (dits.contains(Offre)) {
                 QCOMPARE(essai.poste.Lit("sauve.txt"), venu + "\r\n");
                 QVERIFY(joue.avis[1].texte.startsWith(position == total ? u"La réception est terminée, mais "_s
