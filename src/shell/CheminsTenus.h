@@ -11,8 +11,8 @@
 void TientChemins(const QList<QString *> &receptions, const QList<QString *> &autres);
 
 /// Renames the folder (or link) ancien to nouveau, as RenommeDossier() does. Every registered path that leads through
-/// it is changed as well, and so is the title of the main window. Nothing is saved. True if there was such a path. Raises
-/// as RenommeDossier(), and the paths then stay as they are.
+/// it is changed as well, and so is the title of the main window. Nothing is saved. True if there was such a path.
+/// Raises as RenommeDossier(), and the paths then stay as they are.
 bool RenommeEtSuit(const QString &ancien, const QString &nouveau);
 
 /// Makes the application folder the reception folder wherever that was dossier, which no longer exists.
